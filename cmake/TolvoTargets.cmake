@@ -1,0 +1,48 @@
+# How every target of Tolvo is made: warnings are errors, includes start at the top folder.
+
+function(tolvo_settings target)
+    target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+    if(TOLVO_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                 -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+    endif()
+endfunction()
+
+# tolvo_library(name [WIDGETS] SOURCES ... LINK ...): one folder's library. WIDGETS runs moc on it.
+function(tolvo_library name)
+    cmake_parse_arguments(ARG "WIDGETS" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_WIDGETS})
+    tolvo_settings(${name})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+endfunction()
+
+# tolvo_program(name SOURCES ... LINK ...): an executable in bin/.
+function(tolvo_program name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    tolvo_settings(${name})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK})
+endfunction()
+
+# tolvo_test(name [WIDGETS] SOURCES ... LINK ...): one GoogleTest program, one line of ctest. Widget tests run
+# offscreen. Every test gets an empty settings folder of its own; it never sees the user's.
+function(tolvo_test name)
+    cmake_parse_arguments(ARG "WIDGETS" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    tolvo_settings(${name})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    if(ARG_WIDGETS)
+        target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Widgets Qt6::Test GTest::gtest)
+    else()
+        target_link_libraries(${name} PRIVATE ${ARG_LINK} GTest::gtest GTest::gtest_main)
+    endif()
+    add_test(NAME ${name} COMMAND ${name})
+    set(home ${CMAKE_BINARY_DIR}/tests/home/${name})
+    file(MAKE_DIRECTORY ${home})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+        "LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${home};XDG_DATA_HOME=${home};ASAN_OPTIONS=detect_leaks=0;TOLVO_SOURCE=${CMAKE_SOURCE_DIR};TOLVO_BIN=${CMAKE_BINARY_DIR}/bin")
+endfunction()

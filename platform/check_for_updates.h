@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Gen_Procs: the launch of the update companion.
+#pragma once
+
+#include "platform/message_box.h"
+#include "platform/processes.h"
+
+#include <QString>
+
+namespace tolvo {
+
+/// Starts Refresher.exe of the program's folder with " /update", " /stats" and " /quiet" as set, in this
+/// order, in a normal window with the focus, without waiting. A failure is reported under its own name and
+/// goes no further.
+void runCheckForUpdates(Processes &processes, MessageBoxes &boxes, const QString &programFolder, bool update,
+                        bool stats, bool quiet);
+
+} // namespace tolvo

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// PowerButtons in the settings store: section "PowerButtons\Button N", one subsection for each Action.
+#pragma once
+
+#include "platform/message_box.h"
+#include "powerbuttons/CPowerButton.h"
+#include "powerbuttons/catalogue.h"
+
+namespace tolvo {
+
+class SettingsStore;
+
+class CPowerButtonMethods {
+  public:
+    CPowerButtonMethods(SettingsStore &store, const Catalogue &tools, MessageBoxes &boxes);
+
+    /// Deletes the button's whole section and writes it anew, in one transaction. Failures are reported.
+    void SavePBSettings(const CPowerButton &button, int number);
+    /// True if the button ended with at least one Action. An Action whose token the catalogue doesn't know
+    /// keeps its place as "toolNULL", and a box says so. Failures are reported.
+    bool ReadPBSettings(CPowerButton &button, int number);
+
+  private:
+    void DeletePBSetting(int number);
+
+    SettingsStore &m_store;
+    const Catalogue &m_tools;
+    MessageBoxes &m_boxes;
+};
+
+} // namespace tolvo

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <memory>
+
+namespace tolvo {
+
+/// One entry of the tool catalogue, immutable after init.
+class CTool {
+  public:
+    /// Every "&&" of the name becomes a single "&".
+    void init(const QString &name, const QString &token, const QString &tooltip, bool gotDialog);
+
+    [[nodiscard]] const QString &Name() const { return m_name; }
+    /// The key of the tool, ">" for a group heading.
+    [[nodiscard]] const QString &Token() const { return m_token; }
+    [[nodiscard]] const QString &Tooltip() const { return m_tooltip; }
+    /// The tool has a settings dialog.
+    [[nodiscard]] bool gotDialog() const { return m_gotDialog; }
+
+    [[nodiscard]] bool isHeading() const { return m_token == QLatin1StringView(">"); }
+
+  private:
+    QString m_name;
+    QString m_token;
+    QString m_tooltip;
+    bool m_gotDialog = false;
+};
+
+/// Entries are shared between the catalogue and the Actions.
+using ToolPtr = std::shared_ptr<const CTool>;
+
+} // namespace tolvo

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// oTools: the tool catalogue, read from Tools.dat.
+#pragma once
+
+#include "powerbuttons/CTool.h"
+
+#include <QHash>
+#include <QIODevice>
+#include <QList>
+#include <QString>
+
+namespace tolvo {
+
+/// An ordered list of tools with keys, in file order: a tool's key is its token, a heading's is ">" and its
+/// name. Behind the last line stands the entry "toolNULL" for tools that a PowerButton names and the
+/// catalogue doesn't know.
+class Catalogue {
+  public:
+    /// One visible line for the panel of tools.
+    struct PanelItem {
+        QString label;
+        QString token; ///< ">" for a category
+        QString tooltip;
+    };
+
+    /// Reads the file at `path`. Throws a Failure that says what is wrong and in which line: no file (53), a
+    /// doubled key (457), text that isn't UTF-8 (75). A byte order mark is skipped.
+    [[nodiscard]] static Catalogue read(const QString &path);
+    [[nodiscard]] static Catalogue read(QIODevice &file);
+
+    [[nodiscard]] const QList<ToolPtr> &tools() const { return m_tools; }
+    /// The tool of a token (or of ">" and a heading's name); null if there is none.
+    [[nodiscard]] ToolPtr tool(const QString &key) const { return m_byKey.value(key); }
+    /// The lines that the panel shows, in file order.
+    [[nodiscard]] const QList<PanelItem> &panelItems() const { return m_panelItems; }
+
+  private:
+    void add(const QString &key, const ToolPtr &tool);
+
+    QList<ToolPtr> m_tools;
+    QHash<QString, ToolPtr> m_byKey;
+    QList<PanelItem> m_panelItems;
+};
+
+} // namespace tolvo

@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+#include "preferences/settings_store.h"

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// Every section and key of the two trees, with its default: the one authority for names, defaults and written
+// forms.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <span>
+
+namespace tolvo {
+
+class SettingsStore;
+
+/// One value of the settings tree, or of the statistics tree if `statistics` is set. Rows whose key is empty
+/// stand for lists and for sections that carry a number ("PowerButtons\Button n").
+struct SettingsRow {
+    const char16_t *section;
+    const char16_t *key;
+    const char16_t *defaultValue;
+    bool statistics = false;
+};
+
+[[nodiscard]] std::span<const SettingsRow> settingsTable();
+
+/// The default of a key as the table tells it. Asking for a key that the table doesn't have is a mistake of
+/// the programmer and fails.
+[[nodiscard]] QString settingsDefault(QStringView section, QStringView key);
+
+/// GetSetting with the table's default, in the settings tree.
+[[nodiscard]] QString readSetting(const SettingsStore &store, QStringView section, QStringView key);
+void writeSetting(SettingsStore &store, QStringView section, QStringView key, const QString &value);
+
+/// GetPreference: `Preferences`/key; a value that is missing or empty gives the fallback. It serves the font
+/// keys.
+[[nodiscard]] QString GetPreference(const SettingsStore &store, const QString &key, const QString &fallback);
+
+/// Lists whose keys are single characters from "a" on, in the order of the positions that the keys stand for.
+[[nodiscard]] QStringList readList(const SettingsStore &store, const QString &section);
+/// Replaces the list.
+void writeList(SettingsStore &store, const QString &section, const QStringList &entries);
+
+} // namespace tolvo

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// What a search asks of its surroundings. Beneath it there may be a window, tolvo-pipe or a test.
+#pragma once
+
+#include "platform/text_box.h"
+
+#include <QString>
+#include <functional>
+
+namespace tolvo {
+
+enum class SearchDirection { Down, Up, FromStart };
+
+/// The list of a Find All, one line per hit with a number: position from 0 times 10000 plus the length.
+class SearchResults {
+  public:
+    virtual ~SearchResults() = default;
+    virtual void clear() = 0;
+    virtual void add(const QString &line, qint32 location) = 0;
+    virtual void setCaption(const QString &caption) = 0;
+    /// Modal.
+    virtual void show() = 0;
+};
+
+class SearchHost {
+  public:
+    virtual ~SearchHost() = default;
+    /// The text box in use.
+    [[nodiscard]] virtual TextBox &txtCurrent() = 0;
+    /// A search changed the direction that the next one takes (the option buttons of the search window).
+    virtual void directionChanged(SearchDirection direction) = 0;
+    [[nodiscard]] virtual SearchResults &results() = 0;
+    /// True if the user wants a long search to end; asked now and then.
+    [[nodiscard]] virtual bool interrupted() { return false; }
+};
+
+} // namespace tolvo

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// Undo and redo: whole snapshots of the text.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+namespace tolvo {
+
+/// A text with its selection, as undo keeps it.
+struct TextState {
+    QString text;
+    int selStart = 0;
+    int selLength = 0;
+};
+
+/// Callers hand a state in and write back what comes out. What cUndo says to the window goes through its
+/// hooks.
+class cUndo {
+  public:
+    struct Hooks {
+        std::function<void(bool)> enableUndo;
+        std::function<void(bool)> enableRedo;
+        std::function<void(const QString &)> setStatus;
+        std::function<void()> beep;             ///< already knows whether sounds are on
+        std::function<bool()> mayDiscardTyping; ///< asks "Changes have been made to the text", Yes or No
+    };
+
+    explicit cUndo(Hooks hooks);
+
+    /// True if a state was added. A text equal to the current state's is none: the selection alone is no new
+    /// state.
+    bool Push(const TextState &state);
+    /// True if `state` now holds what to show. Typing since the last state is saved first, so that Redo
+    /// brings it back.
+    bool Pull(TextState &state);
+    bool Redo(TextState &state);
+
+  private:
+    void store(const TextState &state);
+
+    Hooks m_hooks;
+    QList<TextState> m_states;
+    int m_next = 0;  ///< index where the next state goes; the current state is the one before
+    int m_last = -1; ///< index of the newest state that Redo may reach
+};
+
+} // namespace tolvo
