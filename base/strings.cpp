@@ -1,26 +1,57 @@
 // SPDX-License-Identifier: MIT
 #include "base/strings.h"
 
+#include "base/character_sets.h"
 #include "base/failure.h"
 
 #include <limits>
 
 namespace tolvo {
 
-QStringView leftTrimBlanks(QStringView text) {
-    while (!text.isEmpty() && text.front() == u' ')
+namespace {
+
+template <class Belongs>
+QStringView leftTrim(QStringView text, Belongs belongs) {
+    while (!text.isEmpty() && belongs(text.front().unicode()))
         text = text.sliced(1);
     return text;
 }
 
-QStringView rightTrimBlanks(QStringView text) {
-    while (!text.isEmpty() && text.back() == u' ')
+template <class Belongs>
+QStringView rightTrim(QStringView text, Belongs belongs) {
+    while (!text.isEmpty() && belongs(text.back().unicode()))
         text.chop(1);
     return text;
 }
 
+constexpr bool isBlank(char16_t unit) {
+    return unit == u' ';
+}
+
+} // namespace
+
+QStringView leftTrimBlanks(QStringView text) {
+    return leftTrim(text, isBlank);
+}
+
+QStringView rightTrimBlanks(QStringView text) {
+    return rightTrim(text, isBlank);
+}
+
 QStringView trimBlanks(QStringView text) {
     return rightTrimBlanks(leftTrimBlanks(text));
+}
+
+QStringView leftTrimWhiteSpace(QStringView text) {
+    return leftTrim(text, isWhiteSpace);
+}
+
+QStringView rightTrimWhiteSpace(QStringView text) {
+    return rightTrim(text, isWhiteSpace);
+}
+
+QStringView trimWhiteSpace(QStringView text) {
+    return rightTrimWhiteSpace(leftTrimWhiteSpace(text));
 }
 
 QString parse(QString &s, QChar separator) {

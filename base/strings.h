@@ -19,6 +19,11 @@ namespace tolvo {
 [[nodiscard]] QStringView leftTrimBlanks(QStringView text);
 [[nodiscard]] QStringView rightTrimBlanks(QStringView text);
 
+/// The same for all five characters of sWhiteSpace, line ends included.
+[[nodiscard]] QStringView trimWhiteSpace(QStringView text);
+[[nodiscard]] QStringView leftTrimWhiteSpace(QStringView text);
+[[nodiscard]] QStringView rightTrimWhiteSpace(QStringView text);
+
 /// The substring of `length` units from `start` (from 1); empty for a start below 1, cut at the text's end.
 [[nodiscard]] QStringView MidOrEmpty(QStringView text, qsizetype start, qsizetype length);
 
