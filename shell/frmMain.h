@@ -4,14 +4,12 @@
 #pragma once
 
 #include "platform/clipboard.h"
-#include "platform/clock.h"
 #include "platform/font.h"
 #include "platform/message_box.h"
-#include "platform/processes.h"
+#include "platform/report_error.h"
 #include "platform/sound.h"
 #include "platform/text_box.h"
 #include "powerbuttons/CPowerButton.h"
-#include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/catalogue.h"
 #include "preferences/file_extensions.h"
 #include "preferences/settings_store.h"
@@ -22,11 +20,15 @@
 #include "spelling/Proofing.h"
 #include "text/cTextMethods.h"
 
+#include <QList>
 #include <QString>
 #include <array>
 #include <memory>
 
 namespace tolvo {
+
+class cToolbox;
+struct SpellingServices;
 
 /// What a session is built on. All outlive it.
 struct SessionServices {
@@ -39,6 +41,7 @@ struct SessionServices {
     CPowerButtonCollection &oPowerButtons;
     SessionWindows &windows;
     SessionView &view;
+    SpellingServices &spelling;
     SpellingWalk &spellingWalk;
     LanguageChooser &languages;
 };
@@ -46,11 +49,15 @@ struct SessionServices {
 /// Bits of iShiftState.
 enum ShiftState { Shift = 1, Ctrl = 2, Alt = 4 };
 
+/// Every procedure that an event may call is guarded: a failure inside it is shown as the error report, and
+/// the session goes on. A tool that fails leaves the text as it was.
 class frmMain : private TextHost, private SearchHost, private ProofingHost {
   public:
     /// `txtText1` shows lines as they are, `txtTextWW` wraps them. Starts in txtText1.
     frmMain(const SessionServices &services, TextBox &txtText1, TextBox &txtTextWW, SearchResults &results);
     ~frmMain() override;
+    frmMain(const frmMain &) = delete;
+    frmMain &operator=(const frmMain &) = delete;
 
     // State that is public in the whole program
 
@@ -73,35 +80,58 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     [[nodiscard]] CSearch &oSearch();
     [[nodiscard]] const SessionServices &services() const { return m_services; }
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
+    /// The number of warnings that the text engine has shown so far.
+    [[nodiscard]] int warnings() const { return m_warnings; }
+
+    [[nodiscard]] TextState textState();
+    void pushUndo() { oUndo.Push(textState()); }
+    /// Writes text, start and length of the selection, in this order.
+    void restore(const TextState &state);
 
     // The session (session.cpp)
 
     /// Chooses the text box in use without moving any text, as the start does.
     void useTextBox(bool wrapped);
-    /// Clipboard intake with its message; `bDirty` is left to the caller.
+    /// Takes the clipboard's text into the text box, with its message if it is too long; `bDirty` and undo
+    /// are left to the caller.
     void takeClipboard();
+    /// Clipboard intake as the start does it: the text, the bottom state of undo, nothing dirty.
+    void beginWithClipboard();
+    /// The present text becomes the bottom state of undo, with nothing dirty.
+    void beginWithText();
     void cmdClose_Click();
     void cmdCancel_Click();
-    /// The close box: true if the window may go.
+    /// The close box: true if the window may go; the session is over then.
     [[nodiscard]] bool queryUnload();
     void cmdRefresh_Click();
     void cmdUndo_Click();
     void cmdRedo_Click();
     void imgWordwrap_Click();
+    /// Shows the text wrapped or not and stores the choice; text, selection and bDirty stay.
     void toggleWordwrap(bool bOn);
+    /// Opens the Options; with bRightButton it swaps the two fonts instead.
     void imgOptions_Click();
     void imgAbout_Click();
     void imgHelp_Click();
     /// The paste check of Ctrl-V: false if the key must be swallowed (the message has been shown).
     [[nodiscard]] bool mayPaste();
-    /// Shows a font in the text box in use and remembers the option.
+    /// Gives the text box in use the font that bFontUseProp chooses.
     void applyFonts();
+    /// The font that the text shows in.
+    [[nodiscard]] Font currentFont() const;
 
-    // Tools (tool_frame.cpp, tool_table.cpp, moving_lines.cpp, spelling_tools.cpp, search_tools.cpp)
+    // Tools (tool_frame.cpp, moving_lines.cpp, spelling_tools.cpp, search_tools.cpp)
 
     void ToolDespatcher(const QString &token);
+    /// A click on a row of the panel or on its mark.
+    void lblToolbox_Click(cToolbox &oToolbox, int row);
     void imgFavourites_Click(const QString &tag);
     void ExtendSelectionToLines();
+    void moveLinesUp();
+    void moveLinesDown();
+    void selectBetweenTags();
+    /// chSPE and chGRA; with an Action its language, without one that of the store or of the language list.
+    void checkSpelling(bool grammar, const CAction *action);
     void OpenSearchDialog(bool bReplace);
     void FindAgain();
     void RunSearchAction(bool bReplace, const CAction &action);
@@ -110,22 +140,39 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
 
     /// Runs, or with bRightButton edits, the PowerButton of an index from 0.
     void imgPower_Click(int index);
+    /// Runs one Action with its stored settings. Failures are reported and go no further.
     void PowerButtonDespatcher(const CAction &action);
+    /// Runs one Action the way that its tool and its dialog option say. Failures go to the caller, who is no
+    /// event.
+    void runAction(const CAction &action);
+
+    /// Runs `action` where an event enters: a failure that nothing else caught is reported under
+    /// "frmMain" and the given procedure, and goes no further.
+    template <class Action>
+    void guarded(const char16_t *procedure, Action &&action);
 
   private:
-    friend class ToolHandlers;
-    friend class KeyboardCommands;
-
     // TextHost, SearchHost, ProofingHost
     void warn(const QString &text, const QString &title) override;
     void directionChanged(SearchDirection direction) override;
     [[nodiscard]] SearchResults &results() override { return m_results; }
+    [[nodiscard]] bool interrupted() override;
     void processEvents() override;
 
-    [[nodiscard]] TextState textState() const;
-    void pushUndo() { oUndo.Push(textState()); }
-    void restore(const TextState &state);
+    [[nodiscard]] cUndo::Hooks undoHooks();
+    void showUndoRedo();
+    void say(const QString &text, BoxIcon icon = BoxIcon::Information);
+    /// What is left of a tool that failed is taken back; then the failure goes on.
+    template <class Action>
+    void keepingText(Action &&action);
+    void swapFonts();
     void hideWindow();
+    void countTool(const QString &token);
+    /// ToolDespatcher and imgPower_Click for callers inside the session: failures go on.
+    void runTool(const QString &token);
+    void runPowerButton(int index);
+    void runWithSettings(const CAction &action);
+    void reportTroubleOfStore();
 
     SessionServices m_services;
     TextBox &m_txtText1;
@@ -135,8 +182,29 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     std::unique_ptr<CSearch> m_search;
     ToolSettingsMemory m_toolSettings;
     QString m_status;
+    QList<int> m_runningButtons; ///< indices of the PowerButtons that run now, outermost first
+    int m_warnings = 0;
     bool m_dirty = false;
-    int m_powerButtonDepth = 0;
+    bool m_undoEnabled = false;
+    bool m_redoEnabled = false;
 };
+
+template <class Action>
+void frmMain::guarded(const char16_t *procedure, Action &&action) {
+    reportFailures(m_services.boxes, QStringLiteral("frmMain"), QString::fromUtf16(procedure),
+                   std::forward<Action>(action));
+    reportTroubleOfStore();
+}
+
+template <class Action>
+void frmMain::keepingText(Action &&action) {
+    const TextState before = textState();
+    try {
+        action();
+    } catch (...) {
+        restore(before);
+        throw;
+    }
+}
 
 } // namespace tolvo

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/font.h"
+#include "search/search_host.h"
 #include "text/statistics.h"
 #include "text/tool_settings.h"
 
@@ -34,6 +35,8 @@ class SearchWindow {
     virtual void expandDialog() = 0;
     virtual void showDialog(bool bReplace) = 0;
     virtual void cmdSearch_Click() = 0;
+    /// A search changed the direction that the next one takes: the option buttons follow.
+    virtual void setDirection(SearchDirection direction) = 0;
 };
 
 /// What dlgConfirmClose answers.
@@ -63,7 +66,7 @@ class SessionView {
     virtual void undoRedoChanged(bool undoEnabled, bool redoEnabled) = 0;
     /// Shows txtTextWW (wrapped) or txtText1 and hides the other.
     virtual void showTextBox(bool wrapped) = 0;
-    /// Gives the box in use a font, or the name of a font only.
+    /// The font of txtTextWW (wrapped) or txtText1.
     virtual void setTextFont(bool wrapped, const Font &font) = 0;
     [[nodiscard]] virtual Font textFont(bool wrapped) const = 0;
     /// Hides the window: the session is over.
@@ -71,6 +74,11 @@ class SessionView {
     virtual void bringToFront() = 0;
     virtual void processEvents() = 0;
     virtual void powerButtonChanged(int index) = 0;
+    /// Takes back typing in the box in use as the text box itself does (Ctrl-Z); false if there is no typing
+    /// to take back.
+    virtual bool undoTyping() { return false; }
+    /// True if the user wants a long search to end (Esc); asked now and then.
+    [[nodiscard]] virtual bool interrupted() { return false; }
 };
 
 } // namespace tolvo

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// What the keys do. A key passes two stages: the window's handlers see every key first, then those of the
+// text box see the characters. Nothing of the toolkit is known here: keys come as virtual key codes and
+// character codes.
+#pragma once
+
+#include <QString>
+
+namespace tolvo {
+
+class frmMain;
+
+/// Virtual key codes that mean something; letters and digits have their ASCII codes.
+namespace keyCode {
+inline constexpr int Up = 38;
+inline constexpr int Down = 40;
+inline constexpr int Digit1 = 49;
+inline constexpr int Digit8 = 56;
+inline constexpr int D = 68;
+inline constexpr int Q = 81;
+inline constexpr int W = 87;
+inline constexpr int F1 = 112;
+inline constexpr int F3 = 114;
+inline constexpr int F7 = 118;
+inline constexpr int F8 = 119;
+inline constexpr int Slash = 191;
+} // namespace keyCode
+
+/// Every operation that returns a flag tells whether the key is consumed: the window must then do nothing
+/// more with it. Failures of what a key runs are reported and go no further.
+class KeyboardCommands {
+  public:
+    explicit KeyboardCommands(frmMain &session) : m_session(session) {}
+
+    // The window's stage. `shiftState` holds ShiftState bits.
+
+    bool formKeyDown(int code, int shiftState);
+    void formKeyUp(int shiftState);
+    /// The paste check of Ctrl-V (character code 22).
+    bool formKeyPress(int charCode);
+
+    // The text box's stage, for keys that the window's stage left alone.
+
+    bool textKeyDown(int code);
+    /// `charCode` is the character; Ctrl and a letter give the letter's position in the alphabet. Call it for
+    /// every character, typed or not.
+    bool textKeyPress(int charCode);
+
+    // Quick edits at the caret, not counted in the usage statistics
+
+    void doKBUpperCase();
+    void doKBLowerCase();
+    void doKBSwopCase();
+    void doKBInitCaps();
+    void doKBTranspose();
+    void MatchBracket();
+    void ShowCharacterInfo();
+
+  private:
+    bool powerButtonKey(int code);
+    bool commandKey(int code);
+    bool controlCharacter(int charCode);
+    bool repeatLastTool();
+    void undoTypingOrTool();
+    template <class Convert>
+    void convertAtCaret(Convert convert);
+    /// With a bare caret, the character behind it becomes the selection: both halves of a surrogate pair.
+    void selectCharacterAtCaret();
+
+    frmMain &m_session;
+};
+
+} // namespace tolvo

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// One run of the program: start, session, end. Knows no windows: the desktop program and the tests hand in
+// what shows the session.
+#pragma once
+
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/message_box.h"
+#include "platform/processes.h"
+#include "platform/sound.h"
+#include "powerbuttons/CPowerButton.h"
+#include "powerbuttons/CPowerButtonMethods.h"
+#include "powerbuttons/catalogue.h"
+#include "preferences/file_extensions.h"
+#include "shell/cSound.h"
+#include "shell/cToolbox.h"
+#include "shell/frmMain.h"
+
+#include <QString>
+#include <functional>
+#include <memory>
+
+namespace tolvo {
+
+/// What a run needs of its platform. All outlive it.
+struct RunServices {
+    SettingsStore &store;
+    Clipboard &clipboard;
+    MessageBoxes &boxes;
+    SoundPlayer &sound;
+    Processes &processes;
+    Clock &clock;
+    FileExtensions &extensions;
+    QString programFolder; ///< folder of the executable; Tools.dat, scrbar.wav and the companions lie there
+    SpellingServices &spelling; ///< what a spelling check is built on
+};
+
+/// The window side of a run: the main window and what it opens. Made by a SessionWindowFactory when the run
+/// reaches that step.
+class SessionWindow {
+  public:
+    virtual ~SessionWindow() = default;
+
+    [[nodiscard]] virtual TextBox &txtText1() = 0;
+    [[nodiscard]] virtual TextBox &txtTextWW() = 0;
+    [[nodiscard]] virtual SearchResults &searchResults() = 0;
+    [[nodiscard]] virtual SessionWindows &windows() = 0;
+    [[nodiscard]] virtual SessionView &view() = 0;
+    [[nodiscard]] virtual SpellingWalk &spellingWalk() = 0;
+    [[nodiscard]] virtual LanguageChooser &languages() = 0;
+
+    /// The session exists now; from here on events may reach it. The panel of tools is still empty: `toolbox`
+    /// gets its hooks here (the sound's is set by the run).
+    virtual void attach(frmMain &session, cToolbox &toolbox) = 0;
+    /// Paints the icons of the eight PowerButtons.
+    virtual void initIcons() = 0;
+    /// True if the platform gives the clipboard's text only to a window that has the focus. The window then
+    /// calls frmMain::beginWithClipboard() itself once it is active, before the user can type.
+    [[nodiscard]] virtual bool takesClipboardLater() const { return false; }
+    /// Shows the main window; returns when the session is over (frmMain::bSessionOver), whether the window
+    /// was hidden or closed.
+    virtual void showModal() = 0;
+    /// Unloads every form that is still loaded; each saves its own section of the store.
+    virtual void unloadForms() = 0;
+};
+
+using SessionWindowFactory = std::function<std::unique_ptr<SessionWindow>()>;
+
+class modMain {
+  public:
+    modMain(const RunServices &services, SessionWindowFactory makeWindow);
+    ~modMain();
+
+    /// The whole run. Returns the exit code of the process: 0, or 1 after a failure, which has been reported.
+    int Main();
+
+    // What lives for the whole run
+
+    Catalogue oTools;
+    CPowerButtonMethods oPBMethods;
+    cToolbox oToolbox;
+    cSound oSound;
+    CPowerButtonCollection oPowerButtons;
+
+  private:
+    void start();
+    void createSession();
+    void loadPowerButtons();
+    void showTips();
+    void readFonts();
+    void countStart();
+    void takeText();
+    void showTroubleOfStore();
+    void finish();
+    void sendStatistics();
+    [[nodiscard]] QString preference(const char16_t *key) const;
+    [[nodiscard]] bool preferenceIsOne(const char16_t *key) const;
+
+    RunServices m_services;
+    SessionWindowFactory m_makeWindow;
+    std::unique_ptr<SessionWindow> m_window;
+    std::unique_ptr<frmMain> m_session;
+};
+
+} // namespace tolvo
