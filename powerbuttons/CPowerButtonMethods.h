@@ -21,7 +21,8 @@ class CPowerButtonMethods {
     bool ReadPBSettings(CPowerButton &button, int number);
 
   private:
-    void DeletePBSetting(int number);
+    /// False if it failed, which has been reported then.
+    [[nodiscard]] bool DeletePBSetting(int number);
 
     SettingsStore &m_store;
     const Catalogue &m_tools;

@@ -31,4 +31,12 @@ class CTool {
 /// Entries are shared between the catalogue and the Actions.
 using ToolPtr = std::shared_ptr<const CTool>;
 
+[[nodiscard]] ToolPtr makeTool(const QString &name, const QString &token, const QString &tooltip,
+                               bool gotDialog);
+
+/// Token of the entry that stands for tools which a PowerButton names and the catalogue doesn't know.
+inline constexpr QLatin1StringView unknownToolToken("toolNULL");
+/// Its name, by which the editor keeps it out of its tree.
+inline constexpr QLatin1StringView unknownToolName("NULL");
+
 } // namespace tolvo

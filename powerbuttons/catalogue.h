@@ -18,15 +18,16 @@ class Catalogue {
   public:
     /// One visible line for the panel of tools.
     struct PanelItem {
-        QString label;
+        QString label; ///< plain text: an "&" in it marks no key
         QString token; ///< ">" for a category
         QString tooltip;
     };
 
     /// Reads the file at `path`. Throws a Failure that says what is wrong and in which line: no file (53), a
-    /// doubled key (457), text that isn't UTF-8 (75). A byte order mark is skipped.
+    /// doubled key (457), text that isn't UTF-8 (75), a line too long to be parsed (6). A byte order mark is
+    /// skipped. `name` is what messages call the file.
     [[nodiscard]] static Catalogue read(const QString &path);
-    [[nodiscard]] static Catalogue read(QIODevice &file);
+    [[nodiscard]] static Catalogue read(QIODevice &file, const QString &name = QStringLiteral("Tools.dat"));
 
     [[nodiscard]] const QList<ToolPtr> &tools() const { return m_tools; }
     /// The tool of a token (or of ">" and a heading's name); null if there is none.
@@ -35,7 +36,9 @@ class Catalogue {
     [[nodiscard]] const QList<PanelItem> &panelItems() const { return m_panelItems; }
 
   private:
-    void add(const QString &key, const ToolPtr &tool);
+    /// False for a key that is there already; nothing is added then.
+    [[nodiscard]] bool add(const ToolPtr &tool);
+    void addLine(QString line);
 
     QList<ToolPtr> m_tools;
     QHash<QString, ToolPtr> m_byKey;
