@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "spelling/spelling_services.h"
+
+#include "base/application.h"
+#include "preferences/settings_store.h"
+#include "spelling/dictionaries.h"
+#include "spelling/word_automation.h"
+
+#include <QStandardPaths>
+
+namespace tolvo {
+
+QString SpellingServices::defaultAtdEndpoint() {
+    const QString fromEnvironment = qEnvironmentVariable("TOLVO_ATD_URL");
+    return fromEnvironment.isEmpty() ? QStringLiteral(TOLVO_ATD_URL) : fromEnvironment;
+}
+
+QString SpellingServices::defaultUserFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/tolvo");
+}
+
+void prepareSpelling(const SpellingServices &services) {
+    ensurePersonalDictionary(services);
+    const QString section = QStringLiteral("Spelling");
+    const QString key = QStringLiteral("Provider");
+    // The checking dialog takes a missing provider for Word, all other readers for Hunspell. Where Word can't
+    // be, the two must not differ.
+    if (!services.word.isPossible() &&
+        services.store.GetSetting(applicationTitle(), section, key, QString()).isEmpty())
+        services.store.SaveSetting(applicationTitle(), section, key, QStringLiteral("1"));
+}
+
+} // namespace tolvo
