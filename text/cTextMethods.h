@@ -6,10 +6,10 @@
 
 #include "text/statistics.h"
 #include "text/text_host.h"
+#include "text/word_rules.h"
 
 #include <QString>
 #include <QStringView>
-#include <functional>
 
 namespace tolvo {
 
@@ -19,14 +19,14 @@ inline constexpr QStringView sortError = u"<ERROR>";
 /// Stateless between calls, apart from the list of top level domains in use.
 class cTextMethods {
   public:
-    using KnownExtension = std::function<bool(const QString &)>;
+    using KnownExtension = AddressRules::KnownExtension;
 
     /// `isKnownExtension` tells whether a file extension (without its stop) is one that the system or the
     /// user knows.
     cTextMethods(TextHost &host, KnownExtension isKnownExtension);
 
     /// sTLD: the list of top level domains in use, with a comma at both ends. Starts as the short one.
-    void setTopLevelDomains(QString list) { sTLD = std::move(list); }
+    void setTopLevelDomains(const QString &list);
     [[nodiscard]] const QString &topLevelDomains() const { return sTLD; }
 
     // Primitives (primitives.cpp)
@@ -110,8 +110,8 @@ class cTextMethods {
 
   private:
     TextHost &m_host;
-    KnownExtension m_isKnownExtension;
     QString sTLD;
+    AddressRules m_addresses;
 };
 
 } // namespace tolvo

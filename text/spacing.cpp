@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// White space inside and around lines, and the marks at their ends.
+#include "text/cTextMethods.h"
+
+#include "base/character_sets.h"
+#include "base/strings.h"
+#include "text/lines.h"
+
+namespace tolvo {
+
+namespace {
+
+/// Appends a line without white space at its ends, no-break spaces already changed to blanks, runs of blanks
+/// reduced to one, and that one left out beside a TAB.
+void appendSingleSpaced(QStringView line, QString &result) {
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        if (line[i] != u' ') {
+            result += line[i];
+            continue;
+        }
+        const bool behindTab = line[i - 1] == u'\t';
+        while (line[i + 1] == u' ')
+            ++i;
+        if (!behindTab && line[i + 1] != u'\t')
+            result += u' ';
+    }
+}
+
+} // namespace
+
+QString cTextMethods::TrimTrail(QStringView text) const {
+    return changeLines(text, [](QStringView line, QString &result) { result += rightTrimWhiteSpace(line); });
+}
+
+QString cTextMethods::LTrimWhiteSpace(QStringView text) const {
+    return leftTrimWhiteSpace(text).toString();
+}
+
+QString cTextMethods::TrimWhiteSpace(QStringView text) const {
+    return changeLines(text, [](QStringView line, QString &result) { result += trimWhiteSpace(line); });
+}
+
+QString cTextMethods::TrimStopChars(QStringView text) const {
+    return trimStopCharacters(text).toString();
+}
+
+QString cTextMethods::TrimQuotes(QStringView text) const {
+    return trimQuoteMarks(text).toString();
+}
+
+QString cTextMethods::SingleSpace(QStringView text) const {
+    QString blanks = text.toString();
+    blanks.replace(QChar(u'\u00A0'), QChar(u' '));
+    return changeLines(blanks, [](QStringView line, QString &result) {
+        const QStringView content = trimWhiteSpace(line);
+        if (content.isEmpty())
+            return;
+        result += line.first(content.begin() - line.begin());
+        appendSingleSpaced(content, result);
+    });
+}
+
+QString cTextMethods::RegularEOL(QStringView text) const {
+    QString result;
+    result.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] != u'\r' && text[i] != u'\n') {
+            result += text[i];
+            continue;
+        }
+        const bool isLast = i + 1 == text.size();
+        // A lone CR at the very end goes without a line end in its place.
+        if (text[i] == u'\r' && isLast)
+            break;
+        result += lineEnd;
+        if (text[i] == u'\r' && text[i + 1] == u'\n')
+            ++i;
+    }
+    return result;
+}
+
+} // namespace tolvo
