@@ -17,6 +17,7 @@ class SettingsStore;
 /// Section "Indent", tools foIND and foUNI.
 struct IndentSettings {
     enum Choice { WithTab = 0, WithSpaces = 1, WithText = 2 };
+    static constexpr int mostRecentTexts = 20;
     int choice = WithTab;
     int spaces = 4;
     QString text;
@@ -47,6 +48,7 @@ struct RemoveLinesSettings {
 
 /// Section "BulletList", tool liBUL.
 struct BulletSettings {
+    static constexpr int mostTypedSpaces = 12; ///< what the dialog takes
     QString bullet = QStringLiteral(u"\u2022");
     bool tab = true;
     int spaces = 2;
@@ -58,7 +60,9 @@ struct BulletSettings {
 
 /// Section "NumList", tool liNUM.
 struct NumberListSettings {
-    int style = 0; ///< 0 to 5, see text/numbering.h
+    static constexpr int highestTypedStart = 999; ///< what the dialog takes
+    static constexpr int mostTypedSpaces = 12;    ///< the same
+    int style = 0;                                ///< 0 to 5, see text/numbering.h
     int start = 1;
     bool renumber = false;
     int followChar = 0; ///< 0 to 3

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The sorts. They order by separate keys and carry the lines along, so that making a key never changes the
+// text.
+#include "base/code_page.h"
+#include "base/numbers.h"
+#include "base/strings.h"
+#include "text/cTextMethods.h"
+#include "text/lines.h"
+#include "text/partition_sort.h"
+
+#include <algorithm>
+#include <numeric>
+#include <ranges>
+#include <vector>
+
+namespace tolvo {
+
+namespace {
+
+using Order = std::vector<std::uint32_t>;
+
+/// A text key that compares by code units; most comparisons end in its first four.
+struct TextKey {
+    quint64 front = 0;
+    QStringView text;
+
+    explicit TextKey(QStringView key) : text(key) {
+        for (qsizetype i = 0; i < 4; ++i)
+            front = front << 16U | (i < key.size() ? key.at(i).unicode() : 0U);
+    }
+    [[nodiscard]] bool isBelow(const TextKey &other) const {
+        return front != other.front ? front < other.front : text.compare(other.text) < 0;
+    }
+};
+
+struct NumberKey {
+    double value;
+    [[nodiscard]] bool isBelow(const NumberKey &other) const { return value < other.value; }
+};
+
+/// The indices of the keys in sorted order, equal keys in the order that the partition sort gives them.
+template <class Key>
+Order sortedOrder(const std::vector<Key> &keys) {
+    Order order(keys.size());
+    std::iota(order.begin(), order.end(), std::uint32_t{0});
+    std::sort(order.begin(), order.end(),
+              [&keys](std::uint32_t a, std::uint32_t b) { return keys[a].isBelow(keys[b]); });
+    std::vector<std::uint32_t> ranks(keys.size());
+    std::uint32_t rank = 0;
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (keys[order[i - 1]].isBelow(keys[order[i]]))
+            ++rank;
+        ranks[order[i]] = rank;
+    }
+    const bool allDiffer = rank + std::size_t{1} >= keys.size();
+    return allDiffer ? order : partitionOrder(std::move(ranks));
+}
+
+/// The keys of these views into a text: they point into `upper`, the same text in upper case.
+std::vector<TextKey> keysOf(const QList<QStringView> &views, QStringView text, QStringView upper,
+                            QStringView (*trim)(QStringView)) {
+    std::vector<TextKey> keys;
+    keys.reserve(static_cast<std::size_t>(views.size()));
+    for (const QStringView view : views)
+        keys.emplace_back(trim(upper.sliced(view.data() - text.data(), view.size())));
+    return keys;
+}
+
+/// The views that aren't empty, in this order, with the separator between them.
+template <class Indices>
+void appendJoined(QString &result, const QList<QStringView> &views, const Indices &order,
+                  QStringView separator) {
+    bool first = true;
+    for (const auto index : order) {
+        const QStringView view = views.at(static_cast<qsizetype>(index));
+        if (view.isEmpty())
+            continue;
+        if (!first)
+            result += separator;
+        result += view;
+        first = false;
+    }
+}
+
+bool isOneLine(QStringView text) {
+    return trimBlanks(text).isEmpty() || !text.contains(lineEnd);
+}
+
+/// The items of one line sorted; `upper` is the line in upper case. A line without a comma is left alone.
+void KeywordSortLine(QString &result, QStringView line, QStringView upper) {
+    if (!line.contains(u',')) {
+        result += line;
+        return;
+    }
+    QList<QStringView> items;
+    for (const QStringView item : line.tokenize(u','))
+        items.append(trimBlanks(item));
+    const auto keepAll = [](QStringView key) { return key; };
+    appendJoined(result, items, sortedOrder(keysOf(items, line, upper, keepAll)), u", ");
+}
+
+} // namespace
+
+QString cTextMethods::Sort(QStringView text) const {
+    if (isOneLine(text))
+        return sortError.toString();
+    const QString upper = toUpper(text);
+    const QList<QStringView> lines = splitLines(text);
+    QString result;
+    result.reserve(text.size());
+    appendJoined(result, lines, sortedOrder(keysOf(lines, text, upper, trimWhiteSpace)), lineEnd);
+    return result;
+}
+
+QString cTextMethods::Numsort(QStringView text) const {
+    if (isOneLine(text))
+        return sortError.toString();
+    QList<QStringView> lines = splitLines(text);
+    std::vector<NumberKey> keys;
+    keys.reserve(static_cast<std::size_t>(lines.size()));
+    for (QStringView &line : lines) {
+        line = trimBlanks(line);
+        keys.push_back({ValueOf(line)});
+    }
+    QString result;
+    result.reserve(text.size());
+    appendJoined(result, lines, sortedOrder(keys), lineEnd);
+    return result;
+}
+
+QString cTextMethods::SortReverse(QStringView text) const {
+    if (isOneLine(text))
+        return sortError.toString();
+    QString result;
+    result.reserve(text.size());
+    for (const QStringView line : splitLines(text) | std::views::reverse) {
+        result += line;
+        result += lineEnd;
+    }
+    result.chop(2);
+    return result;
+}
+
+QString cTextMethods::KeywordSort(QStringView text) const {
+    if (trimBlanks(text).isEmpty() || !text.contains(u','))
+        return sortError.toString();
+    const QString upper = toUpper(text);
+    return changeLines(text, [&](QStringView line, QString &result) {
+        KeywordSortLine(result, line, QStringView(upper).sliced(line.data() - text.data(), line.size()));
+    });
+}
+
+} // namespace tolvo
