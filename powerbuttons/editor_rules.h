@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// The rules of the PowerButton editor, without its window: what may be done when, and what the user is told.
+#pragma once
+
+#include "powerbuttons/CPowerButton.h"
+#include "powerbuttons/CPowerButtonMethods.h"
+#include "powerbuttons/action_settings.h"
+
+#include <QString>
+#include <memory>
+
+namespace tolvo {
+
+/// One editing of one PowerButton, on the live object: cancel() takes it back by reading the store again. The
+/// window shows form() after every call and hands in what the user did.
+class EditorRules {
+  public:
+    /// What the window shows.
+    struct Form {
+        QString frameCaption; ///< " Action 2 of 5"
+        QString toolName;     ///< empty for a blank Action
+        QString toolTip;
+        QString details;
+        int option = Prompt; ///< a DlgOption; any other value: none is chosen
+        bool leftVisible = false;
+        bool rightVisible = false;
+        bool deleteVisible = false;
+        bool examplesVisible = false;
+        bool optionsEnabled = false; ///< prompt and current
+        bool customEnabled = false;  ///< custom, and the button for the settings
+    };
+
+    EditorRules(CPowerButtonCollection &buttons, CPowerButtonMethods &methods, const Catalogue &tools,
+                MessageBoxes &boxes, ActionSettings &settings);
+
+    /// Begins with the button of an index from 0. A button without Actions gets a blank one.
+    void init(int index);
+
+    [[nodiscard]] int number() const { return m_number; }
+    [[nodiscard]] QString caption() const;
+    [[nodiscard]] CPowerButton &button() const { return *m_button; }
+    [[nodiscard]] int position() const { return m_position; }
+    [[nodiscard]] Form form() const;
+
+    /// A leaf of the tool tree was chosen: a blank Action takes the tool at once, another asks first.
+    void chooseTool(const QString &token);
+    void chooseOption(int option);
+    /// Asks for the settings of the current Action; new ones select "custom".
+    void chooseSettings();
+
+    // Each of these validates the current Action first and says what is missing; false if it stays.
+    bool goLeft();
+    bool goRight();
+    /// Whether the menu for adding may open.
+    bool mayAdd();
+
+    // Once mayAdd() has allowed it. The new, blank Action becomes the current one.
+    void addBefore();
+    void addAfter();
+    void addAtEnd();
+
+    /// Asks, unless the Action is blank.
+    void deleteAction();
+
+    enum class Saved { Yes, NoAction, NoName };
+    /// Validates, then stores the button under the name. NoName: the window puts the focus there.
+    Saved save(const QString &name);
+    void cancel();
+    /// Asks, then puts an undefined button in place of this one, in the store too. True: the editor closes.
+    bool destroy();
+    /// Takes Actions and icon of a ready-made button; the name is up to the window.
+    void loadExample(const CPowerButton &example);
+
+  private:
+    [[nodiscard]] CAction &current() const { return *m_button->Item(m_position); }
+    void moveTo(int position);
+    void keep();
+    bool validate();
+    bool validateTarget();
+    void say(const QString &text) { m_boxes.show({text}); }
+
+    CPowerButtonCollection &m_buttons;
+    CPowerButtonMethods &m_methods;
+    const Catalogue &m_tools;
+    MessageBoxes &m_boxes;
+    ActionSettings &m_settings;
+
+    std::shared_ptr<CPowerButton> m_button;
+    int m_number = 1;
+    int m_position = 1;
+    int m_option = Prompt; ///< on the form, not yet in the Action
+};
+
+/// What dlgChoosePB lets choose: a defined button other than the one that is being edited.
+[[nodiscard]] bool mayChoosePowerButton(const CPowerButtonCollection &buttons, int number, int own);
+
+} // namespace tolvo
