@@ -24,7 +24,8 @@ class CPowerButton {
     double IconFontSize = 0; ///< points
     bool IconFontBold = false;
     bool IconFontItalic = false;
-    double IconX = 0; ///< where the text starts on the icon, in the icon's own units (see icon_geometry.h)
+    double IconX =
+        0; ///< where the text starts on the icon, in the icon's own units (see icon_geometry.h for the units)
     double IconY = 0;
 
     // Positions count from 1.

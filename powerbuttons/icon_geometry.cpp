@@ -43,11 +43,4 @@ QString fontLabel(const Font &font) {
            numberText(font.size) + QStringLiteral("pt)");
 }
 
-QString buttonToolTip(const CPowerButton &button, int number) {
-    if (button.isDefined())
-        return button.Name + QStringLiteral(" (Alt-F%1, Ctrl-%1)").arg(number);
-    return QStringLiteral("Right click to define this PowerButton (Shift-Alt-F%1, Shift-Ctrl-%1)")
-        .arg(number);
-}
-
 } // namespace tolvo

@@ -44,7 +44,4 @@ void setIcon(CPowerButton &button, const ButtonIcon &icon);
 /// Name, bold and italic as they apply, and the size: "Arial Bold (16pt)".
 [[nodiscard]] QString fontLabel(const Font &font);
 
-/// The tool tip of a PowerButton in the main window: its name, or how to define it, and its keys.
-[[nodiscard]] QString buttonToolTip(const CPowerButton &button, int number);
-
 } // namespace tolvo

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "powerbuttons/ui/icon_painter.h"
+
+#include <QFontMetricsF>
+#include <QIconEngine>
+#include <QPixmap>
+#include <algorithm>
+#include <cmath>
+
+namespace tolvo {
+
+namespace {
+
+class ButtonIconEngine : public QIconEngine {
+  public:
+    explicit ButtonIconEngine(ButtonIcon icon) : m_icon(std::move(icon)) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override {
+        paintIcon(*painter, rect, m_icon);
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+    [[nodiscard]] QIconEngine *clone() const override { return new ButtonIconEngine(m_icon); }
+
+  private:
+    ButtonIcon m_icon;
+};
+
+} // namespace
+
+QFont iconFont(const Font &font) {
+    QFont result(font.name.isEmpty() ? defaultIconFont() : font.name);
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * iconUnitsPerPoint))));
+    result.setBold(font.bold);
+    result.setItalic(font.italic);
+    // Hinting would move the letters by whole pixels, differently at each scale.
+    result.setHintingPreference(QFont::PreferNoHinting);
+    return result;
+}
+
+void paintIcon(QPainter &painter, const QRectF &target, const ButtonIcon &icon) {
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.setClipRect(target, Qt::IntersectClip);
+    painter.fillRect(target, Qt::white);
+    painter.translate(target.topLeft());
+    painter.scale(target.width() / iconUnits, target.height() / iconUnits);
+    const QFont font = iconFont(icon.font);
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    painter.drawText(QPointF(icon.x, icon.y + QFontMetricsF(font).ascent()), icon.text);
+    painter.restore();
+}
+
+void paintIcon(QPainter &painter, const QRectF &target, const CPowerButton &button) {
+    paintIcon(painter, target, iconOf(button));
+}
+
+QIcon toQIcon(const ButtonIcon &icon) {
+    return QIcon(new ButtonIconEngine(icon));
+}
+
+QPointF centredPosition(const ButtonIcon &icon) {
+    const QFontMetricsF metrics(iconFont(icon.font));
+    const QRectF ink = metrics.tightBoundingRect(icon.text).translated(0, metrics.ascent());
+    const auto toHalf = [](double value) { return std::round(value * 2) / 2; };
+    return {toHalf(iconUnits / 2 - ink.center().x()), toHalf(iconUnits / 2 - ink.center().y())};
+}
+
+} // namespace tolvo
