@@ -119,6 +119,15 @@ void AddMessage(QString &list, const QString &message) {
     list += message;
 }
 
+QString quotesLeftOpen(bool inDouble, bool inSingle) {
+    QString list;
+    if (inDouble)
+        AddMessage(list, QStringLiteral("There appears to be a closing quotes (\") missing"));
+    if (inSingle)
+        AddMessage(list, QStringLiteral("There appears to be a closing single quote (') missing"));
+    return list;
+}
+
 namespace {
 
 /// Words that differ in case alone have the same key.

@@ -61,6 +61,9 @@ inline constexpr int noUnit = -1;
 /// Adds a line to a list of messages.
 void AddMessage(QString &list, const QString &message);
 
+/// The warnings about quotations that are still open at a text's end.
+[[nodiscard]] QString quotesLeftOpen(bool inDouble, bool inSingle);
+
 /// Tells addresses and file names from words: by the extensions that the system knows and the domains in use.
 class AddressRules {
   public:
