@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// The text engine by itself, for tests: what it says is kept, and it knows one file extension, "txt".
+#pragma once
+
+#include "text/cTextMethods.h"
+
+#include <QStringList>
+#include <gtest/gtest.h>
+#include <ostream>
+
+// Google Test prints texts as UTF-8.
+inline void PrintTo(const QString &text, std::ostream *out) {
+    *out << '"' << text.toUtf8().replace("\r", "\\r").replace("\n", "\\n").replace("\t", "\\t").toStdString()
+         << '"';
+}
+
+namespace tolvo::test {
+
+struct KeptWords : TextHost {
+    void setStatus(const QString &text) override { status = text; }
+    void warn(const QString &text, const QString &) override { warnings.append(text); }
+    QString status;
+    QStringList warnings;
+};
+
+class Engine : public ::testing::Test {
+  protected:
+    KeptWords said;
+    cTextMethods engine{said, [](const QString &extension) { return extension == QLatin1StringView("txt"); }};
+};
+
+/// A text of lines: "a|b" stands for a, CR LF, b.
+inline QString lines(const char16_t *picture) {
+    return QString::fromUtf16(picture).replace(u'|', QStringLiteral("\r\n"));
+}
+
+} // namespace tolvo::test
