@@ -15,8 +15,11 @@ namespace tolvo {
 /// Sections and keys compare without case; values and sections keep the order in which they were first
 /// written. Every operation is atomic by itself and durable when it returns.
 ///
-/// A store that can't be opened or written goes on in memory; trouble() then tells why, once. A damaged file
-/// is set aside under another name and never overwritten; a file of a newer schema is left alone.
+/// A store that can't be opened or written goes on in memory, with what can still be read of the file;
+/// takeTrouble() then tells why, once. If others were only holding the file, or its disk was full, what was
+/// written meanwhile is brought into the file at the end, if it can be written then. A damaged file is set
+/// aside under another name and never overwritten; a new one takes over what can be read of it. A file of a
+/// newer schema is left alone.
 class SettingsStore {
   public:
     /// Opens or makes the file at `path`; ":memory:" is a store of its own in memory. Never throws: see
@@ -40,6 +43,9 @@ class SettingsStore {
                                      int defaultValue) const;
     [[nodiscard]] QString GetSetting(const QString &application, const QString &section, const QString &key,
                                      bool defaultValue) const;
+    /// A bare literal would count as a flag.
+    template <class Character>
+    QString GetSetting(const QString &, const QString &, const QString &, const Character *) const = delete;
 
     /// Makes all missing levels and stores the string.
     void SaveSetting(const QString &application, const QString &section, const QString &key,

@@ -22,6 +22,11 @@ struct SettingsRow {
 
 [[nodiscard]] std::span<const SettingsRow> settingsTable();
 
+/// The spelling dialog takes an absent `Provider` for 0, unlike all others, which take it for 1.
+inline constexpr int providerOfSpellingDialog = 0;
+/// The list of Hunspell languages has other fields in another order where the language dialog reads it.
+inline constexpr QStringView hunLangListOfLanguageDialog = u"en-gb|English (UK)|English (UK)";
+
 /// The default of a key as the table tells it. Asking for a key that the table doesn't have is a mistake of
 /// the programmer and fails.
 [[nodiscard]] QString settingsDefault(QStringView section, QStringView key);
@@ -34,7 +39,8 @@ void writeSetting(SettingsStore &store, QStringView section, QStringView key, co
 /// keys.
 [[nodiscard]] QString GetPreference(const SettingsStore &store, const QString &key, const QString &fallback);
 
-/// Lists whose keys are single characters from "a" on, in the order of the positions that the keys stand for.
+/// A list whose keys are single characters: "a" for position 0, "b" for 1, and past "z" the characters that
+/// follow. The order is that of the positions, whatever the order of the keys in the store.
 [[nodiscard]] QStringList readList(const SettingsStore &store, const QString &section);
 /// Replaces the list.
 void writeList(SettingsStore &store, const QString &section, const QStringList &entries);
