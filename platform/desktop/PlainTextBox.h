@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/application.h"
+#include "platform/desktop/stand_ins.h"
+#include "platform/headless/clipboard_line_ends.h"
+#include "platform/text_box.h"
+
+#include <QPlainTextEdit>
+
+namespace tolvo {
+
+/// The text box of the window. It keeps every text unchanged to the unit, in one block per CR LF line, and
+/// holds its capacity against typing, input methods, paste, drop and code.
+///
+/// What code changes can't be taken back by the widget's own undo: its stack is empty after that.
+class PlainTextBox final : public QPlainTextEdit, public TextBox {
+    Q_OBJECT
+
+  public:
+    enum class Lines {
+        AsTheyAre, ///< with both scroll bars
+        Wrapped,   ///< at the width of the box, with the vertical scroll bar only
+    };
+
+    explicit PlainTextBox(Lines lines, QWidget *parent = nullptr);
+
+    [[nodiscard]] QString Text() const override { return m_text; }
+    void setText(const QString &text) override;
+    [[nodiscard]] int SelStart() const override;
+    void setSelStart(int start) override;
+    [[nodiscard]] int SelLength() const override;
+    void setSelLength(int length) override;
+    [[nodiscard]] QString SelText() const override;
+    void setSelText(const QString &text) override;
+    [[nodiscard]] int length() const override { return static_cast<int>(m_text.size()); }
+    [[nodiscard]] int capacity() const override { return m_capacity; }
+    void setCapacity(int units) override { m_capacity = units; }
+    using QPlainTextEdit::setFocus;
+    void setFocus() override { QPlainTextEdit::setFocus(Qt::OtherFocusReason); }
+
+    /// Whether the user has typed, pasted or deleted since the last change by code, so that there is
+    /// something for takeBackTyping (or restoreTyping) to do.
+    [[nodiscard]] bool hasTypingToTakeBack() const;
+    [[nodiscard]] bool hasTypingToRestore() const;
+    void takeBackTyping() { undo(); }
+    void restoreTyping() { redo(); }
+
+    /// How copied and dragged text goes out to other programs. The rule outlives the box; without one, line
+    /// ends go out as LF.
+    void setLineEnds(const ClipboardLineEnds &rule) { m_lineEnds = &rule; }
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void insertFromMimeData(const QMimeData *source) override;
+    [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
+
+  private:
+    [[nodiscard]] int toText(int documentPosition) const;
+    [[nodiscard]] int toDocument(qint64 textPosition) const;
+    [[nodiscard]] int room() const;
+    void insertAsTyped(const QString &text);
+    void prepareFor(const QString &inserted);
+    void load(const QString &text);
+    void edited();
+    void cutToCapacity();
+    void joinLineEnds();
+    bool rereadText();
+    void reportChange();
+    void chooseWrapping(QStringView text);
+
+    Lines m_lines;
+    int m_capacity = textLimit;
+    QString m_text; ///< what the document holds, for it is read far more often than changed
+    StandIns m_standIns;
+    const ClipboardLineEnds *m_lineEnds = nullptr;
+    int m_editStart = 0; ///< where the document was changed last, in its own positions
+    int m_editEnd = 0;
+    bool m_ownEdit = false; ///< an edit by code is under way; its end reports the change
+};
+
+} // namespace tolvo

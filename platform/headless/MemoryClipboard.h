@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/clipboard.h"
+
+namespace tolvo {
+
+/// A clipboard that no other program sees, for tolvo-pipe and the tests. Texts are taken and given as they
+/// are.
+class MemoryClipboard final : public Clipboard {
+  public:
+    explicit MemoryClipboard(QString content = {}) : text(std::move(content)) {}
+
+    [[nodiscard]] QString takeText() override { return text; }
+    [[nodiscard]] QString readText() override { return text; }
+    void writeText(const QString &written) override {
+        text = written;
+        ++writes;
+    }
+
+    QString text;   ///< what lies on the clipboard
+    int writes = 0; ///< how often it was written
+};
+
+} // namespace tolvo

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/http_client.h"
+
+#include <QtGlobal>
+#include <functional>
+#include <memory>
+
+class QNetworkAccessManager;
+class QNetworkReply;
+class QNetworkRequest;
+
+namespace tolvo {
+
+struct HttpLimits {
+    int milliseconds = 60'000;           ///< for the whole request
+    qint64 bodyBytes = 16 * 1024 * 1024; ///< after decompression
+};
+
+/// HTTP over Qt Network: redirects are answers like any other, no cookies, nothing is cached. Needs a
+/// QCoreApplication. The network is not touched before the first request.
+class NetworkHttpClient final : public HttpClient {
+  public:
+    explicit NetworkHttpClient(HttpLimits limits = {});
+    ~NetworkHttpClient() override;
+
+    [[nodiscard]] HttpReply get(const QByteArray &encodedUrl) override;
+    [[nodiscard]] HttpReply post(const QByteArray &encodedUrl, const QByteArray &body,
+                                 const QByteArray &contentType) override;
+
+    /// Asked many times a second while a request runs; true ends it.
+    std::function<bool()> cancelled;
+    /// Makes what keeps the user's input away while a request runs, and lets it go after that. Without it the
+    /// request leaves all input waiting until it is over.
+    std::function<std::shared_ptr<void>()> guardInput;
+
+  private:
+    [[nodiscard]] QNetworkRequest request(const QByteArray &encodedUrl) const;
+    [[nodiscard]] QNetworkAccessManager &network();
+    [[nodiscard]] HttpReply await(QNetworkReply &reply);
+
+    HttpLimits m_limits;
+    std::unique_ptr<QNetworkAccessManager> m_network;
+};
+
+} // namespace tolvo

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Where a caret may stand in a text with CR LF line ends, and how much of a text finds room. Shared by all
+// text boxes.
+#pragma once
+
+#include <QStringView>
+
+#include <algorithm>
+
+namespace tolvo {
+
+/// Whether a position lies between the CR and the LF of a line end.
+[[nodiscard]] inline bool splitsLineEnd(QStringView text, qint64 position) {
+    return position > 0 && position < text.size() && text[position - 1] == u'\r' && text[position] == u'\n';
+}
+
+/// The position cut to the text; one inside a line end moves before its CR.
+[[nodiscard]] inline qint64 snapBefore(QStringView text, qint64 position) {
+    const qint64 inside = std::clamp<qint64>(position, 0, text.size());
+    return splitsLineEnd(text, inside) ? inside - 1 : inside;
+}
+
+/// The position cut to the text; one inside a line end moves behind its LF.
+[[nodiscard]] inline qint64 snapBehind(QStringView text, qint64 position) {
+    const qint64 inside = std::clamp<qint64>(position, 0, text.size());
+    return splitsLineEnd(text, inside) ? inside + 1 : inside;
+}
+
+/// What of `inserted` finds room in a box that keeps `kept` units beside it.
+[[nodiscard]] inline QStringView cutToRoom(QStringView inserted, qint64 capacity, qint64 kept) {
+    return inserted.left(std::max<qint64>(capacity - kept, 0));
+}
+
+} // namespace tolvo
