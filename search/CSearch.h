@@ -4,19 +4,16 @@
 #pragma once
 
 #include "platform/message_box.h"
+#include "search/regular_expression.h"
 #include "search/search_host.h"
+#include "search/wildcard_translation.h"
 #include "text/cTextMethods.h"
 
 #include <QString>
+#include <QStringView>
+#include <functional>
 
 namespace tolvo {
-
-struct WildcardOptions {
-    bool wholeWords = false;
-    int anchor = 4; ///< 0 start of word, 1 end of word, 2 start of line, 3 end of line, else anywhere
-    QString decimalSep = QStringLiteral(".");
-    QString groupingSep = QStringLiteral(",");
-};
 
 class CSearch {
   public:
@@ -53,8 +50,10 @@ class CSearch {
 
     // Regular expressions (regexp_search.cpp)
 
+    /// Selects a match. `text` is that of the text box, and "\n" in the pattern (backslash, n) is its CR LF.
     void RegExpSearch(const QString &text, QString pattern, bool up, bool fromStart, bool matchCase);
-    /// The number of results; fills the list but shows nothing.
+    /// The number of results; fills the list but shows nothing. Lines end in LF in what it searches, and
+    /// `text` comes back so.
     int RegExpFindAll(QString &text, const QString &pattern, bool matchCase);
     void RegExpReplace(const QString &pattern, QString replace, bool up, bool fromStart, bool matchCase,
                        bool smartReplace, bool replaceAfterFind);
@@ -63,9 +62,35 @@ class CSearch {
 
     // Escapes (special_chars.cpp)
 
+    /// "\n" (as CR LF or as LF), "\t", "\xHH", "\uHHHH" and "\\"; the result also stands in `text`. An escape
+    /// without hexadecimal digits is reported and empties the text.
     QString translateSpecialChars(QString &text, bool crlf);
+    QString replaceHex(QString &text, QStringView prefix, int digits);
 
   private:
+    /// Runs an operation; a failure is told under its name, a bad escape with a hint. False after a failure.
+    bool guarded(const char *operation, const std::function<void()> &action);
+    bool reported(const char *operation, const std::function<void()> &action);
+    [[nodiscard]] WildcardTranslation translated(const QString &pattern, bool specialChars,
+                                                 const WildcardOptions &options);
+    [[nodiscard]] bool standsAsWord(QStringView text, qsizetype position, QStringView find) const;
+    bool selectHit(qsizetype index, qsizetype length, bool fromStart);
+    void listSimpleHits(const QString &find, bool matchCase, bool wholeWords);
+    /// One replacement after another, in a copy; the number of them.
+    int replaceEach(QString &text, QStringView find, const QString &replace, bool matchCase, bool wholeWords,
+                    bool smartReplace) const;
+    void tellReplacements(int count);
+    void inform(const QString &text);
+
+    [[nodiscard]] MatchBudget newBudget();
+    /// Selects the next match of a valid pattern, or says that there is none.
+    void selectMatch(const RegularExpression &expression, const QString &text, bool up, bool fromStart,
+                     MatchBudget &budget);
+    int listMatches(const RegularExpression &expression, const QString &text);
+    /// Each match replaced by itself, out of its context; the number of them.
+    int replaceMatchByMatch(const RegularExpression &expression, QString &text, const QString &replace,
+                            bool smartReplace);
+
     SearchHost &m_host;
     MessageBoxes &m_boxes;
     const cTextMethods &m_text;

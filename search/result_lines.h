@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// What a Find All tells about each hit.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace tolvo {
+
+/// Counts lines up to positions that only grow, reading the text once.
+class LineCounter {
+  public:
+    LineCounter(QStringView text, QStringView lineEnd) : m_text(text), m_lineEnd(lineEnd) {}
+
+    /// The line, from 1, that holds the unit at an index from 0. A line end belongs to the line behind it.
+    [[nodiscard]] int lineOf(qsizetype index);
+
+  private:
+    QStringView m_text;
+    QStringView m_lineEnd;
+    qsizetype m_lineStart = 0;
+    qsizetype m_nextEnd = -1; ///< where the present line ends; -1 if not looked for yet
+    int m_line = 1;
+};
+
+/// Up to 25 units on each side of a hit, within its line. `position` counts from 1; a position one less moves
+/// the window one unit to the left.
+[[nodiscard]] QStringView hitContext(QStringView text, qsizetype position, qsizetype length);
+
+/// A hit as one number: index from 0 times 10000 plus length. Lengths above 9999 spill into the index. Fails
+/// with an overflow beyond 32 bits.
+[[nodiscard]] qint32 packLocation(qsizetype index, qsizetype length);
+struct HitLocation {
+    int start;
+    int length;
+};
+[[nodiscard]] HitLocation unpackLocation(qint32 location);
+
+/// "1 result found for ..." or "n results found for ...".
+[[nodiscard]] QString resultsCaption(int count, const QString &find);
+
+} // namespace tolvo

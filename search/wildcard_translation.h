@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// The wildcard language: each wildcard becomes a group of a regular expression.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace tolvo {
+
+struct WildcardOptions {
+    bool wholeWords = false;
+    int anchor = 4; ///< 0 start of word, 1 end of word, 2 start of line, 3 end of line, else anywhere
+    QString decimalSep = QStringLiteral(".");
+    QString groupingSep = QStringLiteral(","); ///< "space" is one blank
+};
+
+struct WildcardTranslation {
+    QString shown;    ///< the regular expression as the user sees it
+    QString compiled; ///< one that matches the same, group by group, without trying a text in countless ways
+    bool bracketMissing = false; ///< a "[" without its "]": both are empty
+};
+
+[[nodiscard]] WildcardTranslation translateWildcards(QStringView pattern, bool specialChars,
+                                                     const WildcardOptions &options);
+
+/// What the user is told about wildcards. Line ends stand in it as backslash and n.
+extern const QStringView wildcardHelp;
+
+} // namespace tolvo
