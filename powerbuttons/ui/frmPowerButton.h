@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// The editor of one PowerButton: shows the EditorRules.
+#pragma once
+
+#include "powerbuttons/editor_rules.h"
+
+#include <QDialog>
+#include <QStringList>
+
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QPushButton;
+class QRadioButton;
+class QToolButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace tolvo {
+
+/// One object serves any number of editings: init(), exec(). All but the settings of an Action that runs
+/// another PowerButton are asked through `settings`.
+class frmPowerButton : public QDialog, private ActionSettings {
+    Q_OBJECT
+  public:
+    frmPowerButton(CPowerButtonCollection &buttons, CPowerButtonMethods &methods, const Catalogue &tools,
+                   MessageBoxes &boxes, ActionSettings &settings, QWidget *parent = nullptr);
+
+    /// Begins with the button of an index from 0.
+    void init(int index);
+    /// Cancel and the close box: everything since the last save is taken back.
+    void reject() override;
+
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+  private:
+    std::optional<QString> getSettings(const QString &token, const QString &details) override;
+
+    void makeTree(const Catalogue &tools);
+    void makeHead();
+    void makeAction();
+    void makeMenus(const Catalogue &tools);
+    QWidget *makeFoot();
+    void arrange(QWidget *foot);
+    QPushButton *makeButton(const char *name, const QString &caption);
+
+    void fill();
+    void showToolInTree();
+    void choose(const QTreeWidgetItem *item);
+    void editIcon();
+    bool save();
+    void loadExample(const CPowerButton &example);
+
+    CPowerButtonCollection &m_buttons;
+    MessageBoxes &m_boxes;
+    ActionSettings &m_settings;
+    EditorRules m_rules;
+    QStringList m_recentCharacters;
+
+    QTreeWidget *m_tree = nullptr;
+    QWidget *m_head = nullptr;
+    QLineEdit *m_name = nullptr;
+    QToolButton *m_icon = nullptr;
+    QGroupBox *m_frame = nullptr;
+    QLabel *m_tool = nullptr;
+    QLabel *m_toolTip = nullptr;
+    QLabel *m_details = nullptr;
+    QRadioButton *m_prompt = nullptr;
+    QRadioButton *m_current = nullptr;
+    QRadioButton *m_custom = nullptr;
+    QPushButton *m_askSettings = nullptr;
+    QPushButton *m_left = nullptr;
+    QPushButton *m_right = nullptr;
+    QPushButton *m_add = nullptr;
+    QPushButton *m_delete = nullptr;
+    QPushButton *m_examples = nullptr;
+    QMenu *m_addMenu = nullptr;
+};
+
+} // namespace tolvo
