@@ -58,10 +58,11 @@ class cToolbox {
     struct Hooks {
         std::function<void()> rowsChanged;           ///< show rows() now
         std::function<void(int milliseconds)> delay; ///< waits while window events go on
-        std::function<void()> playSound;             ///< knows whether sounds are on
     };
 
     void setHooks(Hooks hooks) { m_hooks = std::move(hooks); }
+    /// Called when tools slide in or out; it knows whether sounds are on.
+    void setSound(std::function<void()> play) { m_playSound = std::move(play); }
 
     /// Takes the visible lines of the catalogue and lays them out with all categories closed.
     void init(const QList<Catalogue::PanelItem> &items);
@@ -92,6 +93,7 @@ class cToolbox {
     void playSound() const;
 
     Hooks m_hooks;
+    std::function<void()> m_playSound;
     QList<Catalogue::PanelItem> m_items;
     std::array<Row, rowCount> m_rows;
     int m_openLayer = 0;

@@ -28,7 +28,6 @@
 namespace tolvo {
 
 class cToolbox;
-struct SpellingServices;
 
 /// What a session is built on. All outlive it.
 struct SessionServices {
@@ -41,7 +40,7 @@ struct SessionServices {
     CPowerButtonCollection &oPowerButtons;
     SessionWindows &windows;
     SessionView &view;
-    SpellingServices &spelling;
+    const SpellingServices &spelling;
     SpellingWalk &spellingWalk;
     LanguageChooser &languages;
 };
@@ -64,6 +63,8 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     [[nodiscard]] TextBox &txtCurrent() override { return *m_txtCurrent; }
     [[nodiscard]] const QString &labStatus() const { return m_status; }
     void setStatus(const QString &text) override;
+    /// A box with the application's title.
+    void say(const QString &text, BoxIcon icon = BoxIcon::Information);
     [[nodiscard]] bool bDirty() const { return m_dirty; }
     void setDirty(bool dirty) { m_dirty = dirty; }
     bool bRightButton = false; ///< the next tool runs with its last settings, without its dialog
@@ -129,7 +130,6 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void ExtendSelectionToLines();
     void moveLinesUp();
     void moveLinesDown();
-    void selectBetweenTags();
     /// chSPE and chGRA; with an Action its language, without one that of the store or of the language list.
     void checkSpelling(bool grammar, const CAction *action);
     void OpenSearchDialog(bool bReplace);
@@ -146,6 +146,9 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     /// event.
     void runAction(const CAction &action);
 
+    /// The PowerButton that an Action of pbPBT names.
+    void runNestedPowerButton(const CAction &action);
+
     /// Runs `action` where an event enters: a failure that nothing else caught is reported under
     /// "frmMain" and the given procedure, and goes no further.
     template <class Action>
@@ -158,15 +161,19 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     [[nodiscard]] SearchResults &results() override { return m_results; }
     [[nodiscard]] bool interrupted() override;
     void processEvents() override;
+    [[nodiscard]] const cTextMethods &textMethods() const override { return oTextMethods; }
 
     [[nodiscard]] cUndo::Hooks undoHooks();
-    void showUndoRedo();
-    void say(const QString &text, BoxIcon icon = BoxIcon::Information);
     /// What is left of a tool that failed is taken back; then the failure goes on.
     template <class Action>
     void keepingText(Action &&action);
+    void beep();
+    [[nodiscard]] CloseAnswer askAboutChanges();
+    void showOtherState(bool (cUndo::*step)(TextState &));
     void swapFonts();
     void hideWindow();
+    [[nodiscard]] int languageOfCheck(const CAction *action);
+    void runSpellingCheck(bool grammar, const CAction *action);
     void countTool(const QString &token);
     /// ToolDespatcher and imgPower_Click for callers inside the session: failures go on.
     void runTool(const QString &token);
@@ -199,10 +206,12 @@ void frmMain::guarded(const char16_t *procedure, Action &&action) {
 template <class Action>
 void frmMain::keepingText(Action &&action) {
     const TextState before = textState();
+    const bool dirty = m_dirty;
     try {
         action();
     } catch (...) {
         restore(before);
+        m_dirty = dirty;
         throw;
     }
 }

@@ -32,7 +32,7 @@ struct RunServices {
     Clock &clock;
     FileExtensions &extensions;
     QString programFolder; ///< folder of the executable; Tools.dat, scrbar.wav and the companions lie there
-    SpellingServices &spelling; ///< what a spelling check is built on
+    const SpellingServices &spelling; ///< what a spelling check is built on
 };
 
 /// The window side of a run: the main window and what it opens. Made by a SessionWindowFactory when the run
@@ -50,7 +50,7 @@ class SessionWindow {
     [[nodiscard]] virtual LanguageChooser &languages() = 0;
 
     /// The session exists now; from here on events may reach it. The panel of tools is still empty: `toolbox`
-    /// gets its hooks here (the sound's is set by the run).
+    /// gets its hooks here (its sound is set by the run).
     virtual void attach(frmMain &session, cToolbox &toolbox) = 0;
     /// Paints the icons of the eight PowerButtons.
     virtual void initIcons() = 0;

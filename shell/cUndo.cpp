@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "shell/cUndo.h"
+
+namespace tolvo {
+
+cUndo::cUndo(Hooks hooks) : m_hooks(std::move(hooks)) {
+}
+
+void cUndo::store(const TextState &state) {
+    m_states.resize(m_next); // what Redo could reach is out of reach now
+    m_states.append(state);
+    m_last = m_next;
+    ++m_next;
+}
+
+bool cUndo::Push(const TextState &state) {
+    if (m_next > 0 && state.text == m_states.at(m_next - 1).text)
+        return false;
+    store(state);
+    m_hooks.enableRedo(false);
+    m_hooks.enableUndo(true);
+    return true;
+}
+
+bool cUndo::Pull(TextState &state) {
+    if (m_next <= 1) {
+        m_hooks.setStatus(QStringLiteral("Reached end of Undo buffer"));
+        m_hooks.beep();
+        return false;
+    }
+    if (state.text != m_states.at(m_next - 1).text)
+        store(state);
+    --m_next;
+    state = m_states.at(m_next - 1);
+    m_hooks.enableRedo(true);
+    return true;
+}
+
+bool cUndo::Redo(TextState &state) {
+    if (m_next > m_last) {
+        m_hooks.beep();
+        m_hooks.setStatus(QStringLiteral("Reached end of Redo buffer"));
+        return false;
+    }
+    if (state.text != m_states.at(m_next - 1).text && !m_hooks.mayDiscardTyping())
+        return false;
+    state = m_states.at(m_next);
+    ++m_next;
+    return true;
+}
+
+} // namespace tolvo

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// Running a PowerButton: its Actions one after another, each on the text as the one before left it.
+#include "base/application.h"
+#include "base/conversions.h"
+#include "base/strings.h"
+#include "shell/frmMain.h"
+#include "shell/tool_table.h"
+
+namespace tolvo {
+
+namespace {
+
+/// A PowerButton that runs itself, directly or through others. It ends the whole run, not one Action.
+class PowerButtonCycle : public Failure {
+  public:
+    explicit PowerButtonCycle(int index)
+        : Failure(failureNumber::nestingTooDeep, QStringLiteral("PowerButton %1 runs itself").arg(index + 1),
+                  QStringLiteral("PowerButtonDespatcher")) {}
+};
+
+/// A number in a list for as long as this lives.
+class Listed {
+  public:
+    Listed(QList<int> &list, int number) : m_list(list) { m_list.append(number); }
+    ~Listed() { m_list.removeLast(); }
+    Listed(const Listed &) = delete;
+    Listed &operator=(const Listed &) = delete;
+
+  private:
+    QList<int> &m_list;
+};
+
+} // namespace
+
+void frmMain::imgPower_Click(int index) {
+    guarded(u"imgPower_Click", [&] {
+        const TextState before = textState();
+        try {
+            runPowerButton(index);
+        } catch (const PowerButtonCycle &cycle) {
+            restore(before);
+            ReportError(m_services.boxes, QStringLiteral("frmMain"), QStringLiteral("PowerButtonDespatcher"),
+                        cycle);
+        }
+    });
+}
+
+void frmMain::runPowerButton(int index) {
+    if (bRightButton) {
+        m_services.windows.editPowerButton(index);
+        m_services.view.powerButtonChanged(index);
+        txtCurrent().setFocus();
+        return;
+    }
+    if (m_runningButtons.contains(index))
+        throw PowerButtonCycle(index);
+    const std::shared_ptr<CPowerButton> button = m_services.oPowerButtons.Item(index + 1);
+    if (!button)
+        throw Failure(failureNumber::invalidArgument,
+                      QStringLiteral("There is no PowerButton %1").arg(index + 1));
+    if (button->Count() == 0) {
+        m_services.boxes.show(
+            {.text = QStringLiteral("There are no actions defined for this PowerButton\r\n\r\n"
+                                    "Right-click the PowerButton to define a series of actions"),
+             .title = QStringLiteral("PowerButton %1").arg(index + 1)});
+        return;
+    }
+    {
+        const Listed running(m_runningButtons, index);
+        const int count = button->Count();
+        for (int position = 1; position <= count; ++position) {
+            if (const std::shared_ptr<CAction> action = button->Item(position))
+                runAction(*action);
+        }
+    }
+    sLastTool = QStringLiteral("PB%1").arg(index);
+    txtCurrent().setFocus();
+}
+
+void frmMain::runAction(const CAction &action) {
+    const ToolPtr tool = action.Tool();
+    if (!tool)
+        return;
+    m_services.store.increment(statisticsTree(), QStringLiteral("PBUsage"), tool->Token());
+    m_services.store.increment(statisticsTree(), QStringLiteral("TotPBUsage"), tool->Token());
+    if (!tool->gotDialog()) {
+        runTool(tool->Token());
+        return;
+    }
+    switch (action.DlgOption()) {
+    case Prompt:
+        runTool(tool->Token());
+        break;
+    case Custom:
+        PowerButtonDespatcher(action);
+        break;
+    case Current:
+        // Stays set for the rest of the run: Actions behind this one run without their dialogs as well, until
+        // the next mouse press. Buttons have been put together with this in mind.
+        bRightButton = true;
+        runTool(tool->Token());
+        break;
+    default:
+        break;
+    }
+}
+
+void frmMain::PowerButtonDespatcher(const CAction &action) {
+    try {
+        runWithSettings(action);
+    } catch (const PowerButtonCycle &) {
+        throw;
+    } catch (const Failure &failure) {
+        ReportError(m_services.boxes, QStringLiteral("frmMain"), QStringLiteral("PowerButtonDespatcher"),
+                    failure);
+    }
+}
+
+void frmMain::runWithSettings(const CAction &action) {
+    const CTool &tool = *action.Tool();
+    pushUndo();
+    countTool(tool.Token());
+    const ToolRow *row = toolRow(tool.Token());
+    if (!row || !row->gotDialog())
+        throw Failure(
+            failureNumber::noHandler,
+            FillTemplate(QStringLiteral("No handler for Tool '%0' (%1)"), {tool.Name(), tool.Token()}),
+            QStringLiteral("PowerButtonDespatcher"));
+    keepingText([&] { runToolRow(*this, *row, &action); });
+}
+
+void frmMain::runNestedPowerButton(const CAction &action) {
+    runPowerButton(toInteger(action.Param(QStringLiteral("PowerButton"))) - 1);
+}
+
+} // namespace tolvo

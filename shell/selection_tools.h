@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// Tools that look at the text or move the selection, with no operation of the text engine behind them.
+#pragma once
+
+#include <QStringView>
+
+namespace tolvo {
+
+class frmMain;
+
+/// Where the line begins (ends, its CR LF not counted) that holds a position. All positions from 0.
+[[nodiscard]] int lineStart(QStringView text, int position);
+[[nodiscard]] int lineEnd(QStringView text, int position);
+
+void showStatistics(frmMain &session);
+void clearSelection(frmMain &session);
+void selectAll(frmMain &session);
+/// Selects what stands between the first \[ and the next \].
+void selectBetweenTags(frmMain &session);
+void copySelection(frmMain &session);
+void cutSelection(frmMain &session);
+void deleteSelection(frmMain &session);
+/// The inserted text is selected afterwards. Nothing checks the limit: the text box cuts what is too much.
+void pasteAndSelect(frmMain &session);
+
+} // namespace tolvo

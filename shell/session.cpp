@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+// The session: text from the clipboard, text to the clipboard, undo, word wrap, fonts.
+#include "shell/frmMain.h"
+
+#include "base/application.h"
+#include "base/conversions.h"
+#include "base/numbers.h"
+#include "base/strings.h"
+#include "preferences/settings_table.h"
+
+namespace tolvo {
+
+// Text from the clipboard
+
+void frmMain::useTextBox(bool wrapped) {
+    bWordWrap = wrapped;
+    m_txtCurrent = wrapped ? &m_txtTextWW : &m_txtText1;
+    m_services.view.showTextBox(wrapped);
+}
+
+void frmMain::takeClipboard() {
+    const QString text = m_services.clipboard.takeText();
+    if (text.size() >= textLimit) {
+        // A text of exactly the limit fits, and still counts as too long.
+        say(FillTemplate(
+                QStringLiteral("The text on the Clipboard exceeds the number of characters that Tolvo\r\n"
+                               "can process (%0). There are %1 characters.\r\n"
+                               "Tolvo has truncated the text. Some characters have been lost."),
+                {groupedNumber(textLimit), groupedNumber(text.size())}),
+            BoxIcon::Exclamation);
+    }
+    txtCurrent().setText(text);
+}
+
+void frmMain::beginWithClipboard() {
+    takeClipboard();
+    beginWithText();
+}
+
+void frmMain::beginWithText() {
+    pushUndo();
+    m_dirty = false;
+}
+
+void frmMain::cmdRefresh_Click() {
+    guarded(u"cmdRefresh_Click", [this] {
+        pushUndo();
+        takeClipboard();
+        m_dirty = false;
+        setStatus(QStringLiteral("Text retrieved from clipboard"));
+    });
+}
+
+bool frmMain::mayPaste() {
+    const qint64 present = txtCurrent().length();
+    const qint64 coming = m_services.clipboard.readText().size();
+    // The selection that the paste would replace is not subtracted.
+    if (present + coming < textLimit)
+        return true;
+    say(FillTemplate(QStringLiteral("You cannot paste this text.\r\n\r\n"
+                                    "The current text (%0 characters) plus what is on the clipboard\r\n"
+                                    "exceeds the number of characters that Tolvo can process (%1).\r\n"
+                                    "There are %2 characters on the clipboard."),
+                     {groupedNumber(present), groupedNumber(textLimit), groupedNumber(coming)}),
+        BoxIcon::Exclamation);
+    return false;
+}
+
+// The end
+
+void frmMain::cmdClose_Click() {
+    guarded(u"cmdClose_Click", [this] {
+        m_services.clipboard.writeText(txtCurrent().Text());
+        beep();
+        m_dirty = false;
+        hideWindow();
+    });
+}
+
+void frmMain::cmdCancel_Click() {
+    guarded(u"cmdCancel_Click", [this] {
+        setStatus({});
+        if (!m_dirty) {
+            hideWindow();
+            return;
+        }
+        switch (askAboutChanges()) {
+        case CloseAnswer::Discard:
+            m_dirty = false;
+            hideWindow();
+            break;
+        case CloseAnswer::CopyAndClose:
+            cmdClose_Click();
+            break;
+        case CloseAnswer::Cancel:
+            break;
+        }
+    });
+}
+
+bool frmMain::queryUnload() {
+    if (m_dirty) {
+        const CloseAnswer answer = askAboutChanges();
+        if (answer == CloseAnswer::Cancel)
+            return false;
+        if (answer == CloseAnswer::CopyAndClose) {
+            cmdClose_Click();
+            return bSessionOver; // a failure on the way to the clipboard keeps the text in its window
+        }
+    }
+    bSessionOver = true;
+    return true;
+}
+
+CloseAnswer frmMain::askAboutChanges() {
+    return m_services.windows.confirmClose(QStringLiteral("Changes have been made to the text"));
+}
+
+void frmMain::hideWindow() {
+    bSessionOver = true;
+    m_services.view.hide();
+}
+
+// Undo
+
+void frmMain::cmdUndo_Click() {
+    guarded(u"cmdUndo_Click", [this] { showOtherState(&cUndo::Pull); });
+}
+
+void frmMain::cmdRedo_Click() {
+    guarded(u"cmdRedo_Click", [this] { showOtherState(&cUndo::Redo); });
+}
+
+void frmMain::showOtherState(bool (cUndo::*step)(TextState &)) {
+    setStatus({});
+    TextState state = textState();
+    if (!(oUndo.*step)(state))
+        return;
+    restore(state);
+    m_dirty = true; // also when the text is again the one that came from the clipboard
+}
+
+// Word wrap and fonts
+
+void frmMain::imgWordwrap_Click() {
+    guarded(u"imgWordwrap_Click", [this] { toggleWordwrap(!bWordWrap); });
+}
+
+void frmMain::toggleWordwrap(bool bOn) {
+    bWordWrap = bOn;
+    writeSetting(m_services.store, u"Preferences", u"Wordwrap", flagDigit(bOn));
+    TextBox &target = bOn ? m_txtTextWW : m_txtText1;
+    TextBox &source = bOn ? m_txtText1 : m_txtTextWW;
+    if (m_txtCurrent != &target) {
+        const bool dirty = m_dirty;
+        m_txtCurrent = &target;
+        target.setText(source.Text());
+        // The name alone: the size may then differ from what the Options say.
+        Font font = m_services.view.textFont(bOn);
+        font.name = m_services.view.textFont(!bOn).name;
+        m_services.view.setTextFont(bOn, font);
+        select(target, source.SelStart(), source.SelLength());
+        source.setText({});
+        m_services.view.showTextBox(bOn);
+        m_dirty = dirty; // moving the text between the boxes is no change
+    }
+    target.setFocus();
+    setStatus(bOn ? QStringLiteral("Word wrap now ON") : QStringLiteral("Word wrap now OFF"));
+}
+
+void frmMain::imgOptions_Click() {
+    guarded(u"imgOptions_Click", [this] {
+        setStatus({});
+        if (bRightButton)
+            swapFonts();
+        else
+            m_services.windows.showOptions();
+    });
+}
+
+void frmMain::swapFonts() {
+    bFontUseProp = !bFontUseProp;
+    applyFonts();
+    writeSetting(m_services.store, u"Preferences", u"FontUseProp", flagDigit(bFontUseProp));
+}
+
+void frmMain::applyFonts() {
+    m_services.view.setTextFont(m_txtCurrent == &m_txtTextWW, aFonts.at(bFontUseProp ? 0 : 1));
+}
+
+Font frmMain::currentFont() const {
+    return m_services.view.textFont(m_txtCurrent == &m_txtTextWW);
+}
+
+// About and help
+
+void frmMain::imgAbout_Click() {
+    guarded(u"imgAbout_Click", [this] {
+        setStatus({});
+        m_services.windows.showAbout();
+    });
+}
+
+void frmMain::imgHelp_Click() {
+    guarded(u"imgHelp_Click", [this] {
+        setStatus({});
+        say(QStringLiteral("Help is not implemented yet"));
+    });
+}
+
+} // namespace tolvo

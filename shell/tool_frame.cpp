@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+// The frame through which every tool runs: undo, counters, status, and the selection rule.
+#include "base/application.h"
+#include "base/failure.h"
+#include "shell/cToolbox.h"
+#include "shell/frmMain.h"
+#include "shell/tool_table.h"
+
+#include <limits>
+
+namespace tolvo {
+
+namespace {
+
+/// Five tools and two sorts hold the length of a selection in a signed 16-bit integer.
+constexpr int longestSixteenBit = std::numeric_limits<qint16>::max();
+
+QString removedText(int count) {
+    return QString::number(count) +
+           (count == 1 ? QStringLiteral(" character removed") : QStringLiteral(" characters removed"));
+}
+
+QString statusText(const ToolStatus &status, int lengthBefore, int lengthAfter, bool warned) {
+    const QString text = QString::fromUtf16(status.text);
+    switch (status.kind) {
+    case ToolStatus::None:
+        break;
+    case ToolStatus::Text:
+        return text;
+    case ToolStatus::Length:
+        return QString::number(lengthAfter) + text;
+    case ToolStatus::LengthUnwarned:
+        return warned ? QString() : QString::number(lengthAfter) + text;
+    case ToolStatus::Removed:
+        return removedText(lengthBefore - lengthAfter);
+    }
+    return {};
+}
+
+ToolInput toolInput(frmMain &session, const ToolRow &row) {
+    TextBox &box = session.txtCurrent();
+    if (box.SelLength() == 0)
+        return {session, box.Text(), 0, false};
+    if (row.rule.reach == SelectionRule::WholeLines)
+        session.ExtendSelectionToLines();
+    if (row.sixteenBit && box.SelLength() > longestSixteenBit)
+        failOverflow();
+    return {session, box.SelText(), box.SelStart(), true};
+}
+
+void writeResult(TextBox &box, const ToolInput &input, const QString &result, SelectionRule::Length length) {
+    if (!input.selected) {
+        box.setText(result);
+        return;
+    }
+    box.setSelText(result);
+    if (length == SelectionRule::OldLength)
+        select(box, input.start, static_cast<int>(input.text.size()));
+    else if (length == SelectionRule::NewLength)
+        select(box, input.start, static_cast<int>(result.size()));
+}
+
+/// A sort can't work on the text, which stays.
+void refuse(frmMain &session, const ToolRow &row, bool selected) {
+    const bool tell = row.refusal.when == SortRefusal::Always || !selected;
+    if (!tell || row.refusal.statusToo)
+        session.setStatus(QString::fromUtf16(row.status.text));
+    if (tell)
+        session.say(QString::fromUtf16(row.refusal.message));
+}
+
+void runTextOperation(frmMain &session, const ToolRow &row, const TextOperation &operation) {
+    TextBox &box = session.txtCurrent();
+    const int lengthBefore = box.length();
+    const int warningsBefore = session.warnings();
+    const ToolInput input = toolInput(session, row);
+    const QString result = operation(input);
+    if (row.refusal.message && result == sortError) {
+        refuse(session, row, input.selected);
+        return;
+    }
+    writeResult(box, input, result, row.rule.length);
+    if (row.status.kind != ToolStatus::None)
+        session.setStatus(
+            statusText(row.status, lengthBefore, box.length(), session.warnings() > warningsBefore));
+}
+
+} // namespace
+
+void runToolRow(frmMain &session, const ToolRow &row, const CAction *action) {
+    if (row.operation.procedure) {
+        row.operation.procedure(session, action);
+        return;
+    }
+    const std::optional<TextOperation> operation = row.operation.prepare(session, action);
+    if (operation)
+        runTextOperation(session, row, *operation);
+}
+
+void frmMain::ToolDespatcher(const QString &token) {
+    guarded(u"ToolDespatcher", [&] { runTool(token); });
+}
+
+void frmMain::runTool(const QString &token) {
+    pushUndo();
+    countTool(token);
+    setStatus({});
+    sLastTool = token;
+    const ToolRow *row = toolRow(token);
+    if (row && !row->powerButtonOnly) {
+        keepingText([&] { runToolRow(*this, *row, nullptr); });
+    } else {
+        say(QStringLiteral("This tool is not implemented yet"));
+        sLastTool.clear();
+    }
+    pushUndo();
+}
+
+void frmMain::countTool(const QString &token) {
+    m_services.store.increment(statisticsTree(), QStringLiteral("Usage"), token);
+    m_services.store.increment(statisticsTree(), QStringLiteral("TotUsage"), token);
+}
+
+void frmMain::lblToolbox_Click(cToolbox &oToolbox, int row) {
+    if (oToolbox.rolling())
+        return;
+    setStatus({});
+    const cToolbox::Row clicked = oToolbox.row(row);
+    if (clicked.isCategory())
+        guarded(u"lblToolbox_Click", [&] { oToolbox.Layout(clicked.tag.last(1).toInt()); });
+    else
+        ToolDespatcher(clicked.tag);
+    bRightButton = false;
+}
+
+void frmMain::imgFavourites_Click(const QString &tag) {
+    guarded(u"imgFavourites_Click", [&] {
+        if (tag == QLatin1StringView("foBOTH")) {
+            const int lengthBefore = txtCurrent().length();
+            runTool(QStringLiteral("foTRA"));
+            runTool(QStringLiteral("foSSP"));
+            setStatus(removedText(lengthBefore - txtCurrent().length()));
+        } else if (tag == QLatin1StringView("chPNC")) {
+            runTool(QStringLiteral("edPLA"));
+            runTool(QStringLiteral("chPNC"));
+        } else {
+            runTool(tag);
+        }
+    });
+}
+
+} // namespace tolvo
