@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/Proofing.h"
 
-#include "base/application.h"
-#include "base/conversions.h"
 #include "platform/report_error.h"
-#include "preferences/settings_store.h"
+#include "spelling/languages.h"
+#include "spelling/spelling_provider.h"
 #include "spelling/word_automation.h"
 
 namespace tolvo {
-
-namespace {
-
-const QString section = QStringLiteral("Spelling");
-
-} // namespace
 
 Proofing::Proofing(const SpellingServices &services, ProofingHost &host, SpellingWalk &walk)
     : m_services(services), m_host(host), m_walk(walk) {
@@ -32,12 +25,8 @@ bool Proofing::proof(QString &text, int LangID, bool grammar) {
         prepareSpelling(m_services);
         QString checked = text;
         checked.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
-        const SettingsStore &store = m_services.store;
-        const int provider =
-            toInteger(store.GetSetting(applicationTitle(), section, QStringLiteral("Provider"), 1));
-        const QString useWordDialog =
-            store.GetSetting(applicationTitle(), section, QStringLiteral("UseWordDialog"), true);
-        if (provider == 0 && useWordDialog == flagWord(true)) {
+        const LanguageList settings(m_services.store);
+        if (settings.provider() == providerType::word && settings.useWordDialog()) {
             checkInWord(checked, LangID, grammar);
         } else {
             QString corrected = checked;
@@ -52,7 +41,7 @@ bool Proofing::proof(QString &text, int LangID, bool grammar) {
             {.text = QStringLiteral("Microsoft Word must be installed to check spelling and grammar")});
     };
     bool done = true;
-    const bool unreported =
+    const bool quiet =
         reportFailures(m_services.boxes, QStringLiteral("cTextMethods"), QStringLiteral("Proofing"), [&] {
             try {
                 work();
@@ -63,7 +52,7 @@ bool Proofing::proof(QString &text, int LangID, bool grammar) {
                 wordIsMissing();
             }
         });
-    return done && unreported;
+    return done && quiet;
 }
 
 void Proofing::checkInWord(QString &text, int LangID, bool grammar) {

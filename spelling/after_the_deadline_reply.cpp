@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+// The walk through a reply of After the Deadline.
+#include "spelling/after_the_deadline.h"
+
+#include "base/strings.h"
+#include "platform/report_error.h"
+#include "spelling/words.h"
+
+#include <QSet>
+#include <QStringList>
+#include <functional>
+
+namespace tolvo {
+
+namespace {
+
+/// An element is missing that every error must have.
+constexpr int missingElement = 91;
+
+QString textOf(const QDomElement &error, const QString &name) {
+    const QDomElement element = error.firstChildElement(name);
+    if (element.isNull())
+        throw Failure(
+            missingElement,
+            QStringLiteral("The reply of After the Deadline holds an error without '%1'").arg(name));
+    return element.text();
+}
+
+class ReplyWalk {
+  public:
+    ReplyWalk(const SpellingServices &services, LocalDictionary &dictionary, const QString &text)
+        : m_services(services), m_dictionary(dictionary), m_text(text) {}
+
+    CSpellingErrors walk(const QDomElement &root) {
+        for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            if (node.nodeName() == QStringLiteral("message")) {
+                report(node.toElement().text(), failureNumber::serviceMessage);
+                break;
+            }
+            if (node.nodeName() != QStringLiteral("error")) {
+                // The message ends without a closing quote.
+                report(QStringLiteral("Unexpected node result '") + node.nodeName(),
+                       failureNumber::unexpectedElement);
+                continue;
+            }
+            readError(node.toElement());
+        }
+        return m_errors;
+    }
+
+  private:
+    void report(const QString &text, int number) {
+        ReportError(m_services.boxes, QStringLiteral("CSpelling"), QStringLiteral("Spell"), text, number);
+    }
+
+    /// Runs a step. Once suggestions have been read, a step that fails is passed over: what it would have set
+    /// keeps its value from the error before.
+    bool attempt(const std::function<void()> &step) {
+        if (!m_quiet) {
+            step();
+            return true;
+        }
+        try {
+            step();
+            return true;
+        } catch (const Failure &) {
+            return false;
+        }
+    }
+
+    [[nodiscard]] bool isKnown(const QString &text) { return m_dictionary.checkHunspell(text).Count() == 0; }
+
+    void readError(const QDomElement &error) {
+        attempt([&] { m_phrase = textOf(error, QStringLiteral("string")); });
+        attempt([&] { m_type = typeOf(textOf(error, QStringLiteral("type"))); });
+        attempt([&] { m_description = textOf(error, QStringLiteral("description")); });
+        attempt([&] { m_precontext = textOf(error, QStringLiteral("precontext")); });
+        qsizetype start = -1;
+        // Its failure leaves no place at all.
+        attempt([&] { start = findThePlace(m_services.boxes, 1, m_text, m_phrase, m_precontext) - 1; });
+        // A phrase is always found at its first place. If an error has that one already, asking again would
+        // go on for ever: there is no other place for this error.
+        if (start < 0 || m_places.contains(start))
+            return;
+        const bool isSpelling = m_type == spellingErrorType::notInDictionary;
+        if (isSpelling && isKnown(m_phrase))
+            return;
+        CSpellingError &added = m_errors.Add(m_phrase, start, start + m_phrase.size(), m_type);
+        m_places.insert(start);
+        added.Description = m_description;
+        m_quiet = true;
+        readOptions(error.firstChildElement(QStringLiteral("suggestions")), added.SpellingSuggestions(),
+                    !isSpelling);
+    }
+
+    static int typeOf(const QString &word) {
+        const int index = IndexInList(word, {QStringLiteral("spelling"), QStringLiteral("capitalisation"),
+                                             QStringLiteral("grammar"), QStringLiteral("suggestion")});
+        return index < 0 ? spellingErrorType::unknown : index + 1;
+    }
+
+    void readOptions(const QDomElement &suggestions, CSpellingSuggestions &list, bool mayOmit) {
+        const QString name = QStringLiteral("option");
+        for (QDomElement option = suggestions.firstChildElement(name); !option.isNull();
+             option = option.nextSiblingElement(name)) {
+            QString text = option.text();
+            if (mayOmit && text == QStringLiteral("(omit)"))
+                text = QStringLiteral("<Omit>");
+            else if (!isKnown(text))
+                continue;
+            // An option that the list holds already is passed over like any other failure.
+            attempt([&] { list.Add(m_phrase, text, text); });
+        }
+    }
+
+    const SpellingServices &m_services;
+    LocalDictionary &m_dictionary;
+    const QString &m_text;
+    CSpellingErrors m_errors;
+    QSet<qsizetype> m_places; ///< the starts of m_errors
+    bool m_quiet = false;
+    QString m_phrase;
+    int m_type = spellingErrorType::unknown;
+    QString m_description;
+    QString m_precontext;
+};
+
+} // namespace
+
+CSpellingErrors AfterTheDeadline::parseAtD(const QDomDocument &document, const QString &text) {
+    return ReplyWalk(m_services, m_dictionary, text).walk(document.documentElement());
+}
+
+} // namespace tolvo

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "spelling/hunspell_provider.h"
+
+#include "platform/report_error.h"
+#include "spelling/dictionaries.h"
+#include "spelling/words.h"
+
+namespace tolvo {
+
+void LocalDictionary::initHunspell(const SpellingServices &services, const QString &locale) {
+    m_engine = std::make_shared<HunspellEngine>();
+    const auto files = findDictionary(locale, dictionaryFolders(services.programFolder));
+    if (!files || !m_engine->init(files->aff, files->dic)) {
+        ReportError(services.boxes, QStringLiteral("CSpelling"), QStringLiteral("init"),
+                    QStringLiteral("Unable to initialise Hunspell provider"),
+                    failureNumber::hunspellNotInitialised);
+        return;
+    }
+    for (const QString &word : readPersonalDictionary(personalDictionaryPath(services)))
+        m_engine->Add(word);
+}
+
+CSpellingErrors LocalDictionary::checkHunspell(const QString &text) {
+    CSpellingErrors errors;
+    qsizetype position = 1;
+    while (position < text.size()) {
+        const QStringView word = getNextWord(text, position, false);
+        if (m_engine->Spell(word))
+            continue;
+        const QString wrong = word.toString();
+        CSpellingError &error =
+            errors.Add(wrong, position - word.size() - 1, position - 1, spellingErrorType::notInDictionary);
+        error.setSpellingSuggestions(hunspellSuggest(wrong));
+    }
+    return errors;
+}
+
+std::shared_ptr<CSpellingSuggestions> LocalDictionary::hunspellSuggest(const QString &word) {
+    const auto make = [engine = m_engine, word](CSpellingSuggestions &list) {
+        const QString joined = engine->suggest(word);
+        if (joined.isEmpty())
+            return;
+        int index = 0;
+        for (const QString &suggestion : joined.split(u'|'))
+            list.Add(QString::number(index++), suggestion, {});
+    };
+    return std::make_shared<CSpellingSuggestions>(make);
+}
+
+void HunspellProvider::AddToCustomDic(const QString &word) {
+    AddWordToDict(m_services.boxes, personalDictionaryPath(m_services), word);
+}
+
+} // namespace tolvo

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "spelling/languages.h"
+
+#include "base/application.h"
+#include "base/conversions.h"
+#include "base/failure.h"
+#include "preferences/settings_store.h"
+#include "spelling/locales.h"
+#include "spelling/spelling_provider.h"
+#include "spelling/word_automation.h"
+
+#include <memory>
+
+namespace tolvo {
+
+namespace {
+
+QString section() {
+    return QStringLiteral("Spelling");
+}
+
+/// The entries of a list, each with `fields` fields or more.
+QList<QStringList> entries(const QString &list, qsizetype fields) {
+    QList<QStringList> all;
+    for (const QString &entry : list.split(u'#')) {
+        const QStringList parts = entry.split(u'|');
+        if (parts.size() >= fields)
+            all += parts;
+    }
+    return all;
+}
+
+} // namespace
+
+QString LanguageList::value(const QString &key, const QString &otherwise) const {
+    return m_store.GetSetting(applicationTitle(), section(), key, otherwise);
+}
+
+void LanguageList::save(const QString &key, const QString &value) {
+    m_store.SaveSetting(applicationTitle(), section(), key, value);
+}
+
+QList<CSpellLanguage> LanguageList::wordLanguages() const {
+    QList<CSpellLanguage> languages;
+    for (const QStringList &fields :
+         entries(value(QStringLiteral("DictionaryList"), QStringLiteral("|<Default>|-1")), 3)) {
+        bool isNumber = false;
+        const int id = fields[2].toInt(&isNumber);
+        if (isNumber)
+            languages += CSpellLanguage::Constructor_Word(fields[1], fields[0], id);
+    }
+    return languages;
+}
+
+QString LanguageList::langFromID(int LangID) const {
+    for (const CSpellLanguage &language : wordLanguages()) {
+        if (language.ID == LangID)
+            return language.Description;
+    }
+    return {};
+}
+
+QList<CSpellLanguage> LanguageList::quickList(int providerType, const Locales &locales) const {
+    if (providerType != providerType::word)
+        return quickHunspellLanguages(locales);
+    const QList<CSpellLanguage> all = wordLanguages();
+    QList<CSpellLanguage> quick;
+    for (const QString &number : wordQuickList()) {
+        for (const CSpellLanguage &language : all) {
+            if (QString::number(language.ID) == number) {
+                quick += language;
+                break;
+            }
+        }
+    }
+    return quick;
+}
+
+QList<CSpellLanguage> LanguageList::quickHunspellLanguages(const Locales &locales) const {
+    QList<CSpellLanguage> all;
+    for (const QStringList &fields :
+         entries(value(QStringLiteral("HunLangList"), QStringLiteral("English (GB)|en-gb")), 2))
+        all += CSpellLanguage::Constructor_Hun(fields[1], fields[1], fields[0], locales.idOf(fields[1], -1));
+    const QString none = QStringLiteral("<none>");
+    const QString chosen = value(QStringLiteral("HunQuickList"), none);
+    if (chosen == none)
+        return all;
+    QList<CSpellLanguage> quick;
+    for (const QString &locale : chosen.split(u'|')) {
+        for (const CSpellLanguage &language : all) {
+            if (language.Locale == locale) {
+                quick += language;
+                break;
+            }
+        }
+    }
+    return quick;
+}
+
+QList<HunspellLanguage> LanguageList::hunspellLanguages() const {
+    QList<HunspellLanguage> languages;
+    for (const QStringList &fields :
+         entries(value(QStringLiteral("HunLangList"), QStringLiteral("en-gb|English (UK)|English (UK)")), 2))
+        languages += HunspellLanguage{fields[0], fields[1], fields.value(2)};
+    return languages;
+}
+
+QStringList LanguageList::wordQuickList() const {
+    return value(QStringLiteral("QuickList"), QStringLiteral("-1")).split(u'|', Qt::SkipEmptyParts);
+}
+
+void LanguageList::saveWordQuickList(const QStringList &numbers) {
+    save(QStringLiteral("QuickList"), numbers.join(u'|'));
+}
+
+void LanguageList::saveWordLanguages(const QString &list) {
+    save(QStringLiteral("DictionaryList"), list);
+}
+
+bool LanguageList::useWordDialog() const {
+    return value(QStringLiteral("UseWordDialog"), flagWord(true)) == flagWord(true);
+}
+
+void LanguageList::saveUseWordDialog(bool use) {
+    save(QStringLiteral("UseWordDialog"), flagWord(use));
+}
+
+int LanguageList::provider() const {
+    return toInteger(value(QStringLiteral("Provider"), QStringLiteral("1")));
+}
+
+int LanguageList::storedLangID() const {
+    return toInteger(value(QStringLiteral("LangID"), QStringLiteral("-1")));
+}
+
+void LanguageList::saveLangID(int LangID) {
+    save(QStringLiteral("LangID"), QString::number(LangID));
+}
+
+QString readWordLanguages(WordAutomation &automation, const std::function<bool()> &cancelled) {
+    QString list = QStringLiteral("MS Word Default|<Default>|-1");
+    const std::unique_ptr<WordApplication> word = automation.create();
+    // Word is ours alone and hidden: it must not stay behind, whatever happens.
+    const auto quit = [](WordApplication *application) {
+        try {
+            application->quit();
+        } catch (const Failure &) {
+        }
+    };
+    const std::unique_ptr<WordApplication, decltype(quit)> atEnd(word.get(), quit);
+    for (const WordLanguage &language : word->languages()) {
+        if (cancelled())
+            return {};
+        list += u'#' + language.name + u'|' + language.localName + u'|' + QString::number(language.id);
+    }
+    return list;
+}
+
+} // namespace tolvo

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// The lists of languages that are kept in the settings store: entries separated by "#", fields by "|".
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+namespace tolvo {
+
+class Locales;
+class SettingsStore;
+class WordAutomation;
+
+struct CSpellLanguage {
+    QString LangLocal;   ///< what the language calls itself
+    QString Description; ///< its English name
+    QString Locale;      ///< Hunspell's name, empty for a language of Word
+    int ID = 0;          ///< Windows language number, -1 for Word's default
+
+    static CSpellLanguage Constructor_Hun(const QString &locale, const QString &langLocal,
+                                          const QString &description, int id) {
+        return {langLocal, description, locale, id};
+    }
+    static CSpellLanguage Constructor_Word(const QString &langLocal, const QString &description, int id) {
+        return {langLocal, description, {}, id};
+    }
+    /// As a row of a list shows it.
+    [[nodiscard]] QString row() const { return Description + QStringLiteral(" - ") + LangLocal; }
+};
+
+/// One row of Hunspell's own list of languages.
+struct HunspellLanguage {
+    QString locale;
+    QString language;
+    QString territory;
+};
+
+/// The section `Spelling` of the store, read as lists. Entries that don't have their fields are passed over.
+class LanguageList {
+  public:
+    explicit LanguageList(SettingsStore &store) : m_store(store) {}
+
+    /// Word's languages (`DictionaryList`).
+    [[nodiscard]] QList<CSpellLanguage> wordLanguages() const;
+    /// The name of a language of Word, empty if there is none of that number.
+    [[nodiscard]] QString langFromID(int LangID) const;
+
+    /// The rows of the quick list for a provider. Word's: those of `QuickList`. All others': those of
+    /// `HunQuickList`, or all of `HunLangList` while there is no quick list ("<none>").
+    [[nodiscard]] QList<CSpellLanguage> quickList(int providerType, const Locales &locales) const;
+
+    /// `HunLangList` as its window reads it: locale, language, territory.
+    [[nodiscard]] QList<HunspellLanguage> hunspellLanguages() const;
+
+    /// The numbers of `QuickList`.
+    [[nodiscard]] QStringList wordQuickList() const;
+    void saveWordQuickList(const QStringList &numbers);
+    void saveWordLanguages(const QString &list);
+
+    [[nodiscard]] bool useWordDialog() const;
+    void saveUseWordDialog(bool use);
+    [[nodiscard]] int provider() const;
+    [[nodiscard]] int storedLangID() const;
+    void saveLangID(int LangID);
+
+  private:
+    [[nodiscard]] QString value(const QString &key, const QString &otherwise) const;
+    void save(const QString &key, const QString &value);
+    [[nodiscard]] QList<CSpellLanguage> quickHunspellLanguages(const Locales &locales) const;
+
+    SettingsStore &m_store;
+};
+
+/// Word's list of languages in the form of `DictionaryList`, its default first. `cancelled` is asked before
+/// each language and may let pending events run; after a cancellation the text is empty. Word has quit in any
+/// case.
+[[nodiscard]] QString readWordLanguages(WordAutomation &automation, const std::function<bool()> &cancelled);
+
+} // namespace tolvo

@@ -1,0 +1,395 @@
+// SPDX-License-Identifier: MIT
+#include "spelling/spelling_walk.h"
+
+#include "base/application.h"
+#include "base/code_page.h"
+#include "base/conversions.h"
+#include "base/failure.h"
+#include "platform/message_box.h"
+#include "preferences/settings_store.h"
+#include "spelling/languages.h"
+#include "text/cTextMethods.h"
+
+#include <utility>
+
+namespace tolvo {
+
+namespace {
+
+QString moreRow() {
+    return QStringLiteral("<More...>");
+}
+
+QString omitRow() {
+    return QStringLiteral("<Omit>");
+}
+
+QString repeatedWord() {
+    return QStringLiteral("(Repeated word)");
+}
+
+} // namespace
+
+ErrorWalk::ErrorWalk(const SpellingServices &services, ProofingHost &host)
+    : m_services(services), m_host(host) {
+}
+
+ErrorWalk::~ErrorWalk() = default;
+
+bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
+    m_over = m_cancelled = false;
+    oIgnore.clear();
+    oChangeAll.clear();
+    m_undo.clear();
+    m_controls = {};
+    m_controls.caption =
+        QStringLiteral("Spelling and Grammar - ") + LanguageList(m_services.store).langFromID(LangID);
+    m_current = 1;
+    m_offset = 0;
+    m_host.setStatus(QStringLiteral("Checking. Please wait..."));
+    m_host.processEvents();
+
+    oSpelling = std::make_unique<CSpelling>(m_services, m_host.textMethods());
+    // Every other reader takes a missing provider for 1.
+    const int provider = toInteger(m_services.store.GetSetting(applicationTitle(), QStringLiteral("Spelling"),
+                                                               QStringLiteral("Provider"), 0));
+    // Always empty: a check runs in the default locale, whatever language is chosen.
+    QString localeName;
+    oSpelling->init(provider, LangID, localeName);
+    if (!oSpelling->Spell(text, grammar)) {
+        end();
+        return false;
+    }
+    oErrors = oSpelling->SpellingErrors();
+    m_text = MarkedText(text);
+    ShowNextError(true);
+    m_host.setStatus({});
+    return true;
+}
+
+void ErrorWalk::end() {
+    m_over = true;
+    m_undo.clear();
+    oErrors = {};
+    oSpelling.reset();
+}
+
+qsizetype ErrorWalk::errorStart() const {
+    return m_current <= oErrors.Count() ? current().TextStart() + m_offset : m_caret;
+}
+
+qsizetype ErrorWalk::errorLength() const {
+    return m_current <= oErrors.Count() ? current().length() : 0;
+}
+
+void ErrorWalk::ShowNextError(bool useChangeAll) {
+    while (m_current <= oErrors.Count()) {
+        const CSpellingError &error = current();
+        setMistake(error.ErrorText());
+        if (!passOver(error, useChangeAll)) {
+            m_controls.lstSuggestions.clear();
+            m_controls.selectedSuggestion = -1;
+            if (error.SpellingSuggestions().Count() > 0)
+                offerSuggestions(error);
+            else
+                offerNothing(error);
+            return;
+        }
+        ++m_current;
+        useChangeAll = true;
+    }
+    m_over = true;
+}
+
+/// Whether the error needs no user: its word is ignored, or is one that is changed everywhere.
+bool ErrorWalk::passOver(const CSpellingError &error, bool useChangeAll) {
+    const QString word = toUpper(error.ErrorText());
+    if (oIgnore.value(word) == QStringLiteral("all"))
+        return true;
+    markError(error);
+    m_controls.labErrorType =
+        aSpellErrorTypes.at(static_cast<std::size_t>(error.errorType + 1)).toString() + u':';
+    m_controls.labErrorDescription = error.Description;
+    if (!useChangeAll || !oChangeAll.contains(word))
+        return false;
+    const QString replacement = oChangeAll.value(word);
+    setCorrection(m_smartReplace ? m_host.textMethods().smartMatch(error.ErrorText(), replacement)
+                                 : replacement);
+    ReplaceCurrent();
+    return true;
+}
+
+/// An error at the very start is not marked. The caret goes to the place that the error had before any
+/// change, which the check of a bad replacement resumes by.
+void ErrorWalk::markError(const CSpellingError &error) {
+    if (error.TextStart() < 1) {
+        m_caret = 1;
+        return;
+    }
+    m_text.mark(error.TextStart() + m_offset, error.length(), Mark::Mistake);
+    m_caret = error.TextStart();
+}
+
+void ErrorWalk::offerNothing(const CSpellingError &error) {
+    m_controls.lstSuggestionsEnabled = false;
+    setCorrection(error.ErrorText());
+    setChangeEnabled(false);
+    QStringList &list = m_controls.lstSuggestions;
+    if (equalsIgnoringCase(PreviousWord(error.TextStart() + m_offset), error.ErrorText())) {
+        list += repeatedWord();
+        m_controls.cmdDeleteEnabled = true;
+    } else if (!error.Description.isEmpty() && error.errorType != spellingErrorType::notInDictionary) {
+        list += error.Description;
+    } else if (oSpelling->ProviderType() != providerType::afterTheDeadline) {
+        list += QStringLiteral("(No spelling suggestions)");
+    } else {
+        list = oSpelling->hunspellSuggest(error.ErrorText())->texts();
+        if (list.isEmpty())
+            return;
+        m_controls.lstSuggestionsEnabled = true;
+        select(0);
+    }
+}
+
+void ErrorWalk::offerSuggestions(const CSpellingError &error) {
+    const CSpellingSuggestions &suggestions = error.SpellingSuggestions();
+    QStringList &list = m_controls.lstSuggestions;
+    m_controls.lstSuggestionsEnabled = true;
+    list = suggestions.texts();
+    if (oSpelling->ProviderType() == providerType::afterTheDeadline &&
+        error.errorType == spellingErrorType::notInDictionary) {
+        oMoreSuggestions.clear();
+        for (const QString &suggestion : oSpelling->hunspellSuggest(error.ErrorText())->texts()) {
+            if (!suggestions.holds(suggestion))
+                oMoreSuggestions += suggestion;
+        }
+        if (!oMoreSuggestions.isEmpty())
+            list += moreRow();
+    }
+    select(0);
+}
+
+/// Selects a row and takes it as the correction.
+void ErrorWalk::select(int row) {
+    m_controls.selectedSuggestion = row;
+    setCorrection(m_controls.lstSuggestions.at(row));
+    setChangeEnabled(true);
+}
+
+void ErrorWalk::setMistake(const QString &text) {
+    if (text == m_controls.labMistake)
+        return;
+    m_controls.labMistake = text;
+    setCorrection(text);
+}
+
+void ErrorWalk::setCorrection(const QString &text) {
+    if (text == m_controls.txtCorrection)
+        return;
+    m_controls.txtCorrection = text;
+    const bool differs = text != m_controls.labMistake;
+    setChangeEnabled(differs);
+    if (differs)
+        m_controls.cmdDeleteEnabled = false;
+    else if (m_controls.lstSuggestions.value(0) == repeatedWord())
+        m_controls.cmdDeleteEnabled = true;
+}
+
+void ErrorWalk::setChangeEnabled(bool enabled) {
+    m_controls.cmdChangeEnabled = m_controls.cmdChangeAllEnabled = enabled;
+}
+
+QString ErrorWalk::PreviousWord(qsizetype position) const {
+    const QString &text = m_text.text();
+    qsizetype end = qMin(position, text.size());
+    while (end > 0 && text[end - 1] == u' ')
+        --end;
+    qsizetype first = end;
+    while (first > 0 && text[first - 1] != u' ')
+        --first;
+    return text.mid(first, end - first);
+}
+
+void ErrorWalk::ReplaceCurrent() {
+    PushUndo();
+    ReplaceAt(errorStart(), errorLength(), m_controls.txtCorrection);
+}
+
+void ErrorWalk::ReplaceAt(qsizetype start, qsizetype length, const QString &replacement) {
+    m_text.replace(start, length, replacement, Mark::Replaced);
+    m_offset += replacement.size() - length;
+}
+
+void ErrorWalk::PushUndo() {
+    m_undo.append(UndoRecord{m_text.state(), m_current, m_offset, oErrors, oChangeAll});
+    m_controls.cmdUndoEnabled = true;
+}
+
+void ErrorWalk::goOn() {
+    ++m_current;
+    ShowNextError(true);
+}
+
+void ErrorWalk::replaceAndGoOn() {
+    ReplaceCurrent();
+    goOn();
+}
+
+bool ErrorWalk::isOmitted(const QString &text) const {
+    return text == omitRow() || text.isEmpty();
+}
+
+void ErrorWalk::cmdIgnore() {
+    if (m_over)
+        return;
+    const CSpellingError &error = current();
+    if (error.TextStart() > 0)
+        m_text.mark(errorStart(), errorLength(), Mark::Plain);
+    const QString word = toUpper(error.ErrorText());
+    if (!oIgnore.contains(word))
+        oIgnore.insert(word, QStringLiteral("one"));
+    goOn();
+}
+
+void ErrorWalk::cmdIgnoreAll() {
+    if (m_over)
+        return;
+    oIgnore.insert(toUpper(current().ErrorText()), QStringLiteral("all"));
+    cmdIgnore();
+}
+
+void ErrorWalk::cmdAddToDic() {
+    if (m_over)
+        return;
+    oSpelling->AddToCustomDic(m_controls.labMistake);
+    cmdIgnoreAll();
+}
+
+void ErrorWalk::cmdChange() {
+    if (m_over)
+        return;
+    const QString word = m_controls.txtCorrection;
+    if (isOmitted(word))
+        cmdDelete();
+    else if (oSpelling->Spell(word, false))
+        replaceAndCheckAgain();
+    else
+        replaceAndGoOn();
+}
+
+void ErrorWalk::cmdChangeAll() {
+    if (m_over)
+        return;
+    const QString replacement = m_controls.txtCorrection;
+    if (replacement == omitRow()) {
+        cmdDelete();
+        return;
+    }
+    const QString word = current().ErrorText();
+    const bool misspelt = oSpelling->Spell(replacement, false);
+    if (misspelt) {
+        const Box question{.text = u'\'' + replacement + QStringLiteral("' may contain misspellings.\r\n") +
+                                   QStringLiteral("Do you really want to change all instances of '") + word +
+                                   QStringLiteral("'?"),
+                           .icon = BoxIcon::Question,
+                           .buttons = BoxButtons::YesNo};
+        if (m_services.boxes.show(question) != BoxAnswer::Yes)
+            return;
+    }
+    oChangeAll.insert(toUpper(word), replacement);
+    if (misspelt)
+        replaceAndCheckAgain();
+    else
+        replaceAndGoOn();
+}
+
+/// A replacement that the provider doubts: the whole corrected text is checked anew, and the walk starts
+/// again at its first error, unless that lies behind the place where the caret was.
+void ErrorWalk::replaceAndCheckAgain() {
+    const qsizetype place = m_caret;
+    ReplaceCurrent();
+    bool found = false;
+    try {
+        found = oSpelling->Spell(m_text.text());
+    } catch (const Failure &) {
+        goOn(); // the replacement stands; its error must not be replaced again
+        throw;
+    }
+    if (!found) {
+        goOn();
+        return;
+    }
+    oErrors = oSpelling->SpellingErrors();
+    m_current = 1;
+    while (m_current <= oErrors.Count() && current().TextStart() > place)
+        ++m_current;
+    m_offset = 0;
+    ShowNextError(true);
+}
+
+void ErrorWalk::cmdDelete() {
+    if (m_over)
+        return;
+    PushUndo();
+    m_controls.cmdDeleteEnabled = false;
+    const qsizetype start = errorStart();
+    const QString &text = m_text.text();
+    qsizetype end = start + errorLength();
+    while (end < text.size() && text[end] == u' ')
+        ++end;
+    ReplaceAt(start, end - start, {});
+    goOn();
+}
+
+void ErrorWalk::cmdUndo() {
+    if (m_over || m_undo.isEmpty())
+        return;
+    const UndoRecord record = m_undo.takeLast();
+    m_text.restore(record.text);
+    m_current = record.current;
+    m_offset = record.offset;
+    oErrors = record.errors;
+    oChangeAll = record.changeAll;
+    m_controls.cmdUndoEnabled = !m_undo.isEmpty();
+    ShowNextError(false);
+}
+
+void ErrorWalk::cmdCancel() {
+    m_cancelled = true;
+    m_over = true;
+}
+
+void ErrorWalk::clickSuggestion(int row) {
+    QStringList &list = m_controls.lstSuggestions;
+    if (row < 0 || row >= list.size())
+        return;
+    m_controls.selectedSuggestion = row;
+    m_justExpanded = list[row] == moreRow();
+    if (!m_justExpanded) {
+        setCorrection(list[row]);
+        return;
+    }
+    list.removeAt(row);
+    for (const QString &suggestion : std::as_const(oMoreSuggestions))
+        list.insert(row++, suggestion);
+    oMoreSuggestions.clear();
+}
+
+void ErrorWalk::doubleClickSuggestion(int row) {
+    if (m_over || row < 0 || row >= m_controls.lstSuggestions.size())
+        return;
+    // The first half of a double click on "<More...>" has put a suggestion there that nobody has seen yet.
+    if (std::exchange(m_justExpanded, false))
+        return;
+    if (m_controls.lstSuggestions[row] == moreRow()) {
+        clickSuggestion(row);
+        return;
+    }
+    setCorrection(m_controls.lstSuggestions[row]);
+    if (isOmitted(m_controls.txtCorrection))
+        cmdDelete();
+    else
+        replaceAndGoOn();
+}
+
+} // namespace tolvo

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+// The walk of a user through the errors of a text: the rules of the checking dialog, without its window. What
+// the dialog's controls show is told by the members that bear their names.
+#pragma once
+
+#include "spelling/CSpelling.h"
+#include "spelling/Proofing.h"
+#include "spelling/marked_text.h"
+#include "spelling/spelling_services.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <memory>
+
+namespace tolvo {
+
+/// What the controls show, and which of them can be used.
+struct WalkControls {
+    QString caption;
+    QString labErrorType = QStringLiteral("Not in dictionary:");
+    QString labMistake;
+    QString labErrorDescription;
+    QStringList lstSuggestions;
+    int selectedSuggestion = -1; ///< index from 0 of the selected row, -1 for none
+    bool lstSuggestionsEnabled = false;
+    QString txtCorrection;
+    bool cmdChangeEnabled = false;
+    bool cmdChangeAllEnabled = false;
+    bool cmdDeleteEnabled = false;
+    bool cmdUndoEnabled = false;
+};
+
+class ErrorWalk {
+  public:
+    ErrorWalk(const SpellingServices &services, ProofingHost &host);
+    ~ErrorWalk();
+
+    /// Checks the text (CR alone ends a line) and goes to its first error. False if none was found: there is
+    /// nothing to show then.
+    bool start(const QString &text, int LangID, bool grammar);
+    /// Releases the provider.
+    void end();
+
+    [[nodiscard]] const WalkControls &controls() const { return m_controls; }
+    [[nodiscard]] const MarkedText &rtbText() const { return m_text; }
+    /// The caret, and the place of the current error in rtbText.
+    [[nodiscard]] qsizetype caret() const { return m_caret; }
+    [[nodiscard]] qsizetype errorStart() const;
+    [[nodiscard]] qsizetype errorLength() const;
+    /// True as soon as the dialog is to be hidden.
+    [[nodiscard]] bool isOver() const { return m_over; }
+    [[nodiscard]] bool bCancelled() const { return m_cancelled; }
+
+    void setSmartReplace(bool ticked) { m_smartReplace = ticked; }
+    /// The user or a rule has put a text into txtCorrection.
+    void setCorrection(const QString &text);
+
+    void cmdIgnore();
+    void cmdIgnoreAll();
+    void cmdAddToDic();
+    void cmdChange();
+    void cmdChangeAll();
+    void cmdDelete();
+    void cmdUndo();
+    void cmdStop() { m_over = true; }
+    void cmdCancel();
+    /// A click on a row, and a double click, which takes the row without any check. Rows count from 0.
+    void clickSuggestion(int row);
+    void doubleClickSuggestion(int row);
+
+  private:
+    struct UndoRecord {
+        qsizetype text; ///< state of the marked text
+        qsizetype current;
+        qsizetype offset;
+        CSpellingErrors errors;
+        QHash<QString, QString> changeAll;
+    };
+
+    void ShowNextError(bool useChangeAll);
+    [[nodiscard]] bool passOver(const CSpellingError &error, bool useChangeAll);
+    void markError(const CSpellingError &error);
+    void offerSuggestions(const CSpellingError &error);
+    void offerNothing(const CSpellingError &error);
+    void select(int row);
+    void setMistake(const QString &text);
+    void setChangeEnabled(bool enabled);
+    [[nodiscard]] QString PreviousWord(qsizetype position) const;
+    void ReplaceCurrent();
+    void ReplaceAt(qsizetype start, qsizetype length, const QString &replacement);
+    void PushUndo();
+    void goOn();
+    void replaceAndGoOn();
+    void replaceAndCheckAgain();
+    [[nodiscard]] bool isOmitted(const QString &text) const;
+    [[nodiscard]] const CSpellingError &current() const { return oErrors.Item(m_current); }
+
+    const SpellingServices &m_services;
+    ProofingHost &m_host;
+    std::unique_ptr<CSpelling> oSpelling;
+    CSpellingErrors oErrors;
+    qsizetype m_current = 1; ///< index of the current error, from 1
+    qsizetype m_offset = 0;  ///< what the changes so far have added to the text's length
+    QHash<QString, QString> oIgnore;
+    QHash<QString, QString> oChangeAll;
+    QStringList oMoreSuggestions;
+    QList<UndoRecord> m_undo;
+    MarkedText m_text;
+    WalkControls m_controls;
+    qsizetype m_caret = 0;
+    bool m_smartReplace = false;
+    bool m_justExpanded = false; ///< the last click was one on "<More...>"
+    bool m_over = true;
+    bool m_cancelled = false;
+};
+
+} // namespace tolvo
