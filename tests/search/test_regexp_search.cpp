@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "tests/search/search_world.h"
+
+namespace tolvo::test {
+
+namespace {
+
+class RegExpSearch : public SearchWorld {};
+
+const char *const nowhere = "Text not found anywhere in the document";
+
+TEST_F(RegExpSearch, SelectsTheNextMatch) {
+    const struct {
+        const char *text;
+        const char *pattern;
+        char direction;
+        const char *picture;
+        const char *said = "";
+        QList<SearchDirection> directions = {};
+    } rows[] = {
+        {"^ab1 ab2", "ab\\d", 'd', "[ab1] ab2"},
+        {"[ab1] ab2", "ab\\d", 'd', "ab1 [ab2]"},
+        {"[a]ab", "a", 'd', "a[a]b"},
+        {"aa^", "a", 's', "[a]a", "", {SearchDirection::Down}},
+        {"aa^", "a", 'd', "aa^", "Text not found", {SearchDirection::FromStart}},
+        {"aa^", "b", 'd', "aa^", nowhere},
+        {"xxxxyx^", "y", 'u', "xxxx[y]x"},
+        {"xxxx^yx", "y", 'u', "xxxx^yx", "Text not found", {SearchDirection::FromStart}},
+        {"ab^c", "bc", 'u', "a[bc]"},
+        {"^one|two|three",
+         "^",
+         's',
+         "^one|two|three",
+         "Text not found",
+         {SearchDirection::Down, SearchDirection::FromStart}},
+        {"^one|two", "e\\nt", 'd', "on[e|t]wo"},
+        {"^one|two", "^t.o$", 'd', "one|[two]"},
+        {"^a", "(", 'd', "^a", "Error in regular expression/Text not found anywhere in the document"},
+        {"^a", "", 'd', "^a"},
+        {"^\u00c9T\u00c9", "\u00e9t\u00e9", 'd', "[\u00c9T\u00c9]"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(std::string(row.text) + " " + row.pattern);
+        show(row.text);
+        directions.clear();
+        search.RegExpSearch(box.Text(), row.pattern, row.direction == 'u', row.direction == 's', false);
+        EXPECT_EQ(picture(), QString(row.picture));
+        EXPECT_EQ(said(), QString(row.said));
+        EXPECT_EQ(directions, row.directions);
+    }
+    // An escaped backslash before n is widened too: it then means backslash, r, line feed.
+    box.setText("\\n \\r\n");
+    search.RegExpSearch(box.Text(), "\\\\n", false, true, true);
+    EXPECT_EQ(box.SelStart(), 3);
+}
+
+TEST_F(RegExpSearch, ReplacesTheSelectionOrSelectsFirst) {
+    const struct {
+        const char *text;
+        const char *pattern;
+        const char *replace;
+        const char *options; ///< a after find, u up, s from the start, m smart
+        const char *picture;
+        const char *said = "";
+    } rows[] = {
+        {"[ab] ab", "(a)(b)", "$2$1", "", "[ba] ab"},
+        {"[Ab] ab", "ab", "cd", "m", "[Cd] ab"},
+        {"[aa] a", "a", "b", "", "a[a] a"},
+        {"[ab]", "a", "b", "a", "[bb]", "Text not found"},
+        {"^xab", "ab", "-", "a", "x[-]"},
+        {"^xab", "ab", "-", "", "x[ab]"},
+        {"a^b", "x*", "-", "", "a[-]b"}, // an empty selection is a match of the empty text
+        {"x[|]y", "\\n", "<\\n>", "", "x[<|>]y"},
+        {"[a]", "(", "x", "a", "[a]", "Error in regular expression"},
+        {"[a] \\b", "a", "x", "a", "[x] \\b"},
+        {"^zz", "a", "x", "a", "^zz", nowhere},
+        {"^1 b", "\\bb", "x", "a", "1 [x]"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(std::string(row.text) + " " + row.pattern);
+        show(row.text);
+        search.RegExpReplace(row.pattern, row.replace, has(row.options, 'u'), has(row.options, 's'), false,
+                             has(row.options, 'm'), has(row.options, 'a'));
+        EXPECT_EQ(picture(), QString(row.picture));
+        EXPECT_EQ(said(), QString(row.said));
+    }
+}
+
+TEST_F(RegExpSearch, ReplacesEachMatchByItself) {
+    const struct {
+        QString text;
+        const char *pattern;
+        const char *replace;
+        QString result;
+        int count;
+        bool smart = false;
+    } rows[] = {
+        {"one|two|three", "^", "> ", "> one|> two|> three", 3},
+        {"abc", ".*", "X", "XXX", 2},
+        {"a1b2", "([a-z])(\\d)", "$2$1", "1a2b", 2},
+        {"cat CAT", "cat", "dog", "dog DOG", 2, true},
+        {"ab ab", "a(?=b)", "x", "ab ab", 2}, // out of its context the look-ahead fails
+        {"a|b", "\\n", "\\t\\\\", "a\t\\b", 1},
+        {"abc", "x", "y", "abc", 0},
+        {"aa", "(a)", "$0 $10 $& $$ $", "$0 a0 a $ $$0 a0 a $ $", 2},
+        {"\u00e4\u00a0b", "\\s", "_", "\u00e4_b", 1},
+        {QString::fromUtf16(u"\xD83D\xDE00"), "^..$", "two", "two", 1},
+        {QString(QChar(0xD800)), "\\uD800", "x", "x", 1},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.pattern);
+        box.setText(QString(row.text).replace(u'|', QStringLiteral("\r\n")));
+        search.RegExpReplaceAll(row.pattern, row.replace, false, row.smart, false);
+        EXPECT_EQ(box.Text().replace(QStringLiteral("\r\n"), QStringLiteral("|")), row.result);
+        EXPECT_EQ(said(), row.count == 1 ? QStringLiteral("1 string replaced")
+                                         : QString::number(row.count) + " strings replaced");
+    }
+    // The box is written without a match too, and a match is replaced within itself.
+    box.setText("a\nb");
+    search.RegExpReplaceAll("x", "y", false, false, true);
+    EXPECT_EQ(box.Text(), "a\r\nb");
+    show("[abc]");
+    search.RegExpReplace(".*", "X", false, true, false, false, true);
+    EXPECT_EQ(picture(), "[XX]");
+    EXPECT_EQ(said(), "");
+}
+
+TEST_F(RegExpSearch, ListsAllMatches) {
+    show("one|two  and a match|match at the start");
+    QString text = box.Text();
+    EXPECT_EQ(search.RegExpFindAll(text, "match|^", false), 2);
+    EXPECT_EQ(text, "one\ntwo  and a match\nmatch at the start");
+    EXPECT_EQ(list.lines, QStringList({"Line 2: two  and a match", "Line 3: match at the start"}));
+    EXPECT_EQ(list.locations, QList<qint32>({160005, 230005}));
+    EXPECT_EQ(search.RegExpFindAll(text, "nowhere", false), 0);
+    EXPECT_EQ(list.lines.size(), 2);
+    EXPECT_EQ(search.RegExpFindAll(text, "[", false), 0);
+    EXPECT_TRUE(said().contains("(error 5018)\r\n in CSearch::RegExpFindAll"));
+    search.RegExpReplaceAll("a**", "", false, false, false);
+    EXPECT_TRUE(said().contains("(error 5018)\r\n in CSearch::RegExpReplaceAll"));
+}
+
+TEST_F(RegExpSearch, EndlessPatternsEndWithAReport) {
+    const QString text = QString(60000, u'a') + u'b';
+    const QString huge = QString(70000, u'(') + QString(70000, u')');
+    for (const QString &pattern : {QStringLiteral("(a+)+$"), QStringLiteral("(?:a?){40}a{40}$"), huge}) {
+        SCOPED_TRACE(pattern.left(20).toStdString());
+        box.setText(text);
+        search.RegExpSearch(text, pattern, false, true, true);
+        EXPECT_TRUE(said().contains("(error 5020)\r\n in CSearch::RegExpSearch"));
+        search.RegExpReplaceAll(pattern, "x", true, false, false);
+        EXPECT_TRUE(said().contains("(error 5020)\r\n in CSearch::RegExpReplaceAll"));
+        EXPECT_EQ(box.Text(), text);
+    }
+    // A word of any length is one word, and no endless search.
+    search.WildcardReplaceAll("@,", "x", false, true, false, {}, false);
+    EXPECT_EQ(said(), "0 strings replaced");
+}
+
+/// The same search in all three modes.
+TEST_F(RegExpSearch, WildcardsAndLiteralTextFindTheSame) {
+    for (const char mode : {'s', 'w', 'r'}) {
+        SCOPED_TRACE(mode);
+        bool fromStart = true;
+        show("no|a1 ^A1|a1");
+        if (mode == 's')
+            search.SimpleSearch("a1", false, false, false, fromStart, false, false);
+        else if (mode == 'w')
+            search.WildcardSearch("a1", false, false, fromStart, false, {});
+        else
+            search.RegExpSearch(box.Text(), "a1", false, fromStart, false);
+        EXPECT_EQ(picture(), "no|[a1] A1|a1");
+        QString text = box.Text();
+        if (mode == 's')
+            search.SimpleFindAll("a1", false, false, true);
+        else if (mode == 'w')
+            EXPECT_EQ(search.WildcardFindAll("a1", false, false, {.wholeWords = true}), 3);
+        else
+            EXPECT_EQ(search.RegExpFindAll(text, "\\ba1\\b", false), 3);
+        EXPECT_EQ(list.locations, QList<qint32>({40002, 70002, 110002}));
+        if (mode == 's')
+            search.SimpleReplaceAll("a1", "bc", false, false, false, true, false);
+        else if (mode == 'w')
+            search.WildcardReplaceAll("a%", "bc", false, false, true, {}, false);
+        else
+            search.RegExpReplaceAll("a\\d", "bc", false, true, false);
+        EXPECT_EQ(picture(), "^no|bc Bc|bc");
+        EXPECT_EQ(said(), "3 strings replaced");
+    }
+    show("^Smith, John");
+    search.WildcardReplace("@, @", "$2 $1", false, false, false, true, false, {}, true);
+    EXPECT_EQ(picture(), "[John Smith]");
+    search.WildcardSearch("[x", false, false, false, true, {});
+    EXPECT_TRUE(said().startsWith("Closing square bracket ] missing."));
+}
+
+} // namespace
+
+} // namespace tolvo::test

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+// Wildcards, escapes, replacement templates: how one notation becomes another.
+#include "base/character_sets.h"
+#include "search/replacement_template.h"
+#include "tests/search/search_world.h"
+
+namespace tolvo::test {
+
+namespace {
+
+class Translation : public SearchWorld {};
+
+TEST_F(Translation, WildcardsBecomeGroups) {
+    const QString alpha = SEARCH_CHARS_ALPHA();
+    const QString word = SEARCH_CHARS_WORD();
+    const struct {
+        QString pattern;
+        QString expected;
+        bool specialChars = false;
+        WildcardOptions options = {};
+    } rows[] = {
+        {"a.c", "a(.)c"},
+        {"a*c", "a(.*?)c"},
+        {"?*.+.", "(.*?)(.+?)(.)"},
+        {"%+-%+", "([0-9]+)-([0-9]+)"},
+        {"%*%~*~+~", "([0-9]*)([0-9])(\\s*)(\\s+)(\\s)"},
+        {"1+1", "1(.+?)1"},
+        {"1\\+1", "1\\+1"},
+        {"a|b(c)^$ {}", "a\\|b\\(c\\)\\^\\$ \\{\\}"},
+        {"[abc]", "([abc])"},
+        {"[^a-c]*", "([^a-c]*)(.*?)"},
+        {"[abc]+", "([abc]+)(.+?)"},
+        {"&*&+&", "([" + alpha + "]*)([" + alpha + "])([" + alpha + "])"},
+        {"!*!+!", "([" + word + "]*?)([" + word + "])([" + word + "])"},
+        {"@", "([" + alpha + "]{1}(?:[" + word + "]*(?:(?:'|-)?[" + word + "])+)*)"},
+        {"#",
+         "((?:[+-]?\\d\\.\\d+(?: \\d+)*[eE][+-]?\\d+(?: \\d+)*)|(?:[+-]?\\d+(?: \\d+)*(?:(?:\\.\\d+)*(?: "
+         "\\d+)*)))",
+         false,
+         {.groupingSep = "space"}},
+        {"\\.\\?\\[\\]\\^\\~", "\\.\\?\\[\\]\\^\\~"},
+        {"\\&\\$\\\\", "\\\\([" + alpha + "])\\\\\\$\\\\\\\\"},
+        {"end\\", "end\\\\"},
+        {"\\t\\x41", "\\\\t\\\\x41"},
+        {"\\t\\n\\x41\\u20ACb\\x", "\\t\\n\\x41\\u20ACb\\x", true},
+        {"a", "\\ba", false, {.anchor = 0}},
+        {"a", "a\\b", false, {.anchor = 1}},
+        {"a", "^a", false, {.anchor = 2}},
+        {"a", "a$", false, {.anchor = 3}},
+        {"a", "\\ba\\b", false, {.wholeWords = true, .anchor = 1}},
+        {"a", "^\\ba\\b", false, {.wholeWords = true, .anchor = 2}},
+    };
+    for (const auto &[pattern, expected, specialChars, options] : rows)
+        EXPECT_EQ(search.translateWildcardsToRegExp(pattern, specialChars, options), expected)
+            << pattern.toStdString();
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(search.translateWildcardsToRegExp("a[abc", false, {}), "");
+    EXPECT_EQ(
+        said(),
+        "Closing square bracket ] missing.\r\n\r\nIf you want to match a literal [\r\nprecede it with a "
+        "backslash - \\[");
+}
+
+/// What is compiled for words and numbers finds what the expression that is shown would find.
+TEST_F(Translation, CompiledWildcardsEqualTheShownOnes) {
+    const QString texts[] = {"rock-n-roll don't-- 'tis x_1-2 caf\u00e9s' a",
+                             "1,234.50 -3 +4.5e10 1.2.3 1 000 000 7. .5 12,34,5e3 1.5,000E+2,5"};
+    for (const auto &[grouping, decimal] :
+         {std::pair(",", "."), {"", "."}, {"", ""}, {".", "."}, {"space", ","}}) {
+        for (const char *pattern : {"@", "#", "@ #", "%#"}) {
+            const auto translation =
+                translateWildcards(QString(pattern), false, {.decimalSep = decimal, .groupingSep = grouping});
+            const auto matches = [&](const QString &expression, const QString &text) {
+                QStringList found;
+                MatchBudget budget;
+                RegularExpression(expression, false)
+                    .forEachMatch(text, budget, [&](const RegularExpressionMatch &match) {
+                        found +=
+                            QStringLiteral("%1 %2 %3").arg(match.start()).arg(match.group(0), match.group(1));
+                        return true;
+                    });
+                return found;
+            };
+            for (const QString &text : texts)
+                EXPECT_EQ(matches(translation.compiled, text), matches(translation.shown, text))
+                    << pattern << grouping;
+        }
+    }
+}
+
+TEST_F(Translation, SpecialCharacters) {
+    const struct {
+        const char *text;
+        QString expected;
+    } rows[] = {
+        {"a\\nb\\tc", "a\r\nb\tc"},
+        {"\\\\n", "\\n"},
+        {"\\x41\\X62\\u20AC\\U20ac", "Ab\u20ac\u20ac"},
+        {"\\x4", QString(QChar(4))},
+        {"\\x", QString(QChar(u'\0'))},
+        {"\\q end\\", "\\q end\\"},
+        {"\\x5Cx41", "\\x41"},
+        {"\\x5Cu0041", "A"},
+    };
+    for (const auto &[text, expected] : rows) {
+        QString translated = text;
+        EXPECT_EQ(search.translateSpecialChars(translated, true), expected) << text;
+        EXPECT_EQ(translated, expected);
+    }
+    EXPECT_EQ(said(), "");
+    QString bad = "a\\u12G4b\\x41";
+    EXPECT_EQ(search.translateSpecialChars(bad, false), "");
+    EXPECT_TRUE(said().contains("Invalid hex in \\u12G4 (error 512)\r\n in CSearch::replaceHex"));
+}
+
+TEST_F(Translation, Templates) {
+    const RegularExpression expression(u"(b)(x)?(c)", true);
+    const std::pair<const char *, const char *> rows[] = {
+        {"<$&>", "a<bc>d"}, {"$1$3$2.", "abc.d"}, {"$0$4$", "a$0$4$d"},
+        {"$$1", "a$1d"},    {"$10", "ab0d"},      {"\\", "a\\d"},
+    };
+    for (const auto &[text, expected] : rows) {
+        MatchBudget budget;
+        EXPECT_EQ(replaceMatches(expression, u"abcd", ReplacementTemplate(QString(text), expression.groups()),
+                                 99, budget),
+                  QString(expected))
+            << text;
+    }
+}
+
+} // namespace
+
+} // namespace tolvo::test
