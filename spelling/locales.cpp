@@ -40,6 +40,9 @@ void Locales::readLine(const QString &line) {
     if (!isNumber || m_byNumber.contains(fields[3]))
         return;
     m_byNumber[fields[3]].init(fields[0], number, fields[2]);
+    const QString locale = fields[0].toLower();
+    if (!m_numbers.contains(locale))
+        m_numbers.insert(locale, number);
 }
 
 QString Locales::localeOf(int LangID) const {
@@ -47,11 +50,7 @@ QString Locales::localeOf(int LangID) const {
 }
 
 int Locales::idOf(const QString &locale, int otherwise) const {
-    for (const CLocale &entry : m_byNumber) {
-        if (entry.LCID.compare(locale, Qt::CaseInsensitive) == 0)
-            return entry.LangID;
-    }
-    return otherwise;
+    return m_numbers.value(locale.toLower(), otherwise);
 }
 
 } // namespace tolvo

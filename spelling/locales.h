@@ -39,6 +39,7 @@ class Locales {
     void readLine(const QString &line);
 
     QHash<QString, CLocale> m_byNumber;
+    QHash<QString, int> m_numbers; ///< by locale in lower case; of two numbers the first in the table
 };
 
 } // namespace tolvo

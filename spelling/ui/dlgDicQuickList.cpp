@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "spelling/ui/dlgDicQuickList.h"
+
+#include "base/CParams.h"
+#include "base/conversions.h"
+#include "platform/report_error.h"
+#include "spelling/locales.h"
+#include "spelling/spelling_provider.h"
+#include "spelling/ui/dlgHunspellLanguage.h"
+#include "spelling/ui/dlgSpellLanguage.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
+
+namespace tolvo {
+
+namespace {
+
+constexpr int cancelledChoice = -2; ///< as an answer; as a question it means the stored language
+
+} // namespace
+
+dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *parent)
+    : QDialog(parent), m_services(services), cmbQuickList(new QComboBox(this)), labProvider(new QLabel(this)),
+      labChange(new QLabel(this)), imgBrowse(new QToolButton(this)) {
+    setObjectName(QStringLiteral("dlgDicQuickList"));
+    setWindowTitle(QStringLiteral("Select dictionary"));
+    setModal(true);
+    cmbQuickList->setObjectName(QStringLiteral("cmbQuickList"));
+    cmbQuickList->setAccessibleName(QStringLiteral("Dictionary"));
+    cmbQuickList->setMinimumContentsLength(30);
+    labProvider->setObjectName(QStringLiteral("labProvider"));
+    labChange->setObjectName(QStringLiteral("labChange"));
+    labChange->setText(QStringLiteral("<a href=\"options\">Change</a>"));
+    labChange->setTextInteractionFlags(Qt::LinksAccessibleByKeyboard | Qt::LinksAccessibleByMouse);
+    labChange->hide();
+    imgBrowse->setObjectName(QStringLiteral("imgBrowse"));
+    imgBrowse->setToolTip(QStringLiteral("Manage dictionaries"));
+    imgBrowse->setAccessibleName(QStringLiteral("Manage dictionaries"));
+    imgBrowse->setText(QStringLiteral("..."));
+    imgBrowse->setFocusPolicy(Qt::StrongFocus);
+    layOut();
+    connect(imgBrowse, &QToolButton::clicked, this, [this] { manageDictionaries(); });
+    connect(labChange, &QLabel::linkActivated, this, [this] {
+        m_openOptions();
+        showProvider();
+        FillSpelling();
+    });
+}
+
+void dlgDicQuickList::layOut() {
+    auto *note =
+        new QLabel(QStringLiteral("To add to and remove dictionaries from this list, choose Options and use "
+                                  "Manage Dictionaries on the Spelling page."),
+                   this);
+    note->setWordWrap(true);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto *choice = new QHBoxLayout;
+    choice->addWidget(cmbQuickList, 1);
+    choice->addWidget(imgBrowse);
+    auto *provider = new QHBoxLayout;
+    provider->addWidget(labProvider);
+    provider->addWidget(labChange);
+    provider->addStretch(1);
+    auto *rows = new QVBoxLayout(this);
+    rows->addLayout(choice);
+    rows->addLayout(provider);
+    rows->addWidget(note);
+    rows->addStretch(1);
+    rows->addWidget(buttons);
+}
+
+void dlgDicQuickList::setOptionsOpener(std::function<void()> opener) {
+    m_openOptions = std::move(opener);
+    labChange->setVisible(m_openOptions != nullptr);
+}
+
+void dlgDicQuickList::showProvider() {
+    const int provider = LanguageList(m_services.store).provider();
+    if (provider != m_provider)
+        m_filled = false;
+    m_provider = provider;
+    labProvider->setText(QStringLiteral("Provider: ") + providerName(provider));
+}
+
+void dlgDicQuickList::FillSpelling() {
+    if (m_filled)
+        return;
+    m_filled = true;
+    const LanguageList lists(m_services.store);
+    m_languages = lists.quickList(m_provider, Locales(Locales::pathIn(m_services.programFolder)));
+    cmbQuickList->clear();
+    for (const CSpellLanguage &language : std::as_const(m_languages))
+        cmbQuickList->addItem(language.row());
+    selectLanguage(lists.storedLangID());
+}
+
+void dlgDicQuickList::selectLanguage(int LangID) {
+    for (int row = 0; row < m_languages.size(); ++row) {
+        if (m_languages[row].ID == LangID)
+            cmbQuickList->setCurrentIndex(row);
+    }
+}
+
+int dlgDicQuickList::GetLangID(int LangID, bool save) {
+    LanguageList lists(m_services.store);
+    const int asked = LangID == cancelledChoice ? lists.storedLangID() : LangID;
+    showProvider();
+    FillSpelling();
+    selectLanguage(asked);
+    cmbQuickList->setFocus();
+    if (exec() != Accepted)
+        return cancelledChoice;
+    const int row = cmbQuickList->currentIndex();
+    // A list without rows leaves the language as it is.
+    const int chosen = row < 0 ? asked : m_languages[row].ID;
+    if (save)
+        lists.saveLangID(chosen);
+    return chosen;
+}
+
+bool dlgDicQuickList::getSettings(QString &settings) {
+    const QString stored = CParams(settings).arg(QStringLiteral("LangID"));
+    bool isNumber = false;
+    const int number = stored.toInt(&isNumber);
+    const int chosen = GetLangID(isNumber ? number : cancelledChoice, false);
+    if (chosen == cancelledChoice)
+        return false;
+    settings = QStringLiteral("LangID=") + QString::number(chosen);
+    return true;
+}
+
+void dlgDicQuickList::manageDictionaries() {
+    if (m_provider == providerType::word) {
+        dlgSpellLanguage(m_services, this).DictionaryQuickList();
+    } else {
+        dlgHunspellLanguage(m_services.store, this).exec();
+    }
+    m_filled = false;
+    FillSpelling();
+}
+
+} // namespace tolvo

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Asks for the language of a check.
+#pragma once
+
+#include "spelling/Proofing.h"
+#include "spelling/languages.h"
+#include "spelling/spelling_services.h"
+
+#include <QDialog>
+#include <QList>
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QToolButton;
+
+namespace tolvo {
+
+class dlgDicQuickList : public QDialog, public LanguageChooser {
+  public:
+    explicit dlgDicQuickList(const SpellingServices &services, QWidget *parent = nullptr);
+
+    int GetLangID(int LangID, bool save) override;
+
+    /// The same for a settings string: takes `LangID` out of it and gives back "LangID=" and the number, or
+    /// leaves it alone and returns false if the user cancelled.
+    bool getSettings(QString &settings);
+
+    /// Opens the Options; while there is nothing to open them, labChange is not shown.
+    void setOptionsOpener(std::function<void()> opener);
+
+  private:
+    void layOut();
+    void showProvider();
+    void FillSpelling();
+    void selectLanguage(int LangID);
+    void manageDictionaries();
+
+    const SpellingServices &m_services;
+    std::function<void()> m_openOptions;
+    int m_provider = -1;
+    bool m_filled = false;
+    QList<CSpellLanguage> m_languages; ///< the rows of cmbQuickList
+
+    QComboBox *cmbQuickList;
+    QLabel *labProvider;
+    QLabel *labChange;
+    QToolButton *imgBrowse;
+};
+
+} // namespace tolvo

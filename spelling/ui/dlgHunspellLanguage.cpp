@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "spelling/ui/dlgHunspellLanguage.h"
+
+#include "spelling/languages.h"
+
+#include <QBoxLayout>
+#include <QFontMetrics>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTreeWidget>
+
+namespace tolvo {
+
+dlgHunspellLanguage::dlgHunspellLanguage(SettingsStore &store, QWidget *parent)
+    : QDialog(parent), lvwHunspellLangs(new QTreeWidget(this)) {
+    setObjectName(QStringLiteral("dlgHunspellLanguage"));
+    setWindowTitle(QStringLiteral("Select Language"));
+    setModal(true);
+    lvwHunspellLangs->setObjectName(QStringLiteral("lvwHunspellLangs"));
+    lvwHunspellLangs->setAccessibleName(QStringLiteral("Languages"));
+    lvwHunspellLangs->setHeaderLabels(
+        {QStringLiteral("Locale"), QStringLiteral("Language"), QStringLiteral("Territory")});
+    lvwHunspellLangs->setRootIsDecorated(false);
+
+    // These two have no function yet.
+    auto *add = new QPushButton(QStringLiteral("Add Language..."), this);
+    add->setObjectName(QStringLiteral("cmdAddLanguage"));
+    auto *remove = new QPushButton(QStringLiteral("Remove"), this);
+    remove->setObjectName(QStringLiteral("cmdRemove"));
+    auto *ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto *buttons = new QVBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(remove);
+    buttons->addStretch(1);
+    buttons->addWidget(ok);
+    auto *columns = new QHBoxLayout(this);
+    columns->addWidget(lvwHunspellLangs, 1);
+    columns->addLayout(buttons);
+    resize(fontMetrics().averageCharWidth() * 80, fontMetrics().lineSpacing() * 18);
+    fill(store);
+}
+
+void dlgHunspellLanguage::fill(SettingsStore &store) {
+    for (const HunspellLanguage &language : LanguageList(store).hunspellLanguages())
+        new QTreeWidgetItem(lvwHunspellLangs, {language.locale, language.language, language.territory});
+    for (int column = 0; column < lvwHunspellLangs->columnCount(); ++column)
+        lvwHunspellLangs->resizeColumnToContents(column);
+}
+
+} // namespace tolvo

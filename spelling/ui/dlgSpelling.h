@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// The checking dialog. Its rules are those of ErrorWalk; here are its controls.
+#pragma once
+
+#include "spelling/Proofing.h"
+#include "spelling/spelling_services.h"
+#include "spelling/spelling_walk.h"
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+class QBoxLayout;
+class QCheckBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+
+namespace tolvo {
+
+class MarkedTextView;
+
+class dlgSpelling : public QDialog, public SpellingWalk {
+  public:
+    explicit dlgSpelling(const SpellingServices &services, QWidget *parent = nullptr);
+    ~dlgSpelling() override;
+
+    bool CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar) override;
+
+    /// The close box and Esc are Cancel.
+    void reject() override;
+
+  protected:
+    void showEvent(QShowEvent *event) override;
+
+  private:
+    QLayout *layOutText();
+    QLayout *layOutButtons();
+    QPushButton *addButton(QBoxLayout &column, const QString &name, const QString &caption);
+    QPushButton *addRule(QBoxLayout &column, const QString &name, const QString &caption,
+                         void (ErrorWalk::*rule)());
+    void connectEntry();
+    void act(const QString &name, const std::function<void(ErrorWalk &)> &rule);
+    void refresh();
+    void refreshSuggestions(const WalkControls &controls);
+
+    const SpellingServices &m_services;
+    std::unique_ptr<ErrorWalk> m_walk; ///< while a check runs
+    bool m_refreshing = false;
+
+    MarkedTextView *rtbText;
+    QLabel *labErrorType;
+    QLabel *labMistake;
+    QLabel *labErrorDescription;
+    QListWidget *lstSuggestions;
+    QLineEdit *txtCorrection;
+    QCheckBox *chkSmartReplace;
+    QPushButton *cmdChange = nullptr;
+    QPushButton *cmdChangeAll = nullptr;
+    QPushButton *cmdDelete = nullptr;
+    QPushButton *cmdUndo = nullptr;
+};
+
+} // namespace tolvo
