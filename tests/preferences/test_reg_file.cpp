@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// The registry editor's text format: what is written, what is taken, what is refused.
+#include "base/failure.h"
+#include "preferences/reg_file.h"
+
+#include <gtest/gtest.h>
+
+namespace tolvo {
+namespace {
+
+QByteArray utf16(const QString &text) {
+    return QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
+}
+
+/// A file of version 5.00 with one key and these lines.
+QByteArray withLines(const QByteArray &lines) {
+    return "Windows Registry Editor Version 5.00\r\n\r\n[HKCU\\K]\r\n" + lines;
+}
+
+QList<RegValue> values(std::initializer_list<std::pair<QString, QString>> pairs) {
+    QList<RegValue> list;
+    for (const auto &[name, value] : pairs)
+        list += RegValue{{name, value}};
+    return list;
+}
+
+TEST(RegFile, WritesAsTheEditorDoes) {
+    const QList<RegKey> keys = {
+        {u"HKEY_CURRENT_USER"_qs, u"S\\Button 1"_qs, false,
+         values(
+             {{{}, u"default"_qs}, {u"quote \" \\"_qs, u"C:\\x \"y\" •😀"_qs}, {u"lines"_qs, u"a\r\nb"_qs}})},
+        {u"HKEY_CURRENT_USER"_qs, u"S\\gone"_qs, true}};
+    EXPECT_EQ(writeRegFile(keys), utf16(u"\uFEFFWindows Registry Editor Version 5.00\r\n\r\n"
+                                        "[HKEY_CURRENT_USER\\S\\Button 1]\r\n"
+                                        "@=\"default\"\r\n"
+                                        "\"quote \\\" \\\\\"=\"C:\\\\x \\\"y\\\" •😀\"\r\n"
+                                        "\"lines\"=hex(1):61,00,0d,00,0a,00,62,00,00,00\r\n\r\n"
+                                        "[-HKEY_CURRENT_USER\\S\\gone]\r\n\r\n"_qs));
+    EXPECT_EQ(readRegFile(writeRegFile(keys)), keys);
+}
+
+TEST(RegFile, EveryTextComesBack) {
+    QList<RegKey> keys = {{u"R"_qs, u"K"_qs, false,
+                           values({{u"["_qs, QString(1000, QChar(u'\t'))},
+                                   {u"]"_qs, QString(u'\0') + u"a"_qs + QChar(u'\0')},
+                                   {u"lone"_qs, u"x"_qs + QChar(0xDC00)},
+                                   {u"\x7F"_qs, u"\u0085\u2028; = , \\"_qs},
+                                   {u"empty"_qs, QString()}})}};
+    const QByteArray file = writeRegFile(keys);
+    EXPECT_EQ(readRegFile(file), keys);
+    for (const QByteArray &line : file.split('\n'))
+        EXPECT_LE(line.size(), 2 * 81) << "hexadecimal lines are broken";
+    keys.front().values.front().entry.name = u"line\nend"_qs;
+    EXPECT_THROW((void)writeRegFile(keys), Failure);
+}
+
+TEST(RegFile, ReadsWhatOthersWrite) {
+    const struct {
+        const char *what;
+        QByteArray file;
+        QList<RegValue> expected;
+    } cases[] = {
+        {"version 4", "REGEDIT4\n\n[HKCU\\K]\n\"a\"=\"b\"\n", values({{u"a"_qs, u"b"_qs}})},
+        {"version 4 in Windows-1252", "REGEDIT4\r\n[HKCU\\K]\r\n\"\xE4\"=\"\x95\"\r\n\"h\"=hex(1):95,00",
+         values({{u"ä"_qs, u"•"_qs}, {u"h"_qs, u"•"_qs}})},
+        {"UTF-8 with a mark", "\xEF\xBB\xBF" + withLines("\"ä\"=\"😀\""), values({{u"ä"_qs, u"😀"_qs}})},
+        {"UTF-16 BE",
+         [] {
+             QByteArray file = utf16(QChar(0xFEFF) + QString::fromUtf8(withLines("\"a\"=\"•\"")));
+             for (qsizetype i = 0; i + 1 < file.size(); i += 2)
+                 std::swap(file[i], file[i + 1]);
+             return file;
+         }(),
+         values({{u"a"_qs, u"•"_qs}})},
+        {"comments and blanks", withLines("; [x]\r\n\t\"a\" = \"b\" ; c\r\n\r\n  ;\r\n@=\"d;e\""),
+         values({{u"a"_qs, u"b"_qs}, {{}, u"d;e"_qs}})},
+        {"continuations",
+         withLines("\"a\"=hex(1):41,\\\r\n  00,42,\\  \r\n\t0,\\ ; why\r\n  "
+                   "00,00\r\n\"b\"=hex(1):\r\n\"c\"=HEX(1):41,00"),
+         values({{u"a"_qs, u"AB"_qs}, {u"b"_qs, {}}, {u"c"_qs, u"A"_qs}})},
+        {"escaped line ends", withLines(R"("a"="x\r\ny\\n")"), values({{u"a"_qs, u"x\r\ny\\n"_qs}})},
+        {"no last line end", withLines("\"a\"=\"b\""), values({{u"a"_qs, u"b"_qs}})},
+    };
+    for (const auto &[what, file, expected] : cases) {
+        SCOPED_TRACE(what);
+        const QList<RegKey> keys = readRegFile(file);
+        ASSERT_EQ(keys.size(), 1);
+        EXPECT_TRUE(keys.front().values == expected);
+    }
+    const QList<RegKey> keys =
+        readRegFile(withLines("\"a\"=-\r\n@=-\r\n[-HKCU\\Gone]\r\n[HKCU\\a]b] ; c\r\n"));
+    ASSERT_EQ(keys.size(), 3);
+    EXPECT_TRUE(keys[0].values[0].deleted && keys[0].values[1].deleted);
+    EXPECT_TRUE(keys[1].deleted);
+    EXPECT_EQ(keys[2].path, u"a]b"_qs);
+}
+
+TEST(RegFile, RefusesInWords) {
+    const struct {
+        QByteArray file;
+        const char *says;
+    } cases[] = {
+        {"", "empty"},
+        {"\xFF\xFE", "Line 1"},
+        {"[HKCU\\K]\r\n", "Line 1: this is no file of the registry editor"},
+        {"Windows Registry Editor Version 6.00\r\n", "Line 1"},
+        {utf16(QString::fromLatin1(withLines(""))), "without a byte order mark"},
+        {"\xFF\xFE" + utf16(QString::fromLatin1(withLines("\"a\"=\"b\""))).chopped(1),
+         "Line 4: the file is cut off"},
+        {withLines("\"a\"=\"b"), "Line 4: the closing quotation mark"},
+        {withLines("\"a\"=\"b\\"), "Line 4: the closing quotation mark"},
+        {withLines("\"a"), "Line 4: the closing quotation mark"},
+        {withLines("\"a\""), "Line 4: the equals sign"},
+        {withLines("\"a\"="), "Line 4: the value is no text"},
+        {withLines("\r\n\r\n[HKCU\\L"), "Line 6: the closing bracket"},
+        {withLines("\"a\"=\"b\" c"), "Line 4: unexpected text"},
+        {withLines("\"a\"=\"\\q\""), "Line 4: unknown escape '\\q'"},
+        {withLines("a=b"), "Line 4: neither"},
+        {withLines(QByteArray("\"a\"=\"b\0\"", 8)), "Line 4: a NUL"},
+        {withLines("\"a\"=dword:00000001"), "Line 4: the value 'a' has the type REG_DWORD"},
+        {withLines("\"a\"=hex:00"), "REG_BINARY"},
+        {withLines("\"a\"=hex(2):00,00"), "REG_EXPAND_SZ"},
+        {withLines("\"a\"=hex(b):00"), "REG_QWORD"},
+        {withLines("\"a\"=hex(1):41,00,\\\r\n"), "Line 4: the bytes of the value are cut off"},
+        {withLines("\"a\"=hex(1):41,00,\r\n"), "cut off"},
+        {withLines("\"a\"=hex(1):41,00,42"), "half a character"},
+        {withLines("\"a\"=hex(1):41,\\\r\n  0x"), "Line 5: '0x' is no hexadecimal byte"},
+        {"REGEDIT4\r\n\"a\"=\"b\"", "Line 2: a value before the first key"},
+        {withLines("[-HKCU\\L]\r\n\"a\"=\"b\""), "Line 5: a value below a key that is to be deleted"},
+        {withLines("\"\xC3\"=\"b\""), "Line 4: the file is neither UTF-16 nor UTF-8"},
+    };
+    for (const auto &[file, says] : cases) {
+        try {
+            (void)readRegFile(file);
+            ADD_FAILURE() << "taken: " << file.constData();
+        } catch (const Failure &failure) {
+            EXPECT_TRUE(failure.description().contains(QString::fromLatin1(says)))
+                << says << " / " << failure.description().toStdString();
+        }
+    }
+}
+
+} // namespace
+} // namespace tolvo

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// Settings that travel: out of one store, into another.
+#include "base/failure.h"
+#include "preferences/CRegistryTool.h"
+#include "preferences/reg_file.h"
+#include "preferences/settings_exchange.h"
+#include "preferences/settings_store.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace tolvo {
+namespace {
+
+const QString app = QStringLiteral("Tolvo");
+const QByteArray tree = "HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo";
+
+struct SettingsExchange : testing::Test {
+    SettingsStore store{u":memory:"_qs};
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"my settings.reg"_qs);
+
+    void SetUp() override {
+        const struct {
+            QString section, key, value;
+        } rows[] = {
+            {u"Search"_qs, u"Tab"_qs, u"2"_qs},
+            {u"PowerButtons\\Button 2"_qs, u"Name"_qs, u"say \"hi\\there\" 😀"_qs},
+            {u"PowerButtons\\Button 2\\2"_qs, u"Token"_qs, u"edREP"_qs},
+            {u"PowerButtons\\Button 2\\2"_qs, u"Details"_qs, u"Find=a\r\nb, Replace=\t\\"_qs},
+            {u"PowerButtons\\Button 2\\1"_qs, u"Token"_qs, u"ccUPP"_qs},
+            {u"PowerButtons\\Button 1"_qs, u"Name"_qs, u"<Enter a name>"_qs},
+            {u"Search\\SearchMRU"_qs, u"b"_qs, u"second"_qs},
+            {u"Search\\SearchMRU"_qs, u"a"_qs, u" first "_qs},
+            {u"Preferences"_qs, u"Show Tips at Startup"_qs, u"0"_qs},
+        };
+        for (const auto &[section, key, value] : rows)
+            store.SaveSetting(app, section, key, value);
+        store.SaveSetting(u"Tolvo-Stats"_qs, u"Usage"_qs, u"Count"_qs, u"5"_qs);
+    }
+
+    QByteArray all() const { return exportedSettings(store, ExportScope::Everything); }
+};
+
+TEST_F(SettingsExchange, EverythingComesBackInItsOrder) {
+    exportSettings(store, ExportScope::Everything, path);
+    SettingsStore other(u":memory:"_qs);
+    importSettings(other, path);
+    EXPECT_EQ(exportedSettings(other, ExportScope::Everything), all());
+    EXPECT_EQ(other.subsections(app, u"PowerButtons\\Button 2"_qs), (QStringList{u"2"_qs, u"1"_qs}));
+    EXPECT_FALSE(other.sectionExists(u"Tolvo-Stats"_qs, {})) << "statistics stay at home";
+    importSettings(other, path);
+    EXPECT_EQ(exportedSettings(other, ExportScope::Everything), all()) << "a second time changes nothing";
+}
+
+TEST_F(SettingsExchange, PowerButtonsAlone) {
+    const auto keys = readRegFile(exportedSettings(store, ExportScope::PowerButtons));
+    ASSERT_EQ(keys.size(), 5);
+    for (const RegKey &key : keys)
+        EXPECT_TRUE(key.path.startsWith(settingsKeyPath(u"PowerButtons"_qs)));
+}
+
+TEST_F(SettingsExchange, MergesAndDeletes) {
+    importSettings(store, "REGEDIT4\n[" + tree + "\\SEARCH]\n\"TAB\"=-\n\"More\"=\"True\"\n[-" + tree +
+                              "\\PowerButtons]\n[HKCU\\Software\\Tolvo Settings\\tolvo\\New]\n"
+                              "[HKEY_CURRENT_USER\\Software\\Tolvo Settings]\n");
+    EXPECT_EQ(store.GetAllSettings(app, u"Search"_qs),
+              (QList<SettingsStore::Pair>{{u"More"_qs, u"True"_qs}}));
+    EXPECT_EQ(store.subsections(app, {}), (QStringList{u"Search"_qs, u"Preferences"_qs, u"New"_qs}));
+    EXPECT_EQ(store.GetSetting(app, u"Preferences"_qs, u"Show Tips at Startup"_qs, 1), u"0"_qs);
+}
+
+TEST_F(SettingsExchange, AnErrorChangesNothing) {
+    const QByteArray before = all();
+    const QByteArray good = "REGEDIT4\n[" + tree + "]\n\"new\"=\"value\"\n[-" + tree + "\\Search]\n";
+    const QByteArray cases[] = {
+        "[HKEY_LOCAL_MACHINE\\Software\\Tolvo Settings\\Tolvo]\n",
+        "[HKEY_CURRENT_USER\\Software]\n",
+        "[-HKEY_CURRENT_USER\\Software\\Tolvo Settings]\n",
+        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings]\n\"a\"=\"b\"\n",
+        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Other]\n",
+        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo\\\\a]\n",
+        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo\\" + QByteArray(256, 'a') + "]\n",
+        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo" + QByteArray("\\a").repeated(600) + "]\n",
+        "[HKEY_CURRENT_USER]\n",
+        "nonsense",
+    };
+    for (const QByteArray &bad : cases) {
+        try {
+            importSettings(store, QByteArray(good + bad));
+            ADD_FAILURE() << "taken: " << bad.constData();
+        } catch (const Failure &failure) {
+            EXPECT_TRUE(failure.description().contains(u"Line 5:"_qs)) << failure.description().toStdString();
+        }
+        EXPECT_EQ(all(), before);
+    }
+}
+
+TEST_F(SettingsExchange, AHundredThousandValues) {
+    QList<RegKey> keys{{registryUserRoot.toString(), settingsKeyPath(u"Many"_qs)}};
+    for (int i = 0; i < 100'000; ++i)
+        keys.front().values += RegValue{{QString::number(i), u"value"_qs}};
+    SettingsStore file(folder.filePath(u"settings.sqlite"_qs));
+    importSettings(file, writeRegFile(keys));
+    EXPECT_EQ(file.GetAllSettings(app, u"Many"_qs)->size(), 100'000);
+}
+
+TEST_F(SettingsExchange, FilesThatCantBeUsed) {
+    EXPECT_THROW(exportSettings(store, ExportScope::Everything, folder.filePath(u"none/x.reg"_qs)), Failure);
+    EXPECT_THROW(exportSettings(store, ExportScope::Everything, folder.path()), Failure);
+    EXPECT_THROW(exportSettings(store, ExportScope::Everything, u"/dev/full"_qs), Failure);
+    EXPECT_THROW(importSettings(store, folder.filePath(u"none.reg"_qs)), Failure);
+    EXPECT_THROW(importSettings(store, folder.path()), Failure);
+}
+
+} // namespace
+} // namespace tolvo
