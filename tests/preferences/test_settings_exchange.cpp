@@ -7,6 +7,9 @@
 #include "preferences/settings_store.h"
 
 #include <QFile>
+#include <QMap>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -112,6 +115,43 @@ TEST_F(SettingsExchange, FilesThatCantBeUsed) {
     EXPECT_THROW(exportSettings(store, ExportScope::Everything, u"/dev/full"_qs), Failure);
     EXPECT_THROW(importSettings(store, folder.filePath(u"none.reg"_qs)), Failure);
     EXPECT_THROW(importSettings(store, folder.path()), Failure);
+}
+
+/// The values of a tree, without their order: a registry sorts its keys.
+QMap<QString, QString> valuesOf(const QByteArray &file) {
+    QMap<QString, QString> values;
+    for (const RegKey &key : readRegFile(file)) {
+        for (const RegValue &value : key.values)
+            values.insert(key.path + u'|' + value.entry.name, value.entry.value);
+    }
+    return values;
+}
+
+TEST_F(SettingsExchange, AnotherRegistryEditorAgrees) {
+    const QString wine = QStandardPaths::findExecutable(u"wine"_qs);
+    if (wine.isEmpty())
+        GTEST_SKIP() << "needs wine";
+    store.SaveSetting(app, u"Odd ]["_qs, u"k;\"=\\"_qs, u"x"_qs + QString(200, QChar(u'\n')));
+    exportSettings(store, ExportScope::Everything, path);
+    const QString back = folder.filePath(u"back.reg"_qs);
+    QProcess editor;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"WINEPREFIX"_qs, folder.filePath(u"prefix"_qs));
+    environment.insert(u"WINEDEBUG"_qs, u"-all"_qs);
+    environment.insert(u"WINEDLLOVERRIDES"_qs, u"mscoree,mshtml="_qs);
+    editor.setProcessEnvironment(environment);
+    const QString key = registryUserRoot.toString() + u'\\' + settingsKeyPath();
+    for (const QStringList &arguments :
+         {QStringList{u"regedit"_qs, u"/S"_qs, path}, QStringList{u"regedit"_qs, u"/E"_qs, back, key},
+          QStringList{u"wineboot"_qs, u"--end-session"_qs, u"--kill"_qs}}) {
+        editor.start(wine, arguments);
+        ASSERT_TRUE(editor.waitForFinished(120'000));
+    }
+    SettingsStore other(u":memory:"_qs);
+    importSettings(other, back);
+    const auto values = valuesOf(all());
+    EXPECT_EQ(values.size(), 10);
+    EXPECT_EQ(valuesOf(exportedSettings(other, ExportScope::Everything)), values);
 }
 
 } // namespace
