@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+// The pages of the Options dialog, and its controls' state.
+#include "preferences/ui/dlgPreferences.h"
+
+#include "platform/icons/themed_icon.h"
+#include "platform/message_box.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace tolvo {
+
+namespace {
+
+template <class Control>
+Control *named(Control *control, const QString &name)
+{
+    control->setObjectName(name);
+    return control;
+}
+
+template <class Control>
+Control *make(const char *name, const QString &caption)
+{
+    return named(new Control(caption), QLatin1StringView(name));
+}
+
+QToolButton *imageButton(const QString &name, const QString &icon, const QString &tip, const QString &accessibleName)
+{
+    auto *button = named(new QToolButton, name);
+    button->setIcon(themedIcon(icon));
+    button->setToolTip(tip);
+    button->setAccessibleName(accessibleName);
+    button->setAutoRaise(true);
+    return button;
+}
+
+QLabel *note(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setWordWrap(true);
+    QFont small = label->font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    label->setFont(small);
+    return label;
+}
+
+} // namespace
+
+dlgPreferences::dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWidget *parent)
+    : QDialog(parent), m_actions(actions), m_boxes(boxes)
+{
+    setObjectName(QStringLiteral("dlgPreferences"));
+    setWindowTitle(tr("Options"));
+    auto *tabs = named(new QTabWidget, QStringLiteral("SSTab1"));
+    tabs->addTab(displayPage(), tr("Display"));
+    tabs->addTab(extensionsPage(), tr("Extensions"));
+    tabs->addTab(generalPage(), tr("General"));
+    tabs->addTab(spellingPage(), tr("Spelling"));
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(tabs, 1);
+    layout->addWidget(buttonRow());
+}
+
+QWidget *dlgPreferences::displayPage()
+{
+    auto *page = new QWidget;
+    auto *grid = new QGridLayout;
+    const std::array<QString, 2> captions{tr("Use &Proportional font"), tr("Use &Fixed font")};
+    const std::array<QString, 2> labels{tr("Proportional Font:"), tr("Fixed-width Font:")};
+    auto *fontBox = new QGroupBox(tr("Font of the text"));
+    for (int i = 0; i < 2; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        m_optProp[at] = named(new QRadioButton(captions[at]), QStringLiteral("optProp_%1").arg(i));
+        m_txtFont[at] = named(new QLineEdit, QStringLiteral("txtFont_%1").arg(i));
+        m_txtFont[at]->setReadOnly(true);
+        m_txtFont[at]->setAccessibleName(labels[at]);
+        auto *choose =
+            imageButton(QStringLiteral("Image1_%1").arg(i), QStringLiteral("choose-font"), tr("Choose font"),
+                        i == 0 ? tr("Choose proportional font") : tr("Choose fixed-width font"));
+        connect(choose, &QToolButton::clicked, this, [this, i] { chooseFont(i); });
+        grid->addWidget(m_optProp[at], i * 2, 0, 1, 3);
+        auto *label = new QLabel(labels[at]);
+        label->setIndent(22);
+        grid->addWidget(label, i * 2 + 1, 0);
+        grid->addWidget(m_txtFont[at], i * 2 + 1, 1);
+        grid->addWidget(choose, i * 2 + 1, 2);
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setVerticalSpacing(8);
+    fontBox->setLayout(grid);
+    m_chkWordwrap = make<QCheckBox>("chkWordwrap", tr("Word wrap (display only)"));
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(fontBox);
+    layout->addWidget(m_chkWordwrap);
+    layout->addStretch(1);
+    return page;
+}
+
+QWidget *dlgPreferences::extensionsPage()
+{
+    auto *page = new QWidget;
+    auto *extensions = new QGroupBox(tr("File extensions"));
+    m_lstExtensions = named(new QListWidget, QStringLiteral("lstExtensions"));
+    m_lstExtensions->setAccessibleName(tr("File extensions"));
+    m_txtExt = named(new QLineEdit, QStringLiteral("txtExt"));
+    m_txtExt->setAccessibleName(tr("File extension"));
+    m_txtExt->setPlaceholderText(tr("for instance: xyz"));
+    m_cmdAdd = make<QPushButton>("cmdAdd", tr("A&dd"));
+    m_cmdRemove = make<QPushButton>("cmdRemove", tr("&Remove"));
+    m_cmdAdd->setEnabled(false);
+    m_cmdRemove->setEnabled(false);
+    connect(m_txtExt, &QLineEdit::textChanged, this, &dlgPreferences::extensionTyped);
+    connect(m_cmdAdd, &QPushButton::clicked, this, &dlgPreferences::addExtension);
+    connect(m_cmdRemove, &QPushButton::clicked, this, &dlgPreferences::removeExtension);
+    connect(m_lstExtensions, &QListWidget::currentRowChanged, this,
+            [this](int row) { m_cmdRemove->setEnabled(row >= 0); });
+    auto *grid = new QGridLayout(extensions);
+    grid->addWidget(note(tr("Words that end in one of these count as file names: their full stop ends no sentence.")), 0,
+                    0, 1, 2);
+    grid->addWidget(m_txtExt, 1, 0);
+    grid->addWidget(m_cmdAdd, 1, 1);
+    grid->addWidget(m_lstExtensions, 2, 0, 2, 1);
+    grid->addWidget(m_cmdRemove, 2, 1);
+    grid->setRowStretch(3, 1);
+
+    auto *domains = new QGroupBox(tr("Internet addresses"));
+    m_optTLDs[0] = make<QRadioButton>("optTLDs_0", tr("Use full list of Internet Top Level Domains"));
+    m_optTLDs[1] =
+        make<QRadioButton>("optTLDs_1", tr("Use list of Internet TLDs excluding English words (recommended)"));
+    auto *domainLayout = new QVBoxLayout(domains);
+    domainLayout->addWidget(m_optTLDs[0]);
+    domainLayout->addWidget(m_optTLDs[1]);
+
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(extensions, 1);
+    layout->addWidget(domains);
+    return page;
+}
+
+QWidget *dlgPreferences::generalPage()
+{
+    auto *page = new QWidget;
+    m_chkShowTips = make<QCheckBox>("chkShowTips", tr("Show &Tips at startup"));
+    m_chkSounds = make<QCheckBox>("chkSounds", tr("Enable &sounds"));
+    m_chkUpdates = make<QCheckBox>("chkUpdates", tr("&Check weekly for product updates"));
+    m_chkUsageStats = make<QCheckBox>("chkUsageStats", tr("&Upload usage statistics"));
+    m_labLastCheck = named(new QLabel, QStringLiteral("labLastCheck"));
+    const auto button = [this](const char *name, const QString &caption, auto action) {
+        auto *result = make<QPushButton>(name, caption);
+        result->setAutoDefault(false);
+        connect(result, &QPushButton::clicked, this, action);
+        return result;
+    };
+    auto *updates = new QGroupBox(tr("Updates and statistics"));
+    auto *grid = new QGridLayout(updates);
+    grid->addWidget(m_chkUpdates, 0, 0);
+    grid->addWidget(button("cmdCheckNow", tr("Check now"), [this] { m_actions.checkNow(); }), 0, 1);
+    grid->addWidget(m_labLastCheck, 1, 0, 1, 2);
+    grid->addWidget(m_chkUsageStats, 2, 0);
+    grid->addWidget(button("cmdViewStats", tr("View statistics..."), [this] { m_actions.viewStatistics(); }), 2, 1);
+    grid->addWidget(note(tr("Only anonymous usage statistics are gathered and used to improve the product. No personally "
+                            "identifiable information or personal data are collected.")),
+                    3, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+
+    auto *files = new QGroupBox(tr("Export and import"));
+    auto *fileLayout = new QVBoxLayout(files);
+    fileLayout->addWidget(
+        button("cmdExport", tr("Export Preferences and PowerButtons..."), [this] { exportPrefs(false); }));
+    fileLayout->addWidget(button("cmdExportPB", tr("Export PowerButtons only..."), [this] { exportPrefs(true); }));
+    fileLayout->addWidget(button("cmdImport", tr("Import Preferences..."), [this] { cmdImport_Click(); }));
+
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(m_chkShowTips);
+    layout->addWidget(m_chkSounds);
+    layout->addWidget(updates);
+    layout->addWidget(files);
+    layout->addStretch(1);
+    return page;
+}
+
+QWidget *dlgPreferences::spellingPage()
+{
+    auto *page = new QWidget;
+    const std::array<QString, 4> captions{QStringLiteral("Microsoft Word"), QStringLiteral("Hunspell"),
+                                          QStringLiteral("After the Deadline"),
+                                          QStringLiteral("Ginger - Grammar, Spelling and Proofreading")};
+    auto *box = new QGroupBox(tr("Spelling and grammar by"));
+    auto *grid = new QGridLayout(box);
+    grid->setColumnStretch(0, 1);
+    grid->setVerticalSpacing(8);
+    for (int i = 0; i < 4; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        m_optSpellingProvider[at] = named(new QRadioButton(captions[at]), QStringLiteral("optSpellingProvider_%1").arg(i));
+        auto *browse = imageButton(i == 0 ? QStringLiteral("imgBrowse") : QStringLiteral("imgBrowse_%1").arg(i),
+                                   QStringLiteral("options"), tr("Configure"), tr("Configure %1").arg(captions[at]));
+        connect(browse, &QToolButton::clicked, this, [this, i] { m_actions.configureProvider(i); });
+        grid->addWidget(m_optSpellingProvider[at], i, 0);
+        grid->addWidget(browse, i, 1);
+    }
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(box);
+    layout->addWidget(note(tr("After the Deadline sends the text to a web service. The other providers leave it on this "
+                              "computer.")));
+    layout->addStretch(1);
+    return page;
+}
+
+QWidget *dlgPreferences::buttonRow()
+{
+    auto *row = new QWidget;
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *help = make<QPushButton>("cmdHelp", tr("&Help"));
+    auto *ok = make<QPushButton>("OKButton", tr("OK"));
+    auto *cancel = make<QPushButton>("CancelButton", tr("Cancel"));
+    auto *apply = make<QPushButton>("cmdApply", tr("&Apply"));
+    ok->setDefault(true);
+    connect(help, &QPushButton::clicked, this,
+            [this] { m_boxes.show({.text = QStringLiteral("Help is not implemented yet")}); });
+    connect(ok, &QPushButton::clicked, this, [this] {
+        cmdApply_Click();
+        accept();
+    });
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(apply, &QPushButton::clicked, this, &dlgPreferences::cmdApply_Click);
+    layout->addWidget(help);
+    layout->addStretch(1);
+    for (QPushButton *button : {ok, cancel, apply})
+        layout->addWidget(button);
+    return row;
+}
+
+void dlgPreferences::init(const Options &options, const QString &lastCheck)
+{
+    m_options = options;
+    for (std::size_t i = 0; i < 2; ++i)
+        m_txtFont[i]->setText(FontDescription(options.fonts[i]));
+    m_optProp[options.useProportional ? 0 : 1]->setChecked(true);
+    m_chkWordwrap->setChecked(options.wordWrap);
+    m_lstExtensions->clear();
+    m_lstExtensions->addItems(options.extensions);
+    m_txtExt->clear();
+    m_optTLDs[options.fullDomainList ? 0 : 1]->setChecked(true);
+    m_chkShowTips->setChecked(options.showTips);
+    m_chkSounds->setChecked(options.sounds);
+    m_chkUpdates->setChecked(options.checkUpdates);
+    m_chkUsageStats->setChecked(options.allowStats);
+    m_labLastCheck->setText(lastCheck);
+    for (std::size_t i = 0; i < m_optSpellingProvider.size(); ++i) {
+        // Without this a number outside the list would leave the option of the time before ticked.
+        m_optSpellingProvider[i]->setAutoExclusive(false);
+        m_optSpellingProvider[i]->setChecked(static_cast<int>(i) == options.provider);
+        m_optSpellingProvider[i]->setAutoExclusive(true);
+    }
+}
+
+Options dlgPreferences::options() const
+{
+    Options options = m_options;
+    options.useProportional = m_optProp[0]->isChecked();
+    options.wordWrap = m_chkWordwrap->isChecked();
+    options.extensions.clear();
+    for (int row = 0; row < m_lstExtensions->count(); ++row)
+        options.extensions += m_lstExtensions->item(row)->text();
+    options.fullDomainList = m_optTLDs[0]->isChecked();
+    options.showTips = m_chkShowTips->isChecked();
+    options.sounds = m_chkSounds->isChecked();
+    options.checkUpdates = m_chkUpdates->isChecked();
+    options.allowStats = m_chkUsageStats->isChecked();
+    for (std::size_t i = 0; i < m_optSpellingProvider.size(); ++i) {
+        if (m_optSpellingProvider[i]->isChecked())
+            options.provider = static_cast<int>(i);
+    }
+    return options;
+}
+
+} // namespace tolvo

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "preferences/ui/frmAbout.h"
+
+#include "base/application.h"
+#include "platform/icons/themed_icon.h"
+#include "platform/message_box.h"
+#include "platform/processes.h"
+#include "preferences/system_information.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tolvo {
+
+frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built, QWidget *parent)
+    : QDialog(parent), m_processes(processes), m_boxes(boxes)
+{
+    setObjectName(QStringLiteral("frmAbout"));
+    setWindowTitle(QStringLiteral("About ") + applicationTitle());
+
+    auto *picture = new QLabel;
+    picture->setPixmap(QIcon(QStringLiteral(":/icons/tolvo.svg")).pixmap(72, 72));
+    auto *title = new QLabel(applicationTitle());
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.8);
+    large.setBold(true);
+    title->setFont(large);
+    auto *version = new QLabel(QStringLiteral("Version %1 Build %2 (%3)")
+                                   .arg(applicationVersionMajorMinor(), applicationRevision(),
+                                        QLocale().toString(built, QLocale::ShortFormat)));
+    version->setObjectName(QStringLiteral("lblVersion"));
+    version->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto *copyright = new QLabel(tr("Copyright %1 The Tolvo developers").arg(built.toString(QStringLiteral("yyyy"))));
+    copyright->setObjectName(QStringLiteral("lblCopyright"));
+
+    auto *text = new QVBoxLayout;
+    for (QLabel *label : {title, version, copyright})
+        text->addWidget(label);
+    text->addSpacing(8);
+    text->addWidget(link("lblWeb", QStringLiteral(TOLVO_HOME_PAGE), QStringLiteral(TOLVO_HOME_PAGE)));
+    text->addWidget(link("lblSupport", QStringLiteral(TOLVO_SUPPORT), QStringLiteral("mailto:" TOLVO_SUPPORT)));
+    auto *top = new QHBoxLayout;
+    top->setSpacing(20);
+    top->addWidget(picture, 0, Qt::AlignTop);
+    top->addLayout(text, 1);
+
+    auto *sysInfo = new QPushButton(tr("&System Info..."));
+    sysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
+    sysInfo->setAutoDefault(false);
+    connect(sysInfo, &QPushButton::clicked, this, &frmAbout::cmdSysInfo_Click);
+    auto *ok = new QPushButton(tr("OK"));
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(sysInfo);
+    buttons->addStretch(1);
+    buttons->addWidget(ok);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 14);
+    layout->setSpacing(18);
+    layout->addLayout(top);
+    layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    ok->setFocus();
+}
+
+QLabel *frmAbout::link(const char *name, const QString &text, const QString &address)
+{
+    auto *label = new QLabel;
+    label->setObjectName(QLatin1StringView(name));
+    label->setAccessibleName(text);
+    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    const auto show = [this, label, text, address](bool hovered) {
+        label->setText(QStringLiteral("<a href=\"%1\" style=\"color:%2; text-decoration:%3\">%4</a>")
+                           .arg(address, accent(palette()).name(),
+                                hovered ? QStringLiteral("underline") : QStringLiteral("none"), text));
+    };
+    show(false);
+    connect(label, &QLabel::linkHovered, this, [show](const QString &over) { show(!over.isEmpty()); });
+    connect(label, &QLabel::linkActivated, this, [this](const QString &target) { m_processes.open(target); });
+    return label;
+}
+
+void frmAbout::cmdSysInfo_Click()
+{
+    if (!StartSysInfo(m_processes))
+        m_boxes.show({.text = QStringLiteral("System Information is unavailable")});
+}
+
+} // namespace tolvo
