@@ -18,9 +18,13 @@ namespace tolvo::test {
 
 struct KeptWords : TextHost {
     void setStatus(const QString &text) override { status = text; }
-    void warn(const QString &text, const QString &) override { warnings.append(text); }
+    void warn(const QString &text, const QString &title) override {
+        warnings.append(text);
+        titles.append(title);
+    }
     QString status;
     QStringList warnings;
+    QStringList titles;
 };
 
 class Engine : public ::testing::Test {

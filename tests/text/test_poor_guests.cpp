@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// Every tool is visited by texts that nobody would write, and keeps what it promises about any text.
+#include "base/failure.h"
+#include "tests/text/engine.h"
+#include "tests/text/operations.h"
+
+using namespace tolvo;
+using namespace tolvo::test;
+
+namespace {
+
+using PoorGuests = Engine;
+
+QStringList guests() {
+    QStringList texts = {{},
+                         lines(u"|"),
+                         lines(u"|||"),
+                         lines(u"a|b"),
+                         QStringLiteral("a\rb\nc"),
+                         QString(QChar(0xD800)),
+                         QStringLiteral("x") + QChar(0xDC00) + u'.',
+                         QString(QChar(0)),
+                         QStringLiteral(" "),
+                         QStringLiteral("'")};
+    for (const char16_t *unit : {u"a",   u" ",  u"a\r\n", u".",  u"(",    u"]",  u"'",  u"\"",  u"&#", u"&#1",
+                                 u"%41", u"\t", u"\r",    u"\n", u"\r\n", u"a'", u"1.", u"mc-", u"…",  u"i "})
+        texts += QString::fromUtf16(unit).repeated(1 + 20000 / QStringView(unit).size());
+    return texts;
+}
+
+TEST_F(PoorGuests, comeOutOfEveryTool) {
+    for (const QString &text : guests()) {
+        for (const Operation &operation : operations) {
+            SCOPED_TRACE(testing::PrintToString(text.left(10)) + " in " + operation.name);
+            const QString once = operation.run(engine, text);
+            EXPECT_LE(once.size(), 60 * text.size() + 60);
+        }
+    }
+}
+
+TEST_F(PoorGuests, laws) {
+    for (const QString &text : guests()) {
+        SCOPED_TRACE(testing::PrintToString(text.left(10)));
+        const QString trimmed = engine.TrimWhiteSpace(text);
+        EXPECT_EQ(engine.TrimWhiteSpace(trimmed), trimmed);
+        EXPECT_EQ(engine.TrimTrail(trimmed), trimmed);
+        const QString regular = engine.RegularEOL(text);
+        EXPECT_EQ(engine.RegularEOL(regular), regular);
+        const QString spaced = engine.SingleSpace(text);
+        EXPECT_EQ(engine.SingleSpace(spaced), spaced);
+        // Blank lines lose their blanks when the others are indented.
+        EXPECT_EQ(engine.Unindent(engine.Indent(spaced, u"\t"), u"\t"), spaced);
+        EXPECT_EQ(engine.PlainChars(engine.PlainChars(text)), engine.PlainChars(text));
+        EXPECT_EQ(engine.SentenceCase(text).size(), text.size());
+    }
+}
+
+} // namespace
