@@ -104,13 +104,9 @@ void PlainTextBox::setSelText(const QString &text) {
     const QString inserted = text.left(room());
     const int start = SelStart();
     if (inserted != SelText()) {
-        const QScopedValueRollback own(m_ownEdit, true);
         prepareFor(inserted);
-        setUndoRedoEnabled(false);
-        QTextCursor cursor = textCursor();
-        cursor.insertText(m_standIns.encode(inserted));
+        editByCode([&] { textCursor().insertText(m_standIns.encode(inserted)); });
         joinLineEnds();
-        setUndoRedoEnabled(true);
     }
     const bool changed = rereadText();
     setSelStart(static_cast<int>(snapBehind(m_text, start + inserted.size())));
@@ -160,8 +156,9 @@ void PlainTextBox::keyPressEvent(QKeyEvent *event) {
         return;
     }
     prepareFor(typed);
-    // Shift and Enter would insert a U+2028; a line end is meant.
-    if (event->matches(QKeySequence::InsertLineSeparator)) {
+    // Shift and Enter would insert a U+2028 where a line end is meant.
+    const bool changedByDocument = !isLineEndKey(*event) && m_standIns.encode(typed) != typed;
+    if (changedByDocument || event->matches(QKeySequence::InsertLineSeparator)) {
         insertAsTyped(typed);
         event->accept();
         return;
@@ -173,7 +170,8 @@ void PlainTextBox::inputMethodEvent(QInputMethodEvent *event) {
     const QString committed = event->commitString().left(room() + event->replacementLength());
     prepareFor(committed);
     QInputMethodEvent fitting(event->preeditString(), event->attributes());
-    fitting.setCommitString(committed, event->replacementStart(), event->replacementLength());
+    fitting.setCommitString(m_standIns.encode(committed), event->replacementStart(),
+                            event->replacementLength());
     QPlainTextEdit::inputMethodEvent(&fitting);
     event->setAccepted(fitting.isAccepted());
 }
@@ -220,15 +218,20 @@ void PlainTextBox::load(const QString &text) {
     setPlainText(m_standIns.encode(text));
 }
 
+/// The widget's own undo knows no text but the one that the user has typed into.
+void PlainTextBox::editByCode(const std::function<void()> &edit) {
+    const QScopedValueRollback own(m_ownEdit, true);
+    setUndoRedoEnabled(false);
+    edit();
+    setUndoRedoEnabled(true);
+}
+
 /// After every edit that is not ours.
 void PlainTextBox::edited() {
     if (m_ownEdit)
         return;
-    {
-        const QScopedValueRollback own(m_ownEdit, true);
-        cutToCapacity();
-        joinLineEnds();
-    }
+    cutToCapacity();
+    joinLineEnds();
     if (rereadText())
         reportChange();
 }
@@ -239,12 +242,13 @@ void PlainTextBox::cutToCapacity() {
     const auto excess = [this] { return document()->characterCount() - 1 + blockCount() - 1 - m_capacity; };
     if (excess() <= 0 || m_editEnd <= m_editStart)
         return;
-    QTextCursor cursor(document());
-    cursor.setPosition(std::min(m_editEnd, document()->characterCount() - 1));
-    cursor.joinPreviousEditBlock();
-    while (excess() > 0 && cursor.position() > m_editStart)
-        cursor.deletePreviousChar();
-    cursor.endEditBlock();
+    editByCode([&] {
+        const int start = m_editStart; // moves with our own edits
+        QTextCursor cursor(document());
+        cursor.setPosition(std::min(m_editEnd, document()->characterCount() - 1));
+        while (excess() > 0 && cursor.position() > start)
+            cursor.deletePreviousChar();
+    });
 }
 
 /// A CR and a LF that an edit has brought together are a line end like any other.
@@ -254,14 +258,16 @@ void PlainTextBox::joinLineEnds() {
     qsizetype at = raw.lastIndexOf(loose);
     if (at < 0)
         return;
-    QTextCursor cursor(document());
-    cursor.joinPreviousEditBlock();
-    for (; at >= 0; at = at > 0 ? raw.lastIndexOf(loose, at - 1) : -1) {
-        cursor.setPosition(static_cast<int>(at));
-        cursor.setPosition(static_cast<int>(at) + 2, QTextCursor::KeepAnchor);
-        cursor.insertBlock();
-    }
-    cursor.endEditBlock();
+    editByCode([&] {
+        QTextCursor cursor(document());
+        cursor.beginEditBlock();
+        for (; at >= 0; at = at > 0 ? raw.lastIndexOf(loose, at - 1) : -1) {
+            cursor.setPosition(static_cast<int>(at));
+            cursor.setPosition(static_cast<int>(at) + 2, QTextCursor::KeepAnchor);
+            cursor.insertBlock();
+        }
+        cursor.endEditBlock();
+    });
 }
 
 /// Takes over the document's text; whether it has changed.

@@ -63,6 +63,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     void insertAsTyped(const QString &text);
     void prepareFor(const QString &inserted);
     void load(const QString &text);
+    void editByCode(const std::function<void()> &edit);
     void edited();
     void cutToCapacity();
     void joinLineEnds();
