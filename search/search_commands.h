@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// What the three buttons of the search window do, in each mode.
+#pragma once
+
+#include "search/CSearch.h"
+#include "search/search_form.h"
+
+namespace tolvo {
+
+void runSearch(const SearchForm &form, CSearch &search, SearchHost &host);
+/// The first press selects, the next one replaces.
+void runReplace(const SearchForm &form, CSearch &search);
+void runReplaceAll(const SearchForm &form, CSearch &search);
+/// Lists all matches and shows the list. Nothing for an empty search text.
+void runFindAll(const SearchForm &form, CSearch &search, SearchHost &host);
+
+} // namespace tolvo

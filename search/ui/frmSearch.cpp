@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+#include "search/ui/frmSearch.h"
+
+#include "base/application.h"
+#include "platform/report_error.h"
+#include "search/search_commands.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QTabBar>
+#include <QToolButton>
+
+namespace tolvo {
+
+frmSearch::frmSearch(CSearch &oSearch, SearchHost &host, SettingsStore &store, MessageBoxes &boxes,
+                     QWidget *parent)
+    : QDialog(parent), m_search(oSearch), m_host(host), m_store(store), m_boxes(boxes), m_controls(*this),
+      m_lastList(m_controls.cmbSearchText) {
+    setObjectName(QStringLiteral("frmSearch"));
+    m_form.load(store);
+    connectControls();
+    connectOptions();
+    useMode(false);
+    showForm();
+}
+
+void frmSearch::connectControls() {
+    SearchControls &c = m_controls;
+    connect(c.TabStrip1, &QTabBar::currentChanged, this, [this](int index) {
+        m_form.mode = static_cast<SearchMode>(index);
+        applyRules();
+    });
+    for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText})
+        connect(list, &SearchListEdit::used, this, [this, list] { m_lastList = list; });
+    connect(c.cmdSearch, &QPushButton::clicked, this, &frmSearch::cmdSearch_Click);
+    connect(c.cmdReplace, &QPushButton::clicked, this, &frmSearch::cmdReplace_Click);
+    connect(c.cmdReplaceAll, &QPushButton::clicked, this, &frmSearch::cmdReplaceAll_Click);
+    connect(c.cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(c.cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(c.imgSwop, &QToolButton::clicked, this, &frmSearch::swop);
+    connect(c.cmdMore, &QPushButton::clicked, this, &frmSearch::toggleMore);
+    connect(c.picMoreArrowDown, &QToolButton::clicked, this, &frmSearch::toggleMore);
+    connect(c.picMoreArrowUp, &QToolButton::clicked, this, &frmSearch::toggleMore);
+    connect(c.cmdSearchHelp, &QPushButton::clicked, this,
+            [this] { m_boxes.show({.text = QStringLiteral("Help is not implemented yet")}); });
+    for (const auto &[button, text] : c.insertButtons)
+        connect(button, &QPushButton::clicked, this,
+                [this, inserted = text] { m_lastList->insertText(inserted); });
+
+    const auto shortcut = [this](const QKeySequence &keys, auto action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    shortcut(Qt::CTRL | Qt::SHIFT | Qt::ALT | Qt::Key_R, [this] { ConvertToRegExp(); });
+    const auto turn = [tabs = c.TabStrip1](int step) {
+        tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
+    };
+    shortcut(Qt::CTRL | Qt::Key_PageDown, [turn] { turn(1); });
+    shortcut(Qt::CTRL | Qt::Key_PageUp, [turn] { turn(-1); });
+}
+
+/// A click on any of these returns the focus to the list that had it.
+void frmSearch::connectOptions() {
+    SearchControls &c = m_controls;
+    const auto onClick = [this](QAbstractButton *button, auto action) {
+        connect(button, &QAbstractButton::clicked, this, [this, action](bool on) {
+            action(on);
+            applyRules();
+            resumeList();
+        });
+    };
+    onClick(c.optSrchDown, [this](bool) { m_form.direction = SearchDirection::Down; });
+    onClick(c.optSrchUp, [this](bool) { m_form.direction = SearchDirection::Up; });
+    onClick(c.optSrchFromStart, [this](bool) { m_form.direction = SearchDirection::FromStart; });
+    onClick(c.chkMatchCase, [this](bool on) { m_form.matchCase = on; });
+    onClick(c.chkSmart, [this](bool on) { m_form.smartReplace = on; });
+    onClick(c.chkWholeWord, [this](bool on) { m_form.checkWholeWords(on); });
+    onClick(c.chkReplaceAll, [this](bool on) { m_form.replaceAll = on; });
+    onClick(c.chkSpecialChars, [this](bool on) { m_form.specialChars = on; });
+    for (int i = 0; i < static_cast<int>(c.optWildcardOptions.size()); ++i)
+        onClick(c.optWildcardOptions[static_cast<std::size_t>(i)],
+                [this, i](bool) { m_form.chooseAnchor(i); });
+    connect(c.cmbDecimalSep, &QComboBox::editTextChanged, this,
+            [this](const QString &text) { m_form.decimalSep = text; });
+    connect(c.cmbThousandsSep, &QComboBox::editTextChanged, this,
+            [this](const QString &text) { m_form.groupingSep = text; });
+    for (QComboBox *list : {c.cmbDecimalSep, c.cmbThousandsSep})
+        connect(list, &QComboBox::activated, this, [this] { resumeList(); });
+}
+
+void frmSearch::setSearchText(const QString &text) {
+    m_controls.cmbSearchText->setEditText(text);
+}
+
+QString frmSearch::searchText() const {
+    return m_controls.cmbSearchText->currentText();
+}
+
+void frmSearch::setSpecialChars(bool on) {
+    m_form.specialChars = on;
+    applyRules();
+}
+
+void frmSearch::setDirection(SearchDirection direction) {
+    m_form.direction = direction;
+    applyRules();
+}
+
+void frmSearch::expandDialog() {
+    if (!m_form.expanded)
+        toggleMore();
+}
+
+void frmSearch::toggleMore() {
+    m_form.expanded = !m_form.expanded;
+    applyRules();
+}
+
+/// Which controls there are: for searching or replacing, for doing it or for collecting settings.
+void frmSearch::useMode(bool bReplace) {
+    m_replacing = bReplace;
+    SearchControls &c = m_controls;
+    setWindowTitle(applicationTitle() +
+                   (bReplace ? QStringLiteral(" Search & Replace") : QStringLiteral(" Search")));
+    c.cmdReplaceAll->setText(bReplace ? QStringLiteral("Replace &All") : QStringLiteral("Find &All"));
+    c.cmbReplaceText->setEnabled(bReplace);
+    c.labReplace->setEnabled(bReplace);
+    c.imgSwop->setVisible(bReplace);
+    c.imgSwop->setEnabled(bReplace);
+    c.chkSmart->setEnabled(bReplace);
+    c.cmdReplace->setVisible(bReplace && !m_collecting);
+    for (QPushButton *button : {c.cmdSearch, c.cmdReplaceAll})
+        button->setVisible(!m_collecting);
+    for (QPushButton *button : {c.cmdSearch, c.cmdReplace, c.cmdReplaceAll})
+        button->setEnabled(!m_collecting);
+    c.chkReplaceAll->setVisible(m_collecting && bReplace);
+    c.cmdOK->setVisible(m_collecting);
+    c.cmdCancel->setVisible(m_collecting);
+    (m_collecting ? c.cmdOK : c.cmdSearch)->setDefault(true);
+    if (!bReplace)
+        m_lastList = c.cmbSearchText;
+    applyRules();
+}
+
+/// Brings all controls to what the form says.
+void frmSearch::showForm() {
+    SearchControls &c = m_controls;
+    c.cmbSearchText->show(m_form.recentFinds, m_form.find);
+    c.cmbReplaceText->show(m_form.recentReplaces, m_form.replace);
+    c.cmbDecimalSep->setEditText(m_form.decimalSep);
+    c.cmbThousandsSep->setEditText(m_form.groupingSep);
+    applyRules();
+}
+
+void frmSearch::readTexts() {
+    m_form.find = m_controls.cmbSearchText->currentText();
+    m_form.replace = m_controls.cmbReplaceText->currentText();
+}
+
+/// Options, what is enabled and what is shown, from the form.
+void frmSearch::applyRules() {
+    SearchControls &c = m_controls;
+    {
+        const QSignalBlocker quiet(c.TabStrip1);
+        c.TabStrip1->setCurrentIndex(static_cast<int>(m_form.mode));
+    }
+    c.optSrchDown->setChecked(m_form.down());
+    c.optSrchUp->setChecked(m_form.up());
+    c.optSrchFromStart->setChecked(m_form.fromStart());
+    c.chkMatchCase->setChecked(m_form.matchCase);
+    c.chkSmart->setChecked(m_form.smartReplace);
+    c.chkWholeWord->setChecked(m_form.wholeWords);
+    c.chkWholeWord->setEnabled(m_form.wholeWordsEnabled());
+    c.chkReplaceAll->setChecked(m_form.replaceAll);
+    c.chkSpecialChars->setChecked(m_form.specialChars);
+    for (const auto &[button, text] : c.insertButtons)
+        button->setEnabled(m_form.specialChars);
+    c.optWildcardOptions[static_cast<std::size_t>(m_form.anchor)]->setChecked(true);
+    c.fraOptions->setVisible(m_form.expanded);
+    c.fraSpecialChars->setVisible(m_form.expanded && m_form.specialCharsShown());
+    c.fraWildcards->setVisible(m_form.expanded && m_form.wildcardsShown());
+    c.fraWildcardHelp->setVisible(m_form.expanded && m_form.wildcardsShown());
+    c.cmdMore->setText(m_form.expanded ? QStringLiteral("Less     ") : QStringLiteral("&More     "));
+    c.picMoreArrowDown->setVisible(!m_form.expanded);
+    c.picMoreArrowUp->setVisible(m_form.expanded);
+    fitSize();
+}
+
+/// As large as what is shown needs; nothing while that stays the same, so that the user's own size is kept.
+void frmSearch::fitSize() {
+    layout()->activate();
+    if (const QSize needed = sizeHint(); needed != m_fittedSize) {
+        m_fittedSize = needed;
+        resize(needed);
+    }
+}
+
+void frmSearch::showDialog(bool bReplace) {
+    useMode(bReplace);
+    show();
+    raise();
+    activateWindow();
+    m_controls.cmbSearchText->setFocus(Qt::TabFocusReason);
+}
+
+bool frmSearch::getSettings(QString &settings, bool bReplace) {
+    hide();
+    readTexts();
+    m_form.readRequest(settings, bReplace);
+    m_collecting = true;
+    useMode(bReplace);
+    showForm();
+    m_controls.cmbSearchText->setFocus(Qt::TabFocusReason);
+    const bool confirmed = exec() == QDialog::Accepted;
+    m_collecting = false;
+    useMode(bReplace);
+    readTexts();
+    if (confirmed)
+        settings = m_form.request(bReplace);
+    return confirmed;
+}
+
+/// Every command first remembers the texts, and gives the focus back to the list that had it.
+void frmSearch::run(const std::function<void()> &command) {
+    readTexts();
+    if (!m_form.find.isEmpty()) {
+        m_form.rememberTexts();
+        m_controls.cmbReplaceText->show(m_form.recentReplaces, m_form.replace);
+        m_controls.cmbSearchText->show(m_form.recentFinds, m_form.find);
+    }
+    command();
+    resumeList();
+}
+
+void frmSearch::cmdSearch_Click() {
+    run([this] { runSearch(m_form, m_search, m_host); });
+}
+
+void frmSearch::cmdReplace_Click() {
+    run([this] { runReplace(m_form, m_search); });
+}
+
+void frmSearch::cmdReplaceAll_Click() {
+    run([this] {
+        if (m_replacing)
+            runReplaceAll(m_form, m_search);
+        else
+            runFindAll(m_form, m_search, m_host);
+    });
+}
+
+void frmSearch::swop() {
+    const QString find = m_controls.cmbSearchText->currentText();
+    m_controls.cmbSearchText->setEditText(m_controls.cmbReplaceText->currentText());
+    m_controls.cmbReplaceText->setEditText(find);
+    resumeList();
+}
+
+void frmSearch::ConvertToRegExp() {
+    if (m_form.mode != SearchMode::Wildcard)
+        return;
+    reportFailures(m_boxes, QStringLiteral("frmSearch"), QStringLiteral("ConvertToRegExp"), [this] {
+        setSearchText(
+            m_search.translateWildcardsToRegExp(searchText(), m_form.specialChars, m_form.wildcardOptions()));
+        m_form.mode = SearchMode::RegularExpression;
+        applyRules();
+    });
+}
+
+void frmSearch::saveState() {
+    readTexts();
+    m_form.save(m_store);
+}
+
+} // namespace tolvo

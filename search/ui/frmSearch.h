@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/message_box.h"
+#include "search/CSearch.h"
+#include "search/search_form.h"
+#include "search/ui/search_controls.h"
+
+#include <QDialog>
+
+namespace tolvo {
+
+class SettingsStore;
+
+/// The window for search and replace: not modal beside the main window, modal to collect the settings of a
+/// search that runs later.
+class frmSearch final : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmSearch(CSearch &oSearch, SearchHost &host, SettingsStore &store, MessageBoxes &boxes, QWidget *parent);
+
+    void setSearchText(const QString &text);
+    [[nodiscard]] QString searchText() const;
+    void setSpecialChars(bool on);
+    [[nodiscard]] bool specialChars() const { return m_form.specialChars; }
+    void setDirection(SearchDirection direction);
+
+    /// Makes the larger layout if it isn't there.
+    void expandDialog();
+    /// Shows the window for replacing or for searching only, and puts it in front.
+    void showDialog(bool bReplace);
+    /// Fills the form from `settings`, lets the user change it, and writes it back. False, and `settings` as
+    /// they were, if the user cancelled.
+    bool getSettings(QString &settings, bool bReplace);
+    void cmdSearch_Click();
+
+    /// Writes the state and the lists to the store.
+    void saveState();
+
+  private:
+    void connectControls();
+    void connectOptions();
+    void useMode(bool bReplace);
+    void showForm();
+    void readTexts();
+    void applyRules();
+    void fitSize();
+    void run(const std::function<void()> &command);
+    void resumeList() { m_lastList->resume(); }
+    void toggleMore();
+    void cmdReplace_Click();
+    void cmdReplaceAll_Click();
+    void swop();
+    void ConvertToRegExp();
+
+    CSearch &m_search;
+    SearchHost &m_host;
+    SettingsStore &m_store;
+    MessageBoxes &m_boxes;
+    SearchForm m_form;
+    SearchControls m_controls;
+    SearchListEdit *m_lastList;
+    QSize m_fittedSize;
+    bool m_replacing = false;
+    bool m_collecting = false; ///< getSettings is running
+};
+
+} // namespace tolvo

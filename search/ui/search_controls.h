@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "search/ui/search_list_edit.h"
+
+#include <array>
+#include <vector>
+
+class QCheckBox;
+class QDialog;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+class QTabBar;
+class QToolButton;
+class QVBoxLayout;
+
+namespace tolvo {
+
+/// The controls of frmSearch, made and laid out, with no behaviour yet.
+struct SearchControls {
+    explicit SearchControls(QDialog &window);
+
+    QTabBar *TabStrip1;
+    SearchListEdit *cmbSearchText;
+    SearchListEdit *cmbReplaceText;
+    QLabel *labReplace;
+    QToolButton *imgSwop;
+    QRadioButton *optSrchDown;
+    QRadioButton *optSrchUp;
+    QRadioButton *optSrchFromStart;
+    QWidget *fraOptions; ///< what only the larger layout shows
+    QCheckBox *chkMatchCase;
+    QCheckBox *chkSmart;
+    QCheckBox *chkWholeWord;
+    QCheckBox *chkReplaceAll;
+    QWidget *fraSpecialChars;
+    QCheckBox *chkSpecialChars;
+    std::vector<std::pair<QPushButton *, QString>> insertButtons; ///< with what each inserts
+    QGroupBox *fraWildcards;
+    std::array<QRadioButton *, 5> optWildcardOptions;
+    QComboBox *cmbDecimalSep;
+    QComboBox *cmbThousandsSep;
+    QGroupBox *fraWildcardHelp;
+    QPushButton *cmdSearch;
+    QPushButton *cmdReplace;
+    QPushButton *cmdReplaceAll;
+    QPushButton *cmdOK;
+    QPushButton *cmdCancel;
+    QPushButton *cmdMore;
+    QToolButton *picMoreArrowUp;
+    QToolButton *picMoreArrowDown;
+    QPushButton *cmdSearchHelp;
+
+  private:
+    QWidget *textRows();
+    QWidget *directionRow();
+    void makeOptions();
+    void makeSpecialChars();
+    void makeWildcards();
+    void makeWildcardHelp();
+    QVBoxLayout *buttonColumn();
+
+    QDialog &m_window;
+};
+
+} // namespace tolvo

@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+// The search window as its user meets it: by keys, by mouse, and as a form that others fill.
+#include "preferences/settings_store.h"
+#include "preferences/settings_table.h"
+#include "search/ui/frmSearch.h"
+#include "search/ui/frmSearchResults.h"
+#include "tests/search/search_world.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+namespace tolvo::test {
+
+namespace {
+
+class SearchWindow : public SearchWorld {
+  public:
+    void directionChanged(SearchDirection direction) override { window->setDirection(direction); }
+    SearchResults &results() override { return resultsWindow; }
+
+  protected:
+    void SetUp() override {
+        reopen();
+        show("^one two One");
+    }
+    void reopen() { window = std::make_unique<frmSearch>(search, *this, store, boxes, nullptr); }
+    template <class Control>
+    Control &find(const char *name) {
+        return *window->findChild<Control *>(QString::fromLatin1(name));
+    }
+    void click(const char *name) { find<QAbstractButton>(name).click(); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : window.get(), key,
+                        modifiers);
+    }
+    /// A button that is reached by its letter takes a moment to spring back.
+    void alt(Qt::Key key) {
+        press(key, Qt::AltModifier);
+        QTest::qWait(150);
+    }
+    void type(const char *text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text)); }
+    void open(bool bReplace) {
+        window->showDialog(bReplace);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    bool visible(const char *name) { return find<QWidget>(name).isVisible(); }
+
+    SettingsStore store{QStringLiteral(":memory:")};
+    SearchResultsWindow resultsWindow{[] { return QFont(); }, [this]() -> TextBox & { return box; }, nullptr};
+    std::unique_ptr<frmSearch> window;
+};
+
+TEST_F(SearchWindow, FindsAndReplacesByKeysAlone) {
+    open(true);
+    EXPECT_EQ(window->windowTitle(), "Tolvo Search & Replace");
+    EXPECT_EQ(find<QPushButton>("cmdReplaceAll").text(), "Replace &All");
+    type("one");
+    alt(Qt::Key_D);
+    press(Qt::Key_Return);
+    EXPECT_EQ(picture(), "[one] two One");
+    EXPECT_TRUE(find<QComboBox>("cmbSearchText").hasFocus());
+    press(Qt::Key_Return);
+    EXPECT_EQ(picture(), "one two [One]");
+    press(Qt::Key_Return);
+    EXPECT_EQ(said(), "Text not found");
+    alt(Qt::Key_F);
+    press(Qt::Key_Return);
+    EXPECT_EQ(picture(), "[one] two One");
+    EXPECT_TRUE(find<QRadioButton>("optSrchDown").isChecked());
+    alt(Qt::Key_I);
+    type("three");
+    alt(Qt::Key_R);
+    EXPECT_EQ(picture(), "[three] two One");
+    EXPECT_TRUE(find<QComboBox>("cmbReplaceText").hasFocus());
+    alt(Qt::Key_A);
+    EXPECT_EQ(said(), "1 string replaced");
+    EXPECT_EQ(picture(), "^three two Three");
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(SearchWindow, MouseAndOptions) {
+    open(false);
+    EXPECT_EQ(window->windowTitle(), "Tolvo Search");
+    for (const char *name : {"cmdReplace", "imgSwop", "cmdOK", "cmdCancel", "chkMatchCase", "picMoreArrowUp"})
+        EXPECT_FALSE(visible(name)) << name;
+    EXPECT_FALSE(find<QWidget>("cmbReplaceText").isEnabled());
+    const int collapsed = window->height();
+    click("picMoreArrowDown");
+    EXPECT_EQ(find<QPushButton>("cmdMore").text(), "Less     ");
+    EXPECT_TRUE(visible("picMoreArrowUp") && visible("cmdTab") && !visible("fraWildcards"));
+    EXPECT_FALSE(find<QWidget>("cmdTab").isEnabled());
+    const QSize simple = window->size();
+    find<QTabBar>("TabStrip1").setCurrentIndex(1);
+    EXPECT_TRUE(visible("fraWildcards") && visible("labWildcardHelp"));
+    EXPECT_GT(window->height(), simple.height());
+    EXPECT_GT(window->width(), simple.width());
+    click("chkWholeWord");
+    click("optWildcardOptions1");
+    EXPECT_FALSE(find<QCheckBox>("chkWholeWord").isChecked());
+    click("chkWholeWord");
+    EXPECT_TRUE(find<QRadioButton>("optWildcardOptions4").isChecked());
+    find<QTabBar>("TabStrip1").setCurrentIndex(2);
+    EXPECT_FALSE(visible("chkSpecialChars") || find<QWidget>("chkWholeWord").isEnabled());
+    EXPECT_LT(window->height(), simple.height());
+    EXPECT_GT(window->height(), collapsed);
+
+    // Special characters go in where the caret was, in place of what was selected.
+    find<QTabBar>("TabStrip1").setCurrentIndex(0);
+    QLineEdit &edit = *find<QComboBox>("cmbSearchText").lineEdit();
+    edit.setFocus();
+    type("abcd");
+    edit.setSelection(1, 2);
+    click("chkSpecialChars");
+    QTest::mouseClick(&find<QWidget>("cmdHex"), Qt::LeftButton);
+    EXPECT_EQ(edit.text(), "a\\xd");
+    EXPECT_EQ(edit.cursorPosition(), 3);
+    EXPECT_TRUE(find<QComboBox>("cmbSearchText").hasFocus());
+    click("cmdSearchHelp");
+    EXPECT_EQ(said(), "Help is not implemented yet");
+}
+
+TEST_F(SearchWindow, ConvertsWildcardsAndSwops) {
+    open(true);
+    window->setSearchText("t.o");
+    find<QComboBox>("cmbReplaceText").setEditText("$1");
+    QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier | Qt::AltModifier);
+    EXPECT_EQ(window->searchText(), "t.o"); // not on this tab
+    find<QTabBar>("TabStrip1").setCurrentIndex(1);
+    QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier | Qt::AltModifier);
+    EXPECT_EQ(window->searchText(), "t(.)o");
+    EXPECT_EQ(find<QTabBar>("TabStrip1").currentIndex(), 2);
+    click("cmdReplaceAll");
+    EXPECT_EQ(picture(), "^one w One");
+    click("imgSwop");
+    EXPECT_EQ(window->searchText(), "$1");
+    EXPECT_EQ(find<QComboBox>("cmbReplaceText").currentText(), "t(.)o");
+}
+
+TEST_F(SearchWindow, ListsHitsAndJumpsToThem) {
+    open(false);
+    find<QTabBar>("TabStrip1").setCurrentIndex(2);
+    window->setSearchText("one");
+    QTimer::singleShot(0, window.get(), [this] {
+        QWidget *shown = QApplication::activeModalWidget();
+        ASSERT_NE(shown, nullptr);
+        EXPECT_EQ(shown->windowTitle(), "2 results found for one");
+        auto *listed = shown->findChild<QListView *>(QStringLiteral("lstResults"));
+        EXPECT_EQ(listed->model()->index(1, 0).data().toString(), "Line 1: one two One");
+        const QRect second = listed->visualRect(listed->model()->index(1, 0));
+        QTest::mouseClick(listed->viewport(), Qt::LeftButton, {}, second.center());
+        EXPECT_EQ(picture(), "one two [One]");
+        QTest::keyClick(listed, Qt::Key_Up);
+        EXPECT_EQ(picture(), "[one] two One");
+        shown->close();
+    });
+    click("cmdReplaceAll");
+    EXPECT_EQ(said(), "");
+}
+
+TEST_F(SearchWindow, RemembersItsStateAndItsLists) {
+    for (int i = 0; i < 25; ++i) {
+        window->setSearchText(QString::number(i % 23));
+        find<QComboBox>("cmbReplaceText").setEditText(QString::number(i));
+        window->cmdSearch_Click();
+    }
+    EXPECT_EQ(find<QComboBox>("cmbSearchText").count(), 23);
+    EXPECT_EQ(find<QComboBox>("cmbSearchText").itemText(2), "22");
+    window->setSearchText("");
+    window->cmdSearch_Click();
+    find<QTabBar>("TabStrip1").setCurrentIndex(1);
+    click("optWildcardOptions2");
+    find<QComboBox>("cmbThousandsSep").setEditText("space");
+    window->expandDialog();
+    window->saveState();
+    EXPECT_EQ(readList(store, QStringLiteral("Search\\SearchMRU")).size(), 20);
+    reopen();
+    EXPECT_EQ(window->searchText(), "1");
+    QString settings;
+    QTimer::singleShot(0, window.get(), [this] { click("cmdOK"); });
+    EXPECT_TRUE(window->getSettings(settings, true));
+    EXPECT_EQ(settings, "Mode=2, Find=1, MatchCase=0, Direction=U, WholeWords=0, SpecialChars=0, Replace=24, "
+                        "SmartReplace=1, ReplaceAll=0, Anchor=2, DecimalSep=., GroupingSep=space");
+    EXPECT_EQ(find<QPushButton>("cmdMore").text(), "Less     ");
+}
+
+TEST_F(SearchWindow, CollectsSettings) {
+    QString settings = "Mode=3, Find=a=b, c, MatchCase=1, Direction=S, Replace=x, ReplaceAll=1";
+    const QString given = settings;
+    QTimer::singleShot(0, window.get(), [this] {
+        EXPECT_EQ(window->searchText(), "a=b");
+        EXPECT_TRUE(visible("cmdOK") && visible("cmdCancel"));
+        EXPECT_FALSE(visible("cmdSearch") || visible("cmdReplace") || visible("cmdReplaceAll"));
+        EXPECT_TRUE(window->isModal());
+        press(Qt::Key_Escape);
+    });
+    EXPECT_FALSE(window->getSettings(settings, true));
+    EXPECT_EQ(settings, given);
+    QTimer::singleShot(0, window.get(), [this] {
+        click("optSrchUp");
+        press(Qt::Key_Return);
+    });
+    EXPECT_TRUE(window->getSettings(settings, true));
+    EXPECT_EQ(settings,
+              "Mode=3, Find=a=b, MatchCase=1, Direction=U, WholeWords=0, Replace=x, SmartReplace=1, "
+              "ReplaceAll=1");
+    settings = "Find=q";
+    QTimer::singleShot(0, window.get(), [this] { click("cmdOK"); });
+    EXPECT_TRUE(window->getSettings(settings, false));
+    EXPECT_EQ(settings, "Mode=1, Find=q, MatchCase=1, Direction=U, WholeWords=0, SpecialChars=0");
+    open(false);
+    EXPECT_TRUE(visible("cmdSearch") && !visible("cmdOK") && !window->isModal());
+}
+
+TEST_F(SearchWindow, SurvivesAnOddStore) {
+    const QString tree = QStringLiteral("Tolvo");
+    for (int i = 0; i < 1000; ++i)
+        store.SaveSetting(tree, "Search\\SearchMRU", QString(QChar(u'a' + i)), QString::number(i));
+    for (const char *key : {"!", "word", "\xEF\xBF\xBD", "b"})
+        store.SaveSetting(tree, "Search\\ReplaceMRU", QString::fromUtf8(key), "odd");
+    for (const char *key : {"Tab", "Anchor", "Direction", "More"})
+        store.SaveSetting(tree, "Search", QString::fromLatin1(key), "99");
+    store.SaveSetting(tree, "Search", "AllowSpecial", "1");
+    store.SaveSetting(tree, "Search", "More", "False");
+    reopen();
+    EXPECT_EQ(find<QComboBox>("cmbSearchText").currentText(), "0");
+    QStringList replaces;
+    for (int i = 0; i < find<QComboBox>("cmbReplaceText").count(); ++i)
+        replaces += find<QComboBox>("cmbReplaceText").itemText(i);
+    EXPECT_EQ(replaces, QStringList({"-", "odd", "-", "-"}));
+    EXPECT_EQ(find<QTabBar>("TabStrip1").currentIndex(), 0);
+    EXPECT_TRUE(find<QRadioButton>("optWildcardOptions4").isChecked());
+    EXPECT_EQ(find<QPushButton>("cmdMore").text(), "Less     ");
+}
+
+} // namespace
+
+} // namespace tolvo::test
+
+int main(int argc, char **argv) {
+    QApplication application(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
