@@ -23,6 +23,7 @@
 #include <QList>
 #include <QString>
 #include <array>
+#include <functional>
 #include <memory>
 
 namespace tolvo {
@@ -93,6 +94,8 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
 
     /// Chooses the text box in use without moving any text, as the start does.
     void useTextBox(bool wrapped);
+    /// Takes over what the Options store for the text tools: top level domains and file extensions.
+    void readTextPreferences();
     /// Takes the clipboard's text into the text box, with its message if it is too long; `bDirty` and undo
     /// are left to the caller.
     void takeClipboard();
@@ -142,9 +145,9 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void imgPower_Click(int index);
     /// Runs one Action with its stored settings. Failures are reported and go no further.
     void PowerButtonDespatcher(const CAction &action);
-    /// Runs one Action the way that its tool and its dialog option say. Failures go to the caller, who is no
-    /// event.
-    void runAction(const CAction &action);
+    /// Runs Actions one after another, each the way that its tool and its dialog option say; `beforeEach` is
+    /// called in front of each. A failure is reported and ends the run.
+    void runActions(const QList<std::shared_ptr<CAction>> &actions, const std::function<void()> &beforeEach);
 
     /// The PowerButton that an Action of pbPBT names.
     void runNestedPowerButton(const CAction &action);
@@ -178,6 +181,10 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     /// ToolDespatcher and imgPower_Click for callers inside the session: failures go on.
     void runTool(const QString &token);
     void runPowerButton(int index);
+    void runAction(const CAction &action);
+    /// Runs `action`; a PowerButton that runs itself ends it with a report and the text as it was.
+    template <class Action>
+    void endingCycles(Action &&action);
     void runWithSettings(const CAction &action);
     void reportTroubleOfStore();
 

@@ -32,16 +32,31 @@ class Listed {
 
 } // namespace
 
+template <class Action>
+void frmMain::endingCycles(Action &&action) {
+    const TextState before = textState();
+    try {
+        action();
+    } catch (const PowerButtonCycle &cycle) {
+        restore(before);
+        ReportError(m_services.boxes, QStringLiteral("frmMain"), QStringLiteral("PowerButtonDespatcher"),
+                    cycle);
+    }
+}
+
 void frmMain::imgPower_Click(int index) {
+    guarded(u"imgPower_Click", [&] { endingCycles([&] { runPowerButton(index); }); });
+}
+
+void frmMain::runActions(const QList<std::shared_ptr<CAction>> &actions,
+                         const std::function<void()> &beforeEach) {
     guarded(u"imgPower_Click", [&] {
-        const TextState before = textState();
-        try {
-            runPowerButton(index);
-        } catch (const PowerButtonCycle &cycle) {
-            restore(before);
-            ReportError(m_services.boxes, QStringLiteral("frmMain"), QStringLiteral("PowerButtonDespatcher"),
-                        cycle);
-        }
+        endingCycles([&] {
+            for (const std::shared_ptr<CAction> &action : actions) {
+                beforeEach();
+                runAction(*action);
+            }
+        });
     });
 }
 

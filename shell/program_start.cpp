@@ -44,6 +44,7 @@ void modMain::start() {
     loadPowerButtons();
     showTips();
     readFonts();
+    m_session->readTextPreferences();
     m_session->bSounds = preferenceIsOne(u"Sounds");
     countStart();
     const bool later = m_window->takesClipboardLater();

@@ -7,8 +7,16 @@
 #include "base/numbers.h"
 #include "base/strings.h"
 #include "preferences/settings_table.h"
+#include "text/top_level_domains.h"
 
 namespace tolvo {
+
+void frmMain::readTextPreferences() {
+    const bool full = readSetting(m_services.store, u"Preferences", u"TLD_Full") == flagWord(true);
+    oTextMethods.setTopLevelDomains(full ? longTopLevelDomains() : shortTopLevelDomains());
+    m_services.extensions.setUserExtensions(
+        readList(m_services.store, QStringLiteral("Preferences\\UserFileExtensions")));
+}
 
 // Text from the clipboard
 

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "shell/headless/HeadlessSession.h"
+
+namespace tolvo {
+
+HeadlessSession::HeadlessSession(SettingsStore &store, const Catalogue &catalogue,
+                                 FileExtensions &fileExtensions, MessageBoxes &boxes,
+                                 HeadlessWindows &windows, const QString &programFolder, int capacity)
+    : txtText1(capacity), txtTextWW(capacity), m_spelling{.store = store,
+                                                          .boxes = boxes,
+                                                          .http = m_network,
+                                                          .word = m_word,
+                                                          .programFolder = programFolder,
+                                                          .userFolder = {},
+                                                          .atdEndpoint = {}},
+      session({.store = store,
+               .clipboard = clipboard,
+               .boxes = boxes,
+               .sound = sound,
+               .extensions = fileExtensions,
+               .oTools = catalogue,
+               .oPowerButtons = oPowerButtons,
+               .windows = windows,
+               .view = windows,
+               .spelling = m_spelling,
+               .spellingWalk = windows,
+               .languages = windows},
+              txtText1, txtTextWW, windows) {
+    for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number)
+        oPowerButtons.Add(std::make_shared<CPowerButton>(), number);
+    session.readTextPreferences();
+}
+
+} // namespace tolvo
