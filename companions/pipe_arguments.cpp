@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "companions/pipe_arguments.h"
+
+#include <functional>
+
+namespace tolvo {
+
+namespace {
+
+/// "START,LENGTH", both from 0.
+bool readSelection(const QString &value, PipeArguments &result) {
+    const QStringList parts = value.split(u',');
+    bool startOk = false;
+    bool lengthOk = false;
+    if (parts.size() == 2) {
+        result.selStart = parts.at(0).toInt(&startOk);
+        result.selLength = parts.at(1).toInt(&lengthOk);
+    }
+    return startOk && lengthOk && result.selStart >= 0 && result.selLength >= 0;
+}
+
+/// Takes one option; false for an unknown one. `next` gives the argument behind it.
+bool readOption(const QString &option, PipeArguments &result, const std::function<QString()> &next) {
+    if (option == QLatin1StringView("--raw"))
+        result.raw = true;
+    else if (option == QLatin1StringView("--json"))
+        result.json = true;
+    else if (option == QLatin1StringView("--batch"))
+        result.mode = PipeArguments::Batch;
+    else if (option == QLatin1StringView("--list-tools"))
+        result.mode = PipeArguments::ListTools;
+    else if (option == QLatin1StringView("--help") || option == QLatin1StringView("-h"))
+        result.mode = PipeArguments::Help;
+    else if (option == QLatin1StringView("--version"))
+        result.mode = PipeArguments::Version;
+    else if (option == QLatin1StringView("--select")) {
+        if (!readSelection(next(), result))
+            result.error = QStringLiteral("--select needs START,LENGTH, two numbers from 0");
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+PipeArguments readArguments(const QStringList &arguments) {
+    PipeArguments result;
+    bool optionsOver = false;
+    for (qsizetype i = 0; i < arguments.size() && result.error.isEmpty(); ++i) {
+        const QString &argument = arguments.at(i);
+        if (optionsOver || !argument.startsWith(u'-'))
+            result.steps += argument;
+        else if (argument == QLatin1StringView("--"))
+            optionsOver = true;
+        else if (!readOption(argument, result, [&] { return arguments.value(++i); }))
+            result.error = QStringLiteral("unknown option \"%1\"").arg(argument);
+    }
+    if (result.error.isEmpty() && result.mode == PipeArguments::Steps && result.steps.isEmpty())
+        result.error = QStringLiteral("no steps; --help tells how to use it");
+    if (result.error.isEmpty() && result.mode == PipeArguments::Batch && !result.steps.isEmpty())
+        result.error = QStringLiteral("--batch reads its steps from standard input");
+    return result;
+}
+
+QString helpText() {
+    return QStringLiteral(R"(Usage: tolvo-pipe [OPTION]... STEP...
+Reads text on standard input, runs the steps one after another and writes the result on standard output.
+
+A step is a tool, or a tool with settings:
+  TOKEN             such as foTRA; a tool that has settings runs with those last used
+  TOKEN:SETTINGS    such as 'foWRP:Width=60, Justify=0, Hanging=0, Tab=True'
+                    pbPBT:PowerButton=3 runs your third PowerButton
+
+  --select START,LENGTH  select a part of the text; counts UTF-16 units from 0, a line end as two
+  --raw                  take and give the text as it is; otherwise LF line ends become CR LF for the
+                         tools and LF again at the end, unless the text holds a CR
+  --json                 print one JSON object with text, selection, status and messages
+  --batch                read requests as JSON Lines and answer each with one line:
+                         {"text": "...", "selStart": 0, "selLength": 0, "steps": ["foTRA"], "clipboard": ""}
+  --list-tools           print token, name and explanation of every tool
+  --help, --version
+
+Text is UTF-8. Status texts and messages go to standard error.
+Exit code: 0 done, 1 a tool reported a failure or a warning, 2 wrong usage or bad input (nothing has been
+written then), 3 internal error.
+)");
+}
+
+} // namespace tolvo

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "companions/pipe_session.h"
+
+#include <QByteArray>
+
+namespace tolvo {
+
+/// Answers one line of --batch: a reply, or {"error": ...} for a request that can't be run.
+[[nodiscard]] QString answerRequest(const PipeWorld &world, const QByteArray &line);
+
+} // namespace tolvo

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "companions/pipe_session.h"
+
+#include "companions/pipe_text.h"
+#include "powerbuttons/CPowerButtonMethods.h"
+#include "powerbuttons/circular_check.h"
+#include "shell/headless/HeadlessSession.h"
+
+#include <QSet>
+
+namespace tolvo {
+
+namespace {
+
+using ActionPtr = std::shared_ptr<CAction>;
+
+/// A step with settings brings them along; one without runs with the settings last used.
+ActionPtr actionOf(const Catalogue &catalogue, const QString &step) {
+    const qsizetype colon = step.indexOf(u':');
+    const QString token = colon < 0 ? step : step.first(colon);
+    const ToolPtr tool = catalogue.tool(token);
+    if (!tool || tool->isHeading() || token == QLatin1StringView("toolNULL"))
+        throw BadRequest(QStringLiteral("there is no tool \"%1\"; --list-tools shows them all").arg(token));
+    if (colon >= 0 && !tool->gotDialog())
+        throw BadRequest(QStringLiteral("%1 (%2) has no settings").arg(token, tool->Name()));
+    return std::make_shared<CAction>(tool, colon < 0 ? Current : Custom,
+                                     colon < 0 ? QString() : step.sliced(colon + 1));
+}
+
+/// Refuses tools that live on a window, in the steps and in the PowerButtons that these run.
+class WindowCheck {
+  public:
+    explicit WindowCheck(const CPowerButtonCollection &buttons) : m_buttons(buttons) {}
+
+    void check(const CAction &action) {
+        const ToolPtr tool = action.Tool();
+        if (!tool)
+            return;
+        const QString &token = tool->Token();
+        const bool spelling = token == QLatin1StringView("chSPE") || token == QLatin1StringView("chGRA");
+        const bool search = token == QLatin1StringView("edSRC") || token == QLatin1StringView("edREP");
+        if (spelling)
+            throw BadRequest(QStringLiteral("%1 (%2) needs a window").arg(token, tool->Name()));
+        if (search && action.DlgOption() != Custom)
+            throw BadRequest(QStringLiteral("%1 (%2) needs a window, or settings: '%1:Mode=1, Find=...'")
+                                 .arg(token, tool->Name()));
+        if (token == powerButtonToken && action.DlgOption() == Custom)
+            checkButton(targetOf(action).value_or(0));
+    }
+
+  private:
+    void checkButton(int number) {
+        const auto button = m_buttons.Item(number);
+        if (!button || m_seen.contains(number))
+            return;
+        m_seen.insert(number);
+        for (int position = 1; position <= button->Count(); ++position)
+            check(*button->Item(position));
+    }
+
+    const CPowerButtonCollection &m_buttons;
+    QSet<int> m_seen;
+};
+
+void loadPowerButtons(const PipeWorld &world, CPowerButtonCollection &buttons, MessageBoxes &boxes) {
+    CPowerButtonMethods methods(world.store, world.catalogue, boxes);
+    for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number)
+        methods.ReadPBSettings(*buttons.Item(number), number);
+}
+
+QString messageJson(const Box &box) {
+    static constexpr const char *icons[] = {"none", "information", "exclamation", "question", "critical"};
+    return QStringLiteral("{\"icon\":\"") + QLatin1StringView(icons[static_cast<int>(box.icon)]) +
+           QStringLiteral("\",\"title\":") +
+           jsonString(box.title.isEmpty() ? applicationTitle() : box.title) + QStringLiteral(",\"text\":") +
+           jsonString(box.text) + QStringLiteral(",\"buttons\":\"") +
+           QLatin1StringView(box.buttons == BoxButtons::Ok ? "ok" : "yesno") + QStringLiteral("\"}");
+}
+
+template <class List, class ToJson>
+QString jsonArray(const List &list, ToJson toJson) {
+    QStringList entries;
+    for (const auto &entry : list)
+        entries += toJson(entry);
+    return u'[' + entries.join(u',') + u']';
+}
+
+QString statisticsJson(const TextStatistics &statistics) {
+    return jsonArray(statistics.rows, [](const StatisticsRow &row) {
+        return jsonArray(QStringList{row.name, row.fullText, row.selection}, jsonString);
+    });
+}
+
+} // namespace
+
+bool PipeReply::warned() const {
+    return std::any_of(messages.begin(), messages.end(), [](const Box &box) {
+        return box.icon == BoxIcon::Exclamation || box.icon == BoxIcon::Critical;
+    });
+}
+
+PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
+                  const std::function<void(const QString &)> &afterStep) {
+    QList<ActionPtr> actions;
+    for (const QString &step : request.steps)
+        actions += actionOf(world.catalogue, step);
+
+    HeadlessWindows windows;
+    HeadlessSession headless(world.store, world.catalogue, world.extensions, boxes, windows,
+                             world.programFolder, request.capacity);
+    const bool runsButtons = std::any_of(actions.begin(), actions.end(), [](const ActionPtr &action) {
+        return action->Tool()->Token() == powerButtonToken;
+    });
+    if (runsButtons)
+        loadPowerButtons(world, headless.oPowerButtons, boxes);
+    WindowCheck windowCheck(headless.oPowerButtons);
+    for (const ActionPtr &action : actions)
+        windowCheck.check(*action);
+
+    frmMain &session = headless.session;
+    headless.clipboard.text = request.clipboard;
+    session.txtCurrent().setText(request.text);
+    select(session.txtCurrent(), request.selStart, request.selLength);
+    session.beginWithText();
+    const auto sayStatus = [&] {
+        if (afterStep && !session.labStatus().isEmpty())
+            afterStep(session.labStatus());
+    };
+    session.runActions(actions, [&] {
+        sayStatus();
+        session.setStatus({});
+        session.bRightButton = false; // every step says by itself whether it brings settings
+    });
+    sayStatus();
+
+    TextBox &box = session.txtCurrent();
+    return {.text = box.Text(),
+            .selStart = box.SelStart(),
+            .selLength = box.SelLength(),
+            .status = session.labStatus(),
+            .dirty = session.bDirty(),
+            .clipboard = headless.clipboard.text,
+            .messages = boxes.shown,
+            .statistics = windows.statistics};
+}
+
+QString replyLine(const PipeReply &reply) {
+    QString line = QStringLiteral("{\"text\":") + jsonString(reply.text) +
+                   QStringLiteral(",\"selStart\":%1,\"selLength\":%2,\"status\":")
+                       .arg(reply.selStart)
+                       .arg(reply.selLength) +
+                   jsonString(reply.status) + QStringLiteral(",\"dirty\":") +
+                   QLatin1StringView(reply.dirty ? "true" : "false") + QStringLiteral(",\"clipboard\":") +
+                   jsonString(reply.clipboard) + QStringLiteral(",\"messages\":") +
+                   jsonArray(reply.messages, messageJson);
+    if (reply.statistics)
+        line += QStringLiteral(",\"statistics\":") + statisticsJson(*reply.statistics);
+    return line + u'}';
+}
+
+} // namespace tolvo

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// One session of tolvo-pipe: a text, the steps that run on it, and what comes back.
+#pragma once
+
+#include "base/application.h"
+#include "platform/headless/ConsoleBoxes.h"
+#include "powerbuttons/CAction.h"
+#include "powerbuttons/catalogue.h"
+#include "preferences/file_extensions.h"
+#include "text/statistics.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace tolvo {
+
+class SettingsStore;
+
+/// What all sessions of one process share.
+struct PipeWorld {
+    SettingsStore &store;
+    const Catalogue &catalogue;
+    FileExtensions &extensions;
+    QString programFolder;
+};
+
+struct PipeRequest {
+    QString text; ///< as the session holds it
+    int selStart = 0;
+    int selLength = 0;
+    QStringList steps; ///< TOKEN or TOKEN:SETTINGS
+    QString clipboard = {};
+    int capacity = textLimit;
+};
+
+struct PipeReply {
+    QString text;
+    int selStart = 0;
+    int selLength = 0;
+    QString status;
+    bool dirty = false;
+    QString clipboard;
+    std::vector<Box> messages;
+    std::optional<TextStatistics> statistics;
+
+    /// A tool reported a failure or a warning.
+    [[nodiscard]] bool warned() const;
+};
+
+/// A request that can't be run; what() tells why. Nothing has run then.
+class BadRequest : public std::runtime_error {
+  public:
+    explicit BadRequest(const QString &why) : std::runtime_error(why.toStdString()) {}
+};
+
+/// Runs the steps as the Actions of one PowerButton. `boxes` hears every message, `afterStep` every status
+/// that a step leaves. Throws BadRequest for a step that is none or that needs a window.
+[[nodiscard]] PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
+                                const std::function<void(const QString &)> &afterStep = {});
+
+/// The reply as one line of JSON, without its line end.
+[[nodiscard]] QString replyLine(const PipeReply &reply);
+
+} // namespace tolvo

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// tolvo-pipe: the same tools without a window, between standard input and standard output.
+#include "base/application.h"
+#include "base/failure.h"
+#include "base/paths.h"
+#include "companions/pipe_arguments.h"
+#include "companions/pipe_batch.h"
+#include "companions/pipe_session.h"
+#include "companions/pipe_text.h"
+#include "platform/headless/ConsoleBoxes.h"
+#include "platform/headless/MemoryTextBox.h"
+#include "platform/headless/clipboard_line_ends.h"
+#include "preferences/settings_store.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <cstdio>
+
+namespace tolvo {
+
+namespace {
+
+enum ExitCode { Done = 0, Warned = 1, BadUsage = 2, InternalError = 3 };
+
+void complain(const QString &text) {
+    ConsoleBoxes().say(text);
+}
+
+void write(const QString &text) {
+    const QByteArray bytes = text.toUtf8();
+    const auto size = static_cast<size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        throw Failure(failureNumber::fileAccess, QStringLiteral("standard output can't be written"));
+}
+
+/// All of standard input as text. Throws BadRequest for what isn't UTF-8.
+QString readText() {
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        throw Failure(failureNumber::fileAccess, QStringLiteral("standard input can't be read"));
+    const QByteArray bytes = input.readAll();
+    if (const auto offset = firstBadByte(bytes))
+        throw BadRequest(QStringLiteral("the text is not UTF-8: byte %1").arg(*offset));
+    return fromUtf8(bytes);
+}
+
+int runSteps(const PipeWorld &world, const PipeArguments &arguments) {
+    ConsoleBoxes console;
+    RecordingBoxes silent;
+    ClipboardLineEnds lineEnds;
+    const QString input = readText();
+    const PipeRequest request{.text = arguments.raw ? input : lineEnds.takeIn(input),
+                              .selStart = arguments.selStart,
+                              .selLength = arguments.selLength,
+                              .steps = arguments.steps,
+                              .capacity = MemoryTextBox::unlimited};
+    const auto sayStatus = [&](const QString &status) {
+        if (!arguments.json)
+            console.say(status);
+    };
+    const PipeReply reply =
+        runPipe(world, request, arguments.json ? silent : static_cast<RecordingBoxes &>(console), sayStatus);
+    if (arguments.json)
+        write(replyLine(reply) + u'\n');
+    else
+        write(arguments.raw ? reply.text : lineEnds.goOut(reply.text));
+    if (reply.statistics && !arguments.json) {
+        for (const StatisticsRow &row : reply.statistics->rows)
+            console.say(row.name + u'\t' + row.fullText + u'\t' + row.selection);
+    }
+    return reply.warned() ? Warned : Done;
+}
+
+int runBatch(const PipeWorld &world) {
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        throw Failure(failureNumber::fileAccess, QStringLiteral("standard input can't be read"));
+    for (;;) {
+        const QByteArray line = input.readLine();
+        if (line.isEmpty())
+            return Done;
+        if (!line.trimmed().isEmpty())
+            write(answerRequest(world, line) + u'\n');
+    }
+}
+
+void listTools(const Catalogue &catalogue) {
+    QString list;
+    for (const ToolPtr &tool : catalogue.tools()) {
+        if (tool->isHeading())
+            list += QStringLiteral("\n# %1\n").arg(tool->Name());
+        else if (tool->Token() != QLatin1StringView("toolNULL"))
+            list += tool->Token() + u'\t' + tool->Name() + u'\t' + tool->Tooltip() + u'\n';
+    }
+    write(list.startsWith(u'\n') ? list.sliced(1) : list);
+}
+
+int runWithCatalogue(const PipeArguments &arguments) {
+    const QString folder = QCoreApplication::applicationDirPath();
+    const Catalogue catalogue = Catalogue::read(sAppPath(folder) + QStringLiteral("Tools.dat"));
+    if (arguments.mode == PipeArguments::ListTools) {
+        listTools(catalogue);
+        return Done;
+    }
+    FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
+    SettingsStore store(SettingsStore::defaultPath());
+    const PipeWorld world{
+        .store = store, .catalogue = catalogue, .extensions = extensions, .programFolder = folder};
+    if (const QString trouble = store.takeTrouble(); !trouble.isEmpty())
+        complain(trouble);
+    return arguments.mode == PipeArguments::Batch ? runBatch(world) : runSteps(world, arguments);
+}
+
+int run(const QStringList &commandLine) {
+    const PipeArguments arguments = readArguments(commandLine);
+    if (!arguments.error.isEmpty())
+        throw BadRequest(arguments.error);
+    switch (arguments.mode) {
+    case PipeArguments::Help:
+        write(helpText());
+        return Done;
+    case PipeArguments::Version:
+        write(QStringLiteral("tolvo-pipe %1\n").arg(applicationVersion()));
+        return Done;
+    default:
+        return runWithCatalogue(arguments);
+    }
+}
+
+} // namespace
+
+} // namespace tolvo
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    try {
+        return tolvo::run(QCoreApplication::arguments().sliced(1));
+    } catch (const tolvo::BadRequest &refusal) {
+        tolvo::complain(QString::fromUtf8(refusal.what()));
+        return tolvo::BadUsage;
+    } catch (const std::exception &failure) {
+        tolvo::complain(QString::fromUtf8(failure.what()));
+        return tolvo::InternalError;
+    }
+}
