@@ -90,10 +90,10 @@ void Translator::term() {
         write(u"|", Term::None);
         break;
     case u'^':
-        write(lineStart, Term::Assertion);
+        write(lineStartAssertion, Term::Assertion);
         break;
     case u'$':
-        write(lineEnd, Term::Assertion);
+        write(lineEndAssertion, Term::Assertion);
         break;
     case u'.':
         write(u".", Term::Atom);

@@ -7,8 +7,8 @@
 
 namespace tolvo {
 
-const QStringView lineStart = u"(?<![^\\n\\r\\x{2028}\\x{2029}])";
-const QStringView lineEnd = u"(?![^\\n\\r\\x{2028}\\x{2029}])";
+const QStringView lineStartAssertion = u"(?<![^\\n\\r\\x{2028}\\x{2029}])";
+const QStringView lineEndAssertion = u"(?![^\\n\\r\\x{2028}\\x{2029}])";
 const QStringView wordBoundary = u"(?-i:(?(?<=[0-9A-Z_a-z])(?![0-9A-Z_a-z])|(?=[0-9A-Z_a-z])))";
 const QStringView noWordBoundary = u"(?-i:(?(?<=[0-9A-Z_a-z])(?=[0-9A-Z_a-z])|(?![0-9A-Z_a-z])))";
 

@@ -12,8 +12,8 @@ namespace tolvo {
 
 /// What the engine is told for "^", "$", "\b" and "\B". Every one of the four line end characters ends a
 /// line; word characters are the ASCII ones, whatever the case option.
-extern const QStringView lineStart;
-extern const QStringView lineEnd;
+extern const QStringView lineStartAssertion;
+extern const QStringView lineEndAssertion;
 extern const QStringView wordBoundary;
 extern const QStringView noWordBoundary;
 
