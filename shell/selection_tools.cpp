@@ -6,14 +6,14 @@
 
 namespace tolvo {
 
-int lineStart(QStringView text, int position) {
+int startOfLine(QStringView text, int position) {
     if (position < 2)
         return 0;
     const qsizetype lineEndBefore = text.lastIndexOf(u"\r\n", position - 2);
     return lineEndBefore < 0 ? 0 : static_cast<int>(lineEndBefore) + 2;
 }
 
-int lineEnd(QStringView text, int position) {
+int endOfLine(QStringView text, int position) {
     const qsizetype end = text.indexOf(u"\r\n", position);
     return static_cast<int>(end < 0 ? text.size() : end);
 }
@@ -24,9 +24,9 @@ void frmMain::ExtendSelectionToLines() {
     if (length == 0)
         return;
     const QString text = box.Text();
-    const int start = lineStart(text, box.SelStart());
+    const int start = startOfLine(text, box.SelStart());
     // A selection that ends exactly at the beginning of a line takes that line in.
-    select(box, start, lineEnd(text, box.SelStart() + length) - start);
+    select(box, start, endOfLine(text, box.SelStart() + length) - start);
 }
 
 void showStatistics(frmMain &session) {

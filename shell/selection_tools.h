@@ -9,8 +9,8 @@ namespace tolvo {
 class frmMain;
 
 /// Where the line begins (ends, its CR LF not counted) that holds a position. All positions from 0.
-[[nodiscard]] int lineStart(QStringView text, int position);
-[[nodiscard]] int lineEnd(QStringView text, int position);
+[[nodiscard]] int startOfLine(QStringView text, int position);
+[[nodiscard]] int endOfLine(QStringView text, int position);
 
 void showStatistics(frmMain &session);
 void clearSelection(frmMain &session);

@@ -71,7 +71,7 @@ QString capitalise(const ToolInput &in) {
 }
 
 QString tabsToSpaces(const ToolInput &in) {
-    const int column = in.selected ? in.start - lineStart(in.session.txtCurrent().Text(), in.start) : 0;
+    const int column = in.selected ? in.start - startOfLine(in.session.txtCurrent().Text(), in.start) : 0;
     return in.session.oTextMethods.Tab2space(in.text, column, 8);
 }
 
