@@ -53,6 +53,8 @@ PipeArguments readArguments(const QStringList &arguments) {
             result.steps += argument;
         else if (argument == QLatin1StringView("--"))
             optionsOver = true;
+        else if (argument.startsWith(QLatin1StringView("--select=")))
+            readOption(QStringLiteral("--select"), result, [&] { return argument.section(u'=', 1); });
         else if (!readOption(argument, result, [&] { return arguments.value(++i); }))
             result.error = QStringLiteral("unknown option \"%1\"").arg(argument);
     }
