@@ -18,7 +18,6 @@ namespace {
 constexpr int offerMilliseconds = 500;    // how long the first offer after the window's show may take
 constexpr int settleMilliseconds = 100;   // how long it may take once the window has the focus
 constexpr int patienceMilliseconds = 300; // how long an owner may take before we say that we wait
-constexpr int ownerMilliseconds = 5000;   // how long it may take at all
 
 /// Whether what is on the clipboard is shown only to the program that has the focus. X11 programs under a
 /// Wayland compositor are in the same place.
@@ -55,7 +54,7 @@ void waitForFirstOffer() {
 
 /// Whether the clipboard's owner answers. Reading from one that doesn't would stand still for a quarter of a
 /// minute, so X11 owners are first asked what they have. Wayland's reads end by themselves after a second.
-bool ownerAnswers(const std::function<void(bool)> &onWaiting) {
+bool ownerAnswers(int ownerMilliseconds, const std::function<void(bool)> &onWaiting) {
     if (!isX11() || QGuiApplication::clipboard()->ownsClipboard())
         return true;
     X11SelectionProbe probe;
@@ -94,7 +93,7 @@ void DesktopClipboard::writeText(const QString &text) {
 }
 
 QString DesktopClipboard::fetch() {
-    return ownerAnswers(onWaiting) ? QGuiApplication::clipboard()->text() : QString();
+    return ownerAnswers(ownerMilliseconds, onWaiting) ? QGuiApplication::clipboard()->text() : QString();
 }
 
 } // namespace tolvo

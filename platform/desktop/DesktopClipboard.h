@@ -24,6 +24,7 @@ class DesktopClipboard final : public Clipboard {
     /// Called with true when the clipboard's owner keeps us waiting, so that the window can say so, and with
     /// false when the wait is over. An owner that never answers counts as an empty clipboard.
     std::function<void(bool)> onWaiting;
+    int ownerMilliseconds = 5000; ///< how long the owner may take
 
   private:
     [[nodiscard]] QString fetch();

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// The smallest program with a keeper. keeper_probe PID-FILE EXIT-CODE WHAT [ARGUMENT], WHAT being
+//   write TEXT   Copy and Close with a text ("" leaves the clipboard empty)
+//   fill SIZE    the same with a text of that many characters
+//   take         prints what a session would take in, with "waiting" before it if the owner lets us wait
+//   crash, hang, leave
+#include "platform/desktop/DesktopClipboard.h"
+#include "platform/desktop/clipboard_keeper.h"
+
+#include <QGuiApplication>
+
+#include <QFile>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+int session(tolvo::KeeperSession &keeper, int argc, char **argv) {
+    QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    const QString what = arguments.value(3);
+    const int exitCode = arguments.value(2).toInt();
+    QFile pidFile(arguments.value(1));
+    if (pidFile.open(QIODevice::WriteOnly)) {
+        pidFile.write(QByteArray::number(getpid()));
+        pidFile.close();
+    }
+    tolvo::DesktopClipboard clipboard;
+    clipboard.ownerMilliseconds = 800;
+    clipboard.onWaiting = [](bool waits) { std::puts(waits ? "waiting" : "waited"); };
+    if (what == QStringLiteral("crash"))
+        std::raise(SIGSEGV);
+    if (what == QStringLiteral("hang"))
+        pause();
+    if (what == QStringLiteral("leave"))
+        return exitCode;
+    if (what == QStringLiteral("take"))
+        std::printf("[%s]\n", clipboard.takeText().toUtf8().constData());
+    if (what == QStringLiteral("write"))
+        clipboard.writeText(arguments.value(4));
+    if (what == QStringLiteral("fill"))
+        clipboard.writeText(QString(arguments.value(4).toInt(), u'x'));
+    std::fflush(stdout);
+    keeper.sessionOver(exitCode);
+    keeper.keepClipboardUntilTaken();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    return tolvo::runAsClipboardKeeper(
+        [&](tolvo::KeeperSession &keeper) { return session(keeper, argc, argv); });
+}
