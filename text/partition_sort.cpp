@@ -9,24 +9,29 @@ namespace tolvo {
 
 namespace {
 
-using Ranks = std::vector<std::uint32_t>;
+using Ranks = std::vector<std::int32_t>;
 using Place = std::ptrdiff_t;
 
 struct Range {
     Place first;
     Place last;
-    std::uint32_t low; ///< no rank in the range is below this one
 };
 
 class Sorter {
   public:
     explicit Sorter(Ranks ranks) : m_ranks(std::move(ranks)), m_order(m_ranks.size()) {
-        std::iota(m_order.begin(), m_order.end(), std::uint32_t{0});
+        std::iota(m_order.begin(), m_order.end(), 0);
+        const auto highest = std::max_element(m_ranks.begin(), m_ranks.end());
+        std::vector<Place> counts(highest == m_ranks.end() ? 0 : static_cast<std::size_t>(*highest) + 1);
+        for (const std::int32_t rank : m_ranks)
+            ++counts[static_cast<std::size_t>(rank)];
+        m_places.resize(counts.size());
+        std::exclusive_scan(counts.begin(), counts.end(), m_places.begin(), Place{0});
     }
 
     Ranks run() {
         std::vector<Range> waiting;
-        push(waiting, {0, static_cast<Place>(m_ranks.size()) - 1, 0});
+        push(waiting, {0, static_cast<Place>(m_ranks.size()) - 1});
         while (!waiting.empty()) {
             const Range range = waiting.back();
             waiting.pop_back();
@@ -50,10 +55,9 @@ class Sorter {
             if (sum % 2 == 1 && middle % 2 == 1)
                 ++middle; // a half goes to the even neighbour
             swap(middle, range.first);
-            const std::uint32_t pivot = rank(range.first);
-            const Place split = pivot == range.low ? range.first : partition(range.first, range.last, pivot);
-            Range left{range.first, split - 1, range.low};
-            Range right{split + 1, range.last, pivot};
+            const Place split = partition(range.first, range.last);
+            Range left{range.first, split - 1};
+            Range right{split + 1, range.last};
             if (left.last - left.first > right.last - right.first)
                 std::swap(left, right);
             push(waiting, left);
@@ -63,15 +67,22 @@ class Sorter {
 
     /// Moves what is below the pivot (at `first`) before it and returns the pivot's new place. Step by step
     /// each smaller element would change places with the first of those passed over; here a whole run of
-    /// smaller ones does so at once.
-    Place partition(Place first, Place last, std::uint32_t pivot) {
-        Place split = first;
-        for (Place at = first + 1; at <= last;) {
-            const Place run = find(at, last, [pivot](std::uint32_t r) { return r < pivot; });
-            const Place end = find(run, last, [pivot](std::uint32_t r) { return r >= pivot; });
-            exchange(m_ranks, split + 1, run, end);
-            exchange(m_order, split + 1, run, end);
-            split += end - run;
+    /// smaller ones does so at once. A range holds just the elements that belong to its places in the end, so
+    /// that it is known beforehand how many are below: none if the pivot's equals lie before the range.
+    Place partition(Place first, Place last) {
+        const std::int32_t pivot = m_ranks[static_cast<std::size_t>(first)];
+        const Place split = std::max(first, m_places[static_cast<std::size_t>(pivot)]);
+        Place at = first + 1;
+        for (Place next = at; next <= split;) {
+            const bool onlySmallerOnes = last - at == split - next;
+            const Place run =
+                onlySmallerOnes ? at : find(at, last, [pivot](std::int32_t rank) { return rank < pivot; });
+            const Place end = onlySmallerOnes
+                                  ? last + 1
+                                  : find(run, last, [pivot](std::int32_t rank) { return rank >= pivot; });
+            exchange(m_ranks, next, run, end);
+            exchange(m_order, next, run, end);
+            next += end - run;
             at = end;
         }
         swap(split, first);
@@ -82,12 +93,12 @@ class Sorter {
     /// tests one with few instructions.
     template <class Fits>
     [[nodiscard]] Place find(Place from, Place last, Fits fits) const {
-        constexpr Place block = 16;
-        const std::uint32_t *const ranks = m_ranks.data();
+        constexpr Place block = 64;
+        const std::int32_t *const ranks = m_ranks.data();
         for (; last - from >= block && !fits(ranks[from]); from += block) {
-            std::uint32_t any = 0;
+            std::int32_t any = 0;
             for (Place i = 0; i < block; ++i)
-                any |= static_cast<std::uint32_t>(fits(ranks[from + i]));
+                any |= static_cast<std::int32_t>(fits(ranks[from + i]));
             if (any != 0)
                 break;
         }
@@ -112,7 +123,6 @@ class Sorter {
         std::rotate(at(end - passed), at(end - passed + moved % passed), at(end));
     }
 
-    [[nodiscard]] std::uint32_t rank(Place place) const { return m_ranks[static_cast<std::size_t>(place)]; }
     void swap(Place a, Place b) {
         std::swap(m_ranks[static_cast<std::size_t>(a)], m_ranks[static_cast<std::size_t>(b)]);
         std::swap(m_order[static_cast<std::size_t>(a)], m_order[static_cast<std::size_t>(b)]);
@@ -120,11 +130,12 @@ class Sorter {
 
     Ranks m_ranks;
     Ranks m_order;
+    std::vector<Place> m_places; ///< where the elements of a rank begin in sorted order
 };
 
 } // namespace
 
-std::vector<std::uint32_t> partitionOrder(std::vector<std::uint32_t> ranks) {
+std::vector<std::int32_t> partitionOrder(std::vector<std::int32_t> ranks) {
     return Sorter(std::move(ranks)).run();
 }
 

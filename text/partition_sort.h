@@ -10,8 +10,8 @@
 
 namespace tolvo {
 
-/// The sorted order of elements with these ranks (equal keys have equal ranks, ranks count from 0): the
-/// indices of the elements from the first to the last.
-[[nodiscard]] std::vector<std::uint32_t> partitionOrder(std::vector<std::uint32_t> ranks);
+/// The sorted order of elements with these ranks, as the indices of the elements from the first to the last.
+/// Ranks count from 0 without a gap; equal keys have equal ranks.
+[[nodiscard]] std::vector<std::int32_t> partitionOrder(std::vector<std::int32_t> ranks);
 
 } // namespace tolvo

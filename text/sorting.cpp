@@ -17,42 +17,44 @@ namespace tolvo {
 
 namespace {
 
-using Order = std::vector<std::uint32_t>;
+using Order = std::vector<std::int32_t>;
 
 /// A text key that compares by code units; most comparisons end in its first four.
 struct TextKey {
     quint64 front = 0;
     QStringView text;
+    std::int32_t index;
 
-    explicit TextKey(QStringView key) : text(key) {
+    TextKey(QStringView key, qsizetype place) : text(key), index(static_cast<std::int32_t>(place)) {
         for (qsizetype i = 0; i < 4; ++i)
             front = front << 16U | (i < key.size() ? key.at(i).unicode() : 0U);
     }
-    [[nodiscard]] bool isBelow(const TextKey &other) const {
+    bool operator<(const TextKey &other) const {
         return front != other.front ? front < other.front : text.compare(other.text) < 0;
     }
 };
 
 struct NumberKey {
     double value;
-    [[nodiscard]] bool isBelow(const NumberKey &other) const { return value < other.value; }
+    std::int32_t index;
+    bool operator<(const NumberKey &other) const { return value < other.value; }
 };
 
 /// The indices of the keys in sorted order, equal keys in the order that the partition sort gives them.
 template <class Key>
-Order sortedOrder(const std::vector<Key> &keys) {
-    Order order(keys.size());
-    std::iota(order.begin(), order.end(), std::uint32_t{0});
-    std::sort(order.begin(), order.end(),
-              [&keys](std::uint32_t a, std::uint32_t b) { return keys[a].isBelow(keys[b]); });
-    std::vector<std::uint32_t> ranks(keys.size());
-    std::uint32_t rank = 0;
-    for (std::size_t i = 1; i < order.size(); ++i) {
-        if (keys[order[i - 1]].isBelow(keys[order[i]]))
+Order sortedOrder(std::vector<Key> keys) {
+    std::sort(keys.begin(), keys.end());
+    Order ranks(keys.size());
+    Order order;
+    order.reserve(keys.size());
+    std::int32_t rank = 0;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (i > 0 && keys[i - 1] < keys[i])
             ++rank;
-        ranks[order[i]] = rank;
+        ranks[static_cast<std::size_t>(keys[i].index)] = rank;
+        order.push_back(keys[i].index);
     }
-    const bool allDiffer = rank + std::size_t{1} >= keys.size();
+    const bool allDiffer = static_cast<std::size_t>(rank) + 1 >= keys.size();
     return allDiffer ? order : partitionOrder(std::move(ranks));
 }
 
@@ -62,17 +64,17 @@ std::vector<TextKey> keysOf(const QList<QStringView> &views, QStringView text, Q
     std::vector<TextKey> keys;
     keys.reserve(static_cast<std::size_t>(views.size()));
     for (const QStringView view : views)
-        keys.emplace_back(trim(upper.sliced(view.data() - text.data(), view.size())));
+        keys.emplace_back(trim(upper.sliced(view.data() - text.data(), view.size())),
+                          static_cast<qsizetype>(keys.size()));
     return keys;
 }
 
 /// The views that aren't empty, in this order, with the separator between them.
-template <class Indices>
-void appendJoined(QString &result, const QList<QStringView> &views, const Indices &order,
+void appendJoined(QString &result, const QList<QStringView> &views, const Order &order,
                   QStringView separator) {
     bool first = true;
     for (const auto index : order) {
-        const QStringView view = views.at(static_cast<qsizetype>(index));
+        const QStringView view = views.at(index);
         if (view.isEmpty())
             continue;
         if (!first)
@@ -120,7 +122,7 @@ QString cTextMethods::Numsort(QStringView text) const {
     keys.reserve(static_cast<std::size_t>(lines.size()));
     for (QStringView &line : lines) {
         line = trimBlanks(line);
-        keys.push_back({ValueOf(line)});
+        keys.push_back({ValueOf(line), static_cast<std::int32_t>(keys.size())});
     }
     QString result;
     result.reserve(text.size());

@@ -59,7 +59,7 @@ TEST_F(Sorting, refusesWhatItCannotSort) {
 }
 
 /// The partition steps as they are told, one swap at a time.
-void partitionSort(std::vector<std::uint32_t> &keys, std::vector<std::uint32_t> &order, int first, int last) {
+void partitionSort(std::vector<std::int32_t> &keys, std::vector<std::int32_t> &order, int first, int last) {
     const auto swap = [&](int a, int b) {
         std::swap(keys[a], keys[b]);
         std::swap(order[a], order[b]);
@@ -77,20 +77,29 @@ void partitionSort(std::vector<std::uint32_t> &keys, std::vector<std::uint32_t> 
     partitionSort(keys, order, split + 1, last);
 }
 
+void withoutGaps(std::vector<std::int32_t> &ranks) {
+    std::vector<std::int32_t> used = ranks;
+    std::sort(used.begin(), used.end());
+    used.erase(std::unique(used.begin(), used.end()), used.end());
+    for (auto &rank : ranks)
+        rank = static_cast<std::int32_t>(std::lower_bound(used.begin(), used.end(), rank) - used.begin());
+}
+
 TEST(PartitionOrder, isThatOfTheSteps) {
     std::mt19937 random(1);
     for (int round = 0; round < 3000; ++round) {
         const std::size_t count = random() % 90;
-        const std::uint32_t different = 1 + random() % (round % 3 == 0 ? 100 : 5);
-        std::vector<std::uint32_t> ranks(count);
+        const auto different = 1 + random() % (round % 3 == 0 ? 100 : 5);
+        std::vector<std::int32_t> ranks(count);
         for (auto &rank : ranks)
-            rank = random() % different;
+            rank = static_cast<std::int32_t>(random() % different);
+        withoutGaps(ranks);
         if (round % 7 == 0)
             std::sort(ranks.begin(), ranks.begin() + static_cast<std::ptrdiff_t>(count / 2));
         auto keys = ranks;
-        std::vector<std::uint32_t> order(count);
+        std::vector<std::int32_t> order(count);
         for (std::size_t i = 0; i < count; ++i)
-            order[i] = static_cast<std::uint32_t>(i);
+            order[i] = static_cast<std::int32_t>(i);
         partitionSort(keys, order, 0, static_cast<int>(count) - 1);
         ASSERT_EQ(partitionOrder(ranks), order) << "round " << round;
     }
@@ -103,7 +112,7 @@ TEST_F(Sorting, equalKeysKeepTheOrderOfTheSteps) {
 }
 
 TEST_F(Sorting, hugeTextsOfEqualLinesComeThrough) {
-    const QString text = QStringLiteral("a\r\n").repeated(1'000'000);
+    const QString text = QStringLiteral("a\r\n").repeated(200'000);
     EXPECT_EQ(engine.Sort(text), text.chopped(2));
     EXPECT_EQ(engine.Numsort(text), text.chopped(2));
 }
