@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "text/ui/dialog_parts.h"
+
+#include "platform/desktop/font_conversion.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tolvo {
+
+SampleBox::SampleBox(int rows, QWidget *parent) : QPlainTextEdit(parent), m_rows(rows) {
+    setObjectName(QStringLiteral("txtSample"));
+    setReadOnly(true);
+    setUndoRedoEnabled(false);
+    setFocusPolicy(Qt::ClickFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    fitRows();
+}
+
+void SampleBox::setSampleFont(const Font &font) {
+    setFont(toQFont(font));
+    fitRows();
+}
+
+void SampleBox::fitRows() {
+    const QFontMetrics metrics(font());
+    setTabStopDistance(metrics.horizontalAdvance(u' ') * 8);
+    const int frame = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+    setMinimumHeight(metrics.lineSpacing() * m_rows + frame);
+    setMinimumWidth(metrics.averageCharWidth() * 40);
+}
+
+Options::Options(const QString &name, const QStringList &captions, QWidget *parent)
+    : m_group(new QButtonGroup(parent)) {
+    for (int i = 0; i < captions.size(); ++i) {
+        auto *button = new QRadioButton(captions.at(i), parent);
+        button->setObjectName(name + u'_' + QString::number(i));
+        m_group->addButton(button, i);
+    }
+    choose(0);
+}
+
+QRadioButton *Options::button(int index) const {
+    return static_cast<QRadioButton *>(m_group->button(index));
+}
+
+void Options::setEnabled(bool enabled) {
+    for (QAbstractButton *button : m_group->buttons())
+        button->setEnabled(enabled);
+}
+
+QLabel *labelFor(QWidget *control, const QString &caption) {
+    auto *label = new QLabel(caption, control->parentWidget());
+    label->setBuddy(control);
+    if (control->accessibleName().isEmpty())
+        control->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
+    return label;
+}
+
+void finishDialog(QDialog &dialog, const QString &name, const QString &caption, QLayout *contents) {
+    dialog.setObjectName(name);
+    dialog.setWindowTitle(caption);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addLayout(contents, 1);
+    layout->addWidget(buttons);
+}
+
+} // namespace tolvo

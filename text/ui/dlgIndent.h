@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "text/ui/dialog_parts.h"
+
+class QComboBox;
+
+namespace tolvo {
+
+class NumberBox;
+
+/// "Indent": what is put before lines or taken off again.
+class dlgIndent : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit dlgIndent(const IndentSettings &settings, QWidget *parent = nullptr);
+
+    [[nodiscard]] IndentSettings settings() const;
+    void setSettings(const IndentSettings &settings);
+
+  public slots:
+    /// Puts the text, unless it is blank, on top of the list of recent ones.
+    void accept() override;
+
+  private:
+    [[nodiscard]] QStringList recentTexts() const;
+
+    Options m_option;
+    NumberBox *m_spaces;
+    QComboBox *m_text;
+};
+
+} // namespace tolvo

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "text/ui/dlgNumLines.h"
+
+#include "text/cTextMethods.h"
+#include "text/ui/NumberBox.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QStyle>
+
+namespace tolvo {
+
+namespace {
+
+// Two paragraphs, and a blank line that is numbered or isn't.
+constexpr const char *filler =
+    "Lorem ipsum dolor adipiscing elit, sed diam nonummy nibh euismod.\r\n\r\n"
+    "Tincidunt ut laoreet dolore magna aliquam erat volutpat. Ut wisi enim ad minim veniam, quis nostrud "
+    "exerci tation.";
+
+} // namespace
+
+dlgNumLines::dlgNumLines(const cTextMethods &engine, const LineNumberSettings &settings, QWidget *parent)
+    : QDialog(parent), m_engine(engine),
+      m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"), {1}, this)),
+      m_step(new NumberBox(QStringLiteral("txtStep"), tr("Increment"), {1}, this)),
+      m_every(new NumberBox(QStringLiteral("txtEvery"), tr("Every how many lines"), {1}, this)),
+      m_ignoreBlanks(new QCheckBox(tr("Ignore blank lines"), this)),
+      m_renumber(new QCheckBox(tr("Renumber"), this)), m_pad(new QCheckBox(tr("Pad with spaces"), this)),
+      m_range(QStringLiteral("optRange"), {tr("Range &left"), tr("Range &right")}, this),
+      m_sample(new SampleBox(7, this)) {
+    m_ignoreBlanks->setObjectName(QStringLiteral("chkIgnoreBlanks"));
+    m_renumber->setObjectName(QStringLiteral("chkRenumber"));
+    m_pad->setObjectName(QStringLiteral("chkPad"));
+    arrange();
+    setSettings(settings);
+
+    for (NumberBox *box : {m_start, m_step, m_every})
+        connect(box, &NumberBox::changed, this, &dlgNumLines::refresh);
+    for (QCheckBox *box : {m_ignoreBlanks, m_pad})
+        connect(box, &QCheckBox::toggled, this, &dlgNumLines::refresh);
+    connect(m_range.group(), &QButtonGroup::idToggled, this, &dlgNumLines::refresh);
+}
+
+void dlgNumLines::arrange() {
+    auto *every = new QHBoxLayout;
+    every->addWidget(m_every);
+    every->addWidget(new QLabel(tr("lines."), this));
+    every->addStretch();
+    auto *ranges = new QVBoxLayout;
+    ranges->setContentsMargins(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
+                                   style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing),
+                               0, 0, 0);
+    ranges->addWidget(m_range.button(0));
+    ranges->addWidget(m_range.button(1));
+
+    auto *grid = new QGridLayout;
+    grid->addWidget(labelFor(m_start, tr("Start:")), 0, 0);
+    grid->addWidget(m_start, 0, 1);
+    grid->addWidget(labelFor(m_step, tr("Increment:")), 1, 0);
+    grid->addWidget(m_step, 1, 1);
+    grid->addWidget(labelFor(m_every, tr("Every")), 2, 0);
+    grid->addLayout(every, 2, 1);
+    auto *boxes = new QVBoxLayout;
+    boxes->addWidget(m_ignoreBlanks);
+    boxes->addWidget(m_renumber);
+    boxes->addWidget(m_pad);
+    boxes->addLayout(ranges);
+    boxes->addStretch();
+    grid->setColumnMinimumWidth(2, fontMetrics().averageCharWidth() * 3);
+    grid->addLayout(boxes, 0, 3, 4, 1);
+    grid->addWidget(labelFor(m_sample, tr("Sample:")), 4, 0, 1, 4);
+    grid->addWidget(m_sample, 5, 0, 1, 4);
+    grid->setRowStretch(5, 1);
+    grid->setColumnStretch(3, 1);
+    finishDialog(*this, QStringLiteral("dlgNumLines"), tr("Line Numbering"), grid);
+}
+
+LineNumberSettings dlgNumLines::settings() const {
+    LineNumberSettings settings;
+    settings.start = m_start->value();
+    settings.step = m_step->value();
+    settings.every = m_every->value();
+    settings.renumber = m_renumber->isChecked();
+    settings.ignoreBlanks = m_ignoreBlanks->isChecked();
+    settings.pad = m_pad->isChecked();
+    settings.rangeRight = m_range.choice() == 1;
+    return settings;
+}
+
+void dlgNumLines::setSettings(const LineNumberSettings &settings) {
+    m_start->setValue(settings.start);
+    m_step->setValue(settings.step);
+    m_every->setValue(settings.every);
+    m_renumber->setChecked(settings.renumber);
+    m_ignoreBlanks->setChecked(settings.ignoreBlanks);
+    m_pad->setChecked(settings.pad);
+    m_range.choose(settings.rangeRight ? 1 : 0);
+    refresh();
+}
+
+void dlgNumLines::refresh() {
+    m_range.setEnabled(m_pad->isChecked());
+    const LineNumberSettings now = settings();
+    m_sample->setSample(m_engine.LineNumber(QString::fromLatin1(filler), now.start, now.step, now.every,
+                                            !now.ignoreBlanks, now.pad, now.rangeRight));
+}
+
+} // namespace tolvo

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "text/ui/dlgNumberStyle.h"
+
+#include "text/cTextMethods.h"
+#include "text/numbering.h"
+#include "text/ui/NumberBox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+
+namespace tolvo {
+
+namespace {
+
+constexpr int fewestOutlineSpaces = 4;
+
+} // namespace
+
+dlgNumberStyle::dlgNumberStyle(const cTextMethods &engine, const NumberListSettings &settings,
+                               QWidget *parent)
+    : QDialog(parent), m_engine(engine), m_style(new QComboBox(this)),
+      m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"),
+                            {1, NumberListSettings::highestTypedStart}, this)),
+      m_renumber(new QCheckBox(tr("Renumber"), this)), m_followChar(new QComboBox(this)),
+      m_followCharLabel(labelFor(m_followChar, tr("Punctuation:"))),
+      m_tab(QStringLiteral("optTab"), {tr("&Tab after"), tr("&Pad to")}, this),
+      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Pad to spaces"),
+                             {0, NumberListSettings::mostTypedSpaces}, this)),
+      m_sample(new SampleBox(5, this)) {
+    m_style->setObjectName(QStringLiteral("cmbStyle"));
+    for (const QStringView name : listStyleNames)
+        m_style->addItem(name.toString());
+    m_renumber->setObjectName(QStringLiteral("chkRenumber"));
+    m_followChar->setObjectName(QStringLiteral("cmbFollowChar"));
+    for (const FollowCharacters &characters : followCharacters)
+        m_followChar->addItem(characters.name.toString());
+    m_sample->setLineWrapMode(QPlainTextEdit::NoWrap);
+    arrange();
+    setSettings(settings);
+
+    connect(m_style, &QComboBox::currentIndexChanged, this, &dlgNumberStyle::styleChosen);
+    connect(m_spaces, &NumberBox::stepped, this, [this] { m_tab.choose(1); });
+    connect(m_followChar, &QComboBox::currentIndexChanged, this, &dlgNumberStyle::refreshSample);
+    for (NumberBox *box : {m_start, m_spaces})
+        connect(box, &NumberBox::changed, this, &dlgNumberStyle::refreshSample);
+    connect(m_tab.group(), &QButtonGroup::idToggled, this, &dlgNumberStyle::refreshSample);
+}
+
+void dlgNumberStyle::arrange() {
+    auto *separator = new QGroupBox(this);
+    auto *pad = new QHBoxLayout;
+    pad->addWidget(m_tab.button(1));
+    pad->addWidget(m_spaces);
+    pad->addWidget(new QLabel(tr("spaces"), this));
+    pad->addStretch();
+    auto *choices = new QVBoxLayout(separator);
+    choices->addWidget(m_tab.button(0));
+    choices->addLayout(pad);
+
+    auto *start = new QHBoxLayout;
+    start->addWidget(m_start);
+    start->addSpacing(fontMetrics().averageCharWidth() * 3);
+    start->addWidget(m_renumber);
+    start->addStretch();
+    auto *grid = new QGridLayout;
+    grid->addWidget(labelFor(m_style, tr("Style:")), 0, 0);
+    grid->addWidget(m_style, 0, 1);
+    grid->addWidget(labelFor(m_start, tr("Start:")), 1, 0);
+    grid->addLayout(start, 1, 1);
+    grid->addWidget(m_followCharLabel, 2, 0);
+    grid->addWidget(m_followChar, 2, 1);
+    grid->addWidget(separator, 3, 0, 1, 2);
+    grid->addWidget(labelFor(m_sample, tr("Sample:")), 4, 0, 1, 2);
+    grid->addWidget(m_sample, 5, 0, 1, 2);
+    grid->setRowStretch(5, 1);
+    grid->setColumnStretch(1, 1);
+    finishDialog(*this, QStringLiteral("dlgNumberStyle"), tr("Number List Style"), grid);
+}
+
+NumberListSettings dlgNumberStyle::settings() const {
+    NumberListSettings settings;
+    settings.style = m_style->currentIndex();
+    settings.start = m_start->value();
+    settings.renumber = m_renumber->isChecked();
+    settings.followChar = m_followChar->currentIndex();
+    settings.tab = m_tab.choice() == 0;
+    settings.spaces = m_spaces->value();
+    return settings;
+}
+
+void dlgNumberStyle::setSettings(const NumberListSettings &settings) {
+    m_start->setValue(settings.start);
+    m_renumber->setChecked(settings.renumber);
+    m_followChar->setCurrentIndex(settings.followChar);
+    m_tab.choose(settings.tab ? 0 : 1);
+    m_spaces->setValue(settings.spaces);
+    m_style->setCurrentIndex(settings.style);
+    styleChosen();
+}
+
+void dlgNumberStyle::styleChosen() {
+    const bool outline = m_style->currentIndex() == static_cast<int>(ListStyle::Outline);
+    m_followChar->setEnabled(!outline);
+    m_followCharLabel->setEnabled(!outline);
+    if (outline && m_spaces->value() < fewestOutlineSpaces)
+        m_spaces->setValue(fewestOutlineSpaces);
+    refreshSample();
+}
+
+QString dlgNumberStyle::sampleText() const {
+    const QString item = tr("%1 list item\r\n");
+    const QString first = item.arg(tr("First"));
+    const QString others = item.arg(tr("Second")) + item.arg(tr("Third")) + item.arg(tr("Fourth")).chopped(2);
+    if (m_style->currentIndex() != static_cast<int>(ListStyle::Outline))
+        return first + others;
+    const QString deeper =
+        m_tab.choice() == 0 ? QStringLiteral("\t") : QString(std::max(m_spaces->value(), 1), u' ');
+    return first + deeper + tr("First sublist item\r\n") + deeper + tr("Second sublist item\r\n") + others;
+}
+
+void dlgNumberStyle::refreshSample() {
+    const NumberListSettings now = settings();
+    m_sample->setSample(
+        m_engine.number(sampleText(), now.start, now.style, now.followChar, now.tab, now.spaces));
+}
+
+} // namespace tolvo

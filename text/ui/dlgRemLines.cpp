@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "text/ui/dlgRemLines.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+
+namespace tolvo {
+
+dlgRemLines::dlgRemLines(const RemoveLinesSettings &settings, QWidget *parent)
+    : QDialog(parent), m_single(new QCheckBox(tr("Remove single blank lines"), this)),
+      m_multiple(new QCheckBox(tr("Reduce multiple blank lines to a single one"), this)) {
+    m_single->setObjectName(QStringLiteral("chkSingle"));
+    m_multiple->setObjectName(QStringLiteral("chkMultiple"));
+    auto *note = new QLabel(
+        tr("A blank line is a line (or paragraph) that is empty or consists only of white space."), this);
+    note->setWordWrap(true);
+    note->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+
+    auto *contents = new QVBoxLayout;
+    contents->addWidget(m_single);
+    contents->addWidget(m_multiple);
+    contents->addSpacing(fontMetrics().height() / 2);
+    contents->addWidget(note);
+    contents->addStretch();
+    finishDialog(*this, QStringLiteral("dlgRemLines"), tr("Remove Lines"), contents);
+    setSettings(settings);
+}
+
+RemoveLinesSettings dlgRemLines::settings() const {
+    return {m_single->isChecked(), m_multiple->isChecked()};
+}
+
+void dlgRemLines::setSettings(const RemoveLinesSettings &settings) {
+    m_single->setChecked(settings.single);
+    m_multiple->setChecked(settings.multiple);
+}
+
+} // namespace tolvo

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "text/ui/dlgWordWrap.h"
+
+#include "base/strings.h"
+#include "platform/message_box.h"
+#include "text/ui/NumberBox.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace tolvo {
+
+dlgWordWrap::dlgWordWrap(MessageBoxes &boxes, const WordWrapSettings &settings, QWidget *parent)
+    : QDialog(parent), m_boxes(boxes),
+      m_width(new NumberBox(QStringLiteral("txtWidth"), tr("Page width"),
+                            {WordWrapSettings::narrowest, WordWrapSettings::widest, true}, this)),
+      m_justify(new QCheckBox(tr("&Justify (no ragged right margin)"), this)),
+      m_hanging(new QCheckBox(tr("&Hanging indent"), this)),
+      m_tab(QStringLiteral("optTab"), {tr("&Tab"), tr("Eight &spaces")}, this) {
+    m_justify->setObjectName(QStringLiteral("chkJustify"));
+    m_hanging->setObjectName(QStringLiteral("chkHanging"));
+
+    auto *width = new QHBoxLayout;
+    width->addWidget(labelFor(m_width, tr("Page width:")));
+    width->addWidget(m_width);
+    width->addWidget(new QLabel(tr("characters"), this));
+    width->addStretch();
+    auto *indents = new QVBoxLayout;
+    indents->setContentsMargins(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
+                                    style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing),
+                                0, 0, 0);
+    indents->addWidget(m_tab.button(0));
+    indents->addWidget(m_tab.button(1));
+    auto *contents = new QVBoxLayout;
+    contents->addLayout(width);
+    contents->addWidget(m_justify);
+    contents->addWidget(m_hanging);
+    contents->addLayout(indents);
+    contents->addStretch();
+    finishDialog(*this, QStringLiteral("dlgWordWrap"), tr("Word Wrap"), contents);
+
+    connect(m_hanging, &QCheckBox::toggled, this, [this](bool on) { m_tab.setEnabled(on); });
+    setSettings(settings);
+}
+
+WordWrapSettings dlgWordWrap::settings() const {
+    return {m_width->value(), m_justify->isChecked(), m_hanging->isChecked(), m_tab.choice() == 0};
+}
+
+void dlgWordWrap::setSettings(const WordWrapSettings &settings) {
+    m_width->setValue(settings.width);
+    m_justify->setChecked(settings.justify);
+    m_hanging->setChecked(settings.hanging);
+    m_tab.choose(settings.tab ? 0 : 1);
+    m_tab.setEnabled(settings.hanging);
+}
+
+void dlgWordWrap::accept() {
+    const int width = m_width->value();
+    if (width >= WordWrapSettings::narrowest && width <= WordWrapSettings::widest) {
+        QDialog::accept();
+        return;
+    }
+    m_boxes.show({FillTemplate(tr("Page width must lie between %0 and %1 inclusive"),
+                               {QString::number(WordWrapSettings::narrowest),
+                                QString::number(WordWrapSettings::widest)}),
+                  BoxIcon::Information});
+    m_width->setFocus();
+    m_width->selectAll();
+}
+
+} // namespace tolvo
