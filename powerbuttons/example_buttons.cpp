@@ -37,9 +37,9 @@ constexpr std::array webToPlain{Step{"edEOL"}, Step{"edHDC"}, Step{"edPLA"},
                                 Step{"foTRM"}, Step{"foSSP"}, Step{"foREM", oneBlankLine}};
 
 constexpr std::array examples{
-    Example{u"Clean mail", u"\u2709", 22, 3.5, -1, cleanMail},
-    Example{u"Tidy text", u"\u00B6", 20, 7.5, 0, tidyText},
-    Example{u"Web to plain", u"</>", 10, 3, 8, webToPlain},
+    Example{u"Clean mail", u"\u2709", 22, 3.5, -5.5, cleanMail},
+    Example{u"Tidy text", u"\u00B6", 18, 8, 1, tidyText},
+    Example{u"Web to plain", u"</>", 13, 4.5, 4, webToPlain},
 };
 
 std::shared_ptr<CPowerButton> build(const Example &example, const Catalogue &tools) {

@@ -111,6 +111,7 @@ void dlgEditIcon::arrange() {
     auto *form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->setVerticalSpacing(10);
+    form->setHorizontalSpacing(12);
     form->addRow(tr("&Text, up to 3 characters:"), m_symbol);
     form->addRow({}, symbol);
     form->addRow(tr("Font:"), m_fontLabel);

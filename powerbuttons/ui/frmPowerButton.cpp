@@ -115,6 +115,12 @@ bool frmPowerButton::save() {
 
 void frmPowerButton::loadExample(const CPowerButton &example) {
     m_rules.loadExample(example);
+    // The font that stands in here for the one asked for may be of another width.
+    ButtonIcon icon = iconOf(example);
+    const QPointF position = centredPosition(icon);
+    icon.x = position.x();
+    icon.y = position.y();
+    setIcon(m_rules.button(), icon);
     if (m_name->text().isEmpty() || m_name->text() == CPowerButton::undefinedName())
         m_name->setText(example.Name);
     fill();

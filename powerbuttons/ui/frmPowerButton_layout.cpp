@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QList>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -222,6 +223,14 @@ void frmPowerButton::arrange(QWidget *foot) {
             accept();
     });
     connect(cancel, &QPushButton::clicked, this, &frmPowerButton::reject);
+
+    QList<QWidget *> order{m_tree,     m_name,   m_icon,   findChild<QWidget *>(QStringLiteral("imgTrash")),
+                           m_current,  m_prompt, m_custom, m_askSettings,
+                           m_left,     m_right,  m_add,    m_delete,
+                           m_examples, apply,    ok,       cancel,
+                           help};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order.at(i - 1), order.at(i));
 
     auto *right = new QVBoxLayout;
     right->addWidget(m_head);

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "powerbuttons/ui/dlgChoosePB.h"
+#include "powerbuttons/ui/dlgEditIcon.h"
+#include "powerbuttons/ui/frmPowerButton.h"
+#include "tests/powerbuttons/ui/modal.h"
+#include "tests/powerbuttons/world.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace tolvo {
+namespace {
+
+class EditorStory : public World {
+  protected:
+    void open(int index) {
+        form.init(index);
+        form.show();
+        activate();
+    }
+    /// Keys with Alt reach the active window only.
+    void activate() {
+        form.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    }
+    void press(const char *name) { QTest::mouseClick(&child<QAbstractButton>(form, name), Qt::LeftButton); }
+    /// A click on the leaf of that name.
+    void clickTool(const QString &name) {
+        auto &tree = child<QTreeWidget>(form, "tvwTools");
+        QTreeWidgetItem *item = tree.findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+        ASSERT_NE(item, nullptr);
+        tree.scrollToItem(item);
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(item).center());
+    }
+    /// Alt and a key: the button shows itself pressed for a moment before it acts.
+    void alt(Qt::Key key, const std::function<bool()> &done) {
+        QTest::keyClick(&form, key, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor(done));
+    }
+    QString label(const char *name) { return child<QLabel>(form, name).text(); }
+
+    frmPowerButton form{buttons, methods, tools, boxes, settings};
+};
+
+TEST_F(EditorStory, withTheMouse) {
+    open(0);
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("Edit PowerButton 1"));
+    EXPECT_FALSE(child<QWidget>(form, "optPrompt").isEnabled());
+    clickTool(QStringLiteral("UPPER CASE"));
+    EXPECT_EQ(label("labTool"), QStringLiteral("UPPER CASE"));
+    press("cmdAddAction");
+    auto &menu = child<QMenu>(form, "mnuAddAction");
+    ASSERT_TRUE(menu.isVisible());
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(menu.actions().at(2)).center());
+    EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), QStringLiteral(" Action 2 of 2"));
+    clickTool(QStringLiteral("Clean & Replace")); // a heading is no tool
+    clickTool(QStringLiteral("Remove blank lines..."));
+    settings.answer = QStringLiteral("Single=1, Multiple=0");
+    press("cmdSettings");
+    EXPECT_EQ(label("labDetails"), *settings.answer);
+    EXPECT_TRUE(child<QRadioButton>(form, "optCustom").isChecked());
+    press("cmdLeft");
+    EXPECT_EQ(label("labTool"), QStringLiteral("UPPER CASE"));
+    EXPECT_FALSE(child<QWidget>(form, "cmdLeft").isVisible());
+
+    withModal<dlgEditIcon>([](dlgEditIcon &dialog) {
+        child<QLineEdit>(dialog, "txtSymbol").setText(QStringLiteral("UP"));
+        QTest::mouseClick(&child<QPushButton>(dialog, "OKButton"), Qt::LeftButton);
+    });
+    press("picIcon");
+    boxes.expect(QStringLiteral("Please enter a name for this button"));
+    press("cmdOK");
+    EXPECT_TRUE(form.isVisible());
+    child<QLineEdit>(form, "txtName").setText(QStringLiteral("Loud"));
+    press("cmdOK");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(reread(1).Name, QStringLiteral("Loud"));
+    EXPECT_EQ(reread(1).IconText, QStringLiteral("UP"));
+    EXPECT_EQ(actionsOf(reread(1)), QStringLiteral("ccUPP foREM(Single=1, Multiple=0)"));
+
+    open(0);
+    boxes.expect(QStringLiteral("You are about to delete"), BoxAnswer::Yes);
+    press("imgTrash");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(reread(1).Count(), 0);
+}
+
+TEST_F(EditorStory, withTheKeys) {
+    open(0);
+    auto &tree = child<QTreeWidget>(form, "tvwTools");
+    auto &name = child<QLineEdit>(form, "txtName");
+    QTest::keyClicks(&name, QStringLiteral("Quiet"));
+    EXPECT_EQ(name.text(), QStringLiteral("Quiet")); // the text was selected and is replaced
+    tree.setFocus();
+    tree.setCurrentItem(tree.topLevelItem(0));
+    QTest::keyClick(&tree, Qt::Key_Down);
+    QTest::keyClick(&tree, Qt::Key_Down);
+    QTest::keyClick(&tree, Qt::Key_Return);
+    EXPECT_EQ(label("labTool"), QStringLiteral("lower case"));
+    auto &menu = child<QMenu>(form, "mnuAddAction");
+    alt(Qt::Key_A, [&] { return menu.isVisible(); });
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+    EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), QStringLiteral(" Action 2 of 2"));
+    activate();
+    alt(Qt::Key_D, [&] { return buttons.Item(1)->Count() == 1; });
+    QTest::keyClick(&name, Qt::Key_Return);
+    EXPECT_EQ(actionsOf(reread(1)), QStringLiteral("ccLOW"));
+
+    open(0);
+    boxes.expect(QStringLiteral("You are about to delete"), BoxAnswer::No);
+    boxes.last = {};
+    alt(Qt::Key_X, [&] { return !boxes.last.text.isEmpty(); });
+    boxes.expect(QStringLiteral("Replace 'lower case' with 'Statistics' in Action 1?"), BoxAnswer::Yes);
+    clickTool(QStringLiteral("Statistics"));
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_EQ(actionsOf(*buttons.Item(1)), QStringLiteral("ccLOW"));
+}
+
+TEST_F(EditorStory, anotherPowerButtonAsAStep) {
+    buttons.Item(3)->Name = QStringLiteral("Third");
+    open(1);
+    clickTool(QStringLiteral("Run PowerButton..."));
+    EXPECT_FALSE(child<QWidget>(form, "optPrompt").isEnabled());
+    withModal<dlgChoosePB>([](dlgChoosePB &dialog) {
+        auto &number = child<QSpinBox>(dialog, "VScroll1");
+        auto &ok = child<QPushButton>(dialog, "OKButton");
+        EXPECT_EQ(child<QLineEdit>(dialog, "txtName").text(),
+                  QStringLiteral("Third")); // the first one possible
+        child<QLineEdit>(dialog, "txtButtonNumber").setText(QStringLiteral("2"));
+        EXPECT_TRUE(child<QLabel>(dialog, "labAddToItself").isVisible());
+        EXPECT_FALSE(ok.isEnabled());
+        number.setValue(4);
+        EXPECT_FALSE(child<QLabel>(dialog, "labAddToItself").isVisible() || ok.isEnabled());
+        number.setValue(3);
+        ok.click();
+    });
+    press("cmdSettings");
+    EXPECT_EQ(label("labDetails"), QStringLiteral("PowerButton=3"));
+}
+
+TEST_F(EditorStory, anExampleToBeginWith) {
+    open(4);
+    auto &examples = child<QPushButton>(form, "cmdLoadExample");
+    EXPECT_TRUE(examples.isVisible());
+    examples.menu()->actions().at(0)->trigger();
+    EXPECT_FALSE(examples.isVisible());
+    press("cmdOK");
+    EXPECT_EQ(reread(5).Name, QStringLiteral("Clean mail"));
+    EXPECT_GT(reread(5).Count(), 2);
+}
+
+} // namespace
+} // namespace tolvo
