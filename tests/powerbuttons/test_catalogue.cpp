@@ -21,10 +21,9 @@ Catalogue readText(const QByteArray &text) {
 QStringList listed(const Catalogue &catalogue) {
     QStringList list;
     for (const ToolPtr &tool : catalogue.tools())
-        list += QStringLiteral("%1|%2|%3|%4")
-                    .arg(tool->Token(), tool->Name(), tool->Tooltip())
-                    .arg(tool->gotDialog());
-    EXPECT_EQ(list.takeLast(), QStringLiteral("toolNULL|NULL|Deleted tool|0"));
+        list +=
+            QString("%1|%2|%3|%4").arg(tool->Token(), tool->Name(), tool->Tooltip()).arg(tool->gotDialog());
+    EXPECT_EQ(list.takeLast(), "toolNULL|NULL|Deleted tool|0");
     return list;
 }
 
@@ -53,8 +52,8 @@ TEST(Catalogue, readsLines) {
         EXPECT_EQ(listed(catalogue), row.entries) << row.text.toStdString();
         EXPECT_EQ(catalogue.panelItems().size(), row.panelLines) << row.text.toStdString();
     }
-    EXPECT_EQ(readText(">;G;0;t").tool(QStringLiteral(">G"))->Tooltip(), QStringLiteral("t"));
-    EXPECT_EQ(readText("aa;A").tool(QStringLiteral("bb")), nullptr);
+    EXPECT_EQ(readText(">;G;0;t").tool(">G")->Tooltip(), "t");
+    EXPECT_EQ(readText("aa;A").tool("bb"), nullptr);
 }
 
 TEST(Catalogue, refusesInWords) {
@@ -82,7 +81,7 @@ TEST(Catalogue, refusesInWords) {
     }
     const QTemporaryDir folder;
     try {
-        static_cast<void>(Catalogue::read(folder.filePath(QStringLiteral("Tools.dat"))));
+        static_cast<void>(Catalogue::read(folder.filePath("Tools.dat")));
         ADD_FAILURE() << "read a file that isn't there";
     } catch (const Failure &failure) {
         EXPECT_EQ(failure.number(), failureNumber::fileNotFound);
@@ -91,14 +90,13 @@ TEST(Catalogue, refusesInWords) {
 
 TEST(ToolsDat, offersEveryToolOfTheProgram) {
     const QStringList tokens =
-        QStringLiteral("ccUPP ccLOW ccREV ccTIT ccINC ccSEN ccCAP edSTR edPLA edCRL edUDC edHDC edEOL edSRC "
-                       "edREP foTRA foTRM foSSP foIND foUNI foT2S foS2T foWRP foCOL foREM foPAR soALP soNUM "
-                       "soREV soNUP soNUD soKEY liBUL liNUM liREN liRMB liREM liRLN chPNC chSPE chGRA chSTAT "
-                       "pbPBT pbCLR pbALL pbTAG pbCPY pbCUT pbDEL pbPST")
+        QString("ccUPP ccLOW ccREV ccTIT ccINC ccSEN ccCAP edSTR edPLA edCRL edUDC edHDC edEOL edSRC "
+                "edREP foTRA foTRM foSSP foIND foUNI foT2S foS2T foWRP foCOL foREM foPAR soALP soNUM "
+                "soREV soNUP soNUD soKEY liBUL liNUM liREN liRMB liREM liRLN chPNC chSPE chGRA chSTAT "
+                "pbPBT pbCLR pbALL pbTAG pbCPY pbCUT pbDEL pbPST")
             .split(u' ');
     const QStringList withDialog =
-        QStringLiteral("edSRC edREP foIND foUNI foWRP foCOL foREM liBUL liNUM liREN chSPE chGRA pbPBT")
-            .split(u' ');
+        QString("edSRC edREP foIND foUNI foWRP foCOL foREM liBUL liNUM liREN chSPE chGRA pbPBT").split(u' ');
     const Catalogue catalogue = Catalogue::read(realCatalogue());
     QStringList found;
     for (const ToolPtr &tool : catalogue.tools()) {
@@ -120,8 +118,7 @@ TEST(ToolsDat, fitsIntoThePanel) {
     int tools = 0;
     int mostTools = 0;
     for (const Catalogue::PanelItem &item : catalogue.panelItems()) {
-        EXPECT_FALSE(item.token.startsWith(QLatin1StringView("pb")) ||
-                     item.token == QLatin1StringView("foCOL"));
+        EXPECT_FALSE(item.token.startsWith(u"pb") || item.token == QLatin1StringView("foCOL"));
         tools = item.token == QLatin1StringView(">") ? 0 : tools + 1;
         groups += tools == 0 ? 1 : 0;
         mostTools = std::max(mostTools, tools);

@@ -12,10 +12,6 @@
 
 namespace tolvo {
 
-inline void PrintTo(const BoxIcon &icon, std::ostream *out) {
-    *out << static_cast<int>(icon);
-}
-
 /// Answers the boxes that a test expects, in order; any other box, and one that doesn't come, fails the test.
 class ExpectedBoxes : public MessageBoxes {
   public:
@@ -55,7 +51,7 @@ class ScriptedSettings : public ActionSettings {
 };
 
 inline QString realCatalogue() {
-    return qEnvironmentVariable("TOLVO_SOURCE") + QStringLiteral("/data/Tools.dat");
+    return qEnvironmentVariable("TOLVO_SOURCE") + "/data/Tools.dat";
 }
 
 class World : public testing::Test {
@@ -75,7 +71,7 @@ class World : public testing::Test {
         QStringList list;
         for (int position = 1; position <= button.Count(); ++position) {
             const auto step = button.Item(position);
-            const QString token = step->Tool() ? step->Tool()->Token() : QStringLiteral("-");
+            const QString token = step->Tool() ? step->Tool()->Token() : "-";
             list += step->Details().isEmpty() ? token : token + u'(' + step->Details() + u')';
         }
         return list.join(u' ');
@@ -89,7 +85,7 @@ class World : public testing::Test {
     }
 
     Catalogue tools = Catalogue::read(realCatalogue());
-    SettingsStore store{QStringLiteral(":memory:")};
+    SettingsStore store{":memory:"};
     ExpectedBoxes boxes;
     CPowerButtonMethods methods{store, tools, boxes};
     CPowerButtonCollection buttons;

@@ -52,42 +52,42 @@ class EditorStory : public World {
 
 TEST_F(EditorStory, withTheMouse) {
     open(0);
-    EXPECT_EQ(form.windowTitle(), QStringLiteral("Edit PowerButton 1"));
+    EXPECT_EQ(form.windowTitle(), "Edit PowerButton 1");
     EXPECT_FALSE(child<QWidget>(form, "optPrompt").isEnabled());
-    clickTool(QStringLiteral("UPPER CASE"));
-    EXPECT_EQ(label("labTool"), QStringLiteral("UPPER CASE"));
+    clickTool("UPPER CASE");
+    EXPECT_EQ(label("labTool"), "UPPER CASE");
     press("cmdAddAction");
     auto &menu = child<QMenu>(form, "mnuAddAction");
     ASSERT_TRUE(menu.isVisible());
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(menu.actions().at(2)).center());
-    EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), QStringLiteral(" Action 2 of 2"));
-    clickTool(QStringLiteral("Clean & Replace")); // a heading is no tool
-    clickTool(QStringLiteral("Remove blank lines..."));
-    settings.answer = QStringLiteral("Single=1, Multiple=0");
+    EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), " Action 2 of 2");
+    clickTool("Clean & Replace"); // a heading is no tool
+    clickTool("Remove blank lines...");
+    settings.answer = "Single=1, Multiple=0";
     press("cmdSettings");
     EXPECT_EQ(label("labDetails"), *settings.answer);
     EXPECT_TRUE(child<QRadioButton>(form, "optCustom").isChecked());
     press("cmdLeft");
-    EXPECT_EQ(label("labTool"), QStringLiteral("UPPER CASE"));
+    EXPECT_EQ(label("labTool"), "UPPER CASE");
     EXPECT_FALSE(child<QWidget>(form, "cmdLeft").isVisible());
 
     withModal<dlgEditIcon>([](dlgEditIcon &dialog) {
-        child<QLineEdit>(dialog, "txtSymbol").setText(QStringLiteral("UP"));
+        child<QLineEdit>(dialog, "txtSymbol").setText("UP");
         QTest::mouseClick(&child<QPushButton>(dialog, "OKButton"), Qt::LeftButton);
     });
     press("picIcon");
-    boxes.expect(QStringLiteral("Please enter a name for this button"));
+    boxes.expect("Please enter a name for this button");
     press("cmdOK");
     EXPECT_TRUE(form.isVisible());
-    child<QLineEdit>(form, "txtName").setText(QStringLiteral("Loud"));
+    child<QLineEdit>(form, "txtName").setText("Loud");
     press("cmdOK");
     EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(reread(1).Name, QStringLiteral("Loud"));
-    EXPECT_EQ(reread(1).IconText, QStringLiteral("UP"));
-    EXPECT_EQ(actionsOf(reread(1)), QStringLiteral("ccUPP foREM(Single=1, Multiple=0)"));
+    EXPECT_EQ(reread(1).Name, "Loud");
+    EXPECT_EQ(reread(1).IconText, "UP");
+    EXPECT_EQ(actionsOf(reread(1)), "ccUPP foREM(Single=1, Multiple=0)");
 
     open(0);
-    boxes.expect(QStringLiteral("You are about to delete"), BoxAnswer::Yes);
+    boxes.expect("You are about to delete", BoxAnswer::Yes);
     press("imgTrash");
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(reread(1).Count(), 0);
@@ -97,46 +97,46 @@ TEST_F(EditorStory, withTheKeys) {
     open(0);
     auto &tree = child<QTreeWidget>(form, "tvwTools");
     auto &name = child<QLineEdit>(form, "txtName");
-    QTest::keyClicks(&name, QStringLiteral("Quiet"));
-    EXPECT_EQ(name.text(), QStringLiteral("Quiet")); // the text was selected and is replaced
+    QTest::keyClicks(&name, "Quiet");
+    EXPECT_EQ(name.text(), "Quiet"); // the text was selected and is replaced
     tree.setFocus();
     tree.setCurrentItem(tree.topLevelItem(0));
     QTest::keyClick(&tree, Qt::Key_Down);
     QTest::keyClick(&tree, Qt::Key_Down);
     QTest::keyClick(&tree, Qt::Key_Return);
-    EXPECT_EQ(label("labTool"), QStringLiteral("lower case"));
+    EXPECT_EQ(label("labTool"), "lower case");
     auto &menu = child<QMenu>(form, "mnuAddAction");
     alt(Qt::Key_A, [&] { return menu.isVisible(); });
     QTest::keyClick(&menu, Qt::Key_Down);
     QTest::keyClick(&menu, Qt::Key_Down);
     QTest::keyClick(&menu, Qt::Key_Return);
-    EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), QStringLiteral(" Action 2 of 2"));
+    EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), " Action 2 of 2");
     activate();
     alt(Qt::Key_D, [&] { return buttons.Item(1)->Count() == 1; });
     QTest::keyClick(&name, Qt::Key_Return);
-    EXPECT_EQ(actionsOf(reread(1)), QStringLiteral("ccLOW"));
+    EXPECT_EQ(actionsOf(reread(1)), "ccLOW");
 
     open(0);
-    boxes.expect(QStringLiteral("You are about to delete"), BoxAnswer::No);
+    boxes.expect("You are about to delete", BoxAnswer::No);
     boxes.last = {};
     alt(Qt::Key_X, [&] { return !boxes.last.text.isEmpty(); });
-    boxes.expect(QStringLiteral("Replace 'lower case' with 'Statistics' in Action 1?"), BoxAnswer::Yes);
-    clickTool(QStringLiteral("Statistics"));
+    boxes.expect("Replace 'lower case' with 'Statistics' in Action 1?", BoxAnswer::Yes);
+    clickTool("Statistics");
     QTest::keyClick(&form, Qt::Key_Escape);
-    EXPECT_EQ(actionsOf(*buttons.Item(1)), QStringLiteral("ccLOW"));
+    EXPECT_EQ(actionsOf(*buttons.Item(1)), "ccLOW");
 }
 
 TEST_F(EditorStory, anotherPowerButtonAsAStep) {
-    buttons.Item(3)->Name = QStringLiteral("Third");
+    buttons.Item(3)->Name = "Third";
     open(1);
-    clickTool(QStringLiteral("Run PowerButton..."));
+    clickTool("Run PowerButton...");
     EXPECT_FALSE(child<QWidget>(form, "optPrompt").isEnabled());
     withModal<dlgChoosePB>([](dlgChoosePB &dialog) {
         auto &number = child<QSpinBox>(dialog, "VScroll1");
         auto &ok = child<QPushButton>(dialog, "OKButton");
         EXPECT_EQ(child<QLineEdit>(dialog, "txtName").text(),
-                  QStringLiteral("Third")); // the first one possible
-        child<QLineEdit>(dialog, "txtButtonNumber").setText(QStringLiteral("2"));
+                  "Third"); // the first one possible
+        child<QLineEdit>(dialog, "txtButtonNumber").setText("2");
         EXPECT_TRUE(child<QLabel>(dialog, "labAddToItself").isVisible());
         EXPECT_FALSE(ok.isEnabled());
         number.setValue(4);
@@ -145,7 +145,7 @@ TEST_F(EditorStory, anotherPowerButtonAsAStep) {
         ok.click();
     });
     press("cmdSettings");
-    EXPECT_EQ(label("labDetails"), QStringLiteral("PowerButton=3"));
+    EXPECT_EQ(label("labDetails"), "PowerButton=3");
 }
 
 TEST_F(EditorStory, anExampleToBeginWith) {
@@ -155,7 +155,7 @@ TEST_F(EditorStory, anExampleToBeginWith) {
     examples.menu()->actions().at(0)->trigger();
     EXPECT_FALSE(examples.isVisible());
     press("cmdOK");
-    EXPECT_EQ(reread(5).Name, QStringLiteral("Clean mail"));
+    EXPECT_EQ(reread(5).Name, "Clean mail");
     EXPECT_GT(reread(5).Count(), 2);
 }
 

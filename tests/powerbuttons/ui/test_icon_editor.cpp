@@ -17,58 +17,46 @@ namespace {
 TEST(IconEditor, changesOnlyOnOK) {
     QStringList recent;
     dlgEditIcon dialog(recent);
-    ButtonIcon icon{QStringLiteral("ab"), {QStringLiteral("Serif"), 12.5, true, false}, 3, 4};
+    ButtonIcon icon{"ab", {"Serif", 12.5, true, false}, 3, 4};
     const ButtonIcon before = icon;
     withModal<dlgEditIcon>([](dlgEditIcon &shown) {
-        EXPECT_EQ(child<QLabel>(shown, "labFont").text(), QStringLiteral("Serif Bold (12.5pt)"));
+        EXPECT_EQ(child<QLabel>(shown, "labFont").text(), "Serif Bold (12.5pt)");
         child<QToolButton>(shown, "AdjustRight").click();
     });
     EXPECT_FALSE(dialog.showDialog(icon));
     EXPECT_EQ(icon, before);
 
     withModal<dlgEditIcon>([](dlgEditIcon &shown) {
-        for (const char *arrow :
-             {"AdjustRight", "AdjustRight", "AdjustLeft", "AdjustUp", "AdjustUp", "AdjustDown"})
+        for (const char *arrow : {"AdjustRight", "AdjustRight", "AdjustLeft", "AdjustUp"})
             child<QToolButton>(shown, arrow).click();
         child<QPushButton>(shown, "OKButton").click();
     });
     EXPECT_TRUE(dialog.showDialog(icon));
-    EXPECT_EQ(icon,
-              (ButtonIcon{before.text, before.font, 4, 3})); // the size stays what it was, half points too
+    EXPECT_EQ(icon, (ButtonIcon{before.text, before.font, 4, 3})); // half points of the size stay
 }
 
-TEST(IconEditor, beginsWithALetterAndAFont) {
+TEST(IconEditor, beginsWithALetterAndTakesASymbol) {
     QStringList recent;
     dlgEditIcon dialog(recent);
     ButtonIcon icon;
     withModal<dlgEditIcon>([](dlgEditIcon &shown) {
-        EXPECT_EQ(child<QLineEdit>(shown, "txtSymbol").text(), QStringLiteral("A"));
+        auto &text = child<QLineEdit>(shown, "txtSymbol");
+        EXPECT_EQ(text.text(), "A");
         child<QScrollBar>(shown, "FlatScrollBar1").setValue(20);
-        EXPECT_EQ(child<QLabel>(shown, "labFont").text(), QStringLiteral("Arial (20pt)"));
-        child<QLineEdit>(shown, "txtSymbol").setText(QStringLiteral("four"));
-        child<QPushButton>(shown, "OKButton").click();
-    });
-    EXPECT_TRUE(dialog.showDialog(icon));
-    EXPECT_EQ(icon.text, QStringLiteral("fou"));
-    EXPECT_EQ(icon.font.size, 20);
-}
-
-TEST(IconEditor, takesSymbolAndFontFromThePicker) {
-    QStringList recent;
-    dlgEditIcon dialog(recent);
-    ButtonIcon icon;
-    withModal<dlgEditIcon>([](dlgEditIcon &shown) {
+        EXPECT_EQ(child<QLabel>(shown, "labFont").text(), "Arial (20pt)");
+        text.setText("four");
+        EXPECT_EQ(text.text(), "fou");
         withModal<dlgPickCharacter>([](dlgPickCharacter &picker) {
-            child<QLineEdit>(picker, "txtFind").setText(QStringLiteral("2709"));
+            child<QLineEdit>(picker, "txtFind").setText("2709");
             child<QPushButton>(picker, "OKButton").click();
         });
         child<QToolButton>(shown, "imgGetSymbol").click();
         child<QPushButton>(shown, "OKButton").click();
     });
     EXPECT_TRUE(dialog.showDialog(icon));
-    EXPECT_EQ(icon.text, QStringLiteral(u"\u2709"));
-    EXPECT_FALSE(icon.font.name.isEmpty());
-    EXPECT_EQ(recent, QStringList{QStringLiteral(u"\u2709")});
+    EXPECT_EQ(icon.text, u"\u2709"_qs);
+    EXPECT_EQ(icon.font.size, 20);
+    EXPECT_EQ(recent, QStringList{icon.text});
 }
 
 /// The box around everything that isn't white.
@@ -90,7 +78,7 @@ QRect inkOf(const ButtonIcon &icon, int scale) {
 }
 
 TEST(IconPainter, printsAtThePlaceAtEveryScale) {
-    ButtonIcon icon{QStringLiteral("H"), {QStringLiteral("DejaVu Sans"), 12, true, false}, 0, 0};
+    ButtonIcon icon{"H", {"DejaVu Sans", 12, true, false}, 0, 0};
     const QPointF centre = centredPosition(icon);
     icon.x = centre.x();
     icon.y = centre.y();
