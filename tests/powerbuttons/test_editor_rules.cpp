@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "powerbuttons/example_buttons.h"
 #include "tests/powerbuttons/world.h"
-
-#include <array>
 
 namespace tolvo {
 namespace {
@@ -146,18 +143,6 @@ TEST_F(Editor, takesEverythingBackOnCancel) {
     rules.cancel();
     EXPECT_EQ(buttons.Item(7)->Count(), 0);
     EXPECT_FALSE(buttons.Item(7)->isDefined());
-}
-
-TEST_F(Editor, destroysOnlyWhenAskedTwice) {
-    open({"soALP"});
-    boxes.expect("You are about to delete the entire definition", BoxAnswer::No);
-    EXPECT_FALSE(rules.destroy());
-    EXPECT_EQ(reread(1).Count(), 1);
-    boxes.expect("You are about to delete the entire definition", BoxAnswer::Yes);
-    EXPECT_TRUE(rules.destroy());
-    EXPECT_FALSE(buttons.Item(1)->isDefined());
-    EXPECT_FALSE(reread(1).isDefined());
-    EXPECT_EQ(reread(1).Count(), 0);
 }
 
 } // namespace
