@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// The tips that Advisor.exe shows.
+#pragma once
+
+#include <QString>
+#include <span>
+
+namespace tolvo {
+
+class SettingsStore;
+
+struct Tip {
+    const char16_t *title;
+    const char16_t *text;
+};
+
+[[nodiscard]] std::span<const Tip> tips();
+
+/// Which tip is shown: a place in tips() that goes round at both ends, remembered in the store.
+class TipWalk {
+  public:
+    /// Begins behind the tip that was shown last; with the first one if there was none.
+    explicit TipWalk(SettingsStore &store);
+
+    [[nodiscard]] int place() const { return m_place; }
+    [[nodiscard]] const Tip &tip() const { return tips()[static_cast<std::size_t>(m_place)]; }
+    void next() { goTo(m_place + 1); }
+    void previous() { goTo(m_place - 1); }
+
+    /// "Show tips at startup", as the Options know it too.
+    [[nodiscard]] bool showAtStartup() const;
+    void setShowAtStartup(bool show);
+
+  private:
+    void goTo(int place);
+
+    SettingsStore &m_store;
+    int m_place = 0;
+};
+
+} // namespace tolvo

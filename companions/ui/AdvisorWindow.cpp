@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "companions/ui/AdvisorWindow.h"
+
+#include "base/application.h"
+#include "platform/icons/themed_icon.h"
+
+#include <QCheckBox>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tolvo {
+
+AdvisorWindow::AdvisorWindow(SettingsStore &store, QWidget *parent)
+    : QDialog(parent), m_walk(store), m_title(new QLabel), m_text(new QLabel), m_number(new QLabel) {
+    setObjectName(QStringLiteral("frmAdvisor"));
+    setWindowTitle(QStringLiteral("Tips for ") + applicationTitle());
+    setAttribute(Qt::WA_ShowWithoutActivating);
+
+    auto *const showAtStartup = new QCheckBox(QStringLiteral("&Show tips at startup"));
+    showAtStartup->setObjectName(QStringLiteral("chkShowTips"));
+    showAtStartup->setChecked(m_walk.showAtStartup());
+    connect(showAtStartup, &QCheckBox::toggled, this, [this](bool show) { m_walk.setShowAtStartup(show); });
+
+    auto *const previous = new QPushButton(QStringLiteral("&Previous"));
+    previous->setObjectName(QStringLiteral("cmdPrevious"));
+    connect(previous, &QPushButton::clicked, this, [this] {
+        m_walk.previous();
+        showTip();
+    });
+    auto *const next = new QPushButton(QStringLiteral("&Next"));
+    next->setObjectName(QStringLiteral("cmdNext"));
+    next->setDefault(true);
+    connect(next, &QPushButton::clicked, this, [this] {
+        m_walk.next();
+        showTip();
+    });
+    auto *const close = new QPushButton(QStringLiteral("&Close"));
+    close->setObjectName(QStringLiteral("cmdClose"));
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto *const buttons = new QHBoxLayout;
+    buttons->addWidget(showAtStartup);
+    buttons->addStretch();
+    for (QPushButton *const button : {previous, next, close}) {
+        button->setAutoDefault(button == next);
+        buttons->addWidget(button);
+    }
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(makePage(), 1);
+    layout->addLayout(buttons);
+    next->setFocus();
+    showTip();
+
+    // Wide enough for comfortable lines, high enough for the longest tip: the window keeps its size.
+    const int width = fontMetrics().averageCharWidth() * 88;
+    resize(width, sizeHint().height());
+}
+
+QWidget *AdvisorWindow::makePage() {
+    auto *const page = new QFrame;
+    page->setFrameShape(QFrame::StyledPanel);
+    page->setBackgroundRole(QPalette::Base);
+    page->setAutoFillBackground(true);
+
+    auto *const picture = new QLabel;
+    const int size = fontMetrics().height() * 3;
+    picture->setPixmap(themedIcon(QStringLiteral("tolvo")).pixmap(size, size));
+    picture->setAccessibleName(applicationTitle());
+
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.35);
+    large.setBold(true);
+    m_title->setFont(large);
+    m_title->setObjectName(QStringLiteral("labTitle"));
+    m_title->setWordWrap(true);
+    m_text->setObjectName(QStringLiteral("labTip"));
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_text->setMinimumHeight(fontMetrics().lineSpacing() * 6);
+    m_number->setObjectName(QStringLiteral("labNumber"));
+    m_number->setForegroundRole(QPalette::PlaceholderText);
+
+    auto *const words = new QVBoxLayout;
+    words->setSpacing(fontMetrics().height() / 2);
+    words->addWidget(m_title);
+    words->addWidget(m_text, 1);
+    words->addWidget(m_number);
+    auto *const layout = new QHBoxLayout(page);
+    const int margin = fontMetrics().height();
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin);
+    layout->addWidget(picture, 0, Qt::AlignTop);
+    layout->addLayout(words, 1);
+    return page;
+}
+
+void AdvisorWindow::showTip() {
+    m_title->setText(QString::fromUtf16(m_walk.tip().title));
+    m_text->setText(QString::fromUtf16(m_walk.tip().text));
+    m_number->setText(QStringLiteral("Tip %1 of %2").arg(m_walk.place() + 1).arg(tips().size()));
+}
+
+} // namespace tolvo

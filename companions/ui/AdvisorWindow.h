@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "companions/tips.h"
+
+#include <QDialog>
+
+class QLabel;
+
+namespace tolvo {
+
+/// The window of Advisor.exe: one tip at a time. It never takes the focus when it appears.
+class AdvisorWindow final : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit AdvisorWindow(SettingsStore &store, QWidget *parent = nullptr);
+
+  private:
+    void showTip();
+    [[nodiscard]] QWidget *makePage();
+
+    TipWalk m_walk;
+    QLabel *m_title;
+    QLabel *m_text;
+    QLabel *m_number;
+};
+
+} // namespace tolvo

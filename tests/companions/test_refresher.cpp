@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+// Refresher.exe against a server on this machine: one that says yes, no, nothing, nonsense, or isn't there.
+#include "base/application.h"
+#include "companions/refresh.h"
+#include "platform/network/NetworkHttpClient.h"
+#include "preferences/settings_store.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace tolvo {
+namespace {
+
+const QString stats = QStringLiteral("Tolvo-Stats");
+const QString before = QStringLiteral("2026-01-02 03:04:05");
+
+/// Answers every request with the same bytes and keeps what was asked; an empty answer leaves it waiting.
+class Server {
+  public:
+    explicit Server(const QByteArray &answer = {}) : m_answer(answer) {
+        m_server.listen(QHostAddress::LocalHost);
+        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
+            QTcpSocket *const socket = m_server.nextPendingConnection();
+            auto asked = std::make_shared<QByteArray>();
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket, asked] {
+                *asked += socket->readAll();
+                if (!isComplete(*asked) || m_answer.isEmpty())
+                    return;
+                requests += *asked;
+                socket->write(m_answer);
+                socket->disconnectFromHost();
+            });
+        });
+    }
+    QByteArray address() const {
+        return "http://127.0.0.1:" + QByteArray::number(m_server.serverPort()) + "/t";
+    }
+    void close() { m_server.close(); }
+    QByteArrayList requests;
+
+  private:
+    static bool isComplete(const QByteArray &asked) {
+        const qsizetype head = asked.indexOf("\r\n\r\n");
+        const qsizetype field = asked.toLower().indexOf("content-length:");
+        const qsizetype length =
+            field < 0 ? 0 : asked.mid(field + 15, asked.indexOf('\r', field) - field - 15).toInt();
+        return head >= 0 && asked.size() >= head + 4 + length;
+    }
+    QTcpServer m_server;
+    QByteArray m_answer;
+};
+
+QByteArray http(const char *status, const QByteArray &body = {}) {
+    return QByteArray("HTTP/1.1 ") + status + "\r\nContent-Length: " + QByteArray::number(body.size()) +
+           "\r\nConnection: close\r\n\r\n" + body;
+}
+
+void fill(SettingsStore &store) {
+    store.SaveSetting(stats, u"Usage"_qs, u"StartDate"_qs, before);
+    store.SaveSetting(stats, u"Usage"_qs, u"Count"_qs, u"7"_qs);
+    store.SaveSetting(stats, u"Usage"_qs, u"foTRA"_qs, u"3"_qs);
+    store.SaveSetting(stats, u"TotUsage"_qs, u"foTRA"_qs, u"30"_qs);
+}
+
+TEST(Refresh, CountersAreResetOnlyAfterAYes) {
+    const struct {
+        const char *what;
+        QByteArray answer;
+        bool down;
+        bool yes;
+    } cases[] = {{"yes", http("200 OK"), false, true},
+                 {"yes without a body", http("204 No Content"), false, true},
+                 {"elsewhere", http("302 Found"), false, false},
+                 {"no", http("503 Service Unavailable"), false, false},
+                 {"nonsense", "SSH-2.0-nonsense\r\n", false, false},
+                 {"slow", {}, false, false},
+                 {"down", http("200 OK"), true, false}};
+    for (const auto &[what, answer, down, yes] : cases) {
+        SCOPED_TRACE(what);
+        SettingsStore store(u":memory:"_qs);
+        fill(store);
+        Server server(answer);
+        const QByteArray address = server.address();
+        if (down)
+            server.close();
+        NetworkHttpClient client({.milliseconds = 400});
+        const RefreshOutcome outcome = refresh({.stats = true}, address, store, client, Clock());
+        EXPECT_EQ(outcome.done, yes);
+        EXPECT_EQ(outcome.messages.size(), 1);
+        EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"StartDate"_qs) != before, yes);
+        EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"foTRA"_qs, 0), yes ? u"0"_qs : u"3"_qs);
+        EXPECT_EQ(store.GetSetting(stats, u"TotUsage"_qs, u"foTRA"_qs, 0), u"30"_qs);
+    }
+}
+
+TEST(Refresh, SaysWhatItFoundAboutUpdates) {
+    const struct {
+        QByteArray answer;
+        const char *says;
+        bool done;
+        const char *download;
+    } cases[] = {
+        {http("200 OK", R"({"version": "99.1", "url": "https://example.org/get"})"), "Version 99.1", true,
+         "https://example.org/get"},
+        {http("200 OK", R"({"version": "99.1", "url": "file:///bin/sh"})"), "Version 99.1", true, ""},
+        {http("200 OK", "{\"version\": \"" + applicationVersion().toUtf8() + "\"}"), "up to date", true, ""},
+        {http("200 OK", R"({"version": "0.1"})"), "up to date", true, ""},
+        {http("200 OK", "<html>99.1</html>"), "makes no sense", false, ""},
+        {http("200 OK", "[1]"), "makes no sense", false, ""},
+        {http("404 Not Found"), "404", false, ""},
+    };
+    for (const auto &[answer, says, done, download] : cases) {
+        SCOPED_TRACE(says);
+        SettingsStore store(u":memory:"_qs);
+        Server server(answer);
+        NetworkHttpClient client;
+        const RefreshOutcome outcome = refresh({.update = true}, server.address(), store, client, Clock());
+        EXPECT_EQ(outcome.done, done);
+        EXPECT_TRUE(outcome.messages.join(u' ').contains(QString::fromLatin1(says)))
+            << outcome.messages.join(u' ').toStdString();
+        EXPECT_EQ(outcome.download, QString::fromLatin1(download));
+        ASSERT_EQ(server.requests.size(), 1);
+        EXPECT_TRUE(server.requests[0].startsWith("GET /t?version=" + applicationVersion().toUtf8()));
+    }
+    SettingsStore store(u":memory:"_qs);
+    NetworkHttpClient client;
+    EXPECT_FALSE(refresh({.update = true}, "no address", store, client, Clock()).done);
+}
+
+struct RefresherProgram : testing::Test {
+    QTemporaryDir folder;
+    QString settings = folder.filePath(u"settings.sqlite"_qs);
+
+    void SetUp() override {
+        SettingsStore store(settings);
+        fill(store);
+    }
+
+    /// Runs the program; the server in this process answers meanwhile. Its exit code, and all it wrote.
+    std::pair<int, QByteArray> run(const QStringList &switches, const QByteArray &address) const {
+        QProcess program;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"TOLVO_SETTINGS"_qs, settings);
+        environment.insert(u"TOLVO_UPDATE_URL"_qs, QString::fromUtf8(address));
+        program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        QEventLoop loop;
+        QObject::connect(&program, &QProcess::finished, &loop, &QEventLoop::quit);
+        QObject::connect(&program, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
+        program.start(qEnvironmentVariable("TOLVO_BIN") + u"/Refresher.exe"_qs, switches);
+        loop.exec();
+        return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1, program.readAll()};
+    }
+};
+
+TEST_F(RefresherProgram, SendsTheCountersAndBeginsAPeriod) {
+    Server server(http("200 OK", R"({"version": "99.0"})"));
+    const auto [code, output] = run({u"/update"_qs, u"/stats"_qs, u"/quiet"_qs}, server.address());
+    EXPECT_EQ(code, 0);
+    EXPECT_EQ(output, QByteArray()) << "quiet is quiet";
+    ASSERT_EQ(server.requests.size(), 2);
+    EXPECT_TRUE(server.requests[0].startsWith("GET "));
+    EXPECT_TRUE(server.requests[1].startsWith("POST /t "));
+    const QByteArray &post = server.requests[1];
+    const QJsonObject sent = QJsonDocument::fromJson(post.sliced(post.indexOf("\r\n\r\n") + 4)).object();
+    EXPECT_EQ(sent.value(u"since"_qs).toString(), before);
+    EXPECT_EQ(sent.value(u"starts"_qs).toInt(), 7);
+    EXPECT_EQ(sent.value(u"tools"_qs).toObject().value(u"foTRA"_qs).toInt(), 3);
+    const SettingsStore store(settings);
+    EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"foTRA"_qs, 0), u"0"_qs);
+}
+
+TEST_F(RefresherProgram, KeepsTheCountersWhenNobodyAnswers) {
+    Server server;
+    const QByteArray address = server.address();
+    server.close();
+    const auto [code, output] = run({u"/stats"_qs, u"/quiet"_qs}, address);
+    EXPECT_EQ(code, 1);
+    EXPECT_EQ(output, QByteArray());
+    EXPECT_EQ(SettingsStore(settings).GetSetting(stats, u"Usage"_qs, u"StartDate"_qs), before);
+}
+
+TEST_F(RefresherProgram, EndsAtOnceWithoutAnAddress) {
+    EXPECT_EQ(run({u"/update"_qs, u"/stats"_qs}, {}).first, 0);
+    EXPECT_EQ(run({u"/nonsense"_qs}, {}).first, 2);
+    EXPECT_EQ(SettingsStore(settings).GetSetting(stats, u"Usage"_qs, u"StartDate"_qs), before);
+}
+
+} // namespace
+} // namespace tolvo
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
