@@ -17,14 +17,25 @@ namespace {
 /// are broken anywhere.
 constexpr qsizetype longestUnbrokenRun = 2000;
 
-bool hasLongRun(QStringView text) {
+/// Lines above this length keep their glyphs between two paints: making them anew takes longer than a frame.
+constexpr qsizetype longestCheapLine = 2000;
+
+struct Extent {
+    qsizetype longestRun = 0; ///< without a blank, in units
+    qsizetype longestLine = 0;
+};
+
+Extent extentOf(QStringView text) {
+    Extent extent;
     qsizetype run = 0;
+    qsizetype line = 0;
     for (const QChar unit : text) {
+        line = unit == u'\n' ? 0 : line + 1;
         run = unit == u' ' || unit == u'\t' || unit == u'\n' ? 0 : run + 1;
-        if (run > longestUnbrokenRun)
-            return true;
+        extent.longestRun = std::max(extent.longestRun, run);
+        extent.longestLine = std::max(extent.longestLine, line);
     }
-    return false;
+    return extent;
 }
 
 bool isLineEndKey(const QKeyEvent &event) {
@@ -52,7 +63,7 @@ PlainTextBox::PlainTextBox(Lines lines, QWidget *parent) : QPlainTextEdit(parent
     setLineWrapMode(lines == Lines::Wrapped ? WidgetWidth : NoWrap);
     if (lines == Lines::Wrapped)
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    chooseWrapping({});
+    chooseLayout({});
     connect(document(), &QTextDocument::contentsChange, this, [this](int from, int, int added) {
         m_editStart = from;
         m_editEnd = from + added;
@@ -214,7 +225,7 @@ void PlainTextBox::prepareFor(const QString &inserted) {
 void PlainTextBox::load(const QString &text) {
     const QScopedValueRollback own(m_ownEdit, true);
     m_standIns = StandIns(text);
-    chooseWrapping(text);
+    chooseLayout(text);
     setPlainText(m_standIns.encode(text));
 }
 
@@ -277,7 +288,7 @@ bool PlainTextBox::rereadText() {
         return false;
     m_text = std::move(text);
     const QScopedValueRollback own(m_ownEdit, true);
-    chooseWrapping(m_text);
+    chooseLayout(m_text);
     return true;
 }
 
@@ -286,11 +297,19 @@ void PlainTextBox::reportChange() {
         onChange();
 }
 
-void PlainTextBox::chooseWrapping(QStringView text) {
-    const QTextOption::WrapMode mode =
-        hasLongRun(text) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+void PlainTextBox::chooseLayout(QStringView text) {
+    const Extent extent = extentOf(text);
+    const QTextOption::WrapMode mode = extent.longestRun > longestUnbrokenRun
+                                           ? QTextOption::WrapAnywhere
+                                           : QTextOption::WrapAtWordBoundaryOrAnywhere;
     if (wordWrapMode() != mode)
         setWordWrapMode(mode);
+    if (extent.longestLine <= longestCheapLine)
+        return;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        if (block.length() > longestCheapLine)
+            block.layout()->setCacheEnabled(true);
+    }
 }
 
 } // namespace tolvo

@@ -69,7 +69,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     void joinLineEnds();
     bool rereadText();
     void reportChange();
-    void chooseWrapping(QStringView text);
+    void chooseLayout(QStringView text);
 
     Lines m_lines;
     int m_capacity = textLimit;
