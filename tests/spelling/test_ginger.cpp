@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "spelling_world.h"
+
+#include "spelling/ginger.h"
+
+namespace tolvo::test {
+
+using Ginger = SpellingWorld;
+
+TEST_F(Ginger, FindsNothingInAnyText) {
+    int LangID = -1;
+    QString locale;
+    CSpelling spelling(services, oTextMethods);
+    spelling.init(3, LangID, locale);
+    EXPECT_EQ(locale, u("en-gb"));
+    EXPECT_FALSE(spelling.Spell(u("zqx xzj")));
+    spelling.AddToCustomDic(u("zqx"));
+    EXPECT_EQ(spelling.hunspellSuggest(u("teh"))->Count(), 0);
+    EXPECT_EQ(said(), QStringList());
+    EXPECT_EQ(http.urls.size(), 0);
+    EXPECT_EQ(fileContents(dictionaries() + u("/persdict.dat")), "");
+    EXPECT_EQ(getGinger({}, {}).size(), 1007);
+}
+
+TEST_F(Ginger, CutsChunks) {
+    struct Case {
+        const char *source, *chunk, *rest;
+    };
+    const Case cases[] = {
+        {"{\"a\":1},{\"b\":2}", "\"a\":1},", "{\"b\":2}"},
+        {"{ab}", "ab}", ""},
+        {"[a[b]c],d", "a[b]c],", "d"},
+        {"[a[b][c]d],e", "a[b][c]d", "],e"}, // a bracket right behind another one is not seen
+        {"{\"}\"},x", "\"}\"},", "x"},
+        {"{\"\\\"}\"},x", "\"\\\"}\"", "},x"}, // escaped quotes are not recognised
+        {"(", "", ""},
+        {"(abc", "abc", ""},
+        {"{\"abc", "\"abc", ""},
+        {"((((", "(((", ""},
+    };
+    for (const Case &one : cases) {
+        QString source = u(one.source);
+        EXPECT_EQ(getChunk(boxes, source), u(one.chunk)) << one.source;
+        EXPECT_EQ(source, u(one.rest)) << one.source;
+    }
+    EXPECT_EQ(said(), QStringList());
+    QString source = u("xyz");
+    EXPECT_EQ(getChunk(boxes, source), QString());
+    EXPECT_EQ(said(), QStringList(u("5 Error parsing Ginger response: expected opening bracket, got 'x' "
+                                    "(CSpelling::getChunk)")));
+    QString deep(200000, u'[');
+    EXPECT_EQ(getChunk(boxes, deep).size(), 199999);
+    EXPECT_EQ(getJsonKey(u(":\"key\":\"value\"")), u("key"));
+    EXPECT_EQ(getJsonKey(u("none")), QString());
+}
+
+TEST_F(Ginger, EndsOnAnyReply) {
+    for (const char *reply : {"", "f", "f()", "f(x)", "f({\"a\":1},[2],x);", "f({)", ")(", "f({\"a)"})
+        EXPECT_EQ(parseGinger(boxes, u(reply), {}).Count(), 0) << reply;
+    EXPECT_EQ(said().size(), 2); // the two that have an x where a bracket should be
+    try {
+        (void)parseGinger(boxes, u("f({\"exception\":1})"), {});
+        FAIL() << "an exception was passed over";
+    } catch (const Failure &failure) {
+        EXPECT_EQ(failure.number(), 5011);
+        EXPECT_EQ(failure.source(), u("CSpelling::parseGinger"));
+        EXPECT_EQ(failure.description(), u("{\"exception\":1}"));
+    }
+}
+
+} // namespace tolvo::test

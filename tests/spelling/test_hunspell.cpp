@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "spelling_world.h"
+
+#include "base/code_page.h"
+
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QSet>
+#include <QStandardPaths>
+
+namespace tolvo::test {
+
+class Hunspell_ : public SpellingWorld {
+  public:
+    LocalDictionary load(const char *locale = "en-gb") {
+        LocalDictionary local;
+        local.initHunspell(services, u(locale));
+        return local;
+    }
+    QStringList check(const char *text) { return told(load().checkHunspell(u(text))); }
+};
+
+TEST_F(Hunspell_, ChecksWordByWord) {
+    struct Case {
+        const char *text;
+        QStringList errors;
+    };
+    const Case cases[] = {
+        {"x", {}}, // a text of one character is never checked
+        {"", {}},
+        {"zqx xzj", {u("zqx 0-3 1"), u("xzj 4-7 1")}},
+        {"the\rteh", {u("teh 4-7 1 the")}},
+        {"fox1teh", {u("teh 4-7 1 the")}},
+        {"don't well-known well-teh", {u("well-teh 17-25 1 well-known")}},
+        {"The FOX hELLO", {u("hELLO 8-13 1 hello")}},
+    };
+    for (const Case &one : cases)
+        EXPECT_EQ(check(one.text), one.errors) << one.text;
+}
+
+TEST_F(Hunspell_, FindsDictionariesWithoutRegardToCase) {
+    const QStringList folders{dictionaries(), folder.path() + u("/user")};
+    EXPECT_EQ(findDictionary(u("en-gb"), folders)->aff, dictionaries() + u("/en_GB.aff"));
+    EXPECT_EQ(findDictionary(u("EN_gb"), folders)->dic, dictionaries() + u("/en_GB.dic"));
+    for (const char *wrong : {"", "en", "en-gbx", "../Dictionaries/en_GB", "de-de"})
+        EXPECT_FALSE(findDictionary(u(wrong), folders)) << wrong;
+    QDir().mkpath(folders[1]);
+    dictionary(u("de_de"), "SET UTF-8\n", "1\nHaus\n");
+    dictionary(u("DE_DE"), "SET UTF-8\n", "1\nHaus\n");
+    EXPECT_EQ(findDictionary(u("de-de"), folders)->dic, dictionaries() + u("/de_de.dic"));
+}
+
+TEST_F(Hunspell_, SpeaksTheDictionarysEncoding) {
+    dictionary(u("xx_l1"), "SET ISO8859-1\nTRY e\xe9\n", "2\ncaf\xe9\n\xe9t\xe9\n");
+    dictionary(u("xx_bom"), "\xef\xbb\xbfSET UTF-8\nTRY e\xc3\xa9\n",
+               "\xef\xbb\xbf"
+               "2\ncaf\xc3\xa9\n\xc3\xa9t\xc3\xa9\n");
+    dictionary(u("xx_cyr"), "SET microsoft-cp1251\nTRY \xe0\xe4\n", "1\n\xe4\xe0\n");
+    for (const char *locale : {"xx-l1", "xx-bom"}) {
+        LocalDictionary local = load(locale);
+        EXPECT_EQ(told(local.checkHunspell(u("caf\u00e9 \u00e9t\u00e9"))), QStringList()) << locale;
+        EXPECT_EQ(told(local.checkHunspell(u("cafe"))), QStringList(u("cafe 0-4 1 caf\u00e9"))) << locale;
+        EXPECT_FALSE(local.Spell(u("\u0153uvre"))) << locale; // has no place in ISO 8859-1
+    }
+    LocalDictionary cyrillic = load("xx-cyr");
+    EXPECT_TRUE(cyrillic.Spell(u("\u0434\u0430")));
+    EXPECT_FALSE(cyrillic.Spell(u("\u0430\u0434")));
+    EXPECT_EQ(said(), QStringList());
+}
+
+TEST_F(Hunspell_, ReportsADictionaryThatCannotBeLoaded) {
+    struct Case {
+        const char *aff, *dic;
+    };
+    const Case cases[] = {{"SET UTF-8\n", ""},
+                          {"", "1\nword\n"},
+                          {"SET UTF-8\n", "word\n"},
+                          {"SET NO-SUCH-SET\n", "1\nword\n"}};
+    const QStringList report{u("5003 Unable to initialise Hunspell provider (CSpelling::init)")};
+    for (const Case &one : cases) {
+        dictionary(u("xx_yy"), one.aff, one.dic);
+        LocalDictionary local = load("xx-yy");
+        EXPECT_EQ(said(), report) << one.aff << one.dic;
+        EXPECT_EQ(told(local.checkHunspell(u("zqx qzk"))), QStringList());
+    }
+    (void)load("no-such");
+    EXPECT_EQ(said(), report);
+    dictionary(u("xx_yy"), "SET UTF-8\n", "3000\nword\n"); // cut off: what is there counts
+    EXPECT_EQ(told(load("xx-yy").checkHunspell(u("word wrod"))), QStringList(u("wrod 5-9 1 word")));
+}
+
+TEST_F(Hunspell_, KnowsThePersonalWords) {
+    const QString path = personalDictionaryPath(services);
+    EXPECT_EQ(path, dictionaries() + u("/persdict.dat"));
+    for (const char *list : {"zqx\r\n\r\nqzk\r\n", "zqx\n\nqzk", "\xef\xbb\xbf\nzqx\nqzk\n"}) {
+        writeFile(path, list);
+        EXPECT_EQ(check("zqx qzk"), QStringList()) << list;
+    }
+    writeFile(path, "caf\xe9\r\n"); // from a program that wrote the 8-bit code page
+    EXPECT_EQ(check("caf\u00e9"), QStringList());
+    EXPECT_EQ(said(), QStringList());
+
+    QFile::remove(path);
+    EXPECT_THROW((void)check("word"), Failure);
+    AddWordToDict(boxes, path, u("zqx"));
+    EXPECT_EQ(said(), QStringList(u("53 File not found: ") + path + u(" (CSpelling::AddWordToDict)")));
+    prepareSpelling(services);
+    EXPECT_EQ(fileContents(path), "");
+
+    int LangID = -1;
+    for (const int provider : {1, 2}) {
+        QString locale;
+        CSpelling spelling(services, oTextMethods);
+        spelling.init(provider, LangID, locale);
+        EXPECT_EQ(locale, u("en-gb"));
+        spelling.AddToCustomDic(provider == 1 ? u("zqx") : u("never"));
+        EXPECT_TRUE(spelling.Spell(u("zqx")) || provider == 2); // the running check doesn't know the word
+    }
+    EXPECT_EQ(fileContents(path), "zqx\r\n");
+    EXPECT_EQ(check("zqx"), QStringList());
+}
+
+TEST_F(Hunspell_, KeepsPersonalWordsWithTheUserWhereTheProgramCannotWrite) {
+    services.programFolder = folder.path() + u("/nowhere");
+    prepareSpelling(services);
+    EXPECT_EQ(fileContents(folder.path() + u("/user/persdict.dat")), "");
+}
+
+TEST_F(Hunspell_, CanBeAnUnknownProvider) {
+    int LangID = 0;
+    QString locale;
+    CSpelling spelling(services, oTextMethods);
+    spelling.init(7, LangID, locale);
+    EXPECT_EQ(said(), QStringList(u("5002 Unrecognised spelling provider (CSpelling::init)")));
+    EXPECT_FALSE(spelling.Spell(u("zqx qzk")));
+    EXPECT_EQ(spelling.SpellingErrors().Count(), 0);
+}
+
+/// Words of the dictionary and misspellings made from them, all of one kind with what the check takes out of
+/// a text.
+QStringList wordsToJudge(const QString &dic) {
+    QFile file(dic);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
+    QRandomGenerator random(20240501);
+    QSet<QString> words;
+    while (words.size() < 6000) {
+        QString word = lines.at(random.bounded(int(lines.size()))).section(u'/', 0, 0).section(u'\t', 0, 0);
+        const auto isLetter = [](QChar unit) { return IsLetter(unit.unicode()); };
+        if (word.size() < 2 || !std::all_of(word.cbegin(), word.cend(), isLetter))
+            continue;
+        const int at = random.bounded(int(word.size()));
+        switch (random.bounded(8)) {
+        case 0:
+            word.remove(at, 1);
+            break;
+        case 1:
+            word.insert(at, QChar(u'a' + random.bounded(26)));
+            break;
+        case 2:
+            word[at] = QChar(u'a' + random.bounded(26));
+            break;
+        case 3:
+            word = word.toUpper();
+            break;
+        case 4:
+            word += u("'s");
+            break;
+        case 5:
+            word += u("ing");
+            break;
+        case 6:
+            word = u("un") + word;
+            break;
+        default:
+            break;
+        }
+        words.insert(word);
+    }
+    return words.values();
+}
+
+TEST_F(Hunspell_, JudgesWordsAsTheCommandDoes) {
+    const QString command = QStandardPaths::findExecutable(u("hunspell"));
+    const auto files = findDictionary(u("en-gb"), {u("/usr/share/hunspell")});
+    if (command.isEmpty() || !files)
+        GTEST_SKIP() << "the hunspell command or its British dictionary is missing";
+    const QStringList words = wordsToJudge(files->dic);
+    QProcess process;
+    process.start(command, {u("-d"), QString(files->dic).chopped(4), u("-i"), u("UTF-8"), u("-l")});
+    process.write(words.join(u'\n').toUtf8() + '\n');
+    process.closeWriteChannel();
+    ASSERT_TRUE(process.waitForFinished(60000));
+    const QStringList lines =
+        QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    const QSet<QString> wrong(lines.cbegin(), lines.cend());
+    ASSERT_GT(wrong.size(), 1000);
+    ASSERT_LT(wrong.size(), words.size() - 1000);
+    HunspellEngine engine;
+    ASSERT_TRUE(engine.init(files->aff, files->dic));
+    for (const QString &one : words)
+        EXPECT_EQ(engine.Spell(one), !wrong.contains(one)) << one.toStdString();
+}
+
+} // namespace tolvo::test

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include "spelling_world.h"
+
+#include "spelling/languages.h"
+#include "spelling/locales.h"
+
+namespace tolvo::test {
+
+class ProofingWorld : public SpellingWorld, public SpellingWalk {
+  public:
+    bool CheckSpelling(ProofingHost &, QString &text, int LangID, bool grammar) override {
+        asked += QStringLiteral("%1|%2|%3").arg(text).arg(LangID).arg(grammar);
+        if (failure)
+            throw *failure;
+        text = corrected;
+        return confirmed;
+    }
+
+    QString proof(const char *before, int LangID = -1, bool grammar = false) {
+        Proofing proofing(services, *this, *this);
+        QString text = u(before);
+        done = grammar ? proofing.CheckGrammar(text, LangID) : proofing.CheckSpelling(text, LangID);
+        return text;
+    }
+
+    QStringList asked;
+    QString corrected;
+    bool confirmed = true;
+    bool done = false;
+    std::optional<Failure> failure;
+};
+
+TEST_F(ProofingWorld, GivesTheWalkLinesThatEndInCR) {
+    corrected = u("the\rfox");
+    EXPECT_EQ(proof("teh\r\nfox", 2057, true), u("the\r\nfox"));
+    EXPECT_EQ(asked, QStringList(u("teh\rfox|2057|1")));
+    EXPECT_EQ(status.last(), u("Spelling check complete"));
+    EXPECT_TRUE(done);
+    confirmed = false;
+    EXPECT_EQ(proof("teh\r\nfox"), u("teh\r\nfox"));
+    EXPECT_TRUE(done);
+}
+
+TEST_F(ProofingWorld, CatchesFailuresAndLeavesTheTextAlone) {
+    failure = Failure(5012, u("Not Found"));
+    EXPECT_EQ(proof("lone\rCR"), u("lone\rCR"));
+    EXPECT_FALSE(done);
+    EXPECT_EQ(said(), QStringList(u("5012 Not Found (cTextMethods::Proofing)")));
+    failure = Failure(failureNumber::objectNotCreated, u("anything"));
+    EXPECT_EQ(proof("text"), u("text"));
+    EXPECT_FALSE(done);
+    EXPECT_EQ(said(), QStringList(u("Microsoft Word must be installed to check spelling and grammar")));
+}
+
+TEST_F(ProofingWorld, ChecksInWordsOwnDialog) {
+    struct Case {
+        const char *answer, *text;
+        int LangID;
+        bool grammar;
+        QStringList steps;
+    };
+    const Case cases[] = {
+        {"the\rfox\r", "the\r\nfox\r\n", -1, false, {u("foreground"), u("spelling")}},
+        {"the", "the", 1036, true, {u("language 1036"), u("foreground"), u("grammar")}},
+        {"\n", "", 0, false, {u("language 0"), u("foreground"), u("spelling")}},
+        {"the\n", "the\n", -1, false, {u("foreground"), u("spelling")}},
+    };
+    setProvider(0);
+    for (const Case &one : cases) {
+        word.answer = u(one.answer);
+        word.log.clear();
+        EXPECT_EQ(proof("teh\r\n", one.LangID, one.grammar), u(one.text));
+        EXPECT_EQ(word.log, QStringList({u("create"), u("add"), u("visible"), u("text teh\r")}) + one.steps +
+                                QStringList({u("close"), u("quit"), u("release")}));
+    }
+    word.log.clear();
+    word.failing = u("spelling"); // Word stays as it is
+    EXPECT_EQ(proof("teh\r\n"), u("teh\r\n"));
+    EXPECT_EQ(said(), QStringList(u("1004 Word refused (cTextMethods::Proofing)")));
+    EXPECT_FALSE(word.log.contains(u("quit")));
+    word.installed = false;
+    EXPECT_EQ(proof("teh"), u("teh"));
+    EXPECT_EQ(said(), QStringList(u("Microsoft Word must be installed to check spelling and grammar")));
+    EXPECT_EQ(asked, QStringList());
+    EXPECT_EQ(status.first(), u("Contacting Microsoft Word. Please wait..."));
+
+    store.SaveSetting(u("Tolvo"), u("Spelling"), u("UseWordDialog"), u("False"));
+    (void)proof("teh");
+    EXPECT_EQ(asked.size(), 1);
+}
+
+TEST_F(ProofingWorld, ListsWordsErrors) {
+    word.errors = {{u("teh"), 0, 3}};
+    word.customFolder = folder.path();
+    writeFile(folder.path() + u("/custom.dic"), "one\r\n");
+    int LangID = 0;
+    QString locale;
+    {
+        CSpelling spelling(services, oTextMethods);
+        spelling.init(0, LangID, locale);
+        EXPECT_EQ(LangID, 2057);
+        EXPECT_EQ(spelling.ProviderType(), 0);
+        EXPECT_TRUE(spelling.Spell(u("teh"), true));
+        EXPECT_EQ(told(spelling.SpellingErrors()), QStringList(u("teh 0-3 1 TEH")));
+        spelling.AddToCustomDic(u("teh"));
+    }
+    EXPECT_EQ(word.log, QStringList({u("create"), u("add"), u("text teh"), u("language 2057"), u("close"),
+                                     u("quit"), u("release")}));
+    EXPECT_EQ(fileContents(folder.path() + u("/custom.dic")), "one\r\nteh\r\n");
+}
+
+TEST_F(ProofingWorld, FallsBackToHunspellWithoutWord) {
+    word.installed = false;
+    writeFile(services.programFolder + u("/Locales.txt"), "h\nh\nen-gb\tx\tEnglish\t2057\n");
+    struct Case {
+        int LangID;
+        const char *locale;
+        bool found;
+    };
+    for (const Case &one : {Case{0, "en-gb", true}, Case{2057, "en-gb", true}, Case{1036, "", false}}) {
+        int LangID = one.LangID;
+        QString locale;
+        CSpelling spelling(services, oTextMethods);
+        spelling.init(0, LangID, locale);
+        EXPECT_EQ(locale, u(one.locale));
+        EXPECT_EQ(spelling.ProviderType(), 1);
+        EXPECT_EQ(spelling.Spell(u("teh")), one.found);
+        QStringList boxesShown{u("429 no Word (CSpelling::instantiateWord)")};
+        if (!one.found)
+            boxesShown += u("5003 Unable to initialise Hunspell provider (CSpelling::init)");
+        EXPECT_EQ(said(), boxesShown);
+    }
+}
+
+TEST_F(ProofingWorld, StoresAProviderOnlyWhereWordCannotBe) {
+    const auto stored = [this] { return store.GetSetting(u("Tolvo"), u("Spelling"), u("Provider"), u("-")); };
+    store.DeleteSetting(u("Tolvo"), u("Spelling"));
+    prepareSpelling(services);
+    EXPECT_EQ(stored(), u("-"));
+    word.possible = false;
+    prepareSpelling(services);
+    EXPECT_EQ(stored(), u("1"));
+    setProvider(3);
+    prepareSpelling(services);
+    EXPECT_EQ(stored(), u("3"));
+    NoWordAutomation none;
+    EXPECT_THROW((void)none.create(), Failure);
+}
+
+using LanguageLists = SpellingWorld;
+
+TEST_F(LanguageLists, AreReadFromTheStore) {
+    const Locales locales(qEnvironmentVariable("TOLVO_SOURCE") + u("/data/Locales.txt"));
+    LanguageList lists(store);
+    const auto rows = [&](int provider) {
+        QStringList texts;
+        for (const CSpellLanguage &language : lists.quickList(provider, locales))
+            texts += language.row() + u'|' + QString::number(language.ID);
+        return texts;
+    };
+    EXPECT_EQ(rows(0), QStringList(u(" - <Default>|-1")));
+    EXPECT_EQ(rows(1), QStringList(u("English (GB) - en-gb|2057")));
+    EXPECT_EQ(lists.hunspellLanguages().first().language, u("English (UK)"));
+
+    EXPECT_EQ(readWordLanguages(word, [] { return true; }), QString());
+    const QString list = readWordLanguages(word, [] { return false; });
+    EXPECT_EQ(list, u("MS Word Default|<Default>|-1#French|français|1036#German|Deutsch|1031"));
+    EXPECT_EQ(word.log.count(u("quit")), 2);
+    lists.saveWordLanguages(list + u("#broken|entry#no|number|x"));
+    lists.saveWordQuickList({u("-1"), u("1031"), u("7")});
+    EXPECT_EQ(rows(0), QStringList({u("MS Word Default - <Default>|-1"), u("German - Deutsch|1031")}));
+    EXPECT_EQ(lists.langFromID(1036), u("French"));
+    EXPECT_EQ(lists.langFromID(2057), QString());
+
+    const auto set = [&](const char *key, const char *value) {
+        store.SaveSetting(u("Tolvo"), u("Spelling"), u(key), u(value));
+    };
+    set("HunLangList", "English|en-gb#German|de-de#Klingon|tlh");
+    EXPECT_EQ(rows(3).last(), u("Klingon - tlh|-1"));
+    set("HunQuickList", "de-de|fr-fr");
+    EXPECT_EQ(rows(1), QStringList(u("German - de-de|1031")));
+}
+
+TEST(LocaleTable, IsReadRobustly) {
+    const Locales shipped(qEnvironmentVariable("TOLVO_SOURCE") + u("/data/Locales.txt"));
+    EXPECT_GT(shipped.count(), 120);
+    struct Case {
+        int number;
+        const char *locale;
+    };
+    for (const Case &one :
+         {Case{2057, "en-gb"}, Case{1033, "en-us"}, Case{1031, "de-de"}, Case{2055, "de-ch"},
+          Case{1036, "fr-fr"}, Case{3082, "es-es"}, Case{1034, "es-es"}, Case{1046, "pt-br"},
+          Case{2068, "nn-no"}, Case{1049, "ru-ru"}, Case{99999, ""}, Case{0, ""}})
+        EXPECT_EQ(shipped.localeOf(one.number), u(one.locale)) << one.number;
+    EXPECT_EQ(shipped.idOf(u("ES-es"), -1), 3082);
+    EXPECT_EQ(shipped.idOf(u("tlh"), -1), -1);
+
+    QTemporaryDir folder;
+    const QString path = folder.path() + u("/Locales.txt");
+    EXPECT_EQ(Locales(path).count(), 0);
+    writeFile(path, "a\tb\tc\t1\nx\ty\tz\t2\nthree\tfields\tonly\nempty\tfourth\tfield\t\n"
+                    "word\tb\tc\tnumber\nbig\tb\tc\t99999999999\nok\tb\tlocal\t7\textra\r\n" +
+                        QByteArray(100000, 'x') + "\nlater\tb\tc\t7\nlast\tb\tc\t8");
+    const Locales odd(path);
+    EXPECT_EQ(odd.count(), 2);
+    EXPECT_EQ(odd.localeOf(7), u("ok"));
+    EXPECT_EQ(odd.localeOf(8), u("last"));
+}
+
+} // namespace tolvo::test

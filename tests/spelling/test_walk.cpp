@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: MIT
+#include "spelling/spelling_walk.h"
+#include "spelling_world.h"
+
+namespace tolvo::test {
+
+class Walk : public SpellingWorld {
+  public:
+    bool start(const char *text, int LangID = -1) { return walk.start(u(text), LangID, false); }
+
+    /// The text with its marks: "[mistake]" and "{replaced}"; "|" for a line end.
+    QString picture() const {
+        QString shown;
+        const MarkedText &text = walk.rtbText();
+        for (const MarkRun &run : text.runs(0, text.text().size())) {
+            const QString stretch = text.text().mid(run.start, run.length);
+            shown += run.mark == Mark::Mistake    ? u'[' + stretch + u']'
+                     : run.mark == Mark::Replaced ? u'{' + stretch + u'}'
+                                                  : stretch;
+        }
+        return shown.replace(u'\r', u'|');
+    }
+    QString mistake() const { return walk.isOver() ? u("(over)") : walk.controls().labMistake; }
+    /// Which of the buttons Change, Change All, Delete, Undo can be used: "CADU".
+    QString enabled() const {
+        const WalkControls &c = walk.controls();
+        return QString(c.cmdChangeEnabled ? u("C") : u("-")) + (c.cmdChangeAllEnabled ? u("A") : u("-")) +
+               (c.cmdDeleteEnabled ? u("D") : u("-")) + (c.cmdUndoEnabled ? u("U") : u("-"));
+    }
+    void change(const char *correction) {
+        walk.setCorrection(u(correction));
+        walk.cmdChange();
+    }
+    /// From now on the service reports one error of a kind.
+    void service(const char *phrase, const char *type, const char *context, const QByteArray &options = {},
+                 const char *description = "") {
+        setProvider(2);
+        services.atdEndpoint = u("http://service");
+        http.reply = {200, u("OK"),
+                      QByteArray("<r><error><string>") + phrase + "</string><type>" + type +
+                          "</type><description>" + description + "</description><precontext>" + context +
+                          "</precontext><suggestions>" + options + "</suggestions></error></r>"};
+    }
+
+    ErrorWalk walk{services, *this};
+};
+
+TEST_F(Walk, ShowsNothingWithoutErrors) {
+    EXPECT_FALSE(start("the quick fox"));
+    EXPECT_TRUE(walk.isOver());
+    EXPECT_EQ(status, QStringList(u("Checking. Please wait...")));
+}
+
+TEST_F(Walk, ShowsAnError) {
+    store.SaveSetting(u("Tolvo"), u("Spelling"), u("DictionaryList"), u("British|English|2057"));
+    ASSERT_TRUE(start("the teh", 2057));
+    EXPECT_EQ(walk.controls().caption, u("Spelling and Grammar - British"));
+    EXPECT_EQ(walk.controls().labErrorType, u("Not in dictionary:"));
+    EXPECT_EQ(walk.controls().labMistake, u("teh"));
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("the")));
+    EXPECT_EQ(walk.controls().txtCorrection, u("the"));
+    EXPECT_EQ(picture(), u("the [teh]"));
+    EXPECT_EQ(enabled(), u("CA--"));
+    walk.setCorrection(u("teh"));
+    EXPECT_EQ(enabled(), u("----"));
+    walk.setCorrection(u("then"));
+    EXPECT_EQ(enabled(), u("CA--"));
+    EXPECT_EQ(status, QStringList({u("Checking. Please wait..."), QString()}));
+}
+
+TEST_F(Walk, MovesLaterErrorsByWhatChangesAdd) {
+    ASSERT_TRUE(start("a teh fox hte\rhelo"));
+    change("there");
+    EXPECT_EQ(picture(), u("a {there} fox [hte]|helo"));
+    EXPECT_EQ(walk.errorStart(), 12);
+    EXPECT_EQ(walk.caret(), 10); // without what was added
+    walk.cmdIgnore();
+    EXPECT_EQ(picture(), u("a {there} fox hte|[helo]"));
+    change("a");
+    EXPECT_EQ(mistake(), u("(over)"));
+    EXPECT_EQ(picture(), u("a {there} fox hte|{a}"));
+    EXPECT_FALSE(walk.bCancelled());
+}
+
+TEST_F(Walk, DoesNotMarkAnErrorAtTheStart) {
+    ASSERT_TRUE(start("teh fox hte"));
+    EXPECT_EQ(picture(), u("teh fox hte"));
+    EXPECT_EQ(walk.caret(), 1);
+    walk.cmdIgnore();
+    EXPECT_EQ(picture(), u("teh fox [hte]"));
+    walk.cmdUndo(); // nothing to undo
+    EXPECT_EQ(mistake(), u("hte"));
+    walk.cmdStop();
+    EXPECT_TRUE(walk.isOver());
+    EXPECT_FALSE(walk.bCancelled());
+    walk.cmdCancel();
+    EXPECT_TRUE(walk.bCancelled());
+}
+
+TEST_F(Walk, IgnoresAWordEverywhere) {
+    ASSERT_TRUE(start("a teh hte TEH teh helo"));
+    walk.cmdIgnoreAll();
+    change("the");
+    EXPECT_EQ(mistake(), u("helo"));
+    walk.cmdUndo(); // ignored words stay ignored
+    EXPECT_EQ(mistake(), u("hte"));
+    EXPECT_EQ(picture(), u("a teh [hte] TEH teh helo"));
+    walk.cmdIgnore();
+    EXPECT_EQ(mistake(), u("helo"));
+}
+
+TEST_F(Walk, AddsToThePersonalDictionary) {
+    ASSERT_TRUE(start("a zqx xzj zqx"));
+    walk.cmdAddToDic();
+    EXPECT_EQ(mistake(), u("xzj"));
+    walk.cmdIgnore();
+    EXPECT_EQ(mistake(), u("(over)"));
+    EXPECT_EQ(fileContents(dictionaries() + u("/persdict.dat")), "zqx\r\n");
+}
+
+TEST_F(Walk, ChangesAWordEverywhere) {
+    for (const bool smart : {false, true}) {
+        walk.setSmartReplace(smart);
+        ASSERT_TRUE(start("a teh fox TEH Teh helo"));
+        walk.cmdChangeAll();
+        EXPECT_EQ(mistake(), u("helo"));
+        EXPECT_EQ(picture(),
+                  smart ? u("a {the} fox {THE} {The} [helo]") : u("a {the} fox {the} {the} [helo]"));
+        // Each change is undone by itself, and shown without being changed again.
+        walk.cmdUndo();
+        EXPECT_EQ(picture().left(24), smart ? u("a {the} fox {THE} [Teh] ") : u("a {the} fox {the} [Teh] "));
+        walk.cmdUndo();
+        EXPECT_EQ(mistake(), u("TEH"));
+        walk.cmdUndo();
+        EXPECT_EQ(picture(), u("a [teh] fox TEH Teh helo"));
+        EXPECT_EQ(enabled(), u("CA--"));
+    }
+}
+
+TEST_F(Walk, ChecksABadReplacement) {
+    ASSERT_TRUE(start("zqx hte fox hte"));
+    walk.cmdIgnore();
+    change("xzj"); // checked anew; the first error comes again
+    EXPECT_EQ(picture(), u("zqx {xzj} fox hte"));
+    EXPECT_EQ(mistake(), u("zqx"));
+    walk.cmdIgnoreAll();
+    EXPECT_EQ(mistake(), u("xzj"));
+    EXPECT_EQ(picture(), u("zqx [xzj] fox hte"));
+    walk.cmdUndo();
+    EXPECT_EQ(mistake(), u("hte"));
+    EXPECT_EQ(picture(), u("zqx [hte] fox hte"));
+
+    boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+    walk.setCorrection(u("xzj"));
+    walk.cmdChangeAll();
+    EXPECT_EQ(mistake(), u("hte"));
+    walk.setCorrection(u("xzj"));
+    walk.cmdChangeAll();
+    const QString question =
+        u("'xzj' may contain misspellings.\r\nDo you really want to change all instances of 'hte'?");
+    EXPECT_EQ(said(), QStringList({question, question}));
+    EXPECT_EQ(mistake(), u("xzj"));
+    walk.cmdIgnore();
+    EXPECT_EQ(picture(), u("zqx xzj fox {xzj}")); // the last one was changed by itself
+    EXPECT_EQ(mistake(), u("(over)"));
+}
+
+TEST_F(Walk, ResumesBehindTheListWhenItsFirstErrorLiesBehind) {
+    ASSERT_TRUE(start("the hte a zqx"));
+    change("the xzj"); // the new error stands behind the caret's place
+    EXPECT_EQ(mistake(), u("(over)"));
+    EXPECT_EQ(picture(), u("the {the xzj} a zqx"));
+}
+
+TEST_F(Walk, DeletesAWordWithTheBlanksBehindIt) {
+    service("is", "grammar", "fox", "<option>(omit)</option><option>a</option>", "Style");
+    ASSERT_TRUE(start("the fox is   a dog"));
+    EXPECT_EQ(walk.controls().labErrorType, u("Grammar error:"));
+    EXPECT_EQ(walk.controls().labErrorDescription, u("Style"));
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList({u("<Omit>"), u("a")}));
+    walk.cmdChange();
+    EXPECT_EQ(picture(), u("the fox a dog"));
+    EXPECT_EQ(mistake(), u("(over)"));
+    for (const bool byDoubleClick : {false, true}) {
+        ASSERT_TRUE(start("the fox is   a dog"));
+        if (byDoubleClick)
+            walk.doubleClickSuggestion(0);
+        else
+            change("");
+        EXPECT_EQ(picture(), u("the fox a dog"));
+    }
+    ASSERT_TRUE(start("the fox is a dog"));
+    walk.doubleClickSuggestion(1);
+    EXPECT_EQ(picture(), u("the fox {a} a dog"));
+}
+
+TEST_F(Walk, TellsARepeatedWord) {
+    service("fox", "grammar", "", {}, "Twice");
+    ASSERT_TRUE(start("fox"));
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("Twice")));
+    EXPECT_EQ(enabled(), u("----"));
+    setProvider(1);
+    ASSERT_TRUE(start("fox zqx  ZQX   dog"));
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("(No spelling suggestions)")));
+    EXPECT_FALSE(walk.controls().lstSuggestionsEnabled);
+    EXPECT_EQ(enabled(), u("----"));
+    walk.cmdIgnore();
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("(Repeated word)")));
+    EXPECT_EQ(enabled(), u("--D-"));
+    walk.setCorrection(u("the"));
+    EXPECT_EQ(enabled(), u("CA--"));
+    walk.setCorrection(u("ZQX"));
+    EXPECT_EQ(enabled(), u("--D-"));
+    walk.cmdDelete();
+    EXPECT_EQ(picture(), u("fox zqx  dog"));
+    EXPECT_EQ(mistake(), u("(over)"));
+}
+
+TEST_F(Walk, HoldsBackLocalSuggestions) {
+    service("teh", "spelling", "a", "<option>then</option>");
+    ASSERT_TRUE(start("a teh fox"));
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList({u("then"), u("<More...>")}));
+    walk.clickSuggestion(1);
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList({u("then"), u("the")}));
+    EXPECT_EQ(walk.controls().txtCorrection, u("then"));
+    walk.doubleClickSuggestion(1); // the second half of the same double click
+    EXPECT_EQ(picture(), u("a [teh] fox"));
+    walk.clickSuggestion(1);
+    EXPECT_EQ(walk.controls().txtCorrection, u("the"));
+    service("teh", "spelling", "a");
+    ASSERT_TRUE(start("a teh fox"));
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("the")));
+    EXPECT_EQ(enabled(), u("CA--"));
+}
+
+TEST_F(Walk, GoesOnWhenAServiceFailsInTheMiddle) {
+    service("fox", "grammar", "a", "<option>dog</option>");
+    ASSERT_TRUE(start("a fox a teh"));
+    http.reply = {503, u("Busy"), {}};
+    EXPECT_THROW(change("dog"), Failure);
+    EXPECT_EQ(picture(), u("a [fox] a teh"));
+    http.reply = {0, u("gone"), {}};
+    change("dog"); // no answer counts as no error
+    EXPECT_EQ(picture(), u("a {dog} a teh"));
+}
+
+TEST_F(Walk, TakesThousandsOfChangesAndUndoesThem) {
+    const QString text = u("a") + u(" teh").repeated(15000);
+    ASSERT_TRUE(walk.start(text, -1, false));
+    walk.setCorrection(u("there"));
+    walk.cmdChangeAll();
+    EXPECT_TRUE(walk.isOver());
+    EXPECT_EQ(walk.rtbText().text(), u("a") + u(" there").repeated(15000));
+    ASSERT_TRUE(walk.start(text + u(" zqx"), -1, false));
+    walk.cmdChangeAll();
+    for (int i = 0; i < 15000; ++i)
+        walk.cmdUndo();
+    EXPECT_EQ(walk.rtbText().text(), text + u(" zqx"));
+    EXPECT_EQ(enabled(), u("CA--"));
+}
+
+TEST_F(Walk, TakesAMissingProviderForWord) {
+    store.DeleteSetting(u("Tolvo"), u("Spelling"));
+    word.errors = {{u("fox"), 4, 7}};
+    ASSERT_TRUE(start("the fox"));
+    EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("FOX")));
+    walk.end();
+    EXPECT_EQ(word.log.last(), u("release"));
+}
+
+} // namespace tolvo::test
