@@ -171,8 +171,10 @@ void dlgSpelling::refresh() {
     labMistake->setToolTip(controls.labMistake.left(1000));
     labErrorDescription->setText(controls.labErrorDescription);
     labErrorDescription->setVisible(!controls.labErrorDescription.isEmpty());
-    if (txtCorrection->text() != controls.txtCorrection)
+    if (txtCorrection->text() != controls.txtCorrection) {
         txtCorrection->setText(controls.txtCorrection);
+        txtCorrection->selectAll();
+    }
     refreshSuggestions(controls);
     cmdChange->setEnabled(controls.cmdChangeEnabled);
     cmdChangeAll->setEnabled(controls.cmdChangeAllEnabled);
@@ -191,6 +193,9 @@ void dlgSpelling::refreshSuggestions(const WalkControls &controls) {
         lstSuggestions->addItems(controls.lstSuggestions);
     }
     lstSuggestions->setEnabled(controls.lstSuggestionsEnabled);
+    // A list that can't be used still holds a remark for the user to read.
+    for (int row = 0; row < lstSuggestions->count(); ++row)
+        lstSuggestions->item(row)->setForeground(palette().brush(QPalette::Active, QPalette::Text));
     lstSuggestions->setCurrentRow(controls.selectedSuggestion);
 }
 

@@ -88,7 +88,9 @@ TEST_F(Dialogs, WalkThroughAText) {
         QTest::keyClick(&window, Qt::Key_I, Qt::AltModifier); // Ignore
         EXPECT_TRUE(QTest::qWaitFor([&] { return mistake(window) == u("hte"); }));
         auto &list = find<QListWidget>(window, "lstSuggestions");
-        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(0)).center());
+        const QPoint row = list.visualItemRect(list.item(0)).center();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row);
         EXPECT_EQ(mistake(window), u("zqx"));
         EXPECT_FALSE(find<QAbstractButton>(window, "cmdChange").isEnabled());
         press(window, "cmdIgnore");
@@ -167,6 +169,26 @@ TEST_F(Dialogs, KeepALongTextAndItsErrorInView) {
         keepPicture(window, "dlgSpelling-long");
         press(window, "cmdStop");
     });
+}
+
+TEST_F(Dialogs, MarkReadablyOnADarkBackground) {
+    MarkedTextView view;
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    view.setPalette(palette);
+    MarkedText text(u("a teh fox"));
+    text.mark(2, 3, Mark::Mistake);
+    view.showText(text, 2);
+    const auto colour = [&view] {
+        QTextCursor cursor(view.document());
+        cursor.setPosition(4);
+        return cursor.charFormat().foreground().color();
+    };
+    EXPECT_EQ(colour(), QColor(255, 0, 0));
+    palette.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+    view.setPalette(palette);
+    EXPECT_GT(colour().lightness(), 160);
+    EXPECT_GT(colour().red(), colour().green());
 }
 
 TEST_F(Dialogs, AskForTheLanguage) {
