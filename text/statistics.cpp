@@ -93,7 +93,7 @@ TextStatistics cTextMethods::statistics(QStringView fullText, QStringView select
     };
     addRow(QStringLiteral("Bytes"), &Measures::bytes, false);
     addRow(QStringLiteral("Characters"), &Measures::characters, true);
-    addRow(QStringLiteral("Printable Characters"), &Measures::printable, true);
+    addRow(QStringLiteral("Printable Characters"), &Measures::printable, false);
     addRow(QStringLiteral("Words"), &Measures::words, true);
     addRow(QStringLiteral("Total lines"), &Measures::lines, false);
     addRow(QStringLiteral("Paragraphs"), &Measures::paragraphs, true);

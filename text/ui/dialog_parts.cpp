@@ -14,7 +14,7 @@ SampleBox::SampleBox(int rows, QWidget *parent) : QPlainTextEdit(parent), m_rows
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setFocusPolicy(Qt::ClickFocus);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // no taller than its rows at first
     fitRows();
 }
 

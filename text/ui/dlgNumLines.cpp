@@ -29,7 +29,7 @@ dlgNumLines::dlgNumLines(const cTextMethods &engine, const LineNumberSettings &s
       m_ignoreBlanks(new QCheckBox(tr("Ignore blank lines"), this)),
       m_renumber(new QCheckBox(tr("Renumber"), this)), m_pad(new QCheckBox(tr("Pad with spaces"), this)),
       m_range(QStringLiteral("optRange"), {tr("Range &left"), tr("Range &right")}, this),
-      m_sample(new SampleBox(7, this)) {
+      m_sample(new SampleBox(9, this)) {
     m_ignoreBlanks->setObjectName(QStringLiteral("chkIgnoreBlanks"));
     m_renumber->setObjectName(QStringLiteral("chkRenumber"));
     m_pad->setObjectName(QStringLiteral("chkPad"));

@@ -29,7 +29,7 @@ dlgNumberStyle::dlgNumberStyle(const cTextMethods &engine, const NumberListSetti
       m_tab(QStringLiteral("optTab"), {tr("&Tab after"), tr("&Pad to")}, this),
       m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Pad to spaces"),
                              {0, NumberListSettings::mostTypedSpaces}, this)),
-      m_sample(new SampleBox(5, this)) {
+      m_sample(new SampleBox(7, this)) {
     m_style->setObjectName(QStringLiteral("cmbStyle"));
     for (const QStringView name : listStyleNames)
         m_style->addItem(name.toString());

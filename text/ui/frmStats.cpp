@@ -80,6 +80,7 @@ void frmStats::fitList() {
     for (int column = 0; column < m_list->columnCount(); ++column)
         width += qMax(view->sizeHintForColumn(column), header->sectionSizeHint(column));
     m_list->setMinimumWidth(width);
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     const int rows = m_list->topLevelItemCount();
     m_list->setMinimumHeight(m_list->sizeHintForRow(0) * rows + header->sizeHint().height() +
                              2 * m_list->frameWidth());
