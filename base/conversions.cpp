@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 
 #include <QLocale>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -14,7 +15,8 @@ double toNumber(const QString &text) {
     bool ok = false;
     const double value = QLocale::c().toDouble(text.trimmed(), &ok);
     if (!ok || !std::isfinite(value)) {
-        if (std::isinf(value))
+        const bool hasDigits = std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+        if (std::isinf(value) && hasDigits) // the word "inf" is no number
             failOverflow(QStringLiteral("%1 is too large a number").arg(text));
         failTypeMismatch(text);
     }
