@@ -115,10 +115,11 @@ void KeeperSession::sessionOver(int exitCode) {
     }
     close(m_pipe);
     m_pipe = -1;
+    m_alone = true;
 }
 
 void KeeperSession::keepClipboardUntilTaken() {
-    if (!ownsClipboard())
+    if (!m_alone || !ownsClipboard())
         return;
     malloc_trim(0); // what the session needed is of no use to a keeper
     QEventLoop loop;

@@ -27,12 +27,13 @@ class KeeperSession {
     void sessionOver(int exitCode);
 
     /// Serves the clipboard's text until another program takes the clipboard; returns at once if this program
-    /// does not own it. Needs the QGuiApplication, and no window.
+    /// does not own it, and before sessionOver. Needs the QGuiApplication, and no window.
     void keepClipboardUntilTaken();
 
   private:
     int m_pipe;
     std::vector<int> m_inherited;
+    bool m_alone = false; ///< nobody waits for this process any more
 };
 
 /// Runs a session in a child of this process and returns in the child with the session's result. The parent

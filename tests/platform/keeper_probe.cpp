@@ -16,6 +16,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int session(tolvo::KeeperSession &keeper, int argc, char **argv) {
@@ -31,17 +33,17 @@ int session(tolvo::KeeperSession &keeper, int argc, char **argv) {
     tolvo::DesktopClipboard clipboard;
     clipboard.ownerMilliseconds = 800;
     clipboard.onWaiting = [](bool waits) { std::puts(waits ? "waiting" : "waited"); };
-    if (what == QStringLiteral("crash"))
+    if (what == u"crash"_s)
         std::raise(SIGSEGV);
-    if (what == QStringLiteral("hang"))
+    if (what == u"hang"_s)
         pause();
-    if (what == QStringLiteral("leave"))
+    if (what == u"leave"_s)
         return exitCode;
-    if (what == QStringLiteral("take"))
+    if (what == u"take"_s)
         std::printf("[%s]\n", clipboard.takeText().toUtf8().constData());
-    if (what == QStringLiteral("write"))
+    if (what == u"write"_s)
         clipboard.writeText(arguments.value(4));
-    if (what == QStringLiteral("fill"))
+    if (what == u"fill"_s)
         clipboard.writeText(QString(arguments.value(4).toInt(), u'x'));
     std::fflush(stdout);
     keeper.sessionOver(exitCode);

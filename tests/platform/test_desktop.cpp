@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/DesktopClipboard.h"
 #include "platform/desktop/DesktopMessageBoxes.h"
-#include "platform/desktop/DesktopSound.h"
 #include "platform/desktop/EscapeWatch.h"
-#include "platform/desktop/font_conversion.h"
 
 #include <gtest/gtest.h>
 
@@ -16,23 +14,25 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
 TEST(DesktopClipboard, TakesAndWritesInTheLineEndsOfTheOthers) {
     DesktopClipboard clipboard;
-    QApplication::clipboard()->setText(QStringLiteral("a\nb"));
-    EXPECT_EQ(clipboard.takeText(), QStringLiteral("a\r\nb"));
-    clipboard.writeText(QStringLiteral("x\r\ny"));
-    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("x\ny"));
-    QApplication::clipboard()->setText(QStringLiteral("a\r\nb"));
-    EXPECT_EQ(clipboard.readText(), QStringLiteral("a\r\nb"));
-    clipboard.writeText(QStringLiteral("x\r\ny"));
-    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("x\ny"));
+    QApplication::clipboard()->setText(u"a\nb"_s);
+    EXPECT_EQ(clipboard.takeText(), u"a\r\nb"_s);
+    clipboard.writeText(u"x\r\ny"_s);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"x\ny"_s);
+    QApplication::clipboard()->setText(u"a\r\nb"_s);
+    EXPECT_EQ(clipboard.readText(), u"a\r\nb"_s);
+    clipboard.writeText(u"x\r\ny"_s);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"x\ny"_s);
     clipboard.writeText({});
     EXPECT_EQ(QApplication::clipboard()->text(), QString());
     auto *picture = new QMimeData;
-    picture->setData(QStringLiteral("image/png"), "png");
+    picture->setData(u"image/png"_s, "png");
     QApplication::clipboard()->setMimeData(picture);
     EXPECT_EQ(clipboard.takeText(), QString());
 }
@@ -43,23 +43,20 @@ TEST(DesktopMessageBoxes, ShowTheTextAsItIsAndAnswerByNoUnlessTold) {
         Qt::Key key;
         BoxAnswer answer;
     };
-    const QString text = QStringLiteral("<b>&bold</b>\r\nnext");
+    const QString text = u"<b>&bold</b>\r\nnext"_s;
     const Row rows[] = {
         {{.text = text}, Qt::Key_Escape, BoxAnswer::Ok},
         {{.text = text, .buttons = BoxButtons::YesNo}, Qt::Key_Escape, BoxAnswer::No},
         {{.text = text, .buttons = BoxButtons::YesNo}, Qt::Key_Return, BoxAnswer::No},
-        {{.text = text, .title = QStringLiteral("T"), .buttons = BoxButtons::YesNo},
-         Qt::Key_Y,
-         BoxAnswer::Yes},
+        {{.text = text, .title = u"T"_s, .buttons = BoxButtons::YesNo}, Qt::Key_Y, BoxAnswer::Yes},
     };
     for (const Row &row : rows) {
         QTimer::singleShot(0, [&] {
             auto *window = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             ASSERT_NE(window, nullptr);
             EXPECT_EQ(window->textFormat(), Qt::PlainText);
-            EXPECT_EQ(window->text(), QStringLiteral("<b>&bold</b>\nnext"));
-            EXPECT_EQ(window->windowTitle(),
-                      row.box.title.isEmpty() ? QStringLiteral("Tolvo") : row.box.title);
+            EXPECT_EQ(window->text(), u"<b>&bold</b>\nnext"_s);
+            EXPECT_EQ(window->windowTitle(), row.box.title.isEmpty() ? u"Tolvo"_s : row.box.title);
             if (row.answer == BoxAnswer::Yes)
                 window->button(QMessageBox::Yes)->click();
             else
@@ -75,26 +72,16 @@ TEST(EscapeWatch, KeepsInputAwayAndNotesEsc) {
     EscapeWatch watch;
     {
         const auto guard = watch.guard();
-        QTest::keyClicks(&field, QStringLiteral("abc"));
+        QTest::keyClicks(&field, u"abc"_s);
         EXPECT_FALSE(watch.escapePressed());
         QTest::keyClick(&field, Qt::Key_Escape);
         EXPECT_TRUE(watch.escapePressed());
         EXPECT_FALSE(field.close());
     }
-    QTest::keyClicks(&field, QStringLiteral("abc"));
-    EXPECT_EQ(field.text(), QStringLiteral("abc"));
+    QTest::keyClicks(&field, u"abc"_s);
+    EXPECT_EQ(field.text(), u"abc"_s);
     const auto again = watch.guard();
     EXPECT_FALSE(watch.escapePressed());
-}
-
-TEST(Fonts, ComeBackAsTheyWent) {
-    const Font font{.name = QStringLiteral("Courier New"), .size = 10.5, .bold = true, .italic = true};
-    EXPECT_EQ(fromQFont(toQFont(font)), font);
-    EXPECT_GT(toQFont({.name = QStringLiteral("Arial")}).pointSizeF(), 0);
-}
-
-TEST(DesktopSound, AMissingFileIsNoFailure) {
-    EXPECT_FALSE(DesktopSound().playWave(QStringLiteral("/nowhere/scrbar.wav"), false));
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 
 TEST(ClipboardLineEnds, TextWithoutCrComesInWithCrLfAndGoesOutWithLf) {
@@ -16,35 +18,35 @@ TEST(ClipboardLineEnds, TextWithoutCrComesInWithCrLfAndGoesOutWithLf) {
         QString foreign, taken, given; ///< `given`: what goes out after an edit that appended "\r\n!"
     };
     const Row rows[] = {
-        {{}, {}, QStringLiteral("\n!")},
-        {QStringLiteral("word"), QStringLiteral("word"), QStringLiteral("word\n!")},
-        {QStringLiteral("a\nb\n\n"), QStringLiteral("a\r\nb\r\n\r\n"), QStringLiteral("a\nb\n\n\n!")},
-        {QStringLiteral("a\r\nb"), QStringLiteral("a\r\nb"), QStringLiteral("a\r\nb\r\n!")},
-        {QStringLiteral("a\rb\nc"), QStringLiteral("a\rb\nc"), QStringLiteral("a\rb\nc\r\n!")},
+        {{}, {}, u"\n!"_s},
+        {u"word"_s, u"word"_s, u"word\n!"_s},
+        {u"a\nb\n\n"_s, u"a\r\nb\r\n\r\n"_s, u"a\nb\n\n\n!"_s},
+        {u"a\r\nb"_s, u"a\r\nb"_s, u"a\r\nb\r\n!"_s},
+        {u"a\rb\nc"_s, u"a\rb\nc"_s, u"a\rb\nc\r\n!"_s},
     };
     for (const Row &row : rows) {
         ClipboardLineEnds rule;
         const QString taken = rule.takeIn(row.foreign);
         EXPECT_EQ(taken, row.taken);
-        EXPECT_EQ(rule.goOut(taken + QStringLiteral("\r\n!")), row.given);
+        EXPECT_EQ(rule.goOut(taken + u"\r\n!"_s), row.given);
     }
 }
 
 TEST(ClipboardLineEnds, APasteSettlesNothingAndTheNextIntakeSettlesAnew) {
     ClipboardLineEnds rule;
-    EXPECT_EQ(rule.goOut(QStringLiteral("a\r\n")), QStringLiteral("a\n"));
-    (void)rule.takeIn(QStringLiteral("x\r\n"));
-    EXPECT_EQ(ClipboardLineEnds::comeIn(QStringLiteral("a\nb")), QStringLiteral("a\r\nb"));
-    EXPECT_EQ(rule.goOut(QStringLiteral("a\r\n")), QStringLiteral("a\r\n"));
-    (void)rule.takeIn(QStringLiteral("x\n"));
-    EXPECT_EQ(rule.goOut(QStringLiteral("a\r\n")), QStringLiteral("a\n"));
+    EXPECT_EQ(rule.goOut(u"a\r\n"_s), u"a\n"_s);
+    (void)rule.takeIn(u"x\r\n"_s);
+    EXPECT_EQ(ClipboardLineEnds::comeIn(u"a\nb"_s), u"a\r\nb"_s);
+    EXPECT_EQ(rule.goOut(u"a\r\n"_s), u"a\r\n"_s);
+    (void)rule.takeIn(u"x\n"_s);
+    EXPECT_EQ(rule.goOut(u"a\r\n"_s), u"a\n"_s);
 }
 
 TEST(Boxes, AreSaidLineByLineAndAnsweredByNo) {
     std::FILE *stream = std::tmpfile();
-    ConsoleBoxes boxes(QStringLiteral("tolvo-pipe: "), stream);
-    EXPECT_EQ(boxes.show({.text = QStringLiteral("Caf\u00E9\r\n\r\nend")}), BoxAnswer::Ok);
-    EXPECT_EQ(boxes.show({.text = QStringLiteral("Go on?"), .buttons = BoxButtons::YesNo}), BoxAnswer::No);
+    ConsoleBoxes boxes(u"tolvo-pipe: "_s, stream);
+    EXPECT_EQ(boxes.show({.text = u"Caf\u00E9\r\n\r\nend"_s}), BoxAnswer::Ok);
+    EXPECT_EQ(boxes.show({.text = u"Go on?"_s, .buttons = BoxButtons::YesNo}), BoxAnswer::No);
     std::rewind(stream);
     char said[100] = {};
     (void)std::fread(said, 1, sizeof said - 1, stream);
@@ -55,11 +57,10 @@ TEST(Boxes, AreSaidLineByLineAndAnsweredByNo) {
 
 TEST(Processes, AStartedProgramCanBeWaitedFor) {
     QTemporaryDir folder;
-    const QString mark = folder.filePath(QStringLiteral("mark"));
+    const QString mark = folder.filePath(u"mark"_s);
     SystemProcesses processes;
-    const qint64 process = processes.start(
-        QStringLiteral("/bin/sh"),
-        {QStringLiteral("-c"), QStringLiteral("sleep 0.3; echo done >\"$0\""), mark}, WindowMode::Normal);
+    const qint64 process =
+        processes.start(u"/bin/sh"_s, {u"-c"_s, u"sleep 0.3; echo done >\"$0\""_s, mark}, WindowMode::Normal);
     EXPECT_FALSE(QFile::exists(mark));
     processes.waitFor(process);
     EXPECT_TRUE(QFile::exists(mark));
@@ -69,11 +70,11 @@ TEST(Processes, AStartedProgramCanBeWaitedFor) {
 TEST(Processes, AMissingProgramIsAFailureThatNamesIt) {
     SystemProcesses processes;
     try {
-        processes.start(QStringLiteral("/nowhere/Advisor.exe"), {}, WindowMode::Normal);
+        processes.start(u"/nowhere/Advisor.exe"_s, {}, WindowMode::Normal);
         FAIL();
     } catch (const Failure &failure) {
         EXPECT_EQ(failure.number(), failureNumber::fileNotFound);
-        EXPECT_TRUE(failure.description().contains(QStringLiteral("/nowhere/Advisor.exe")));
+        EXPECT_TRUE(failure.description().contains(u"/nowhere/Advisor.exe"_s));
     }
 }
 

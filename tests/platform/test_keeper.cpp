@@ -13,6 +13,8 @@
 
 #include <csignal>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool waitUntil(int milliseconds, const std::function<bool()> &condition) {
@@ -32,16 +34,14 @@ class Keeper : public testing::Test {
             if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
                 GTEST_SKIP() << tool << " is not installed";
         }
-        server.start(QStringLiteral("Xvfb"),
-                     {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
-                      QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"),
-                      QStringLiteral("640x480x24")});
+        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s, u"0"_s,
+                                 u"640x480x24"_s});
         ASSERT_TRUE(waitUntil(20'000, [&] { return server.waitForReadyRead(10) || server.canReadLine(); }));
         environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"),
+        environment.insert(u"DISPLAY"_s,
                            u':' + QString::fromLatin1(server.readAllStandardOutput().trimmed()));
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+        environment.remove(u"WAYLAND_DISPLAY"_s);
     }
     void TearDown() override {
         server.terminate();
@@ -67,14 +67,14 @@ class Keeper : public testing::Test {
     [[nodiscard]] int probe(int exitCode, const QStringList &what, QByteArray *output = nullptr) const {
         return run(probePath, probeArguments(exitCode, what), output);
     }
-    [[nodiscard]] QString pidFile() const { return folder.filePath(QStringLiteral("pid")); }
+    [[nodiscard]] QString pidFile() const { return folder.filePath(u"pid"_s); }
     /// The process of the last session: a keeper, if it still lives.
     [[nodiscard]] QByteArray sessionProcess() const {
         QFile file(pidFile());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     static bool lives(const QByteArray &process) {
-        QFile file(QStringLiteral("/proc/%1/stat").arg(QString::fromLatin1(process)));
+        QFile file(u"/proc/%1/stat"_s.arg(QString::fromLatin1(process)));
         if (process.isEmpty() || !file.open(QIODevice::ReadOnly))
             return false;
         const QByteArray stat = file.readAll();
@@ -82,15 +82,12 @@ class Keeper : public testing::Test {
     }
     [[nodiscard]] QByteArray pasted() const {
         QByteArray text;
-        run(QStringLiteral("xclip"),
-            {QStringLiteral("-o"), QStringLiteral("-selection"), QStringLiteral("clipboard")}, &text);
+        run(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s}, &text);
         return text;
     }
     /// Another program takes the clipboard; it ends with the server.
     void otherProgramCopies(QProcess &other, const QByteArray &text) const {
-        start(other, QStringLiteral("xclip"),
-              {QStringLiteral("-quiet"), QStringLiteral("-i"), QStringLiteral("-selection"),
-               QStringLiteral("clipboard")});
+        start(other, u"xclip"_s, {u"-quiet"_s, u"-i"_s, u"-selection"_s, u"clipboard"_s});
         other.write(text);
         EXPECT_TRUE(other.waitForBytesWritten());
         other.closeWriteChannel();
@@ -103,7 +100,7 @@ class Keeper : public testing::Test {
 };
 
 TEST_F(Keeper, TheTextOutlivesTheRunAndATakeoverEndsTheKeeper) {
-    EXPECT_EQ(probe(0, {QStringLiteral("write"), QStringLiteral("caf\u00E9\r\nend")}), 0);
+    EXPECT_EQ(probe(0, {u"write"_s, u"caf\u00E9\r\nend"_s}), 0);
     const QByteArray keeper = sessionProcess();
     EXPECT_TRUE(lives(keeper));
     EXPECT_EQ(pasted(), "caf\xC3\xA9\nend");
@@ -118,48 +115,47 @@ TEST_F(Keeper, TheTextOutlivesTheRunAndATakeoverEndsTheKeeper) {
 TEST_F(Keeper, EightSessionsLeaveOneKeeper) {
     QByteArrayList keepers;
     for (int i = 0; i < 8; ++i) {
-        EXPECT_EQ(probe(i, {QStringLiteral("write"), QString::number(i)}), i);
+        EXPECT_EQ(probe(i, {u"write"_s, QString::number(i)}), i);
         keepers += sessionProcess();
     }
     EXPECT_TRUE(waitUntil(1000, [&] { return std::count_if(keepers.begin(), keepers.end(), lives) == 1; }));
     EXPECT_TRUE(lives(keepers.last()));
     EXPECT_EQ(pasted(), "7");
     // An empty text leaves an empty clipboard, and nobody to serve it.
-    EXPECT_EQ(probe(0, {QStringLiteral("write"), QString()}), 0);
+    EXPECT_EQ(probe(0, {u"write"_s, QString()}), 0);
     EXPECT_TRUE(waitUntil(1000, [&] { return !lives(keepers.last()) && !lives(sessionProcess()); }));
     EXPECT_EQ(pasted(), "");
 }
 
 TEST_F(Keeper, TwentyMegabytesComeThrough) {
-    EXPECT_EQ(probe(0, {QStringLiteral("fill"), QStringLiteral("20000000")}), 0);
+    EXPECT_EQ(probe(0, {u"fill"_s, u"20000000"_s}), 0);
     EXPECT_EQ(pasted(), QByteArray(20'000'000, 'x'));
 }
 
 TEST_F(Keeper, LeavesItsTerminalAndWhatItInherited) {
     // The shell's substitution returns only when nobody holds its pipe any more, neither as output nor as 7.
-    const QString command = QStringLiteral("out=$(\"$0\" \"$@\" 7>&1; echo code $?); echo \"got $out\"");
+    const QString command = u"out=$(\"$0\" \"$@\" 7>&1; echo code $?); echo \"got $out\""_s;
     QByteArray output;
-    EXPECT_EQ(run(QStringLiteral("/bin/sh"),
-                  QStringList{QStringLiteral("-c"), command, probePath} +
-                      probeArguments(3, {QStringLiteral("write"), QStringLiteral("x")}),
+    EXPECT_EQ(run(u"/bin/sh"_s,
+                  QStringList{u"-c"_s, command, probePath} + probeArguments(3, {u"write"_s, u"x"_s}),
                   &output),
               0);
     EXPECT_EQ(output, "got code 3\n");
     const QByteArray keeper = sessionProcess();
     EXPECT_TRUE(lives(keeper));
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(QString::fromLatin1(keeper)));
+    QFile stat(u"/proc/%1/stat"_s.arg(QString::fromLatin1(keeper)));
     ASSERT_TRUE(stat.open(QIODevice::ReadOnly));
     const QByteArray all = stat.readAll();
     EXPECT_EQ(all.mid(all.lastIndexOf(')') + 2).split(' ').value(3), keeper) << "a session of its own";
 }
 
 TEST_F(Keeper, EndsAsTheSessionEnds) {
-    EXPECT_EQ(probe(5, {QStringLiteral("leave")}), 5);
-    EXPECT_EQ(probe(0, {QStringLiteral("crash")}), -SIGSEGV);
+    EXPECT_EQ(probe(5, {u"leave"_s}), 5);
+    EXPECT_EQ(probe(0, {u"crash"_s}), -SIGSEGV);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGKILL}) {
         QFile::remove(pidFile());
         QProcess process;
-        start(process, probePath, probeArguments(0, {QStringLiteral("hang")}));
+        start(process, probePath, probeArguments(0, {u"hang"_s}));
         ASSERT_TRUE(waitUntil(10'000, [&] { return lives(sessionProcess()); }));
         ::kill(static_cast<pid_t>(process.processId()), signal);
         ASSERT_TRUE(process.waitForFinished(5000));
@@ -174,12 +170,12 @@ TEST_F(Keeper, AnOwnerThatHangsIsAnEmptyClipboardAndIsSaid) {
     otherProgramCopies(other, "a\nb");
     EXPECT_TRUE(waitUntil(5000, [&] { return pasted() == "a\nb"; }));
     QByteArray output;
-    EXPECT_EQ(probe(0, {QStringLiteral("take")}, &output), 0);
+    EXPECT_EQ(probe(0, {u"take"_s}, &output), 0);
     EXPECT_EQ(output, "[a\r\nb]\n");
     ::kill(static_cast<pid_t>(other.processId()), SIGSTOP);
     QElapsedTimer timer;
     timer.start();
-    EXPECT_EQ(probe(0, {QStringLiteral("take")}, &output), 0);
+    EXPECT_EQ(probe(0, {u"take"_s}, &output), 0);
     EXPECT_EQ(output, "waiting\nwaited\n[]\n");
     EXPECT_LT(timer.elapsed(), 10'000);
     other.kill();

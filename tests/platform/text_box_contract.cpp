@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 
 std::vector<QString> awkwardTexts() {
@@ -18,18 +20,18 @@ std::vector<QString> awkwardTexts() {
         privateUse += QChar(unit);
     return {
         {},
-        QStringLiteral("\r\n"),
-        QStringLiteral("one\r\ntwo\r\n\r\n"),
-        QStringLiteral("\n\ra\nb\rc\n"),
-        QStringLiteral("\r\r\n\n\r\r\n\r"),
-        QStringLiteral("a\u2028b\u2029c\u2029"),
-        QStringLiteral("\uFDD0frame\uFDD1"),
+        u"\r\n"_s,
+        u"one\r\ntwo\r\n\r\n"_s,
+        u"\n\ra\nb\rc\n"_s,
+        u"\r\r\n\n\r\r\n\r"_s,
+        u"a\u2028b\u2029c\u2029"_s,
+        u"\uFDD0frame\uFDD1"_s,
         nonCharacters,
-        QStringLiteral("\n\r\u2029") + nonCharacters + privateUse + QChar(0xFFFE) + QChar(0xFFFF),
-        QStringLiteral("no\u00A0break\u00AD\uFEFF\uFFFC"),
+        u"\n\r\u2029"_s + nonCharacters + privateUse + QChar(0xFFFE) + QChar(0xFFFF),
+        u"no\u00A0break\u00AD\uFEFF\uFFFC"_s,
         QString(QChar(0)) + u'x' + QChar(0),
-        QStringLiteral("\U0001F600") + QChar(0xDC00) + u'|' + QChar(0xD800),
-        QStringLiteral("\t tab\v\f\u0085\u001A"),
+        u"\U0001F600"_s + QChar(0xDC00) + u'|' + QChar(0xD800),
+        u"\t tab\v\f\u0085\u001A"_s,
     };
 }
 
@@ -64,10 +66,10 @@ TEST_P(TextBoxContract, HoldsEveryTextUnchanged) {
         box->setText(text);
         EXPECT_EQ(box->Text(), text);
         EXPECT_EQ(box->length(), text.size());
-        box->setText(QStringLiteral("left [] right"));
+        box->setText(u"left [] right"_s);
         select(*box, 5, 2);
         box->setSelText(text);
-        EXPECT_EQ(box->Text(), QStringLiteral("left ") + text + QStringLiteral(" right"));
+        EXPECT_EQ(box->Text(), u"left "_s + text + u" right"_s);
         EXPECT_EQ(box->SelStart(), 5 + text.size());
         select(*box, 5, static_cast<int>(text.size()));
         EXPECT_EQ(box->SelText(), text);
@@ -81,20 +83,19 @@ TEST_P(TextBoxContract, PutsSelectionsWhereTheyAreAskedFor) {
         QString shown;
     };
     const Row rows[] = {
-        {QStringLiteral("one\r\ntwo"), 5, 2, QStringLiteral("one\r\n[tw]o")},
-        {QStringLiteral("one\r\ntwo"), 3, 2, QStringLiteral("one[\r\n]two")},
-        {QStringLiteral("one\r\ntwo"), 3, 1, QStringLiteral("one[\r\n]two")},
-        {QStringLiteral("one\r\ntwo"), 4, 0, QStringLiteral("one[]\r\ntwo")},
-        {QStringLiteral("one\r\ntwo"), 4, 2, QStringLiteral("one[\r\n]two")},
-        {QStringLiteral("one\r\ntwo"), 1, 3, QStringLiteral("o[ne\r\n]two")},
-        {QStringLiteral("one\r\ntwo"), 99, 5, QStringLiteral("one\r\ntwo[]")},
-        {QStringLiteral("one\r\ntwo"), -3, -1, QStringLiteral("[]one\r\ntwo")},
-        {QStringLiteral("one\r\ntwo"), 6, 2147483647, QStringLiteral("one\r\nt[wo]")},
-        {QStringLiteral("a\r\r\nb\n\rc"), 2, 1, QStringLiteral("a\r[\r\n]b\n\rc")},
-        {QStringLiteral("a\r\r\nb\n\rc"), 6, 1, QStringLiteral("a\r\r\nb\n[\r]c")},
-        {QStringLiteral("\r\n\r\n\r\n"), 3, 3, QStringLiteral("\r\n[\r\n\r\n]")},
-        {QStringLiteral("x\U0001F600y"), 2, 1,
-         QString(QStringLiteral("x\U0001F600y")).insert(3, u']').insert(2, u'[')},
+        {u"one\r\ntwo"_s, 5, 2, u"one\r\n[tw]o"_s},
+        {u"one\r\ntwo"_s, 3, 2, u"one[\r\n]two"_s},
+        {u"one\r\ntwo"_s, 3, 1, u"one[\r\n]two"_s},
+        {u"one\r\ntwo"_s, 4, 0, u"one[]\r\ntwo"_s},
+        {u"one\r\ntwo"_s, 4, 2, u"one[\r\n]two"_s},
+        {u"one\r\ntwo"_s, 1, 3, u"o[ne\r\n]two"_s},
+        {u"one\r\ntwo"_s, 99, 5, u"one\r\ntwo[]"_s},
+        {u"one\r\ntwo"_s, -3, -1, u"[]one\r\ntwo"_s},
+        {u"one\r\ntwo"_s, 6, 2147483647, u"one\r\nt[wo]"_s},
+        {u"a\r\r\nb\n\rc"_s, 2, 1, u"a\r[\r\n]b\n\rc"_s},
+        {u"a\r\r\nb\n\rc"_s, 6, 1, u"a\r\r\nb\n[\r]c"_s},
+        {u"\r\n\r\n\r\n"_s, 3, 3, u"\r\n[\r\n\r\n]"_s},
+        {u"x\U0001F600y"_s, 2, 1, QString(u"x\U0001F600y"_s).insert(3, u']').insert(2, u'[')},
     };
     for (const Row &row : rows) {
         box->setText(row.text);
@@ -104,28 +105,28 @@ TEST_P(TextBoxContract, PutsSelectionsWhereTheyAreAskedFor) {
 }
 
 TEST_P(TextBoxContract, WritingTextOrStartClearsTheSelection) {
-    box->setText(QStringLiteral("abcdef"));
+    box->setText(u"abcdef"_s);
     select(*box, 2, 3);
     box->setSelStart(3);
-    EXPECT_EQ(picture(), QStringLiteral("abc[]def"));
+    EXPECT_EQ(picture(), u"abc[]def"_s);
     select(*box, 2, 3);
-    box->setText(QStringLiteral("abcdef"));
-    EXPECT_EQ(picture(), QStringLiteral("[]abcdef"));
+    box->setText(u"abcdef"_s);
+    EXPECT_EQ(picture(), u"[]abcdef"_s);
     select(*box, 2, 3);
-    box->setText(QStringLiteral("other"));
-    EXPECT_EQ(picture(), QStringLiteral("[]other"));
+    box->setText(u"other"_s);
+    EXPECT_EQ(picture(), u"[]other"_s);
 }
 
 TEST_P(TextBoxContract, ReportsChangesAndNothingElse) {
-    box->setText(QStringLiteral("ab\r\n\ncd"));
+    box->setText(u"ab\r\n\ncd"_s);
     EXPECT_EQ(changes, 1);
     box->setText(box->Text());
     select(*box, 1, 3);
     box->setSelText(box->SelText());
-    EXPECT_EQ(picture(), QStringLiteral("ab\r\n[]\ncd"));
+    EXPECT_EQ(picture(), u"ab\r\n[]\ncd"_s);
     box->setSelText({});
     EXPECT_EQ(changes, 1);
-    box->setSelText(QStringLiteral("x"));
+    box->setSelText(u"x"_s);
     EXPECT_EQ(changes, 2);
     box->setText({});
     box->setText({});
@@ -133,19 +134,19 @@ TEST_P(TextBoxContract, ReportsChangesAndNothingElse) {
 }
 
 TEST_P(TextBoxContract, JoinsLineEndsThatComeTogether) {
-    box->setText(QStringLiteral("a\rX\nb"));
+    box->setText(u"a\rX\nb"_s);
     select(*box, 2, 1);
     box->setSelText({});
-    EXPECT_EQ(picture(), QStringLiteral("a\r\n[]b"));
+    EXPECT_EQ(picture(), u"a\r\n[]b"_s);
     box->setSelStart(2);
-    EXPECT_EQ(picture(), QStringLiteral("a[]\r\nb"));
-    box->setText(QStringLiteral("\nb"));
-    box->setSelText(QStringLiteral("a\r"));
-    EXPECT_EQ(picture(), QStringLiteral("a\r\n[]b"));
-    box->setText(QStringLiteral("a\r"));
+    EXPECT_EQ(picture(), u"a[]\r\nb"_s);
+    box->setText(u"\nb"_s);
+    box->setSelText(u"a\r"_s);
+    EXPECT_EQ(picture(), u"a\r\n[]b"_s);
+    box->setText(u"a\r"_s);
     box->setSelStart(2);
-    box->setSelText(QStringLiteral("\nb"));
-    EXPECT_EQ(picture(), QStringLiteral("a\r\nb[]"));
+    box->setSelText(u"\nb"_s);
+    EXPECT_EQ(picture(), u"a\r\nb[]"_s);
 }
 
 TEST_P(TextBoxContract, CutsAtItsCapacity) {
@@ -153,32 +154,32 @@ TEST_P(TextBoxContract, CutsAtItsCapacity) {
     box->setText(QString(70000, u'x'));
     EXPECT_EQ(box->length(), textLimit);
     box->setCapacity(6);
-    box->setText(QStringLiteral("12345\r\n8"));
-    EXPECT_EQ(box->Text(), QStringLiteral("12345\r"));
-    box->setText(QStringLiteral("1234"));
+    box->setText(u"12345\r\n8"_s);
+    EXPECT_EQ(box->Text(), u"12345\r"_s);
+    box->setText(u"1234"_s);
     select(*box, 1, 2);
-    box->setSelText(QStringLiteral("abcdefgh"));
-    EXPECT_EQ(picture(), QStringLiteral("1abcd[]4"));
-    box->setSelText(QStringLiteral("more"));
-    EXPECT_EQ(picture(), QStringLiteral("1abcd[]4"));
+    box->setSelText(u"abcdefgh"_s);
+    EXPECT_EQ(picture(), u"1abcd[]4"_s);
+    box->setSelText(u"more"_s);
+    EXPECT_EQ(picture(), u"1abcd[]4"_s);
     EXPECT_EQ(changes, 4);
     // A capacity below the length takes nothing away and lets nothing in.
     box->setCapacity(3);
     EXPECT_EQ(box->length(), 6);
-    box->setSelText(QStringLiteral("x"));
-    EXPECT_EQ(box->Text(), QStringLiteral("1abcd4"));
+    box->setSelText(u"x"_s);
+    EXPECT_EQ(box->Text(), u"1abcd4"_s);
     select(*box, 0, 5);
-    box->setSelText(QStringLiteral("xyz"));
-    EXPECT_EQ(box->Text(), QStringLiteral("xy4"));
+    box->setSelText(u"xyz"_s);
+    EXPECT_EQ(box->Text(), u"xy4"_s);
 }
 
 TEST_P(TextBoxContract, ChangeHandlersMayEdit) {
     box->onChange = [this] {
         if (++changes == 1)
-            box->setText(QStringLiteral("second\r\n"));
+            box->setText(u"second\r\n"_s);
     };
-    box->setSelText(QStringLiteral("first"));
-    EXPECT_EQ(box->Text(), QStringLiteral("second\r\n"));
+    box->setSelText(u"first"_s);
+    EXPECT_EQ(box->Text(), u"second\r\n"_s);
     EXPECT_EQ(changes, 2);
 }
 
