@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// Every tool of the text engine on a full text area: of ordinary text, and of the worst that can be put
+// together. With "--grow" the ordinary text also grows to 16 million characters.
+#include "base/failure.h"
+#include "bench/bench.h"
+#include "tests/text/operations.h"
+
+#include <QSet>
+#include <QStringList>
+#include <cstring>
+
+using namespace tolvo;
+using namespace tolvo::bench;
+
+namespace {
+
+struct Silence : TextHost {
+    void setStatus(const QString &) override {}
+    void warn(const QString &, const QString &) override {}
+};
+
+/// A word with its own three-letter extension, and so on through all of them.
+QString differentAddresses() {
+    QString text;
+    for (int i = 0; text.size() < fullText; ++i)
+        text += QStringLiteral("a.%1%2%3 ")
+                    .arg(QChar(u'a' + i / 676 % 26))
+                    .arg(QChar(u'a' + i / 26 % 26))
+                    .arg(QChar(u'a' + i % 26));
+    return text.first(fullText);
+}
+
+QStringList worstTexts() {
+    QStringList texts;
+    for (const char16_t *piece :
+         {u"a",      u"é",     u" ",    u".",    u",",      u"'",      u"\"",
+          u"(",      u")",     u"&",    u"&#",   u"%41",    u"\t",     u"\r",
+          u"\n",     u"\r\n",  u"-",    u">",    u"|",      u"*",      u"\u00A0",
+          u"a\r\n",  u" \r\n", u"a.",   u"a'",   u"s'",     u"a\"",    u"a.b ",
+          u"x.com ", u"z ",    u"a (",  u"(s) ", u"( ",     u"&amp;",  u"&#65;",
+          u"&#x41;", u"&#1",   u"&#2a", u"1.",   u"1.\r\n", u"i.\r\n", u"a,",
+          u"re-",    u"mc'",   u"! ",   u"/",    u"a\t",    u"  a",    u"\tb\u00A0\r\n",
+          u"I.a:",   u"x1x"})
+        texts += repeated(QString::fromUtf16(piece));
+    texts += differentAddresses();
+    texts += repeated(QStringLiteral("&#1x1a"))
+                 .replace(6, fullText - 6, repeated(QStringLiteral("1a"), fullText - 6));
+    texts += QString(fullText - 1, u'a') + u'.';
+    return texts;
+}
+
+/// How a text begins, fit to print.
+std::string beginning(const QString &text) {
+    return "worst of: " +
+           text.left(8).toUtf8().replace("\r", "\\r").replace("\n", "\\n").replace("\t", "\\t").toStdString();
+}
+
+/// A text that the tool refuses counts with the time that it takes to find out.
+double timeOf(const test::Operation &operation, const cTextMethods &engine, const QString &text, int runs) {
+    return milliseconds(
+        [&] {
+            try {
+                (void)operation.run(engine, text);
+            } catch (const Failure &) {
+            }
+        },
+        runs);
+}
+
+void measureWorst(const test::Operation &operation, const cTextMethods &engine, const QStringList &texts,
+                  Table &table) {
+    double worst = 0;
+    const QString *worstText = &texts.first();
+    for (const QString &text : texts) {
+        const double once = timeOf(operation, engine, text, 1);
+        const double time = once > worst ? std::min(once, timeOf(operation, engine, text, 5)) : once;
+        if (time > worst) {
+            worst = time;
+            worstText = &text;
+        }
+    }
+    const bool sorts =
+        std::strstr(operation.name, "ort") != nullptr && std::strcmp(operation.name, "SortReverse") != 0;
+    table.add(operation.name, worst, sorts ? 100 : 16, "ms", beginning(*worstText));
+}
+
+void measureGrowth(const cTextMethods &engine, Table &table) {
+    const QString small = ordinaryText(1 << 16);
+    const QString large = ordinaryText(1 << 24);
+    for (const test::Operation &operation : test::operations) {
+        const double ratio = timeOf(operation, engine, large, 1) / timeOf(operation, engine, small, 15) / 256;
+        table.add(operation.name, ratio, 1.15, "x");
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    Silence host;
+    static const QSet<QString> extensions = {QStringLiteral("txt"), QStringLiteral("exe"),
+                                             QStringLiteral("pdf")};
+    const cTextMethods engine(
+        host, [](const QString &extension) { return extensions.contains(extension.toLower()); });
+    if (argc > 1 && std::strcmp(argv[1], "--grow") == 0) {
+        Table table("Text tools, 64 K to 16 M characters: growth of the time against growth of the text");
+        measureGrowth(engine, table);
+        return table.exitCode();
+    }
+    Table ordinary("Text tools, 65,535 characters of ordinary text");
+    const QString text = ordinaryText();
+    for (const test::Operation &operation : test::operations)
+        ordinary.add(operation.name, timeOf(operation, engine, text, 15), 4, "ms");
+    Table worst("Text tools, the worst 65,535 characters");
+    const QStringList texts = worstTexts();
+    for (const test::Operation &operation : test::operations)
+        measureWorst(operation, engine, texts, worst);
+    return ordinary.exitCode() | worst.exitCode();
+}
