@@ -18,6 +18,10 @@ QString withTypographicDashes(QStringView text) {
     QString result;
     result.reserve(text.size());
     for (qsizetype i = 0; i < text.size();) {
+        if (text[i] != u'-' && text[i] != u'.') {
+            result += text[i++];
+            continue;
+        }
         const QStringView rest = text.sliced(i);
         if (rest.startsWith(u"---")) {
             result += QChar(0x2014);
@@ -41,7 +45,9 @@ QString cTextMethods::PlainChars(QStringView text) const {
     QString result;
     result.reserve(text.size());
     for (const QChar c : text) {
-        if (contains(u"\u201A\u2018\u2019\u00B4", c.unicode()))
+        if (c.unicode() < 0x80)
+            result += c;
+        else if (contains(u"\u201A\u2018\u2019\u00B4", c.unicode()))
             result += u'\'';
         else if (contains(u"\u201C\u201D\u201E", c.unicode()))
             result += u'"';

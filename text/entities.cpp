@@ -8,19 +8,22 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 
 namespace tolvo {
 
 namespace {
 
-/// The character of a reference, empty if it has none.
-QString EntityChar(QStringView digits) {
+/// The character of a reference, if it has one.
+std::optional<QChar> EntityChar(QStringView digits) {
     constexpr int fullWidthStart = 65280;
     constexpr int fullWidthEnd = 65375;
-    double code = ValueOf(digits);
+    int code = 0;
+    for (const QChar digit : digits)
+        code = qMin(code * 10 + (digit.unicode() - u'0'), 1'000'000);
     if (code >= fullWidthStart && code < fullWidthEnd)
         code -= fullWidthStart - 32;
-    return code <= 255 ? QString(QChar(fromAnsi(static_cast<std::uint8_t>(code)))) : QString();
+    return code <= 255 ? std::optional(QChar(fromAnsi(static_cast<std::uint8_t>(code)))) : std::nullopt;
 }
 
 /// Finds the next index, from an index that never goes back, at which a condition holds.
@@ -117,9 +120,10 @@ class NumericDecoder {
     }
 
     void replaceMark(QStringView digits, qsizetype end) {
-        const QString character = EntityChar(digits);
-        m_lastMarkWasFilled = !character.isEmpty();
-        m_result += character;
+        const std::optional<QChar> character = EntityChar(digits);
+        m_lastMarkWasFilled = character.has_value();
+        if (character)
+            m_result += *character;
         m_at = end + 1;
     }
 

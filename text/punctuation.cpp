@@ -23,8 +23,11 @@ class PunctuationCheck {
     }
 
     QString run() {
-        for (; m_at <= m_text.size(); ++m_at)
-            checkCharacter();
+        for (; m_at <= m_text.size(); ++m_at) {
+            copyToMark();
+            if (m_at <= m_text.size())
+                checkCharacter();
+        }
         return m_result;
     }
 
@@ -32,6 +35,7 @@ class PunctuationCheck {
     [[nodiscard]] QString messages() const;
 
   private:
+    void copyToMark();
     void checkCharacter();
     void checkStop(int c);
     void checkOpeningBracket();
@@ -59,6 +63,21 @@ class PunctuationCheck {
     bool m_isAddress = false;
     bool m_blankBehind = false;
 };
+
+/// Copies the characters that are nobody's business.
+void PunctuationCheck::copyToMark() {
+    static const std::array<bool, 0x80> isMark = [] {
+        std::array<bool, 0x80> marks{};
+        for (const QChar mark : QStringView(u".,?!;:([{)]}'\""))
+            marks[mark.unicode()] = true;
+        return marks;
+    }();
+    const qsizetype from = m_at;
+    while (m_at <= m_text.size() &&
+           (m_text[m_at - 1].unicode() >= isMark.size() || !isMark[m_text[m_at - 1].unicode()]))
+        ++m_at;
+    m_result += m_text.sliced(from - 1, m_at - from);
+}
 
 void PunctuationCheck::checkCharacter() {
     const int c = unitAt(m_text, m_at);

@@ -10,14 +10,24 @@ namespace tolvo {
 namespace {
 
 /// Words that stay in lower case inside a title.
-constexpr QStringView smallWords = u",a,an,and,as,at,but,by,else,for,from,if,in,into,nor,not,of,off,on,or,"
-                                   u"out,over,so,the,then,to,until,up,when,where,with,yet,";
+constexpr QStringView smallWordList = u",a,an,and,as,at,but,by,else,for,from,if,in,into,nor,not,of,off,on,or,"
+                                      u"out,over,so,the,then,to,until,up,when,where,with,yet,";
 
 /// A word behind one of these and a hyphen stays in lower case. Without a comma at its ends the list never
 /// yields "ante" and "under"; users know the results, so it stays so.
-constexpr QStringView hyphenPrefixes =
+constexpr QStringView hyphenPrefixList =
     u"ante,anti,bi,bio,co,counter,de,extra,infra,inter,intra,macro,meta,micro,mid,mini,multi,neo,non,off,"
     u"over,post,pre,pro,proto,pseudo,re,semi,socio,sub,super,supra,trans,quasi,ultra,un,under";
+
+bool isSmallWord(QStringView word) {
+    static const WordList words(smallWordList.toString());
+    return words.holds(word);
+}
+
+bool isHyphenPrefix(QStringView word) {
+    static const WordList prefixes(hyphenPrefixList.toString());
+    return prefixes.holds(word);
+}
 
 /// The new form of the character at `i`, seen with the new forms of those before it.
 char16_t initialCap(QStringView text, qsizetype i) {
@@ -28,7 +38,7 @@ char16_t initialCap(QStringView text, qsizetype i) {
     if (isLetterUnit(previous))
         return toLower(c);
     if (previous == u'-')
-        return listHolds(hyphenPrefixes, WordBefore(text, i - 2, true)) ? toLower(c) : toUpper(c);
+        return isHyphenPrefix(WordBefore(text, i - 2, true)) ? toLower(c) : toUpper(c);
     if (previous == u'\'')
         return IsQuoteMark(text, i) ? toUpper(c) : toLower(c);
     return toUpper(c);
@@ -86,7 +96,7 @@ class TitleBuilder {
         QString word = source.toString();
         if (word.size() == 1 || word != toUpper(word))
             word = toLower(word);
-        if ((!listHolds(smallWords, word) || m_isFirstWord || isLastWord(source.size())) &&
+        if ((!isSmallWord(word) || m_isFirstWord || isLastWord(source.size())) &&
             !m_tokens.isWebOrFileName(m_position) && !followsPrefix())
             upperCaseAt(word, 0);
         if (word.size() > 2 && (word.startsWith(u"Mc") || word.startsWith(u"O'")))
@@ -106,7 +116,7 @@ class TitleBuilder {
 
     [[nodiscard]] bool followsPrefix() const {
         return m_result.endsWith(u'-') && QStringView(m_result).chopped(1).endsWith(m_previousWord) &&
-               listHolds(hyphenPrefixes, m_previousWord);
+               isHyphenPrefix(m_previousWord);
     }
 
     QStringView m_text;

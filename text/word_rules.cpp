@@ -28,6 +28,42 @@ bool listHolds(QStringView list, QStringView word) {
     return false;
 }
 
+namespace {
+
+/// Words that differ in case alone have the same key.
+QString caselessKey(QStringView word) {
+    QString key(word.size(), Qt::Uninitialized);
+    std::transform(word.begin(), word.end(), key.begin(),
+                   [](QChar c) { return QChar(toLower(toUpper(c.unicode()))); });
+    return key;
+}
+
+quint64 sizeBit(qsizetype size) {
+    return quint64{1} << qMin<qsizetype>(size, 63);
+}
+
+} // namespace
+
+WordList::WordList(QString list) : m_list(std::move(list)) {
+    const QStringView text(m_list);
+    qsizetype comma = text.indexOf(u',');
+    while (comma >= 0) {
+        const qsizetype next = text.indexOf(u',', comma + 1);
+        if (next >= 0) {
+            m_keys.insert(caselessKey(text.sliced(comma + 1, next - comma - 1)));
+            m_sizes |= sizeBit(next - comma - 1);
+        }
+        comma = next;
+    }
+}
+
+bool WordList::holds(QStringView word) const {
+    // A word with a comma may be two that stand side by side in the list.
+    if (word.contains(u','))
+        return listHolds(m_list, word);
+    return (m_sizes & sizeBit(word.size())) != 0 && m_keys.contains(caselessKey(word));
+}
+
 QStringView trimStopCharacters(QStringView text) {
     while (!text.isEmpty() && (contains(stopCharacters, text.back().unicode()) ||
                                contains(closingBrackets, text.back().unicode())))
@@ -73,14 +109,14 @@ bool IsQuoteMark(QStringView text, qsizetype position) {
     if ((before == u's' || before == u'S') && !endsWord(unitAt(text, position - 3)))
         return false;
     // The tails of contractions have two letters at most: a third one settles it.
-    qsizetype end = position;
-    while (end < position + 3 && isLetterUnit(unitAt(text, end)))
-        ++end;
-    if (end == position)
-        return true;
-    const QString tail = toLower(text.sliced(position - 1, end - position));
+    std::array<char16_t, 3> letters{};
+    std::size_t size = 0;
+    for (; size < letters.size() && isLetterUnit(unitAt(text, position + static_cast<qsizetype>(size)));
+         ++size)
+        letters[size] = toLower(static_cast<char16_t>(unitAt(text, position + static_cast<qsizetype>(size))));
+    const QStringView tail(letters.data(), static_cast<qsizetype>(size));
     static constexpr std::array<QStringView, 8> tails = {u"t", u"ve", u"nt", u"m", u"s", u"ll", u"d", u"re"};
-    return std::find(tails.begin(), tails.end(), QStringView(tail)) == tails.end();
+    return std::find(tails.begin(), tails.end(), tail) == tails.end();
 }
 
 QStringView WordBefore(QStringView text, qsizetype position, bool hyphenBreaks) {
@@ -128,26 +164,6 @@ QString quotesLeftOpen(bool inDouble, bool inSingle) {
     return list;
 }
 
-namespace {
-
-/// Words that differ in case alone have the same key.
-QString caselessKey(QStringView word) {
-    return toLower(toUpper(word));
-}
-
-} // namespace
-
-void AddressRules::setTopLevelDomains(QStringView list) {
-    m_domains.clear();
-    qsizetype comma = list.indexOf(u',');
-    while (comma >= 0) {
-        const qsizetype next = list.indexOf(u',', comma + 1);
-        if (next > comma + 1)
-            m_domains.insert(caselessKey(list.sliced(comma + 1, next - comma - 1)));
-        comma = next;
-    }
-}
-
 bool AddressRules::IsWebOrFileName(QStringView word) const {
     word = trimQuoteMarks(trimStopCharacters(word));
     int slashes = 0;
@@ -161,9 +177,11 @@ bool AddressRules::IsWebOrFileName(QStringView word) const {
             return true;
         slashOrColonBefore = slash || c == u':';
     }
+    if (stops == 0)
+        return false;
     QString extension = fnExtension(word);
     extension.replace(u'\\', u'/');
-    return m_isKnownExtension(extension) || m_domains.contains(caselessKey(extension));
+    return m_isKnownExtension(extension) || m_domains.holds(extension);
 }
 
 } // namespace tolvo

@@ -31,6 +31,18 @@ inline constexpr int noUnit = -1;
 /// True if comma, word, comma occurs in the list, in any case.
 [[nodiscard]] bool listHolds(QStringView list, QStringView word);
 
+/// The same for a list that is asked often.
+class WordList {
+  public:
+    explicit WordList(QString list = {});
+    [[nodiscard]] bool holds(QStringView word) const;
+
+  private:
+    QString m_list;
+    QSet<QString> m_keys; // the words between two commas, made for comparison without regard to case
+    quint64 m_sizes = 0;  // bit n is set if a word of n units is among them
+};
+
 /// Without stop characters and closing brackets at the end; without quote marks at both ends.
 [[nodiscard]] QStringView trimStopCharacters(QStringView text);
 [[nodiscard]] QStringView trimQuoteMarks(QStringView text);
@@ -73,7 +85,7 @@ class AddressRules {
         : m_isKnownExtension(std::move(isKnownExtension)) {}
 
     /// The list of domains, delimited by commas.
-    void setTopLevelDomains(QStringView list);
+    void setTopLevelDomains(const QString &list) { m_domains = WordList(list); }
 
     /// True for an Internet address, a path or a file name, brackets and stops at its end apart: its full
     /// stops end no sentence.
@@ -81,7 +93,7 @@ class AddressRules {
 
   private:
     KnownExtension m_isKnownExtension;
-    QSet<QString> m_domains; // made for comparison without regard to case
+    WordList m_domains;
 };
 
 } // namespace tolvo

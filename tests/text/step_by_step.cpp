@@ -52,7 +52,7 @@ QString wordAt(const QString &text, Position i) {
 // The rules for a single word have tests of their own.
 bool address(const QString &word) {
     AddressRules rules([](const QString &extension) { return extension == u"txt"; });
-    rules.setTopLevelDomains(u",com,org,");
+    rules.setTopLevelDomains(QStringLiteral(",com,org,"));
     return rules.IsWebOrFileName(word);
 }
 

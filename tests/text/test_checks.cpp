@@ -85,7 +85,7 @@ TEST_F(Checks, wordRules) {
     AddressRules addresses([](const QString &extension) { return extension == u"txt"; });
     addresses.setTopLevelDomains(shortTopLevelDomains());
     for (const auto *word :
-         {u"example.org.", u"\"b.COM\")", u"a.txt", u"c:\\x", u"a//", u"a/b\\c", u"me@x", u"a.b.c"})
+         {u"example.org.", u"\"b.COM\")", u"a.txt", u"c:\\x", u"a//", u"a/b\\c", u"me@x", u"a.b.c", u"x.ac,ad"})
         EXPECT_TRUE(addresses.IsWebOrFileName(word));
     for (const auto *word : {u"", u"word.", u"1.2", u"a/b", u"make.it", u"a:b", u"...", u"a.txt/b"})
         EXPECT_FALSE(addresses.IsWebOrFileName(word));
