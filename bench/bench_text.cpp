@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Every tool of the text engine on a full text area: of ordinary text, and of the worst that can be put
-// together. With "--grow" the ordinary text also grows to 16 million characters.
+// together.
 #include "base/failure.h"
 #include "bench/bench.h"
 #include "tests/text/operations.h"
@@ -67,6 +67,10 @@ double timeOf(const test::Operation &operation, const cTextMethods &engine, cons
         runs);
 }
 
+bool isSort(const test::Operation &operation) {
+    return std::strstr(operation.name, "ort") != nullptr && std::strcmp(operation.name, "SortReverse") != 0;
+}
+
 void measureWorst(const test::Operation &operation, const cTextMethods &engine, const QStringList &texts,
                   Table &table) {
     double worst = 0;
@@ -79,33 +83,17 @@ void measureWorst(const test::Operation &operation, const cTextMethods &engine, 
             worstText = &text;
         }
     }
-    const bool sorts =
-        std::strstr(operation.name, "ort") != nullptr && std::strcmp(operation.name, "SortReverse") != 0;
-    table.add(operation.name, worst, sorts ? 100 : 16, "ms", beginning(*worstText));
-}
-
-void measureGrowth(const cTextMethods &engine, Table &table) {
-    const QString small = ordinaryText(1 << 16);
-    const QString large = ordinaryText(1 << 24);
-    for (const test::Operation &operation : test::operations) {
-        const double ratio = timeOf(operation, engine, large, 1) / timeOf(operation, engine, small, 15) / 256;
-        table.add(operation.name, ratio, 1.15, "x");
-    }
+    table.add(operation.name, worst, isSort(operation) ? 100 : 16, "ms", beginning(*worstText));
 }
 
 } // namespace
 
-int main(int argc, char **argv) {
+int main() {
     Silence host;
     static const QSet<QString> extensions = {QStringLiteral("txt"), QStringLiteral("exe"),
                                              QStringLiteral("pdf")};
     const cTextMethods engine(
         host, [](const QString &extension) { return extensions.contains(extension.toLower()); });
-    if (argc > 1 && std::strcmp(argv[1], "--grow") == 0) {
-        Table table("Text tools, 64 K to 16 M characters: growth of the time against growth of the text");
-        measureGrowth(engine, table);
-        return table.exitCode();
-    }
     Table ordinary("Text tools, 65,535 characters of ordinary text");
     const QString text = ordinaryText();
     for (const test::Operation &operation : test::operations)

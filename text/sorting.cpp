@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <ranges>
 #include <vector>
 
 namespace tolvo {
@@ -135,8 +134,9 @@ QString cTextMethods::SortReverse(QStringView text) const {
         return sortError.toString();
     QString result;
     result.reserve(text.size());
-    for (const QStringView line : splitLines(text) | std::views::reverse) {
-        result += line;
+    const QList<QStringView> lines = splitLines(text);
+    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
+        result += *line;
         result += lineEnd;
     }
     result.chop(2);

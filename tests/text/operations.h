@@ -14,6 +14,11 @@ struct Operation {
     QString (*run)(const cTextMethods &engine, QStringView text);
 };
 
+/// Where the second half starts, at a blank if it holds one.
+inline qsizetype secondHalf(QStringView text) {
+    return qMax(text.indexOf(u' ', text.size() / 2), text.size() / 2);
+}
+
 #define TOLVO_OPERATION(name, call)                                                                          \
     Operation {                                                                                              \
         name, [](const cTextMethods &engine, QStringView text) -> QString { return engine.call; }            \
@@ -25,8 +30,7 @@ inline const std::array operations = {
     TOLVO_OPERATION("Capitalise", Capitalise(text, false)),
     TOLVO_OPERATION("InitialCaps", InitialCaps(text, 1, text.size())),
     TOLVO_OPERATION("TitleCase", TitleCase(text, 0, text.size())),
-    TOLVO_OPERATION("TitleCase, second half",
-                    TitleCase(text, text.size() / 2, text.size() - text.size() / 2)),
+    TOLVO_OPERATION("TitleCase, second half", TitleCase(text, secondHalf(text), text.size())),
     TOLVO_OPERATION("TrimTrail", TrimTrail(text)),
     TOLVO_OPERATION("TrimWhiteSpace", TrimWhiteSpace(text)),
     TOLVO_OPERATION("SingleSpace", SingleSpace(text)),
