@@ -15,13 +15,11 @@ namespace {
 constexpr QStringView preferences = u"Preferences";
 const QString userExtensions = QStringLiteral("Preferences\\UserFileExtensions");
 
-bool readCheck(const SettingsStore &store, QStringView key)
-{
+bool readCheck(const SettingsStore &store, QStringView key) {
     return toInteger(readSetting(store, preferences, key)) != 0;
 }
 
-void writeFont(SettingsStore &store, const QString &prefix, const Font &font)
-{
+void writeFont(SettingsStore &store, const QString &prefix, const Font &font) {
     writeSetting(store, preferences, prefix + QStringLiteral("_FontName"), font.name);
     writeSetting(store, preferences, prefix + QStringLiteral("_FontBold"), flagWord(font.bold));
     writeSetting(store, preferences, prefix + QStringLiteral("_FontItalic"), flagWord(font.italic));
@@ -30,10 +28,9 @@ void writeFont(SettingsStore &store, const QString &prefix, const Font &font)
 
 } // namespace
 
-Options loadOptions(const SettingsStore &store, const std::array<Font, 2> &fonts, bool useProportional, bool wordWrap,
-                    const std::function<bool(const QString &)> &isSystemExtension)
-{
-    Options options;
+ProgramOptions loadOptions(const SettingsStore &store, const std::array<Font, 2> &fonts, bool useProportional,
+                           bool wordWrap, const std::function<bool(const QString &)> &isSystemExtension) {
+    ProgramOptions options;
     options.fonts = fonts;
     options.useProportional = useProportional;
     options.wordWrap = wordWrap;
@@ -50,8 +47,7 @@ Options loadOptions(const SettingsStore &store, const std::array<Font, 2> &fonts
     return options;
 }
 
-void saveOptions(SettingsStore &store, const Options &options)
-{
+void saveOptions(SettingsStore &store, const ProgramOptions &options) {
     SettingsStore::Transaction all(store);
     writeFont(store, QStringLiteral("Prop"), options.fonts[0]);
     writeFont(store, QStringLiteral("Fixed"), options.fonts[1]);
@@ -66,15 +62,13 @@ void saveOptions(SettingsStore &store, const Options &options)
     all.commit();
 }
 
-QString FontDescription(const Font &font)
-{
+QString FontDescription(const Font &font) {
     return font.name + (font.bold ? QStringLiteral(" Bold") : QString()) +
            (font.italic ? QStringLiteral(" Italic") : QString()) + u' ' +
            QString::number(static_cast<int>(roundHalfToEven(font.size))) + QStringLiteral(" pt");
 }
 
-QString lastCheckText(const QString &startDate, const QDateTime &now)
-{
+QString lastCheckText(const QString &startDate, const QDateTime &now) {
     if (startDate.isEmpty())
         return QStringLiteral("You have never checked for updates");
     const qint64 days = toDate(startDate).secsTo(now) / (24 * 60 * 60);

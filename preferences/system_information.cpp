@@ -26,15 +26,15 @@ constexpr std::array<Candidate, 7> candidates = {{{"msinfo32", ""},
 
 } // namespace
 
-bool StartSysInfo(Processes &processes)
-{
+bool StartSysInfo(Processes &processes) {
     for (const Candidate &candidate : candidates) {
         const QString program = QStandardPaths::findExecutable(QLatin1StringView(candidate.program));
         if (program.isEmpty())
             continue;
         const QString argument = QLatin1StringView(candidate.argument);
         try {
-            processes.start(program, argument.isEmpty() ? QStringList() : QStringList(argument), WindowMode::Normal);
+            processes.start(program, argument.isEmpty() ? QStringList() : QStringList(argument),
+                            WindowMode::Normal);
             return true;
         } catch (const Failure &) {
             // The next one may do.

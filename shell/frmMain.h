@@ -80,6 +80,7 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     cUndo oUndo;
     /// Made when first needed.
     [[nodiscard]] CSearch &oSearch();
+    [[nodiscard]] SearchHost &searchHost() { return *this; }
     [[nodiscard]] const SessionServices &services() const { return m_services; }
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
     /// The number of warnings that the text engine has shown so far.

@@ -29,9 +29,9 @@ class SearchWindow {
   public:
     virtual ~SearchWindow() = default;
     virtual void setSearchText(const QString &text) = 0;
-    [[nodiscard]] virtual QString searchText() const = 0;
+    [[nodiscard]] virtual QString searchText() = 0;
     virtual void setSpecialChars(bool on) = 0;
-    [[nodiscard]] virtual bool specialChars() const = 0;
+    [[nodiscard]] virtual bool specialChars() = 0;
     virtual void expandDialog() = 0;
     virtual void showDialog(bool bReplace) = 0;
     virtual void cmdSearch_Click() = 0;

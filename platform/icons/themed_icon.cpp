@@ -15,12 +15,11 @@ class ThemedIconEngine : public QIconEngine {
   public:
     explicit ThemedIconEngine(QByteArray svg) : m_svg(std::move(svg)) {}
 
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
-    {
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
         const QPalette palette = QGuiApplication::palette();
         const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QColor text =
-            mode == QIcon::Selected ? palette.color(QPalette::HighlightedText) : palette.color(group, QPalette::WindowText);
+        const QColor text = mode == QIcon::Selected ? palette.color(QPalette::HighlightedText)
+                                                    : palette.color(group, QPalette::WindowText);
         const QColor second = mode == QIcon::Normal || mode == QIcon::Active ? accent(palette) : text;
         QByteArray svg = m_svg;
         svg.replace("currentColor", text.name().toLatin1()).replace("accentColor", second.name().toLatin1());
@@ -31,8 +30,7 @@ class ThemedIconEngine : public QIconEngine {
         renderer.render(painter, square);
     }
 
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
-    {
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
@@ -48,18 +46,15 @@ class ThemedIconEngine : public QIconEngine {
 
 } // namespace
 
-bool isDark(const QPalette &palette)
-{
+bool isDark(const QPalette &palette) {
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
-QColor accent(const QPalette &palette)
-{
+QColor accent(const QPalette &palette) {
     return isDark(palette) ? QColor(104, 200, 140) : QColor(1, 99, 49);
 }
 
-QIcon themedIcon(const QString &name)
-{
+QIcon themedIcon(const QString &name) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly))
         return {};

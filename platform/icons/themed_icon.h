@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Icons that follow the palette: drawn from data/icons/*.svg each time they are painted, so that they are sharp at every
-// scale and readable in light and dark.
+// Icons that follow the palette: drawn from data/icons/*.svg each time they are painted, so that they are
+// sharp at every scale and readable in light and dark.
 #pragma once
 
 #include <QColor>
@@ -10,7 +10,8 @@
 
 namespace tolvo {
 
-/// The icon of data/icons/NAME.svg. In the file "currentColor" stands for the text colour, "accentColor" for accent().
+/// The icon of data/icons/NAME.svg. In the file "currentColor" stands for the text colour, "accentColor" for
+/// accent().
 [[nodiscard]] QIcon themedIcon(const QString &name);
 
 /// The dark green of the tools (red 1, green 99, blue 49) on a light ground, a lighter green on a dark one.

@@ -18,8 +18,7 @@ namespace tolvo {
 namespace {
 
 // The first row shows everything; platforms whose file names need no full stop have a wider pattern for that.
-QString fileFilter()
-{
+QString fileFilter() {
 #ifdef Q_OS_WIN
     const QString all = QStringLiteral("All Files (*.*)");
 #else
@@ -30,8 +29,7 @@ QString fileFilter()
 
 } // namespace
 
-void dlgPreferences::chooseFont(int index)
-{
+void dlgPreferences::chooseFont(int index) {
     Font &font = m_options.fonts[static_cast<std::size_t>(index)];
     QFont start(font.name);
     start.setPointSizeF(font.size);
@@ -45,9 +43,9 @@ void dlgPreferences::chooseFont(int index)
     m_txtFont[static_cast<std::size_t>(index)]->setText(FontDescription(font));
 }
 
-void dlgPreferences::extensionTyped(const QString &text)
-{
-    // A blank and a full stop are no part of an extension; dropping them here swallows them however they come in.
+void dlgPreferences::extensionTyped(const QString &text) {
+    // A blank and a full stop are no part of an extension; dropping them here swallows them however they come
+    // in.
     QString allowed = text;
     allowed.remove(u' ').remove(u'.');
     if (allowed != text) {
@@ -65,50 +63,47 @@ void dlgPreferences::extensionTyped(const QString &text)
     }
 }
 
-void dlgPreferences::addExtension()
-{
+void dlgPreferences::addExtension() {
     const QString extension = m_txtExt->text();
     if (extension.isEmpty())
         return;
     if (m_actions.isSystemExtension(extension)) {
-        m_boxes.show({.text = FillTemplate(QStringLiteral("File extension '%0' is a registered file type on this PC.\r\n"
-                                                          "You do not need to add it here"),
-                                           {extension})});
+        m_boxes.show({.text = FillTemplate(
+                          QStringLiteral("File extension '%0' is a registered file type on this PC.\r\n"
+                                         "You do not need to add it here"),
+                          {extension})});
         return;
     }
     if (!m_lstExtensions->findItems(extension, Qt::MatchFixedString).isEmpty()) {
-        m_boxes.show({.text = FillTemplate(QStringLiteral("File extension '%0' is in the list already"), {extension})});
+        m_boxes.show({.text = FillTemplate(QStringLiteral("File extension '%0' is in the list already"),
+                                           {extension})});
         return;
     }
     m_lstExtensions->addItem(extension.toLower());
     m_txtExt->clear();
 }
 
-void dlgPreferences::removeExtension()
-{
+void dlgPreferences::removeExtension() {
     delete m_lstExtensions->currentItem();
     m_txtExt->clear();
 }
 
-void dlgPreferences::cmdApply_Click()
-{
+void dlgPreferences::cmdApply_Click() {
     m_options = options();
     m_actions.apply(m_options);
 }
 
-QString dlgPreferences::folder() const
-{
+QString dlgPreferences::folder() const {
     return m_folder.isEmpty() ? GetDocumentsFolder() : m_folder;
 }
 
-void dlgPreferences::rememberFolder(const QString &file)
-{
+void dlgPreferences::rememberFolder(const QString &file) {
     m_folder = file.chopped(leafOfPlatformPath(file).size());
 }
 
-void dlgPreferences::exportPrefs(bool powerButtonsOnly)
-{
-    const QString title = powerButtonsOnly ? tr("Export PowerButtons") : tr("Export Preferences and PowerButtons");
+void dlgPreferences::exportPrefs(bool powerButtonsOnly) {
+    const QString title =
+        powerButtonsOnly ? tr("Export PowerButtons") : tr("Export Preferences and PowerButtons");
     const QString file = QFileDialog::getSaveFileName(this, title, folder(), fileFilter());
     if (file.isEmpty())
         return;
@@ -116,8 +111,7 @@ void dlgPreferences::exportPrefs(bool powerButtonsOnly)
     m_actions.exportPrefs(file, powerButtonsOnly);
 }
 
-void dlgPreferences::cmdImport_Click()
-{
+void dlgPreferences::cmdImport_Click() {
     const QString file = QFileDialog::getOpenFileName(this, tr("Import Preferences"), folder(), fileFilter());
     if (file.isEmpty())
         return;

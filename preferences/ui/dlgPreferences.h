@@ -23,7 +23,7 @@ class MessageBoxes;
 class OptionsActions {
   public:
     virtual ~OptionsActions() = default;
-    virtual void apply(const Options &options) = 0;
+    virtual void apply(const ProgramOptions &options) = 0;
     [[nodiscard]] virtual bool isSystemExtension(const QString &extension) const = 0;
     virtual void checkNow() = 0;
     virtual void viewStatistics() = 0;
@@ -39,9 +39,9 @@ class dlgPreferences : public QDialog {
     dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWidget *parent = nullptr);
 
     /// Shows the given state on the dialog's controls.
-    void init(const Options &options, const QString &lastCheck);
+    void init(const ProgramOptions &options, const QString &lastCheck);
     /// What the controls say.
-    [[nodiscard]] Options options() const;
+    [[nodiscard]] ProgramOptions options() const;
 
   private:
     QWidget *displayPage();
@@ -62,7 +62,7 @@ class dlgPreferences : public QDialog {
 
     OptionsActions &m_actions;
     MessageBoxes &m_boxes;
-    Options m_options; ///< fonts are the dialog's working copy
+    ProgramOptions m_options; ///< fonts are the dialog's working copy
     QString m_folder;
 
     std::array<QRadioButton *, 2> m_optProp{};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pages of the Options dialog, and its controls' state.
+// The pages of the ProgramOptions dialog, and its controls' state.
 #include "preferences/ui/dlgPreferences.h"
 
 #include "platform/icons/themed_icon.h"
@@ -23,20 +23,18 @@ namespace tolvo {
 namespace {
 
 template <class Control>
-Control *named(Control *control, const QString &name)
-{
+Control *named(Control *control, const QString &name) {
     control->setObjectName(name);
     return control;
 }
 
 template <class Control>
-Control *make(const char *name, const QString &caption)
-{
+Control *make(const char *name, const QString &caption) {
     return named(new Control(caption), QLatin1StringView(name));
 }
 
-QToolButton *imageButton(const QString &name, const QString &icon, const QString &tip, const QString &accessibleName)
-{
+QToolButton *imageButton(const QString &name, const QString &icon, const QString &tip,
+                         const QString &accessibleName) {
     auto *button = named(new QToolButton, name);
     button->setIcon(themedIcon(icon));
     button->setToolTip(tip);
@@ -45,8 +43,7 @@ QToolButton *imageButton(const QString &name, const QString &icon, const QString
     return button;
 }
 
-QLabel *note(const QString &text)
-{
+QLabel *note(const QString &text) {
     auto *label = new QLabel(text);
     label->setWordWrap(true);
     QFont small = label->font();
@@ -58,8 +55,7 @@ QLabel *note(const QString &text)
 } // namespace
 
 dlgPreferences::dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWidget *parent)
-    : QDialog(parent), m_actions(actions), m_boxes(boxes)
-{
+    : QDialog(parent), m_actions(actions), m_boxes(boxes) {
     setObjectName(QStringLiteral("dlgPreferences"));
     setWindowTitle(tr("Options"));
     auto *tabs = named(new QTabWidget, QStringLiteral("SSTab1"));
@@ -72,8 +68,7 @@ dlgPreferences::dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWi
     layout->addWidget(buttonRow());
 }
 
-QWidget *dlgPreferences::displayPage()
-{
+QWidget *dlgPreferences::displayPage() {
     auto *page = new QWidget;
     auto *grid = new QGridLayout;
     const std::array<QString, 2> captions{tr("Use &Proportional font"), tr("Use &Fixed font")};
@@ -107,8 +102,7 @@ QWidget *dlgPreferences::displayPage()
     return page;
 }
 
-QWidget *dlgPreferences::extensionsPage()
-{
+QWidget *dlgPreferences::extensionsPage() {
     auto *page = new QWidget;
     auto *extensions = new QGroupBox(tr("File extensions"));
     m_lstExtensions = named(new QListWidget, QStringLiteral("lstExtensions"));
@@ -126,8 +120,9 @@ QWidget *dlgPreferences::extensionsPage()
     connect(m_lstExtensions, &QListWidget::currentRowChanged, this,
             [this](int row) { m_cmdRemove->setEnabled(row >= 0); });
     auto *grid = new QGridLayout(extensions);
-    grid->addWidget(note(tr("Words that end in one of these count as file names: their full stop ends no sentence.")), 0,
-                    0, 1, 2);
+    grid->addWidget(
+        note(tr("Words that end in one of these count as file names: their full stop ends no sentence.")), 0,
+        0, 1, 2);
     grid->addWidget(m_txtExt, 1, 0);
     grid->addWidget(m_cmdAdd, 1, 1);
     grid->addWidget(m_lstExtensions, 2, 0, 2, 1);
@@ -136,8 +131,8 @@ QWidget *dlgPreferences::extensionsPage()
 
     auto *domains = new QGroupBox(tr("Internet addresses"));
     m_optTLDs[0] = make<QRadioButton>("optTLDs_0", tr("Use full list of Internet Top Level Domains"));
-    m_optTLDs[1] =
-        make<QRadioButton>("optTLDs_1", tr("Use list of Internet TLDs excluding English words (recommended)"));
+    m_optTLDs[1] = make<QRadioButton>("optTLDs_1",
+                                      tr("Use list of Internet TLDs excluding English words (recommended)"));
     auto *domainLayout = new QVBoxLayout(domains);
     domainLayout->addWidget(m_optTLDs[0]);
     domainLayout->addWidget(m_optTLDs[1]);
@@ -148,8 +143,7 @@ QWidget *dlgPreferences::extensionsPage()
     return page;
 }
 
-QWidget *dlgPreferences::generalPage()
-{
+QWidget *dlgPreferences::generalPage() {
     auto *page = new QWidget;
     m_chkShowTips = make<QCheckBox>("chkShowTips", tr("Show &Tips at startup"));
     m_chkSounds = make<QCheckBox>("chkSounds", tr("Enable &sounds"));
@@ -168,17 +162,20 @@ QWidget *dlgPreferences::generalPage()
     grid->addWidget(button("cmdCheckNow", tr("Check now"), [this] { m_actions.checkNow(); }), 0, 1);
     grid->addWidget(m_labLastCheck, 1, 0, 1, 2);
     grid->addWidget(m_chkUsageStats, 2, 0);
-    grid->addWidget(button("cmdViewStats", tr("View statistics..."), [this] { m_actions.viewStatistics(); }), 2, 1);
-    grid->addWidget(note(tr("Only anonymous usage statistics are gathered and used to improve the product. No personally "
-                            "identifiable information or personal data are collected.")),
-                    3, 0, 1, 2);
+    grid->addWidget(button("cmdViewStats", tr("View statistics..."), [this] { m_actions.viewStatistics(); }),
+                    2, 1);
+    grid->addWidget(
+        note(tr("Only anonymous usage statistics are gathered and used to improve the product. No personally "
+                "identifiable information or personal data are collected.")),
+        3, 0, 1, 2);
     grid->setColumnStretch(0, 1);
 
     auto *files = new QGroupBox(tr("Export and import"));
     auto *fileLayout = new QVBoxLayout(files);
     fileLayout->addWidget(
         button("cmdExport", tr("Export Preferences and PowerButtons..."), [this] { exportPrefs(false); }));
-    fileLayout->addWidget(button("cmdExportPB", tr("Export PowerButtons only..."), [this] { exportPrefs(true); }));
+    fileLayout->addWidget(
+        button("cmdExportPB", tr("Export PowerButtons only..."), [this] { exportPrefs(true); }));
     fileLayout->addWidget(button("cmdImport", tr("Import Preferences..."), [this] { cmdImport_Click(); }));
 
     auto *layout = new QVBoxLayout(page);
@@ -190,8 +187,7 @@ QWidget *dlgPreferences::generalPage()
     return page;
 }
 
-QWidget *dlgPreferences::spellingPage()
-{
+QWidget *dlgPreferences::spellingPage() {
     auto *page = new QWidget;
     const std::array<QString, 4> captions{QStringLiteral("Microsoft Word"), QStringLiteral("Hunspell"),
                                           QStringLiteral("After the Deadline"),
@@ -202,23 +198,25 @@ QWidget *dlgPreferences::spellingPage()
     grid->setVerticalSpacing(8);
     for (int i = 0; i < 4; ++i) {
         const auto at = static_cast<std::size_t>(i);
-        m_optSpellingProvider[at] = named(new QRadioButton(captions[at]), QStringLiteral("optSpellingProvider_%1").arg(i));
-        auto *browse = imageButton(i == 0 ? QStringLiteral("imgBrowse") : QStringLiteral("imgBrowse_%1").arg(i),
-                                   QStringLiteral("options"), tr("Configure"), tr("Configure %1").arg(captions[at]));
+        m_optSpellingProvider[at] =
+            named(new QRadioButton(captions[at]), QStringLiteral("optSpellingProvider_%1").arg(i));
+        auto *browse =
+            imageButton(i == 0 ? QStringLiteral("imgBrowse") : QStringLiteral("imgBrowse_%1").arg(i),
+                        QStringLiteral("options"), tr("Configure"), tr("Configure %1").arg(captions[at]));
         connect(browse, &QToolButton::clicked, this, [this, i] { m_actions.configureProvider(i); });
         grid->addWidget(m_optSpellingProvider[at], i, 0);
         grid->addWidget(browse, i, 1);
     }
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(box);
-    layout->addWidget(note(tr("After the Deadline sends the text to a web service. The other providers leave it on this "
-                              "computer.")));
+    layout->addWidget(
+        note(tr("After the Deadline sends the text to a web service. The other providers leave it on this "
+                "computer.")));
     layout->addStretch(1);
     return page;
 }
 
-QWidget *dlgPreferences::buttonRow()
-{
+QWidget *dlgPreferences::buttonRow() {
     auto *row = new QWidget;
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -242,8 +240,7 @@ QWidget *dlgPreferences::buttonRow()
     return row;
 }
 
-void dlgPreferences::init(const Options &options, const QString &lastCheck)
-{
+void dlgPreferences::init(const ProgramOptions &options, const QString &lastCheck) {
     m_options = options;
     for (std::size_t i = 0; i < 2; ++i)
         m_txtFont[i]->setText(FontDescription(options.fonts[i]));
@@ -266,9 +263,8 @@ void dlgPreferences::init(const Options &options, const QString &lastCheck)
     }
 }
 
-Options dlgPreferences::options() const
-{
-    Options options = m_options;
+ProgramOptions dlgPreferences::options() const {
+    ProgramOptions options = m_options;
     options.useProportional = m_optProp[0]->isChecked();
     options.wordWrap = m_chkWordwrap->isChecked();
     options.extensions.clear();

@@ -17,8 +17,7 @@
 namespace tolvo {
 
 frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built, QWidget *parent)
-    : QDialog(parent), m_processes(processes), m_boxes(boxes)
-{
+    : QDialog(parent), m_processes(processes), m_boxes(boxes) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About ") + applicationTitle());
 
@@ -34,7 +33,8 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
                                         QLocale().toString(built, QLocale::ShortFormat)));
     version->setObjectName(QStringLiteral("lblVersion"));
     version->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto *copyright = new QLabel(tr("Copyright %1 The Tolvo developers").arg(built.toString(QStringLiteral("yyyy"))));
+    auto *copyright =
+        new QLabel(tr("Copyright %1 The Tolvo developers").arg(built.toString(QStringLiteral("yyyy"))));
     copyright->setObjectName(QStringLiteral("lblCopyright"));
 
     auto *text = new QVBoxLayout;
@@ -42,7 +42,8 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
         text->addWidget(label);
     text->addSpacing(8);
     text->addWidget(link("lblWeb", QStringLiteral(TOLVO_HOME_PAGE), QStringLiteral(TOLVO_HOME_PAGE)));
-    text->addWidget(link("lblSupport", QStringLiteral(TOLVO_SUPPORT), QStringLiteral("mailto:" TOLVO_SUPPORT)));
+    text->addWidget(
+        link("lblSupport", QStringLiteral(TOLVO_SUPPORT), QStringLiteral("mailto:" TOLVO_SUPPORT)));
     auto *top = new QHBoxLayout;
     top->setSpacing(20);
     top->addWidget(picture, 0, Qt::AlignTop);
@@ -70,8 +71,7 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
     ok->setFocus();
 }
 
-QLabel *frmAbout::link(const char *name, const QString &text, const QString &address)
-{
+QLabel *frmAbout::link(const char *name, const QString &text, const QString &address) {
     auto *label = new QLabel;
     label->setObjectName(QLatin1StringView(name));
     label->setAccessibleName(text);
@@ -87,8 +87,7 @@ QLabel *frmAbout::link(const char *name, const QString &text, const QString &add
     return label;
 }
 
-void frmAbout::cmdSysInfo_Click()
-{
+void frmAbout::cmdSysInfo_Click() {
     if (!StartSysInfo(m_processes))
         m_boxes.show({.text = QStringLiteral("System Information is unavailable")});
 }

@@ -51,9 +51,9 @@ class HeadlessWindows : public SessionWindows,
 
     // SearchWindow and SearchResults
     void setSearchText(const QString &) override {}
-    QString searchText() const override { return {}; }
+    QString searchText() override { return {}; }
     void setSpecialChars(bool) override {}
-    bool specialChars() const override { return false; }
+    bool specialChars() override { return false; }
     void expandDialog() override {}
     void showDialog(bool) override {}
     void cmdSearch_Click() override {}

@@ -21,9 +21,8 @@ using namespace tolvo;
 namespace {
 
 struct Actions : OptionsActions {
-    void apply(const Options &options) override { applied += options; }
-    [[nodiscard]] bool isSystemExtension(const QString &extension) const override
-    {
+    void apply(const ProgramOptions &options) override { applied += options; }
+    [[nodiscard]] bool isSystemExtension(const QString &extension) const override {
         return extension.compare(QLatin1StringView("txt"), Qt::CaseInsensitive) == 0;
     }
     void checkNow() override { done += QStringLiteral("check"); }
@@ -32,32 +31,29 @@ struct Actions : OptionsActions {
     void importPrefs(const QString &) override {}
     void configureProvider(int provider) override { done += QStringLiteral("provider %1").arg(provider); }
 
-    QList<Options> applied;
+    QList<ProgramOptions> applied;
     QStringList done;
 };
 
 class OptionsStory : public testing::Test {
   protected:
     void open() { dialog.init(load(), lastCheckText({}, QDateTime::currentDateTime())); }
-    Options load()
-    {
-        return loadOptions(store, fonts, true, false, [this](const QString &e) { return actions.isSystemExtension(e); });
+    ProgramOptions load() {
+        return loadOptions(store, fonts, true, false,
+                           [this](const QString &e) { return actions.isSystemExtension(e); });
     }
     template <class Control>
-    Control *control(const char *name)
-    {
+    Control *control(const char *name) {
         auto *found = dialog.findChild<Control *>(QLatin1StringView(name));
         EXPECT_NE(found, nullptr) << name;
         return found;
     }
-    void adds(const char *extension)
-    {
+    void adds(const char *extension) {
         control<QLineEdit>("txtExt")->clear();
         QTest::keyClicks(control<QLineEdit>("txtExt"), QLatin1StringView(extension));
         control<QPushButton>("cmdAdd")->click();
     }
-    QStringList extensions()
-    {
+    QStringList extensions() {
         QStringList rows;
         auto *list = control<QListWidget>("lstExtensions");
         for (int i = 0; i < list->count(); ++i)
@@ -73,8 +69,7 @@ class OptionsStory : public testing::Test {
     dlgPreferences dialog{actions, boxes};
 };
 
-TEST_F(OptionsStory, anEmptyStoreShowsTheDefaults)
-{
+TEST_F(OptionsStory, anEmptyStoreShowsTheDefaults) {
     open();
     for (const char *name : {"chkShowTips", "chkSounds", "chkUpdates", "chkUsageStats"})
         EXPECT_TRUE(control<QCheckBox>(name)->isChecked()) << name;
@@ -85,8 +80,7 @@ TEST_F(OptionsStory, anEmptyStoreShowsTheDefaults)
     EXPECT_FALSE(control<QPushButton>("cmdAdd")->isEnabled());
 }
 
-TEST_F(OptionsStory, extensionsAreAddedOnceAndInLowerCase)
-{
+TEST_F(OptionsStory, extensionsAreAddedOnceAndInLowerCase) {
     open();
     adds(". X y Z"); // blanks and the stop are swallowed
     adds("xyz");
@@ -94,15 +88,15 @@ TEST_F(OptionsStory, extensionsAreAddedOnceAndInLowerCase)
     EXPECT_EQ(extensions(), QStringList{QStringLiteral("xyz")});
     ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(boxes.shown[0].text, QStringLiteral("File extension 'xyz' is in the list already"));
-    EXPECT_EQ(boxes.shown[1].text, QStringLiteral("File extension 'TXT' is a registered file type on this PC.\r\n"
-                                                  "You do not need to add it here"));
+    EXPECT_EQ(boxes.shown[1].text,
+              QStringLiteral("File extension 'TXT' is a registered file type on this PC.\r\n"
+                             "You do not need to add it here"));
     control<QLineEdit>("txtExt")->setText(QStringLiteral("XY"));
     control<QPushButton>("cmdRemove")->click();
     EXPECT_TRUE(extensions().isEmpty());
 }
 
-TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening)
-{
+TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     open();
     control<QCheckBox>("chkSounds")->setChecked(false);
     control<QRadioButton>("optTLDs_0")->setChecked(true);
@@ -117,13 +111,12 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening)
     EXPECT_EQ(store.GetSetting(QStringLiteral("Tolvo"), QStringLiteral("Preferences\\UserFileExtensions"),
                                QStringLiteral("{")),
               QStringLiteral("extaz"));
-    Options again = load();
+    ProgramOptions again = load();
     again.useProportional = false;
     EXPECT_EQ(again, actions.applied[0]);
 }
 
-TEST_F(OptionsStory, cancelAppliesNothingAndTheNextOpeningShowsTheOldState)
-{
+TEST_F(OptionsStory, cancelAppliesNothingAndTheNextOpeningShowsTheOldState) {
     open();
     control<QCheckBox>("chkShowTips")->setChecked(false);
     adds("abc");
@@ -134,26 +127,24 @@ TEST_F(OptionsStory, cancelAppliesNothingAndTheNextOpeningShowsTheOldState)
     EXPECT_TRUE(extensions().isEmpty());
 }
 
-TEST_F(OptionsStory, aProviderOutsideTheListIsKept)
-{
+TEST_F(OptionsStory, aProviderOutsideTheListIsKept) {
     writeSetting(store, u"Spelling", u"Provider", QStringLiteral("7"));
     open();
     EXPECT_EQ(dialog.options().provider, 7);
 }
 
-TEST(Options, theLastCheckIsToldInWholeDays)
-{
+TEST(Options, theLastCheckIsToldInWholeDays) {
     const QDateTime now(QDate(2026, 3, 10), QTime(11, 59));
     EXPECT_EQ(lastCheckText(QStringLiteral("2026-03-01 12:00:00"), now),
               QStringLiteral("You last checked for updates 8 days ago"));
 }
 
-TEST(About, tellsVersionDateAndOpensTheAddress)
-{
+TEST(About, tellsVersionDateAndOpensTheAddress) {
     RecordingProcesses processes;
     RecordingBoxes boxes;
     frmAbout about(processes, boxes, QDate(2026, 5, 4));
-    EXPECT_TRUE(about.findChild<QLabel *>(QStringLiteral("lblVersion"))->text().startsWith(u"Version 1.0 Build 0 ("));
+    EXPECT_TRUE(
+        about.findChild<QLabel *>(QStringLiteral("lblVersion"))->text().startsWith(u"Version 1.0 Build 0 ("));
     EXPECT_TRUE(about.findChild<QLabel *>(QStringLiteral("lblCopyright"))->text().contains(u"2026"));
     auto *web = about.findChild<QLabel *>(QStringLiteral("lblWeb"));
     emit web->linkActivated(QStringLiteral("https://tolvo.example"));

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// The desktop program: makes what a run stands on and hands it down. One run is one clipboard session.
+#include "base/application.h"
+#include "base/paths.h"
+#include "platform/clock.h"
+#include "platform/desktop/DesktopClipboard.h"
+#include "platform/desktop/DesktopMessageBoxes.h"
+#include "platform/desktop/DesktopProcesses.h"
+#include "platform/desktop/DesktopSound.h"
+#include "platform/desktop/EscapeWatch.h"
+#include "platform/desktop/clipboard_keeper.h"
+#include "platform/network/NetworkHttpClient.h"
+#include "preferences/settings_store.h"
+#include "shell/modMain.h"
+#include "shell/ui/desktop_session.h"
+#include "spelling/word_automation.h"
+
+#include <QApplication>
+#include <QIcon>
+
+namespace {
+
+using namespace tolvo;
+
+int runOnce() {
+    const QString folder = QCoreApplication::applicationDirPath();
+    SettingsStore store(SettingsStore::defaultPath());
+    DesktopClipboard clipboard;
+    DesktopMessageBoxes boxes;
+    DesktopSound sound;
+    DesktopProcesses processes;
+    Clock clock;
+    FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
+    EscapeWatch escape;
+    NetworkHttpClient http;
+    http.guardInput = [&escape] { return escape.guard(); };
+    http.cancelled = [&escape] { return escape.escapePressed(); };
+    NoWordAutomation word;
+    SpellingServices spelling{.store = store,
+                              .boxes = boxes,
+                              .http = http,
+                              .word = word,
+                              .programFolder = folder,
+                              .userFolder = SpellingServices::defaultUserFolder()};
+    const RunServices services{.store = store,
+                               .clipboard = clipboard,
+                               .boxes = boxes,
+                               .sound = sound,
+                               .processes = processes,
+                               .clock = clock,
+                               .extensions = extensions,
+                               .programFolder = folder,
+                               .spelling = spelling};
+    modMain run(services, [&] { return std::make_unique<DesktopSession>(services, clipboard, escape); });
+    return run.Main();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    // The fork behind this call has to come before anything of the toolkit exists.
+    return runAsClipboardKeeper([&](KeeperSession &keeper) {
+        QApplication application(argc, argv);
+        QCoreApplication::setApplicationName(QStringLiteral("tolvo"));
+        QCoreApplication::setApplicationVersion(applicationVersion());
+        QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        const int code = runOnce();
+        keeper.sessionOver(code);
+        keeper.keepClipboardUntilTaken();
+        return code;
+    });
+}

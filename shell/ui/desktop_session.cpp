@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/desktop_session.h"
+
+#include "platform/desktop/DesktopClipboard.h"
+#include "platform/desktop/EscapeWatch.h"
+#include "platform/desktop/font_conversion.h"
+#include "shell/ui/MainWindow.h"
+#include "shell/ui/dlgConfirmClose.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QTimer>
+
+namespace tolvo {
+
+namespace {
+
+/// On Wayland the clipboard reads empty until the window has the focus.
+constexpr int longestWaitForFocus = 500; // milliseconds
+
+} // namespace
+
+DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &clipboard, EscapeWatch &escape)
+    : m_services(services), m_escape(escape), m_window(std::make_unique<MainWindow>()),
+      m_dialogs(services, *m_window) {
+    for (PlainTextBox *box : {&m_window->txtText1(), &m_window->txtTextWW()})
+        box->setLineEnds(clipboard.lineEnds());
+    clipboard.onWaiting = [this](bool waiting) {
+        if (m_session)
+            m_session->setStatus(waiting ? MainWindow::tr("Waiting for the clipboard...") : QString());
+    };
+    m_window->onClosed = [this] { m_loop.quit(); };
+    m_window->onActivated = [this] { takeClipboardOnceActive(); };
+}
+
+DesktopSession::~DesktopSession() = default;
+
+TextBox &DesktopSession::txtText1() {
+    return m_window->txtText1();
+}
+
+TextBox &DesktopSession::txtTextWW() {
+    return m_window->txtTextWW();
+}
+
+SearchResults &DesktopSession::searchResults() {
+    return m_dialogs.searchResults();
+}
+
+void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
+    m_session = &session;
+    m_window->attach(session, toolbox);
+    m_dialogs.attach(session);
+    toolbox.setHooks({.rowsChanged = [this, &toolbox] { m_window->panel().showRows(toolbox); },
+                      .delay = [](int milliseconds) { MainWindow::delay(milliseconds); }});
+}
+
+void DesktopSession::initIcons() {
+    for (int i = 0; i < CPowerButtonCollection::buttonCount; ++i)
+        powerButtonChanged(i);
+}
+
+bool DesktopSession::takesClipboardLater() const {
+    return QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"));
+}
+
+void DesktopSession::takeClipboardOnceActive() {
+    if (!m_clipboardPending)
+        return;
+    m_clipboardPending = false;
+    m_session->beginWithClipboard();
+}
+
+void DesktopSession::showModal() {
+    m_clipboardPending = takesClipboardLater();
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+    if (m_clipboardPending)
+        QTimer::singleShot(longestWaitForFocus, m_window.get(), [this] { takeClipboardOnceActive(); });
+    if (!m_session->bSessionOver)
+        m_loop.exec();
+    m_window->QWidget::hide();
+}
+
+void DesktopSession::unloadForms() {
+    m_dialogs.unload();
+}
+
+void DesktopSession::statusChanged(const QString &text) {
+    m_window->showStatus(text);
+}
+
+void DesktopSession::undoRedoChanged(bool undoEnabled, bool redoEnabled) {
+    m_window->showUndoRedo(undoEnabled, redoEnabled);
+}
+
+void DesktopSession::showTextBox(bool wrapped) {
+    m_window->showTextBox(wrapped);
+}
+
+void DesktopSession::setTextFont(bool wrapped, const Font &font) {
+    (wrapped ? m_window->txtTextWW() : m_window->txtText1()).setFont(toQFont(font));
+}
+
+Font DesktopSession::textFont(bool wrapped) const {
+    return fromQFont((wrapped ? m_window->txtTextWW() : m_window->txtText1()).font());
+}
+
+void DesktopSession::hide() {
+    m_window->hide();
+    m_loop.quit();
+}
+
+void DesktopSession::bringToFront() {
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+void DesktopSession::processEvents() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopSession::powerButtonChanged(int index) {
+    if (const auto button = m_session->services().oPowerButtons.Item(index + 1))
+        m_window->powerButtons().showButton(index, *button);
+}
+
+bool DesktopSession::undoTyping() {
+    PlainTextBox &box = m_window->shownTextBox();
+    if (!box.hasTypingToTakeBack())
+        return false;
+    box.takeBackTyping();
+    return true;
+}
+
+bool DesktopSession::interrupted() {
+    // Esc lies in the queue of events; while the guard lives no other key or click gets through.
+    const auto guard = m_escape.guard();
+    QCoreApplication::processEvents();
+    return m_escape.escapePressed();
+}
+
+CloseAnswer DesktopSession::confirmClose(const QString &prompt) {
+    dlgConfirmClose dialog(m_window.get());
+    return dialog.MsgBox(prompt);
+}
+
+void DesktopSession::showOptions() {
+    m_dialogs.showOptions();
+}
+
+void DesktopSession::showAbout() {
+    m_dialogs.showAbout();
+}
+
+void DesktopSession::showStatistics(const TextStatistics &statistics) {
+    m_dialogs.showStatistics(statistics);
+}
+
+void DesktopSession::editPowerButton(int index) {
+    m_dialogs.editPowerButton(index);
+    powerButtonChanged(index);
+}
+
+} // namespace tolvo

@@ -1,0 +1,181 @@
+# SPDX-License-Identifier: MIT
+"""A user at a desk: starts the real program on a virtual X server, with xclip as the other program, xdotool as the hands
+and the accessibility bus as the eyes."""
+
+import os
+import shutil
+import signal
+import sqlite3
+import subprocess
+import tempfile
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+PROGRAMS = os.environ["TOLVO_BIN"]
+PATIENCE = 15.0
+
+
+def wait_for(condition, what, patience=PATIENCE):
+    """Waits until the condition gives something true and returns it."""
+    end = time.monotonic() + patience
+    while time.monotonic() < end:
+        try:
+            result = condition()
+        except Exception:  # the accessibility bus fails for a moment while windows come and go
+            result = None
+        if result:
+            return result
+        time.sleep(0.05)
+    raise AssertionError(f"waited {patience:.0f} s in vain for {what}")
+
+
+def keys(*names):
+    for name in names:
+        subprocess.run(["xdotool", "key", "--clearmodifiers", name], check=True)
+        time.sleep(0.05)
+
+
+def type_text(text):
+    subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
+
+
+def set_clipboard(text, target="UTF8_STRING"):
+    owner = subprocess.Popen(["xclip", "-selection", "clipboard", "-target", target, "-in"], stdin=subprocess.PIPE,
+                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    owner.communicate(text if isinstance(text, bytes) else text.encode(), timeout=20)
+
+
+def get_clipboard():
+    """The clipboard's text, None if nobody offers any."""
+    for _ in range(2):
+        try:
+            reply = subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, timeout=5)
+        except subprocess.TimeoutExpired:
+            continue
+        return reply.stdout.decode() if reply.returncode == 0 else None
+    raise AssertionError("the clipboard's owner does not answer")
+
+
+def clipboard_becomes(text):
+    wait_for(lambda: get_clipboard() == text, f"the clipboard to hold {text[:60]!r}, it holds {get_clipboard()!r:.80}")
+
+
+class Settings:
+    """The settings store of one user, looked at with SQLite itself."""
+
+    def __init__(self):
+        self.folder = tempfile.mkdtemp(prefix="tolvo-user-")
+        self.file = os.path.join(self.folder, "settings.sqlite")
+
+    def close(self):
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def environment(self):
+        return {**os.environ, "TOLVO_SETTINGS": self.file, "XDG_DATA_HOME": self.folder, "XDG_CONFIG_HOME": self.folder}
+
+    def write(self, tree, section, key, value):
+        """Writes one value with the store itself."""
+        subprocess.run([os.path.join(PROGRAMS, "..", "tests", "store_tool"), self.file, "write", tree, section, key, value],
+                       check=True)
+
+    def read(self, tree, section, key):
+        reply = subprocess.run([os.path.join(PROGRAMS, "..", "tests", "store_tool"), self.file, "read", tree, section, key],
+                               check=True, capture_output=True)
+        return reply.stdout.decode()
+
+    def is_sound(self):
+        with sqlite3.connect(self.file) as database:
+            return database.execute("pragma integrity_check").fetchone()[0] == "ok"
+
+
+class Tolvo:
+    """One run of the program."""
+
+    def __init__(self, settings, wait=True, **environment):
+        self.settings = settings
+        self.process = subprocess.Popen([os.path.join(PROGRAMS, "tolvo")], env={**settings.environment(), **environment},
+                                        stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        if wait:
+            self.window()
+
+    def accessible(self):
+        """The run's own application on the accessibility bus: the session is a child of the process that was started."""
+        desktop = Atspi.get_desktop(0)
+        for i in range(desktop.get_child_count()):
+            application = desktop.get_child_at_index(i)
+            if application and self.process.pid in (application.get_process_id(), parent_of(application.get_process_id())):
+                return application
+        return None
+
+    def window(self):
+        return wait_for(lambda: self._named(lambda n: n.get_role() == Atspi.Role.FRAME), "the main window")
+
+    def find(self, name, role=None):
+        """The showing control of an accessible name."""
+        return wait_for(lambda: self._named(lambda n: n.get_name() == name and (role is None or n.get_role() == role) and
+                                            n.get_state_set().contains(Atspi.StateType.SHOWING)),
+                        f"a control named {name!r}")
+
+    def shows(self, name):
+        return self._named(lambda n: n.get_name() == name and
+                           n.get_state_set().contains(Atspi.StateType.SHOWING)) is not None
+
+    def _named(self, matches):
+        application = self.accessible()
+        queue = [application] if application else []
+        while queue:
+            node = queue.pop(0)
+            if matches(node):
+                return node
+            queue += [c for c in (node.get_child_at_index(i) for i in range(node.get_child_count())) if c]
+        return None
+
+    def click(self, name, button=1, role=None):
+        area = self.find(name, role).get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        subprocess.run(["xdotool", "mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click",
+                        str(button)], check=True)
+        time.sleep(0.15)
+
+    def text(self):
+        """What the text area shows, lines by LF."""
+        node = wait_for(lambda: self._named(lambda n: n.get_name() == "Text" and n.get_role() == Atspi.Role.TEXT and
+                                            n.get_state_set().contains(Atspi.StateType.SHOWING)), "the text area")
+        text = node.get_text_iface()
+        return Atspi.Text.get_text(text, 0, Atspi.Text.get_character_count(text))
+
+    def text_becomes(self, text):
+        wait_for(lambda: self.text() == text, f"the text {text[:60]!r}, it is {self.text()[:60]!r}")
+
+    def status_becomes(self, text):
+        wait_for(lambda: self.shows(text), f"the status {text!r}")
+
+    def box_says(self, text):
+        wait_for(lambda: self._named(lambda n: n.get_name().replace("\u2028", "\n").startswith(text)), f"a box: {text!r}")
+
+    def ends(self, code=0, patience=PATIENCE):
+        try:
+            found = self.process.wait(patience)
+        except subprocess.TimeoutExpired as late:
+            raise AssertionError("the run did not end") from late
+        output = self.process.stdout.read().decode()
+        assert found == code, f"the run ended with {found}: {output}"
+
+    def kill(self):
+        if self.process.poll() is None:
+            self.process.send_signal(signal.SIGTERM)
+            try:
+                self.process.wait(5)
+            except subprocess.TimeoutExpired:
+                self.process.kill()
+
+
+def parent_of(process):
+    try:
+        with open(f"/proc/{process}/stat") as file:
+            return int(file.read().rsplit(")", 1)[1].split()[1])
+    except (OSError, ValueError):
+        return 0
