@@ -10,50 +10,61 @@ namespace {
 
 using namespace tolvo;
 
-void measure(Table &table, const QString &name, const QString &text) {
+constexpr double frame = 16; // milliseconds
+constexpr double toggle = 100;
+
+void show(PlainTextBox &box, const QString &text) {
+    box.resize(600, 400);
+    box.show();
+    box.setText(text);
+    box.setSelStart(box.length() / 2);
+}
+
+/// The user sees it: events are handled and the window is painted.
+void paint(PlainTextBox &box) {
+    QApplication::processEvents();
+    (void)box.grab();
+}
+
+void measure(bench::Table &table, const std::string &name, const QString &text) {
     for (const bool wrapped : {false, true}) {
         PlainTextBox box(wrapped ? PlainTextBox::Lines::Wrapped : PlainTextBox::Lines::AsTheyAre);
-        box.resize(600, 400);
-        box.show();
-        box.setText(text.left(textLimit - 200));
-        box.setSelStart(box.length() / 2);
-        const QString kind = name + (wrapped ? QStringLiteral(", wrapped") : QString());
-        const auto frame = [&box] {
-            QApplication::processEvents();
-            box.grab();
+        show(box, text);
+        paint(box);
+        const std::string kind = name + (wrapped ? ", wrapped: " : ": ");
+        const auto key = [&](Qt::Key pressed, Qt::KeyboardModifiers modifiers = {}) {
+            return bench::milliseconds([&] {
+                QTest::keyClick(&box, pressed, modifiers);
+                paint(box);
+            });
         };
-        table.add(kind + QStringLiteral(": type a key"), medianMilliseconds([&] {
-                      QTest::keyClick(&box, Qt::Key_X);
-                      frame();
-                  }),
-                  16);
-        table.add(kind + QStringLiteral(": extend the selection"), medianMilliseconds([&] {
-                      QTest::keyClick(&box, Qt::Key_Down, Qt::ShiftModifier);
-                      frame();
-                  }),
-                  16);
-        if (wrapped) {
-            table.add(kind + QStringLiteral(": toggle word wrap"), medianMilliseconds([&] {
-                          PlainTextBox other(PlainTextBox::Lines::AsTheyAre);
-                          other.resize(600, 400);
-                          other.setText(box.Text());
-                          other.show();
-                          other.grab();
-                      }),
-                      100);
-        }
+        table.add(kind + "type a key", key(Qt::Key_X), frame, "ms");
+        table.add(kind + "move the caret", key(Qt::Key_Down), frame, "ms");
+        table.add(kind + "extend the selection", key(Qt::Key_Down, Qt::ShiftModifier), frame, "ms");
     }
+    PlainTextBox plain(PlainTextBox::Lines::AsTheyAre);
+    PlainTextBox wrapping(PlainTextBox::Lines::Wrapped);
+    show(plain, text);
+    table.add(name + ": toggle word wrap", bench::milliseconds([&] {
+                                               show(wrapping, plain.Text());
+                                               plain.setText({});
+                                               paint(wrapping);
+                                               show(plain, wrapping.Text());
+                                               wrapping.setText({});
+                                               paint(plain);
+                                           }) / 2,
+              toggle, "ms");
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
     QApplication application(argc, argv);
-    Table table(QStringLiteral("Text box, 65,535 characters"));
-    measure(table, QStringLiteral("lines"), ordinaryText());
-    measure(table, QStringLiteral("one line"),
-            ordinaryText().replace(QStringLiteral("\r\n"), QStringLiteral(" ")));
-    measure(table, QStringLiteral("one word"), QString(textLimit, u'a'));
-    table.print();
-    return 0;
+    bench::Table table("Text box, 65,535 characters");
+    const qsizetype room = bench::fullText - 200;
+    measure(table, "lines", bench::ordinaryText(room));
+    measure(table, "one line",
+            bench::ordinaryText(room).replace(QStringLiteral("\r\n"), QStringLiteral("  ")));
+    measure(table, "one word", bench::repeated(QStringLiteral("a"), room));
+    return table.exitCode();
 }
