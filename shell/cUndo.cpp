@@ -23,12 +23,15 @@ bool cUndo::Push(const TextState &state) {
 }
 
 bool cUndo::Pull(TextState &state) {
-    if (m_next <= 1) {
+    // What has changed since the last state is a state too, above the bottom one as well: the text that a
+    // Refresh replaced, or the first word that was typed, could not be brought back otherwise.
+    const bool changed = m_next > 0 && state.text != m_states.at(m_next - 1).text;
+    if (m_next <= 1 && !changed) {
         m_hooks.setStatus(QStringLiteral("Reached end of Undo buffer"));
         m_hooks.beep();
         return false;
     }
-    if (state.text != m_states.at(m_next - 1).text)
+    if (changed)
         store(state);
     --m_next;
     state = m_states.at(m_next - 1);

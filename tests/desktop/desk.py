@@ -10,12 +10,15 @@ import subprocess
 import tempfile
 import time
 
+import warnings
+
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
 PROGRAMS = os.environ["TOLVO_BIN"]
+warnings.simplefilter("ignore", DeprecationWarning)
 PATIENCE = 15.0
 
 
@@ -154,14 +157,17 @@ class Tolvo:
         wait_for(lambda: self.shows(text), f"the status {text!r}")
 
     def box_says(self, text):
-        wait_for(lambda: self._named(lambda n: n.get_name().replace("\u2028", "\n").startswith(text)), f"a box: {text!r}")
+        """Waits for a message box or a dialog with a text that begins so."""
+        wait_for(lambda: self._named(lambda n: n.get_name().startswith(text) or
+                                     (n.get_description() or "").startswith(text)), f"a box: {text!r}")
 
     def ends(self, code=0, patience=PATIENCE):
         try:
             found = self.process.wait(patience)
         except subprocess.TimeoutExpired as late:
             raise AssertionError("the run did not end") from late
-        output = self.process.stdout.read().decode()
+        with self.process.stdout as stdout:
+            output = "" if found == code else stdout.read().decode()
         assert found == code, f"the run ended with {found}: {output}"
 
     def kill(self):
@@ -171,6 +177,8 @@ class Tolvo:
                 self.process.wait(5)
             except subprocess.TimeoutExpired:
                 self.process.kill()
+                self.process.wait()
+        self.process.stdout.close()
 
 
 def parent_of(process):

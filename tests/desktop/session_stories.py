@@ -17,9 +17,9 @@ class SessionStories(unittest.TestCase):
             run.kill()
         self.settings.close()
 
-    def start(self, clipboard, **environment):
+    def start(self, clipboard, wait=True, **environment):
         set_clipboard(clipboard)
-        self.runs.append(Tolvo(self.settings, **environment))
+        self.runs.append(Tolvo(self.settings, wait, **environment))
         return self.runs[-1]
 
     def test_text_goes_in_and_comes_out_after_the_end(self):
@@ -104,10 +104,13 @@ class SessionStories(unittest.TestCase):
         self.assertTrue(self.settings.is_sound())
 
     def test_too_long_a_text_is_cut_with_a_word(self):
-        run = self.start("x" * 65535)
+        run = self.start("x" * 65536, wait=False)
         run.box_says("The text on the Clipboard exceeds the number of characters that Tolvo")
         keys("Return")
         run.window()
+        keys("alt+d")
+        run.ends()
+        clipboard_becomes("x" * 65535)
 
     def test_word_wrap_moves_the_text_and_changes_nothing(self):
         run = self.start("some words to wrap")
