@@ -2,7 +2,6 @@
 // The windows of the companions, as a user meets them.
 #include "companions/ui/AdvisorWindow.h"
 #include "companions/ui/BarChart.h"
-#include "companions/ui/RefreshWindow.h"
 #include "companions/ui/TallyWindow.h"
 #include "preferences/settings_store.h"
 
@@ -77,16 +76,6 @@ TEST(Tally, SortsByNumberAndPaintsBars) {
     ASSERT_EQ(chart->bars().size(), 2) << "what wasn't used in the period has no bar";
     EXPECT_EQ(chart->bars().first().name, u"tool b"_qs);
     EXPECT_TRUE(window.findChild<BarChart *>(u"picPowerButtons"_qs)->bars().isEmpty());
-}
-
-TEST(Refresher, ShowsWhatCameOfIt) {
-    RefreshWindow window;
-    window.show();
-    auto *const download = window.findChild<QPushButton *>(u"cmdDownload"_qs);
-    EXPECT_FALSE(download->isVisible());
-    window.showOutcome({true, {u"one"_qs, u"two"_qs}, u"https://example.org"_qs});
-    EXPECT_EQ(window.findChild<QLabel *>(u"labResult"_qs)->text(), u"one\n\ntwo"_qs);
-    EXPECT_TRUE(download->isVisible());
 }
 
 TEST(Companions, StartAsPrograms) {

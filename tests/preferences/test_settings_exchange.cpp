@@ -77,18 +77,16 @@ TEST_F(SettingsExchange, MergesAndDeletes) {
 TEST_F(SettingsExchange, AnErrorChangesNothing) {
     const QByteArray before = all();
     const QByteArray good = "REGEDIT4\n[" + tree + "]\n\"new\"=\"value\"\n[-" + tree + "\\Search]\n";
-    const QByteArray cases[] = {
-        "[HKEY_LOCAL_MACHINE\\Software\\Tolvo Settings\\Tolvo]\n",
-        "[HKEY_CURRENT_USER\\Software]\n",
-        "[-HKEY_CURRENT_USER\\Software\\Tolvo Settings]\n",
-        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings]\n\"a\"=\"b\"\n",
-        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Other]\n",
-        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo\\\\a]\n",
-        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo\\" + QByteArray(256, 'a') + "]\n",
-        "[HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo" + QByteArray("\\a").repeated(600) + "]\n",
-        "[HKEY_CURRENT_USER]\n",
-        "nonsense",
-    };
+    const QByteArray ours = "[HKEY_CURRENT_USER\\Software\\Tolvo Settings";
+    const QByteArray cases[] = {"[HKEY_LOCAL_MACHINE\\Software\\Tolvo Settings\\Tolvo]",
+                                "[HKEY_CURRENT_USER\\Software]",
+                                "[HKEY_CURRENT_USER]",
+                                "[-" + ours.mid(1) + "]",
+                                ours + "\\Other]",
+                                ours + "\\Tolvo\\\\a]",
+                                ours + "\\Tolvo\\" + QByteArray(256, 'a') + "]",
+                                ours + "\\Tolvo" + QByteArray("\\a").repeated(600) + "]",
+                                "nonsense"};
     for (const QByteArray &bad : cases) {
         try {
             importSettings(store, QByteArray(good + bad));

@@ -19,14 +19,6 @@ TEST(SettingsTable, NamesEachSettingOnce) {
     EXPECT_THROW((void)settingsDefault(u"Preferences", u"Wordrwap"), Failure);
 }
 
-TEST(SettingsTable, ReadsWithItsDefaults) {
-    SettingsStore store(u":memory:"_qs);
-    EXPECT_EQ(readSetting(store, u"BulletList", u"Character"), u"\u2022"_qs);
-    EXPECT_EQ(readSetting(store, u"NumLines", u"Pad"), u"True"_qs);
-    writeSetting(store, u"NumLines", u"Pad", u"False"_qs);
-    EXPECT_EQ(readSetting(store, u"NumLines", u"Pad"), u"False"_qs);
-}
-
 TEST(SettingsTable, EmptyFontKeyCountsAsAbsent) {
     SettingsStore store(u":memory:"_qs);
     const QString key = u"Fixed_FontName"_qs;
