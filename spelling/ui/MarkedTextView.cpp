@@ -51,6 +51,8 @@ void MarkedTextView::showText(const MarkedText &text, qsizetype errorStart) {
     const Common both = common(m_shown, text);
     const qsizetype removed = m_shown.text().size() - both.front - both.back;
     const qsizetype added = text.text().size() - both.front - both.back;
+    if (removed == 0 && added == 0 && errorStart == m_errorStart)
+        return; // the user may have scrolled elsewhere
     if (removed > 0 || added > 0)
         write(text, both.front, removed, added);
     m_shown = text;

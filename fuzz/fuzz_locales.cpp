@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// A Locales.txt of any content is read; every locale that it gives has a number that leads back to one.
+#include "spelling/locales.h"
+
+#include <QTemporaryFile>
+#include <cstdint>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    static QTemporaryFile file;
+    if (!file.isOpen() && !file.open())
+        std::abort();
+    file.resize(0);
+    file.seek(0);
+    file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size));
+    file.flush();
+    const tolvo::Locales locales(file.fileName());
+    for (const int number : {1, 7, 1033, 2057}) {
+        const QString locale = locales.localeOf(number);
+        if (!locale.isEmpty() && locales.idOf(locale, -12345) == -12345)
+            std::abort();
+    }
+    return 0;
+}
