@@ -59,6 +59,7 @@ QString misspelt() {
 } // namespace
 
 int main(int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     World world;
     bench::Table table("Spelling");
