@@ -14,6 +14,20 @@ namespace {
 
 using ActionPtr = std::shared_ptr<CAction>;
 
+/// Hands on every status text at the moment when it is shown.
+class PipeWindows final : public HeadlessWindows {
+  public:
+    explicit PipeWindows(const std::function<void(const QString &)> &sayStatus) : m_sayStatus(sayStatus) {}
+
+    void statusChanged(const QString &text) override {
+        if (m_sayStatus && !text.isEmpty())
+            m_sayStatus(text);
+    }
+
+  private:
+    const std::function<void(const QString &)> &m_sayStatus;
+};
+
 /// A step with settings brings them along; one without runs with the settings last used.
 ActionPtr actionOf(const Catalogue &catalogue, const QString &step) {
     const qsizetype colon = step.indexOf(u':');
@@ -100,12 +114,12 @@ bool PipeReply::warned() const {
 }
 
 PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
-                  const std::function<void(const QString &)> &afterStep) {
+                  const std::function<void(const QString &)> &sayStatus) {
     QList<ActionPtr> actions;
     for (const QString &step : request.steps)
         actions += actionOf(world.catalogue, step);
 
-    HeadlessWindows windows;
+    PipeWindows windows(sayStatus);
     HeadlessSession headless(world.store, world.catalogue, world.extensions, boxes, windows,
                              world.programFolder, request.capacity);
     const bool runsButtons = std::any_of(actions.begin(), actions.end(), [](const ActionPtr &action) {
@@ -122,16 +136,8 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
     session.txtCurrent().setText(request.text);
     select(session.txtCurrent(), request.selStart, request.selLength);
     session.beginWithText();
-    const auto sayStatus = [&] {
-        if (afterStep && !session.labStatus().isEmpty())
-            afterStep(session.labStatus());
-    };
-    session.runActions(actions, [&] {
-        sayStatus();
-        session.setStatus({});
-        session.bRightButton = false; // every step says by itself whether it brings settings
-    });
-    sayStatus();
+    // Every step says by itself whether it brings settings.
+    session.runActions(actions, [&] { session.bRightButton = false; });
 
     TextBox &box = session.txtCurrent();
     return {.text = box.Text(),

@@ -57,10 +57,10 @@ class BadRequest : public std::runtime_error {
     explicit BadRequest(const QString &why) : std::runtime_error(why.toStdString()) {}
 };
 
-/// Runs the steps as the Actions of one PowerButton. `boxes` hears every message, `afterStep` every status
-/// that a step leaves. Throws BadRequest for a step that is none or that needs a window.
+/// Runs the steps as the Actions of one PowerButton. `boxes` hears every message, `sayStatus` every status
+/// text. Throws BadRequest for a step that is none or that needs a window.
 [[nodiscard]] PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
-                                const std::function<void(const QString &)> &afterStep = {});
+                                const std::function<void(const QString &)> &sayStatus = {});
 
 /// The reply as one line of JSON, without its line end.
 [[nodiscard]] QString replyLine(const PipeReply &reply);

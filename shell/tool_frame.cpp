@@ -12,7 +12,7 @@ namespace tolvo {
 
 namespace {
 
-/// Five tools and two sorts hold the length of a selection in a signed 16-bit integer.
+/// Four case tools and three sorts hold the length of a selection in a signed 16-bit integer.
 constexpr int longestSixteenBit = std::numeric_limits<qint16>::max();
 
 QString removedText(int count) {

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "tests/shell/User.h"
+
+namespace tolvo::test {
+
+TextState stateOf(const QString &picture) {
+    QString text = picture;
+    text.replace(u'|', "\r\n");
+    const qsizetype start = text.indexOf(u'«');
+    if (start < 0)
+        return {text, 0, 0};
+    text.remove(start, 1);
+    const qsizetype end = text.indexOf(u'»');
+    text.remove(end, 1);
+    return {text, static_cast<int>(start), static_cast<int>(end - start)};
+}
+
+QString pictureOf(const TextState &state) {
+    QString text = state.text;
+    text.insert(state.selStart + state.selLength, u'»');
+    text.insert(state.selStart, u'«');
+    return text.replace("\r\n", "|");
+}
+
+QString dataFolder() {
+    return qEnvironmentVariable("TOLVO_SOURCE") + "/data";
+}
+
+const Catalogue &realCatalogue() {
+    static const Catalogue catalogue = Catalogue::read(dataFolder() + "/Tools.dat");
+    return catalogue;
+}
+
+User::User()
+    : headless(store, realCatalogue(), extensions, boxes, *this, m_folder.path()), session(headless.session),
+      keys(session) {
+    store.SaveSetting("Tolvo", "Spelling", "Provider", "1");
+}
+
+User::~User() {
+    for (; m_expected < boxes.shown.size(); ++m_expected)
+        ADD_FAILURE() << "unexpected box: " << boxes.shown.at(m_expected).text.toStdString();
+}
+
+void User::startsWith(const QString &picture) {
+    const TextState state = stateOf(picture);
+    headless.clipboard.text = state.text;
+    session.beginWithClipboard();
+    session.restore(state);
+    session.setDirty(false);
+}
+
+void User::runsAgain(const QString &token) {
+    session.bRightButton = true;
+    session.ToolDespatcher(token);
+    session.bRightButton = false;
+}
+
+void User::pressesKey(int code, int shiftState) {
+    if (!keys.formKeyDown(code, shiftState))
+        keys.textKeyDown(code);
+    keys.formKeyUp(shiftState);
+}
+
+void User::presses(char letter, int shiftState) {
+    const int code = letter - 'A' + 1;
+    keys.formKeyDown(letter, shiftState);
+    if (!keys.formKeyPress(code))
+        keys.textKeyPress(code);
+}
+
+void User::sees(const QString &picture) {
+    EXPECT_EQ(pictureOf(session.textState()), picture);
+}
+
+void User::sees(const QString &picture, const QString &status) {
+    sees(picture);
+    EXPECT_EQ(session.labStatus(), status);
+}
+
+void User::isTold(const QString &text) {
+    ASSERT_LT(m_expected, boxes.shown.size()) << "no box says: " << text.toStdString();
+    EXPECT_EQ(boxes.shown.at(m_expected++).text, text);
+}
+
+void User::isToldSomethingLike(const QString &beginning) {
+    ASSERT_LT(m_expected, boxes.shown.size()) << "no box says: " << beginning.toStdString();
+    const QString text = boxes.shown.at(m_expected++).text;
+    EXPECT_TRUE(text.contains(beginning)) << text.toStdString();
+}
+
+std::shared_ptr<CAction> User::action(const QString &token, int option, const QString &details) {
+    return std::make_shared<CAction>(realCatalogue().tool(token), option, details);
+}
+
+void User::defines(int number, const QList<std::shared_ptr<CAction>> &actions) {
+    const auto button = std::make_shared<CPowerButton>();
+    button->Name = QString("Button %1").arg(number);
+    for (const auto &step : actions)
+        button->Add(step);
+    headless.oPowerButtons.Add(button, number);
+}
+
+QString User::counter(const QString &section, const QString &key) {
+    return store.GetSetting("Tolvo-Stats", section, key);
+}
+
+CloseAnswer User::confirmClose(const QString &prompt) {
+    opened += prompt;
+    return closeAnswer;
+}
+
+bool User::ask(IndentSettings &settings) {
+    opened += "Indent";
+    settings.choice = IndentSettings::WithText;
+    settings.text = "> ";
+    return !cancelsDialogs;
+}
+
+bool User::undoTyping() {
+    if (hasTypingToUndo)
+        opened += "typing undone";
+    return hasTypingToUndo;
+}
+
+bool User::CheckSpelling(ProofingHost &, QString &text, int language, bool grammar) {
+    opened += QString("%1 %2").arg(grammar ? u"grammar" : u"spelling").arg(language);
+    if (!corrected.isNull())
+        text = corrected;
+    return true;
+}
+
+} // namespace tolvo::test

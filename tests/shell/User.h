@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+// A user with a session, for stories. Texts are pictures: "|" is a line end, the guillemets stand around the
+// selection or, with nothing between them, at the caret: "one|t«w»o", "tw«»o".
+#pragma once
+
+#include "platform/headless/ConsoleBoxes.h"
+#include "shell/headless/HeadlessSession.h"
+#include "shell/keyboard.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <ostream>
+
+// Google Test prints texts as UTF-8.
+inline void PrintTo(const QString &text, std::ostream *out) {
+    *out << '"' << text.toUtf8().toStdString() << '"';
+}
+
+namespace tolvo::test {
+
+[[nodiscard]] TextState stateOf(const QString &picture);
+[[nodiscard]] QString pictureOf(const TextState &state);
+/// The catalogue of the source tree, and the folder that it lies in.
+[[nodiscard]] const Catalogue &realCatalogue();
+[[nodiscard]] QString dataFolder();
+
+class User : public HeadlessWindows {
+  public:
+    User();
+    /// Every box must have been expected.
+    ~User() override;
+
+    void startsWith(const QString &picture);
+    void runs(const QString &token) { session.ToolDespatcher(token); }
+    /// With the settings last used, as a right click does.
+    void runsAgain(const QString &token);
+    /// Keys as the window hands them on; both stages.
+    void pressesKey(int code, int shiftState = 0);
+    void presses(char letter, int shiftState = ShiftState::Ctrl);
+    /// Replaces the selection, as typing does.
+    void types(const QString &text) { session.txtCurrent().setSelText(text); }
+    void sees(const QString &picture, const QString &status);
+    void sees(const QString &picture);
+    /// The oldest box that nobody has expected yet has this text (or begins with it).
+    void isTold(const QString &text);
+    void isToldSomethingLike(const QString &beginning);
+
+    /// Action by token, dialog option and details.
+    [[nodiscard]] static std::shared_ptr<CAction> action(const QString &token, int option = 0,
+                                                         const QString &details = {});
+    void defines(int number, const QList<std::shared_ptr<CAction>> &actions);
+    [[nodiscard]] QString counter(const QString &section, const QString &key);
+
+    // What the windows are asked
+    CloseAnswer confirmClose(const QString &prompt) override;
+    void showOptions() override { opened += "Options"; }
+    void showAbout() override { opened += "About"; }
+    void editPowerButton(int index) override { opened += QString("editor %1").arg(index); }
+    void hide() override { opened += "(hidden)"; }
+    bool ask(IndentSettings &settings) override;
+    void setSearchText(const QString &text) override { searchBox = text; }
+    QString searchText() override { return searchBox; }
+    void setSpecialChars(bool on) override { special = on; }
+    bool specialChars() override { return special; }
+    void expandDialog() override { opened += "more"; }
+    void showDialog(bool replace) override { opened += replace ? "replace" : "search"; }
+    void cmdSearch_Click() override { opened += "next"; }
+    bool undoTyping() override;
+    bool CheckSpelling(ProofingHost &, QString &text, int language, bool grammar) override;
+    int GetLangID(int, bool) override { return chosenLanguage; }
+
+    QStringList opened; ///< windows in the order in which they opened
+    CloseAnswer closeAnswer = CloseAnswer::Cancel;
+    bool cancelsDialogs = false;
+    bool hasTypingToUndo = false;
+    int chosenLanguage = 2057;
+    QString corrected; ///< what the walk makes of a text; null: it ends without a correction
+    QString searchBox;
+    bool special = false;
+
+  private:
+    QTemporaryDir m_folder; // where the personal word list comes to lie
+
+  public:
+    SettingsStore store{":memory:"};
+    FileExtensions extensions;
+    RecordingBoxes boxes;
+    HeadlessSession headless;
+    frmMain &session;
+    KeyboardCommands keys;
+
+  private:
+    size_t m_expected = 0;
+};
+
+} // namespace tolvo::test

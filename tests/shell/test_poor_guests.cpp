@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Texts that nobody would write visit every tool: nothing fails, and undo gives the text back.
+#include "shell/tool_table.h"
+#include "tests/shell/User.h"
+
+using namespace tolvo;
+using namespace tolvo::test;
+
+namespace {
+
+class PoorGuests : public ::testing::TestWithParam<const char16_t *> {};
+
+bool failed(const User &user) {
+    return std::any_of(user.boxes.shown.begin(), user.boxes.shown.end(),
+                       [](const Box &box) { return box.text.startsWith("Sorry"); });
+}
+
+TEST_P(PoorGuests, comeOutOfEveryTool) {
+    const TextState guest = stateOf(QString::fromUtf16(GetParam()));
+    User user;
+    for (const ToolRow &row : toolTable()) {
+        SCOPED_TRACE(QString::fromUtf16(row.token).toStdString());
+        user.startsWith(QString::fromUtf16(GetParam()));
+        user.runsAgain(QString::fromUtf16(row.token));
+        EXPECT_FALSE(failed(user));
+        if (user.session.txtCurrent().Text() != guest.text)
+            user.session.cmdUndo_Click();
+        EXPECT_EQ(user.session.txtCurrent().Text(), guest.text);
+    }
+    user.boxes.shown.clear();
+}
+
+INSTANTIATE_TEST_SUITE_P(Shell, PoorGuests,
+                         ::testing::Values(u"", u"|", u"«|»", u"|||", u"a|b", u"«a|b»", u"a|b|", u"a\rb\nc",
+                                           u"«\r»", u"endless", u"«endless»", u"\U0001F600", u"«\U0001F600»",
+                                           u"x\xD83D", u"\xDE00x", u"a«»", u"«a, b|c»", u"\\[\\]",
+                                           u"\x00A0 \t "));
+
+} // namespace

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "tests/shell/User.h"
+
+using namespace tolvo;
+using namespace tolvo::test;
+
+namespace {
+
+const QString indentSettings = "Spaces=4, Text=# , RadioButton=2";
+
+TEST(PowerButtons, runTheirActionsInTurn) {
+    User user;
+    user.startsWith("a|«b c»");
+    user.defines(2, {User::action("ccUPP"), User::action("foIND", Custom, indentSettings),
+                     User::action("foCOL", Custom), User::action("foIND", 7)});
+    user.session.imgPower_Click(1);
+    user.sees("a|«# B C»", "Indent increased");
+    EXPECT_EQ(user.session.sLastTool, "PB1");
+    for (const char *section : {"PBUsage", "TotPBUsage"}) {
+        EXPECT_EQ(user.counter(QLatin1StringView(section), "ccUPP"), "1");
+        EXPECT_EQ(user.counter(QLatin1StringView(section), "foIND"), "2");
+    }
+    EXPECT_EQ(user.counter("Usage", "foIND"), "1");
+    EXPECT_EQ(user.counter("Usage", "foCOL"), "1");
+    user.session.cmdUndo_Click(); // each Action is a step of its own
+    user.sees("a|«B C»");
+}
+
+TEST(PowerButtons, settingsLastUsedHoldForTheActionsBehind) {
+    User user;
+    user.startsWith("a");
+    user.defines(1, {User::action("foIND", Prompt)});
+    user.defines(2, {User::action("foIND", Current), User::action("foIND", Prompt)});
+    user.session.imgPower_Click(0);
+    EXPECT_EQ(user.opened, QStringList("Indent"));
+    user.session.imgPower_Click(1);
+    user.sees("«»> > > a");
+    EXPECT_EQ(user.opened, QStringList("Indent"));
+    user.session.imgPower_Click(0); // as if the right button were down still
+    EXPECT_EQ(user.opened.last(), "editor 0");
+}
+
+TEST(PowerButtons, goOnAfterAnActionThatFailed) {
+    User user;
+    user.startsWith("a");
+    user.defines(1, {User::action("foIND", Custom, "RadioButton=x"),
+                     User::action("pbPBT", Custom, "PowerButton="), User::action("toolNULL"),
+                     User::action("ccUPP")});
+    user.session.imgPower_Click(0);
+    user.isToldSomethingLike("frmMain::PowerButtonDespatcher");
+    user.isToldSomethingLike("(error 13)");
+    user.isTold("This tool is not implemented yet");
+    user.sees("«»A");
+}
+
+TEST(PowerButtons, tellWhenATokenHasNoStoredSettings) {
+    User user;
+    user.startsWith("a");
+    user.session.PowerButtonDespatcher(*User::action("ccUPP", Custom));
+    user.isToldSomethingLike("No handler for Tool 'UPPER CASE' (ccUPP)");
+    user.sees("«»a");
+}
+
+TEST(PowerButtons, nest) {
+    User user;
+    user.startsWith("a");
+    user.defines(1, {User::action("pbPBT", Custom, "PowerButton=2"),
+                     User::action("pbPBT", Custom, "PowerButton=3"),
+                     User::action("foIND", Custom, indentSettings)});
+    user.defines(2, {User::action("ccUPP")});
+    user.session.imgPower_Click(0);
+    user.isTold("There are no actions defined for this PowerButton\r\n\r\n"
+                "Right-click the PowerButton to define a series of actions");
+    user.sees("«»# A");
+    EXPECT_EQ(user.session.sLastTool, "PB0");
+}
+
+TEST(PowerButtons, aCycleEndsInOneReportAndTheTextStays) {
+    User user;
+    user.startsWith("a«b»");
+    const auto run = [](int number) {
+        return User::action("pbPBT", Custom, QString("PowerButton=%1").arg(number));
+    };
+    user.defines(1, {User::action("ccUPP"), run(2), run(2)});
+    user.defines(2, {run(1), run(1)});
+    user.session.imgPower_Click(0);
+    user.isToldSomethingLike("PowerButton 1 runs itself (error 28)");
+    user.sees("a«b»");
+    user.defines(2, {User::action("ccUPP")});
+    user.session.imgPower_Click(0); // nothing of the cycle is left behind
+    user.sees("a«B»");
+}
+
+TEST(PowerButtons, searchWithStoredSettings) {
+    const struct {
+        const char16_t *details;
+        bool replace;
+        const char16_t *before;
+        const char16_t *after;
+    } cases[] = {
+        {u"Mode=1, Find=b, MatchCase=0, Direction=S", false, u"a«»b", u"a«b»"},
+        {u"Mode=1, Find=b, Direction=D, Replace=xx", true, u"«»ab b", u"axx b"},
+        {u"Mode=1, Find=b, Replace=xx, ReplaceAll=1", true, u"ab b", u"axx xx"},
+        {u"Mode=2, Find=b, Direction=S, Replace=x", true, u"b a«»", u"x a"},
+        // Only here D begins at the top and S goes on from the caret.
+        {u"Mode=3, Find=b, Direction=D, Replace=x", true, u"b «»b", u"x b"},
+        {u"Mode=3, Find=b, Direction=S, Replace=x", true, u"b «»b", u"b x"},
+        {u"Mode=3, Find=b, Direction=S", false, u"b «»b", u"«b» b"},
+        // The separator that the window stores is not the one that is read.
+        {u"Mode=2, Find=#, DecimalSep=., GroupingSep=,, Replace=n, ReplaceAll=1", true, u"1,234", u"n,n"},
+    };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(QString::fromUtf16(row.details).toStdString());
+        User user;
+        user.startsWith(QString::fromUtf16(row.before));
+        user.session.PowerButtonDespatcher(
+            *User::action(row.replace ? "edREP" : "edSRC", Custom, QString::fromUtf16(row.details)));
+        const QString picture = QString::fromUtf16(row.after);
+        if (picture.contains(u'«'))
+            user.sees(picture);
+        else
+            EXPECT_EQ(user.session.txtCurrent().Text(), picture);
+    }
+}
+
+} // namespace

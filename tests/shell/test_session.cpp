@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// A session from the clipboard to the clipboard.
+#include "tests/shell/User.h"
+
+using namespace tolvo;
+using namespace tolvo::test;
+
+namespace {
+
+TEST(Session, copyAndCloseGivesTheWholeText) {
+    User user;
+    user.startsWith("one |tw«o»");
+    user.runs("ccUPP");
+    user.session.cmdClose_Click();
+    EXPECT_EQ(user.headless.clipboard.text, "one \r\ntwO");
+    EXPECT_EQ(user.headless.sound.beeps, 1);
+    EXPECT_FALSE(user.session.bDirty());
+    EXPECT_TRUE(user.session.bSessionOver);
+    EXPECT_EQ(user.opened, QStringList("(hidden)"));
+}
+
+TEST(Session, cancelAsksOnlyAfterAChange) {
+    const struct {
+        bool changed;
+        CloseAnswer answer;
+        bool over;
+        const char16_t *clipboard;
+    } cases[] = {
+        {false, CloseAnswer::Cancel, true, u"a"},
+        {true, CloseAnswer::Cancel, false, u"a"},
+        {true, CloseAnswer::Discard, true, u"a"},
+        {true, CloseAnswer::CopyAndClose, true, u"A"},
+    };
+    for (const bool closeBox : {false, true}) {
+        for (const auto &row : cases) {
+            User user;
+            user.startsWith("a");
+            user.runs("foTRA"); // leaves the text as it was
+            if (row.changed)
+                user.runs("ccUPP");
+            user.closeAnswer = row.answer;
+            if (closeBox)
+                EXPECT_EQ(user.session.queryUnload(), row.over);
+            else
+                user.session.cmdCancel_Click();
+            EXPECT_EQ(user.session.bSessionOver, row.over);
+            EXPECT_EQ(user.headless.clipboard.text, QString::fromUtf16(row.clipboard));
+            EXPECT_EQ(user.opened.contains("Changes have been made to the text"), row.changed);
+        }
+    }
+}
+
+TEST(Session, refreshCanBeUndone) {
+    User user;
+    user.startsWith("old");
+    user.types("typed ");
+    user.headless.clipboard.text = "new";
+    user.session.cmdRefresh_Click();
+    user.sees("«»new", "Text retrieved from clipboard");
+    EXPECT_FALSE(user.session.bDirty());
+    user.session.cmdUndo_Click();
+    user.sees("typed «»old");
+}
+
+TEST(Session, saysWhenTheClipboardHoldsTooMuch) {
+    for (const auto &[length, number] : {std::pair{65534, ""}, {65535, "65,535"}, {1000000, "1,000,000"}}) {
+        User user;
+        user.headless.clipboard.text = QString(length, u'x');
+        user.session.beginWithClipboard();
+        if (*number)
+            user.isTold(QString("The text on the Clipboard exceeds the number of characters that Tolvo\r\n"
+                                "can process (65,535). There are %1 characters.\r\n"
+                                "Tolvo has truncated the text. Some characters have been lost.")
+                            .arg(number));
+        EXPECT_EQ(user.session.txtCurrent().length(), std::min(length, 65535));
+        EXPECT_FALSE(user.session.bDirty());
+    }
+}
+
+TEST(Session, pasteIsRefusedAtTheLimit) {
+    User user;
+    user.startsWith(u'«' + QString(60000, u'x') + u'»');
+    user.headless.clipboard.text = QString(5534, u'y');
+    EXPECT_TRUE(user.session.mayPaste());
+    user.headless.clipboard.text += u'y';
+    EXPECT_FALSE(user.session.mayPaste()); // the selection is not subtracted
+    user.isTold("You cannot paste this text.\r\n\r\nThe current text (60,000 characters) plus what is "
+                "on the clipboard\r\nexceeds the number of characters that Tolvo can process "
+                "(65,535).\r\nThere are 5,535 characters on the clipboard.");
+}
+
+TEST(Session, wordWrapMovesTheTextAndIsNoChange) {
+    User user;
+    user.startsWith("one |t«w»o");
+    user.setTextFont(false, {"Serif", 20, true});
+    user.session.imgWordwrap_Click();
+    user.sees("one |t«w»o", "Word wrap now ON");
+    EXPECT_EQ(&user.session.txtCurrent(), &user.headless.txtTextWW);
+    EXPECT_EQ(user.headless.txtText1.Text(), QString());
+    EXPECT_EQ(user.textFont(true), (Font{"Serif", 10})); // the name alone travels
+    EXPECT_EQ(user.store.GetSetting("Tolvo", "Preferences", "Wordwrap"), "1");
+    user.session.imgWordwrap_Click();
+    user.sees("one |t«w»o", "Word wrap now OFF");
+    EXPECT_FALSE(user.session.bDirty());
+    user.types("x");
+    EXPECT_TRUE(user.session.bDirty());
+}
+
+TEST(Session, rightClickOnOptionsSwapsTheFonts) {
+    User user;
+    user.session.aFonts = {Font{"P", 9}, Font{"F", 8}};
+    user.session.bRightButton = true;
+    for (const auto &[font, stored] : {std::pair{u"F", u"0"}, {u"P", u"1"}}) {
+        user.session.imgOptions_Click();
+        EXPECT_EQ(user.session.currentFont().name, QString::fromUtf16(font));
+        EXPECT_EQ(user.store.GetSetting("Tolvo", "Preferences", "FontUseProp"), QString::fromUtf16(stored));
+    }
+    EXPECT_TRUE(user.opened.isEmpty());
+    user.session.bRightButton = false;
+    user.session.imgOptions_Click();
+    user.session.imgAbout_Click();
+    EXPECT_EQ(user.opened.join(u'|'), "Options|About");
+    user.session.imgHelp_Click();
+    user.isTold("Help is not implemented yet");
+}
+
+} // namespace

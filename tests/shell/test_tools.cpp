@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+// The tool frame: what each tool sees of the text, what is selected afterwards, what the status line says.
+#include "shell/tool_table.h"
+#include "tests/shell/User.h"
+
+#include <QSet>
+
+using namespace tolvo;
+using namespace tolvo::test;
+
+namespace {
+
+TEST(Tools, workOnTheSelectionOrOnTheWholeText) {
+    const struct {
+        const char *token;
+        const char16_t *before;
+        const char16_t *after;
+        const char16_t *status;
+    } cases[] = {
+        {"ccUPP", u"THE «old» man", u"THE «OLD» man", u"11 characters: upper case"},
+        {"ccUPP", u"the o«»ld man", u"«»THE OLD MAN", u"11 characters: upper case"},
+        {"ccLOW", u"THE «OLD» MAN", u"THE «old» MAN", u"11 characters: lower case"},
+        {"ccREV", u"a«Bc»", u"a«bC»", u"3 characters: reversed case"},
+        {"ccINC", u"the «old man»", u"the «Old Man»", u"11 characters: Initial caps"},
+        {"ccTIT", u"«the old man»", u"«The Old Man»", u"11 characters: title case"},
+        {"ccSEN", u"«tHE OLD. MAN»", u"«The old. Man»", u"12 characters: sentence case"},
+        {"ccCAP", u"«the. man»", u"«The. Man»", u"8 characters: sentence case"},
+        {"soALP", u"c|b«b|a»a", u"c|«aa|bb»", u"Lines sorted"},
+        {"soNUM", u"10|«»9", u"«»9|10", u"Lines sorted"},
+        {"soREV", u"«1|2»|3", u"«2|1»|3", u"Line order reversed"},
+        {"soKEY", u"«b, a»", u"«a, b»", u"Sorted"},
+        {"foTRA", u"«a  |b »x", u"«a|b»x", u"3 characters removed"},
+        {"foTRA", u"a |b«»", u"«»a|b", u"1 character removed"},
+        {"foTRA", u"a|b«»", u"«»a|b", u"0 characters removed"},
+        {"foTRM", u"x« a »", u"x«a»", u"2 characters removed"},
+        {"foSSP", u"«a  b»", u"«a b»", u"1 character removed"},
+        {"foPAR", u"«aa|bb»", u"aa bb«»", u"1 character removed"},
+        {"foT2S", u"x|abc«\ty»", u"x|abc«     y»", u"Tabs converted to spaces"},
+        {"foT2S", u"\ty", u"«»        y", u"Tabs converted to spaces"},
+        {"foS2T", u"a«  »b", u"a«\t»b", u"Spaces converted to tabs"},
+        {"edPLA", u"a«…»b", u"a«.»..b", u""},
+        {"edUDC", u"«%41%42»", u"«AB»", u"Decoded"},
+        {"edEOL", u"«a\rb»", u"«a|b»", u"Line endings regularised"},
+        {"pbALL", u"ab|«»c", u"«ab|c»", u""},
+        {"pbCLR", u"a«b»c", u"a«»bc", u""},
+        {"pbDEL", u"a«b»c", u"a«»c", u""},
+        {"pbTAG", u"a\\[bc\\]d", u"a\\[«bc»\\]d", u"2 characters selected"},
+        {"pbTAG", u"\\]«x»\\[", u"\\]«x»\\[", u"The tags \\[ and \\] are missing"},
+        {"soNUP", u"a|b«»|c", u"b«»|a|c", u""},
+        {"soNUP", u"a«»|b", u"a«»|b", u"Already at the top"},
+        {"soNUP", u"a|«b|c»|d", u"«b|c»|a|d", u""},
+        {"soNUD", u"«a|b»|c", u"c|«a|b»", u""},
+        {"soNUD", u"«a|»b|c", u"c|«a|»b",
+         u""}, // a selection that ends at the start of a line moves that line too
+        {"soNUD", u"a|«b»", u"a|«b»", u"Already at the bottom"},
+        {"soNUD", u"", u"«»", u"Already at the bottom"},
+    };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.token);
+        User user;
+        user.startsWith(QString::fromUtf16(row.before));
+        user.runs(QLatin1StringView(row.token));
+        user.sees(QString::fromUtf16(row.after), QString::fromUtf16(row.status));
+    }
+}
+
+TEST(Tools, sortsRefuseWhatTheyCannotSort) {
+    const QString noLines = "To sort the lines in a text,\r\ncopy the text you want to sort onto "
+                            "the clipboard (Ctrl-C).\r\nThen choose Refresh.";
+    const QString noKeywords = "Copy the text you want to sort onto the clipboard (Ctrl-C), "
+                               "separated by commas.\r\nThen choose Refresh.";
+    const QString oneLine = "Please select more than one line.";
+    const struct {
+        const char *token;
+        const char16_t *before;
+        const char16_t *after;
+        QString told;
+        const char16_t *status;
+    } cases[] = {
+        {"soALP", u"one", u"«»one", noLines, u""},
+        {"soALP", u"a|o«n»e|b", u"a|«one»|b", {}, u"Lines sorted"},
+        {"soNUM", u"one", u"«»one", noLines, u""},
+        {"soREV", u"on«»e", u"on«»e", oneLine, u"Line order reversed"},
+        {"soREV", u"a|o«n»e", u"a|«one»", oneLine, u"Line order reversed"},
+        {"soKEY", u"one", u"«»one", noKeywords, u""},
+        {"soKEY", u"«one»", u"«one»", noKeywords, u""},
+    };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.token);
+        User user;
+        user.startsWith(QString::fromUtf16(row.before));
+        user.runs(QLatin1StringView(row.token));
+        user.sees(QString::fromUtf16(row.after), QString::fromUtf16(row.status));
+        if (!row.told.isEmpty())
+            user.isTold(row.told);
+        EXPECT_FALSE(user.session.bDirty());
+    }
+}
+
+TEST(Tools, extendSelectionToLines) {
+    const char16_t *const cases[][2] = {
+        {u"ab«c»d|ef", u"«abcd»|ef"}, {u"ab|c«d|e»f|gh", u"ab|«cd|ef»|gh"},
+        {u"a«b|»cd|e", u"«ab|cd»|e"}, {u"ab|cd«|»", u"ab|«cd|»"},
+        {u"«ab»|cd", u"«ab»|cd"},     {u"ab|«|»cd", u"ab|«|cd»"},
+        {u"a«»b|cd", u"a«»b|cd"},     {u"«|»", u"«|»"},
+    };
+    for (const auto &row : cases) {
+        User user;
+        user.startsWith(QString::fromUtf16(row[0]));
+        user.session.ExtendSelectionToLines();
+        user.sees(QString::fromUtf16(row[1]));
+    }
+}
+
+TEST(Tools, sevenOfThemFailOnALongSelectionAndChangeNothing) {
+    const QSet<QString> limited{"ccUPP", "ccLOW", "ccREV", "ccTIT", "soKEY", "soALP", "soNUM"};
+    for (const ToolRow &row : toolTable()) {
+        const QString token = QString::fromUtf16(row.token);
+        EXPECT_EQ(row.sixteenBit, limited.contains(token)) << token.toStdString();
+        if (!limited.contains(token))
+            continue;
+        User user;
+        const QString text = "b, a" + QString(32765, u'x');
+        user.startsWith("y|«" + text.first(32768) + "»" + text.sliced(32768));
+        user.runs(token);
+        user.isToldSomethingLike("(error 6)");
+        user.sees("y|«" + text.first(32768) + "»" + text.sliced(32768));
+        EXPECT_FALSE(user.session.bDirty());
+    }
+    User user; // one character less is a working case
+    user.startsWith(u'«' + QString(32767, u'x') + u'»');
+    user.runs("ccUPP");
+    user.sees(u'«' + QString(32767, u'X') + u'»');
+}
+
+TEST(Tools, ofTheTableAreThoseOfTheCatalogue) {
+    QSet<QString> known;
+    for (const ToolRow &row : toolTable()) {
+        SCOPED_TRACE(QString::fromUtf16(row.token).toStdString());
+        const ToolPtr tool = realCatalogue().tool(QString::fromUtf16(row.token));
+        ASSERT_TRUE(tool);
+        EXPECT_EQ(tool->gotDialog(), row.gotDialog());
+        EXPECT_TRUE((row.operation.prepare != nullptr) != (row.operation.procedure != nullptr));
+        EXPECT_FALSE(known.contains(tool->Token()));
+        known += tool->Token();
+    }
+    for (const ToolPtr &tool : realCatalogue().tools())
+        EXPECT_TRUE(tool->isHeading() || tool->Token() == "toolNULL" || known.contains(tool->Token()))
+            << tool->Token().toStdString();
+}
+
+TEST(Tools, aDialogAsksOnceAndARightClickNever) {
+    User user;
+    user.startsWith("a|«b»");
+    user.runs("foIND");
+    user.sees("a|«> b»", "Indent increased");
+    user.runsAgain("foIND");
+    user.sees("a|«> > b»");
+    EXPECT_EQ(user.opened, QStringList("Indent"));
+
+    user.cancelsDialogs = true;
+    user.runs("foUNI");
+    user.sees("a|«> > b»", {});
+    EXPECT_EQ(user.session.sLastTool, "foUNI");
+    EXPECT_EQ(user.counter("Usage", "foUNI"), "1");
+    user.session.cmdUndo_Click(); // the cancelled tool has left no state
+    user.sees("a|«> b»");
+}
+
+TEST(Tools, areCountedAndUnknownOnesAreTold) {
+    User user;
+    user.startsWith({});
+    user.runs("ccUPP");
+    user.runs("ccUPP");
+    EXPECT_EQ(user.counter("Usage", "ccUPP"), "2");
+    EXPECT_EQ(user.counter("TotUsage", "ccUPP"), "2");
+    for (const char *token : {"foCOL", "pbPBT", "toolNULL"}) {
+        user.runs(QLatin1StringView(token));
+        user.isTold("This tool is not implemented yet");
+        EXPECT_EQ(user.session.sLastTool, QString());
+    }
+}
+
+TEST(Tools, titleInsideAWordLeavesTheStatusEmpty) {
+    User user;
+    user.startsWith("the o«ld» man");
+    user.runs("ccTIT");
+    user.isTold("Please select the whole title");
+    user.sees("the o«ld» man", {});
+}
+
+TEST(Tools, favouritesMayBeTwoToolsInOne) {
+    User user;
+    user.startsWith("a  b |c");
+    user.session.imgFavourites_Click("foBOTH");
+    user.sees("«»a b|c", "2 characters removed");
+    user.session.cmdUndo_Click();
+    user.sees("«»a  b|c");
+    user.session.cmdUndo_Click();
+    user.sees("«»a  b |c");
+
+    user.startsWith("a…");
+    user.session.imgFavourites_Click("chPNC");
+    user.sees("«»a...", "Punctuation checked");
+}
+
+TEST(Tools, searchWindowBeginsWithAShortSelection) {
+    const struct {
+        QString selected;
+        QString box;
+        bool special;
+    } cases[] = {
+        {QString(24, u'x'), QString(24, u'x'), false},
+        {QString(25, u'x'), "old", false},
+        {{}, "old", false},
+        {"a\tb|c", "a\\tb\\nc", true},
+        {"a\rb\n", "a\\x0Db\\x0A", true},
+    };
+    for (const auto &row : cases) {
+        User user;
+        user.searchBox = "old";
+        user.startsWith("y«" + row.selected + "»");
+        user.runs("edREP");
+        EXPECT_EQ(user.searchBox, row.box);
+        EXPECT_EQ(user.special, row.special);
+        EXPECT_EQ(user.opened.join(u' '), row.special ? "more replace" : "replace");
+    }
+}
+
+TEST(Tools, spellingThatChangesNothingIsNoChange) {
+    User user;
+    user.startsWith("teh|");
+    user.runs("chSPE");
+    user.isTold("Spelling check complete");
+    EXPECT_FALSE(user.session.bDirty());
+    user.corrected = "the\r";
+    user.runsAgain("chGRA");
+    user.sees("«»the|");
+    EXPECT_TRUE(user.session.bDirty());
+    EXPECT_EQ(user.opened.join(u'|'), "spelling 2057|grammar -1");
+    user.chosenLanguage = -2; // the list of languages was cancelled
+    user.runs("chSPE");
+    EXPECT_EQ(user.opened.size(), 2);
+}
+
+} // namespace
