@@ -16,11 +16,22 @@
 #include "spelling/word_automation.h"
 
 #include <QApplication>
-#include <QIcon>
+#include <QProxyStyle>
 
 namespace {
 
 using namespace tolvo;
+
+/// Buttons of dialogs show words only, whichever class has laid them out.
+class WordsOnButtons : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 int runOnce() {
     const QString folder = QCoreApplication::applicationDirPath();
@@ -61,6 +72,7 @@ int main(int argc, char **argv) {
     // The fork behind this call has to come before anything of the toolkit exists.
     return runAsClipboardKeeper([&](KeeperSession &keeper) {
         QApplication application(argc, argv);
+        QApplication::setStyle(new WordsOnButtons);
         QCoreApplication::setApplicationName(QStringLiteral("tolvo"));
         QCoreApplication::setApplicationVersion(applicationVersion());
         QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));

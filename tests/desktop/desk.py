@@ -100,6 +100,7 @@ class Tolvo:
 
     def __init__(self, settings, wait=True, **environment):
         self.settings = settings
+        self.scale = int(environment.get("QT_SCALE_FACTOR", "1"))
         self.process = subprocess.Popen([os.path.join(PROGRAMS, "tolvo")], env={**settings.environment(), **environment},
                                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         if wait:
@@ -138,9 +139,13 @@ class Tolvo:
         return None
 
     def click(self, name, button=1, role=None):
-        area = self.find(name, role).get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        subprocess.run(["xdotool", "mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click",
-                        str(button)], check=True)
+        self.click_on(self.find(name, role), button)
+
+    def click_on(self, control, button=1):
+        """Clicks the middle of a control; the bus tells places without the scale of the screen."""
+        area = control.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        x, y = ((area.x + area.width // 2) * self.scale, (area.y + area.height // 2) * self.scale)
+        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)], check=True)
         time.sleep(0.15)
 
     def text(self):
