@@ -38,7 +38,7 @@ constexpr std::array webToPlain{Step{"edEOL"}, Step{"edHDC"}, Step{"edPLA"},
 
 constexpr std::array examples{
     Example{u"Clean mail", u"\u2709", 22, 3.5, -5.5, cleanMail},
-    Example{u"Tidy text", u"\u00B6", 18, 8, 1, tidyText},
+    Example{u"Tidy text", u"\u00B6", 18, 8, -3.5, tidyText},
     Example{u"Web to plain", u"</>", 13, 4.5, 4, webToPlain},
 };
 
