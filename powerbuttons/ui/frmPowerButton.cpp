@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -134,7 +133,8 @@ void frmPowerButton::reject() {
 bool frmPowerButton::eventFilter(QObject *watched, QEvent *event) {
     if (watched == m_name && event->type() == QEvent::FocusIn &&
         m_name->text() == CPowerButton::undefinedName())
-        QTimer::singleShot(0, m_name, &QLineEdit::selectAll); // behind the mouse press that sets the caret
+        // Behind the mouse press that sets the caret.
+        QMetaObject::invokeMethod(m_name, &QLineEdit::selectAll, Qt::QueuedConnection);
     if (watched == m_tree && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
