@@ -7,6 +7,7 @@
 #include <QRandomGenerator>
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -135,9 +136,11 @@ double ValueOf(QStringView text) {
     if (digits == 0)
         return 0;
     appendExponent(reader, number);
-    bool ok = false;
-    const double value = QLocale::c().toDouble(QString::fromLatin1(number), &ok);
-    return ok || std::isinf(value) ? value : number.toDouble();
+    const char *const front = number.constData() + (number.startsWith('+') ? 1 : 0);
+    double value = 0;
+    const auto read = std::from_chars(front, number.constEnd(), value);
+    // Beyond what a number can hold: infinite, or 0.
+    return read.ec == std::errc::result_out_of_range ? number.toDouble() : value;
 }
 
 QString groupedNumber(qint64 number) {
