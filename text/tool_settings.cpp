@@ -252,6 +252,7 @@ Settings settingsFromAction(const CParams &params) {
     return settings;
 }
 
+// A type can't stand in parentheses. NOLINTBEGIN(bugprone-macro-parentheses)
 #define TOLVO_TOOL_SETTINGS(Settings)                                                                        \
     template Settings loadSettings<Settings>(const SettingsStore &);                                         \
     template void saveSettings<Settings>(SettingsStore &, const Settings &);                                 \
@@ -265,5 +266,6 @@ TOLVO_TOOL_SETTINGS(RemoveLinesSettings)
 TOLVO_TOOL_SETTINGS(BulletSettings)
 TOLVO_TOOL_SETTINGS(NumberListSettings)
 TOLVO_TOOL_SETTINGS(LineNumberSettings)
+// NOLINTEND(bugprone-macro-parentheses)
 
 } // namespace tolvo

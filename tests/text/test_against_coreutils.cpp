@@ -2,6 +2,7 @@
 // Where the engine and the shell's own tools must agree, on plain ASCII texts.
 #include "tests/text/engine.h"
 
+#include <QHash>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -80,6 +81,21 @@ TEST_F(AgainstCoreutils, nl) {
         QStringLiteral("-b a -n rn -w 3 -v 5 -i 7 -s").split(u' ') + QStringList{QStringLiteral(" ")};
     EXPECT_EQ(engine.LineNumber(text, 5, 7, 1, true, true, true),
               runCommand(QStringLiteral("nl"), arguments, text));
+}
+
+TEST_F(AgainstCoreutils, wc) {
+    SKIP_WITHOUT("wc");
+    // Words of letters alone count alike; the command counts line ends as one character each.
+    const QString text = someLines(500, true).remove(QRegularExpression(QStringLiteral("[0-9]")));
+    const auto counted = [&text](const char *option) {
+        return runCommand(QStringLiteral("wc"), {QString::fromLatin1(option)}, text).trimmed().toInt();
+    };
+    QHash<QString, QString> rows;
+    for (const StatisticsRow &row : engine.statistics(text, u"").rows)
+        rows.insert(row.name, row.fullText);
+    EXPECT_EQ(rows.value(QStringLiteral("Words")).toInt(), counted("-w"));
+    EXPECT_EQ(rows.value(QStringLiteral("Total lines")).toInt(), counted("-l"));
+    EXPECT_EQ(rows.value(QStringLiteral("Characters")).toInt(), counted("-m") - counted("-l"));
 }
 
 } // namespace

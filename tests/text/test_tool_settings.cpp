@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "base/failure.h"
+#include "preferences/settings_store.h"
+#include "preferences/settings_table.h"
+#include "tests/text/engine.h"
+#include "text/tool_settings.h"
+
+using namespace tolvo;
+
+namespace {
+
+const IndentSettings indent{IndentSettings::WithText, 7, QStringLiteral("> "), {}};
+const WordWrapSettings wrap{72, true, true, false};
+const RemoveLinesSettings removeLines{true, false};
+const BulletSettings bullet{QStringLiteral("=>"), false, 3};
+const NumberListSettings numberList{5, 12, true, 3, false, 6};
+const LineNumberSettings lineNumbers{10, 5, 2, false, true, false, true};
+
+template <class Settings>
+void comesBackFromStore(const Settings &settings) {
+    SettingsStore store(QStringLiteral(":memory:"));
+    EXPECT_EQ(loadSettings<Settings>(store), Settings()) << "the defaults of store and struct differ";
+    saveSettings(store, settings);
+    EXPECT_EQ(loadSettings<Settings>(store), settings);
+}
+
+template <class Settings>
+void comesBackFromString(const Settings &settings, const char *text) {
+    const CParams params(QString::fromLatin1(text));
+    EXPECT_EQ(settingsString(settings), QLatin1StringView(text));
+    EXPECT_EQ(settingsFromAction<Settings>(params), settings);
+    Settings applied;
+    applySettings(applied, params);
+    EXPECT_EQ(applied, settings);
+    applySettings(applied, CParams(QStringLiteral("Colour=1")));
+    EXPECT_EQ(applied, settings) << "a key that isn't there changes a control";
+}
+
+TEST(ToolSettings, comeBackFromTheStore) {
+    comesBackFromStore(indent);
+    comesBackFromStore(wrap);
+    comesBackFromStore(removeLines);
+    comesBackFromStore(bullet);
+    comesBackFromStore(numberList);
+    comesBackFromStore(lineNumbers);
+    IndentSettings recent = indent;
+    recent.recentTexts = {QStringLiteral("> "), QStringLiteral("# ")};
+    comesBackFromStore(recent);
+}
+
+TEST(ToolSettings, comeBackFromTheirString) {
+    comesBackFromString(indent, "Spaces=7, Text=> , RadioButton=2");
+    comesBackFromString(wrap, "Width=72, Justify=1, Hanging=1, Tab=False");
+    comesBackFromString(removeLines, "Single=1, Multiple=0");
+    comesBackFromString(bullet, "Bullet==>, Tab=False, Spaces=3");
+    comesBackFromString(numberList, "Style=5, Start=12, Renumber=1, FollowChar=3, Tab=False, Spaces=6");
+    comesBackFromString(lineNumbers, "Start=10, Step=5, Every=2, IgnoreBlanks=True, Renumber=False, "
+                                     "Pad=False, RangeRight=True");
+}
+
+TEST(ToolSettings, areWrittenAsTheStoreHasThem) {
+    SettingsStore store(QStringLiteral(":memory:"));
+    saveSettings(store, indent);
+    saveSettings(store, wrap);
+    saveSettings(store, numberList);
+    saveSettings(store, lineNumbers);
+    EXPECT_EQ(readSetting(store, u"Indent", u"Option"), u"Text");
+    EXPECT_EQ(readSetting(store, u"Wordwrap", u"Justify"), u"1");
+    EXPECT_EQ(readSetting(store, u"Wordwrap", u"Tab"), u"False");
+    EXPECT_EQ(readSetting(store, u"NumList", u"Renumber"), u"1");
+    EXPECT_EQ(readSetting(store, u"NumLines", u"IgnoreBlanks"), u"True");
+
+    writeSetting(store, u"Indent", u"Option", QStringLiteral("else"));
+    EXPECT_EQ(loadSettings<IndentSettings>(store).choice, IndentSettings::WithText);
+    writeSetting(store, u"NumLines", u"Pad", QStringLiteral("1"));
+    EXPECT_FALSE(loadSettings<LineNumberSettings>(store).pad) << "it is compared with \"True\"";
+    writeSetting(store, u"NumList", u"PadChars", QStringLiteral("wide"));
+    EXPECT_THROW((void)loadSettings<NumberListSettings>(store), Failure);
+}
+
+template <class Settings>
+Settings fromAction(const char *text) {
+    return settingsFromAction<Settings>(CParams(QString::fromLatin1(text)));
+}
+
+TEST(ToolSettings, ofAnActionAreTakenStrictly) {
+    // Only "0" clears the flag: the word "False" doesn't.
+    const char *listing = "Start=1, Step=0, Every=0, Renumber=0, Pad=TRUE, RangeRight=-1, IgnoreBlanks=";
+    EXPECT_FALSE(fromAction<LineNumberSettings>(QByteArray(listing) + "0").ignoreBlanks);
+    const auto lineNumber = fromAction<LineNumberSettings>(QByteArray(listing) + "False");
+    EXPECT_EQ(lineNumber, (LineNumberSettings{1, 1, 1, false, true, true, true}));
+
+    // Only "1" sets these, and nothing there is no failure.
+    EXPECT_EQ(fromAction<RemoveLinesSettings>("Single=True"), (RemoveLinesSettings{false, false}));
+
+    // The nearest value allowed.
+    EXPECT_EQ(fromAction<NumberListSettings>(
+                  "Style=9, Start=5000, Renumber=False, FollowChar=-1, Tab=False, Spaces=-5"),
+              (NumberListSettings{5, 5000, false, 0, false, 1}));
+    EXPECT_EQ(fromAction<IndentSettings>("RadioButton=7, Spaces=1000000000, Text=").choice,
+              IndentSettings::WithText);
+    EXPECT_EQ(fromAction<IndentSettings>("RadioButton=1, Spaces=1000000000").prefix(), QString(255, u' '));
+
+    for (const char *bad :
+         {"", "Width=1e999, Justify=0, Hanging=0, Tab=True", "Width=60",
+          "Width=3000000000, Justify=0, Hanging=0, Tab=True", "Width=60, Justify=maybe, Hanging=0, Tab=True"})
+        EXPECT_THROW((void)fromAction<WordWrapSettings>(bad), Failure) << bad;
+}
+
+TEST(ToolSettings, ofADialogAreTakenLeniently) {
+    NumberListSettings settings{3, 5, true, 1, false, 7};
+    applySettings(settings,
+                  CParams(QStringLiteral("Style=x, Start=, Renumber=False, Tab=true, Spaces=1e99")));
+    EXPECT_EQ(settings, (NumberListSettings{0, 0, false, 1, false, 255}));
+}
+
+TEST(ToolSettings, makeThePrefix) {
+    EXPECT_EQ(IndentSettings().prefix(), u"\t");
+    EXPECT_EQ(indent.prefix(), u"> ");
+    EXPECT_EQ(BulletSettings().prefix(), u"\u2022\t");
+    EXPECT_EQ(bullet.prefix(), u"=>   ");
+}
+
+} // namespace

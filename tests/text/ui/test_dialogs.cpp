@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+// Each dialog as a user meets it: what is typed and pressed, what is shown, what comes back.
+#include "platform/message_box.h"
+#include "tests/text/engine.h"
+#include "text/ui/dlgBullet.h"
+#include "text/ui/dlgIndent.h"
+#include "text/ui/dlgNumLines.h"
+#include "text/ui/dlgNumberStyle.h"
+#include "text/ui/dlgRemLines.h"
+#include "text/ui/dlgWordWrap.h"
+#include "text/ui/frmStats.h"
+
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+using namespace tolvo;
+using namespace tolvo::test;
+
+namespace {
+
+struct ExpectedBoxes : MessageBoxes {
+    BoxAnswer show(const Box &box) override {
+        EXPECT_EQ(box.icon, BoxIcon::Information);
+        texts.append(box.text);
+        return BoxAnswer::Ok;
+    }
+    QStringList texts;
+};
+
+/// What a user does in one dialog.
+class User {
+  public:
+    explicit User(QDialog &dialog) : m_dialog(dialog) {
+        m_dialog.show();
+        m_dialog.activateWindow();
+        if (!QTest::qWaitForWindowActive(&m_dialog))
+            throw std::runtime_error("the dialog gets no focus");
+    }
+
+    template <class Control>
+    Control *control(const char *name) {
+        auto *found = m_dialog.findChild<Control *>(QString::fromLatin1(name));
+        if (found == nullptr)
+            throw std::runtime_error(std::string("the dialog has no ") + name);
+        return found;
+    }
+    void types(const char *box, const QString &text) {
+        auto *edit = control<QLineEdit>(box);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+    }
+    void pastes(const char *box, const QString &text) {
+        auto *edit = control<QLineEdit>(box);
+        edit->clear();
+        edit->insert(text);
+    }
+    QString sees(const char *box) { return control<QLineEdit>(box)->text(); }
+    QString sample() { return control<QPlainTextEdit>("txtSample")->toPlainText().replace(u'\n', u'|'); }
+    void clicks(const char *button) {
+        QTest::mouseClick(control<QAbstractButton>(button), Qt::LeftButton, {}, QPoint(8, 8));
+    }
+    bool chosen(const char *button) { return control<QAbstractButton>(button)->isChecked(); }
+    bool enabled(const char *name) { return control<QWidget>(name)->isEnabled(); }
+    void steps(const char *box, Qt::Key key) { QTest::keyClick(control<QLineEdit>(box), key); }
+    void presses(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&m_dialog, key, modifiers);
+        // A button that is pressed by its letter stays down for a moment before it acts.
+        const auto allButtonsUp = [this] {
+            const auto buttons = m_dialog.findChildren<QAbstractButton *>();
+            return std::none_of(buttons.begin(), buttons.end(),
+                                [](auto *button) { return button->isDown(); });
+        };
+        EXPECT_TRUE(QTest::qWaitFor(allButtonsUp));
+    }
+    void leaves(const char *box) { QTest::keyClick(control<QLineEdit>(box), Qt::Key_Tab); }
+
+  private:
+    QDialog &m_dialog;
+};
+
+class Dialogs : public Engine {
+  protected:
+    ExpectedBoxes boxes;
+};
+
+TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
+    dlgNumberStyle dialog(engine, {});
+    User user(dialog);
+    user.types("txtStart", QStringLiteral("1a2"));
+    EXPECT_EQ(user.sees("txtStart"), u"12");
+    user.pastes("txtStart", QStringLiteral(" 3x4-"));
+    EXPECT_EQ(user.sees("txtStart"), u"34");
+    user.types("txtStart", QStringLiteral("5000"));
+    EXPECT_EQ(user.sees("txtStart"), u"999");
+    user.types("txtStart", QStringLiteral("0"));
+    EXPECT_EQ(user.sees("txtStart"), u"0");
+    user.leaves("txtStart");
+    EXPECT_EQ(user.sees("txtStart"), u"1");
+    user.types("txtSpaces", QStringLiteral("20"));
+    EXPECT_EQ(user.sees("txtSpaces"), u"12");
+    EXPECT_TRUE(user.chosen("optTab_0")) << "typing leaves the choice alone";
+    user.steps("txtSpaces", Qt::Key_Down);
+    EXPECT_EQ(user.sees("txtSpaces"), u"11");
+    EXPECT_TRUE(user.chosen("optTab_1"));
+    user.clicks("OKButton");
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.settings(), (NumberListSettings{0, 1, false, 0, false, 11}));
+}
+
+TEST_F(Dialogs, numberStyleShowsWhatTheToolWillDo) {
+    dlgNumberStyle dialog(engine, {0, 9, false, 1, false, 4});
+    User user(dialog);
+    EXPECT_EQ(user.sample(),
+              u"9.  First list item|10. Second list item|11. Third list item|12. Fourth list item");
+    user.types("txtSpaces", QStringLiteral("2"));
+    EXPECT_TRUE(user.sample().startsWith(u"9.First list item|10Second"));
+    user.control<QComboBox>("cmbStyle")->setCurrentIndex(5);
+    EXPECT_EQ(user.sees("txtSpaces"), u"4");
+    EXPECT_FALSE(user.enabled("cmbFollowChar"));
+    EXPECT_TRUE(user.sample().startsWith(
+        u"9.  First list item|    9.1.First sublist item|    9.2.Second sublist item|10. Second list item"));
+    user.clicks("optTab_0");
+    EXPECT_TRUE(user.sample().startsWith(u"9.\tFirst list item|\t9.1.\tFirst sublist item"));
+    user.control<QComboBox>("cmbStyle")->setCurrentIndex(3);
+    EXPECT_EQ(user.sees("txtSpaces"), u"4") << "the spaces stay raised";
+    EXPECT_TRUE(user.enabled("cmbFollowChar"));
+    EXPECT_TRUE(user.sample().startsWith(u"ix.\tFirst list item|x.\t"));
+    const Font font{QStringLiteral("DejaVu Sans Mono"), 17, true, false};
+    dialog.setSampleFont(font);
+    EXPECT_EQ(user.control<QPlainTextEdit>("txtSample")->font().pointSizeF(), 17);
+}
+
+TEST_F(Dialogs, bulletTakesAnyText) {
+    dlgBullet dialog(engine, {});
+    User user(dialog);
+    auto *bullet = user.control<QComboBox>("cmbBulletChar");
+    EXPECT_EQ(bullet->count(), 4);
+    EXPECT_TRUE(user.sample().startsWith(u"\u2022\tFirst list item|\u2022\tSecond"));
+    QTest::keyClicks(bullet->lineEdit(), QStringLiteral("=>"));
+    EXPECT_TRUE(user.sample().startsWith(u"\u2022=>\tFirst list item|"));
+    bullet->setCurrentIndex(2);
+    user.presses(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(user.sample(), u"*  First list item|*  Second list item|*  Third list item");
+    user.presses(Qt::Key_Return);
+    EXPECT_EQ(dialog.settings(), (BulletSettings{QStringLiteral("*"), false, 2}));
+}
+
+TEST_F(Dialogs, indentRemembersItsTexts) {
+    const QStringList texts = {QStringLiteral("# "), QStringLiteral("> ")};
+    dlgIndent dialog({IndentSettings::WithTab, 4, QString(), texts});
+    User user(dialog);
+    auto *text = user.control<QComboBox>("cmbIndentText");
+    QTest::keyClicks(text->lineEdit(), QStringLiteral(">"));
+    EXPECT_TRUE(user.chosen("optTab_2"));
+    user.clicks("OKButton");
+    EXPECT_EQ(dialog.settings().choice, IndentSettings::WithText);
+    EXPECT_EQ(dialog.settings().text, u">");
+    EXPECT_EQ(dialog.settings().recentTexts, QStringList({QStringLiteral(">"), QStringLiteral("# ")}));
+
+    dlgIndent blank({IndentSettings::WithText, 4, QStringLiteral("  "), texts});
+    User other(blank);
+    other.clicks("OKButton");
+    EXPECT_EQ(blank.result(), QDialog::Accepted);
+    EXPECT_EQ(blank.settings().text, u"  ");
+    EXPECT_EQ(blank.settings().recentTexts, texts);
+
+    QStringList many;
+    for (int i = 0; i < IndentSettings::mostRecentTexts; ++i)
+        many.append(QString::number(i));
+    dlgIndent full({IndentSettings::WithText, 4, QStringLiteral("new"), many});
+    User third(full);
+    third.presses(Qt::Key_Return);
+    EXPECT_EQ(full.settings().recentTexts, QStringList(QStringLiteral("new")) + many.first(many.size() - 1));
+    EXPECT_EQ(full.settings().text, u"new");
+}
+
+TEST_F(Dialogs, lineNumberingShowsItsRange) {
+    dlgNumLines dialog(engine, {});
+    User user(dialog);
+    EXPECT_TRUE(user.sample().startsWith(u"1 Lorem ipsum"));
+    EXPECT_TRUE(user.sample().contains(u"||2 Tincidunt ut"));
+    user.clicks("chkIgnoreBlanks");
+    EXPECT_TRUE(user.sample().contains(u"|2 |3 Tincidunt ut"));
+    user.types("txtStart", QStringLiteral("9"));
+    user.presses(Qt::Key_R, Qt::AltModifier);
+    EXPECT_TRUE(user.sample().startsWith(u" 9 Lorem ipsum"));
+    user.clicks("chkPad");
+    EXPECT_FALSE(user.enabled("optRange_0") || user.enabled("optRange_1"));
+    EXPECT_TRUE(user.sample().startsWith(u"9 Lorem ipsum"));
+    user.types("txtStep", QStringLiteral("0"));
+    user.leaves("txtStep");
+    EXPECT_EQ(user.sees("txtStep"), u"1");
+    user.types("txtEvery", QStringLiteral("2"));
+    EXPECT_TRUE(user.sample().startsWith(u"  Lorem ipsum"));
+    user.presses(Qt::Key_Return);
+    EXPECT_EQ(dialog.settings(), (LineNumberSettings{9, 1, 2, true, false, false, true}));
+}
+
+TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
+    dlgWordWrap dialog(boxes, {});
+    User user(dialog);
+    EXPECT_FALSE(user.enabled("optTab_0") || user.enabled("optTab_1"));
+    user.presses(Qt::Key_H, Qt::AltModifier);
+    user.presses(Qt::Key_S, Qt::AltModifier);
+    user.presses(Qt::Key_J, Qt::AltModifier);
+    const QString refusal = QStringLiteral("Page width must lie between 12 and 255 inclusive");
+    for (const char *width : {"11", "256", "", "99999999999"}) {
+        user.pastes("txtWidth", QString::fromLatin1(width));
+        user.clicks("OKButton");
+        EXPECT_TRUE(dialog.isVisible()) << width;
+        EXPECT_EQ(boxes.texts, QStringList(refusal)) << width;
+        boxes.texts.clear();
+    }
+    EXPECT_EQ(dialog.focusWidget(), user.control<QLineEdit>("txtWidth")->parentWidget());
+    for (const int width : {12, 255}) {
+        dialog.show();
+        user.types("txtWidth", QString::number(width));
+        user.presses(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(dialog.settings(), (WordWrapSettings{width, true, true, false}));
+    }
+    EXPECT_TRUE(boxes.texts.isEmpty());
+}
+
+TEST_F(Dialogs, removeLinesTellsWhetherItWasCancelled) {
+    dlgRemLines dialog({});
+    User user(dialog);
+    user.clicks("chkSingle");
+    user.presses(Qt::Key_Escape);
+    EXPECT_TRUE(dialog.Cancelled());
+    dialog.show();
+    user.presses(Qt::Key_Return);
+    EXPECT_FALSE(dialog.Cancelled());
+    EXPECT_EQ(dialog.settings(), (RemoveLinesSettings{true, true}));
+}
+
+TEST_F(Dialogs, settingsStringsAreEditedForActions) {
+    const auto edit = [](auto &dialog, const char *details, const char *button) {
+        QTimer::singleShot(0, &dialog, [&dialog, button] { User(dialog).clicks(button); });
+        QString text = QString::fromLatin1(details);
+        const bool done = getSettings(dialog, text);
+        EXPECT_EQ(done, QByteArrayView(button) == "OKButton");
+        return text;
+    };
+    const NumberListSettings lastUsed{3, 7, true, 2, true, 9};
+    dlgNumberStyle numbers(engine, lastUsed);
+    EXPECT_EQ(edit(numbers, "Style=1, Spaces=99, Colour=red, Tab=maybe", "OKButton"),
+              u"Style=1, Start=7, Renumber=1, FollowChar=2, Tab=True, Spaces=12");
+    dlgWordWrap wrap(boxes, {});
+    EXPECT_EQ(edit(wrap, "Width=33, Hanging=1, Tab=False", "CancelButton"),
+              u"Width=33, Hanging=1, Tab=False");
+    dlgIndent indent({});
+    EXPECT_EQ(edit(indent, "Spaces=2, Text=// , RadioButton=2", "OKButton"),
+              u"Spaces=2, Text=// , RadioButton=2");
+}
+
+TEST_F(Dialogs, statisticsShowBothColumns) {
+    frmStats form(boxes, engine.statistics(u"a b. c d?\r\n", u"a b."));
+    User user(form);
+    auto *list = user.control<QTreeWidget>("lvwStats");
+    const auto cell = [list](int row, int column) { return list->topLevelItem(row)->text(column); };
+    EXPECT_EQ(list->topLevelItemCount(), 10);
+    EXPECT_EQ(cell(0, 1), u"Full text");
+    EXPECT_EQ(cell(0, 2), u"Selection");
+    EXPECT_TRUE(list->topLevelItem(0)->font(1).bold());
+    EXPECT_EQ(cell(2, 0), u"Bytes");
+    EXPECT_EQ(cell(2, 1), u"22");
+    EXPECT_EQ(cell(2, 2), u"8");
+    user.clicks("cmdHelp");
+    EXPECT_EQ(boxes.texts, QStringList(QStringLiteral("Help is not implemented yet")));
+    user.presses(Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
+
+    frmStats empty(boxes, engine.statistics(u"a b.", u""));
+    auto *bare = User(empty).control<QTreeWidget>("lvwStats");
+    EXPECT_EQ(bare->topLevelItem(0)->text(2), u"Selection");
+    EXPECT_EQ(bare->topLevelItem(2)->text(2), u"");
+}
+
+} // namespace
