@@ -140,7 +140,8 @@ double ValueOf(QStringView text) {
     double value = 0;
     const auto read = std::from_chars(front, number.constEnd(), value);
     // Beyond what a number can hold: infinite, or 0.
-    return read.ec == std::errc::result_out_of_range ? number.toDouble() : value;
+    return read.ec == std::errc::result_out_of_range ? QLocale::c().toDouble(QString::fromLatin1(number))
+                                                     : value;
 }
 
 QString groupedNumber(qint64 number) {
