@@ -17,6 +17,7 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <ranges>
 
 namespace tolvo {
 
@@ -205,8 +206,8 @@ void dlgPickCharacter::accept() {
 
 void dlgPickCharacter::rememberChosen() {
     const QList<uint> characters = m_chosen->text().toUcs4();
-    for (auto character = characters.crbegin(); character != characters.crend(); ++character) {
-        const auto code = static_cast<char32_t>(*character);
+    for (const uint character : characters | std::views::reverse) {
+        const auto code = static_cast<char32_t>(character);
         const QString text = QString::fromUcs4(&code, 1);
         m_recent.removeAll(text);
         m_recent.prepend(text);
