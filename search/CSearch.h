@@ -70,11 +70,13 @@ class CSearch {
   private:
     /// Runs an operation; a failure is told under its name, a bad escape with a hint. False after a failure.
     bool guarded(const char *operation, const std::function<void()> &action);
+    /// The same without the hint.
     bool reported(const char *operation, const std::function<void()> &action);
+    /// Translates a pattern, and says so if a bracket is missing in it.
     [[nodiscard]] WildcardTranslation translated(const QString &pattern, bool specialChars,
                                                  const WildcardOptions &options);
+    /// The whole-word rule for a match at a position from 1.
     [[nodiscard]] bool standsAsWord(QStringView text, qsizetype position, QStringView find) const;
-    bool selectHit(qsizetype index, qsizetype length, bool fromStart);
     void listSimpleHits(const QString &find, bool matchCase, bool wholeWords);
     /// One replacement after another, in a copy; the number of them.
     int replaceEach(QString &text, QStringView find, const QString &replace, bool matchCase, bool wholeWords,

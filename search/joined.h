@@ -3,15 +3,20 @@
 
 #include <QString>
 #include <QStringView>
+#include <algorithm>
 #include <initializer_list>
 
 namespace tolvo {
 
 /// The pieces one behind the other.
 [[nodiscard]] inline QString joined(std::initializer_list<QStringView> pieces) {
-    QString result;
+    qsizetype length = 0;
     for (const QStringView piece : pieces)
-        result += piece;
+        length += piece.size();
+    QString result(length, Qt::Uninitialized);
+    QChar *end = result.data();
+    for (const QStringView piece : pieces)
+        end = std::copy(piece.begin(), piece.end(), end);
     return result;
 }
 

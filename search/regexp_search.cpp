@@ -158,7 +158,7 @@ int CSearch::listMatches(const RegularExpression &expression, const QString &tex
             continue;
         const int line = lines.lineOf(start);
         // Each line passed is one character longer in the text box. The context begins one character early.
-        results.add(joined({QStringLiteral("Line %1: ").arg(line), hitContext(text, start, length)}),
+        results.add(joined({u"Line ", QString::number(line), u": ", hitContext(text, start, length)}),
                     packLocation(start + line - 1, length));
         ++count;
     }

@@ -134,10 +134,14 @@ qsizetype RegularExpression::nextCandidate(QStringView text, qsizetype from) con
     return found == end ? text.size() + 1 : found - text.utf16();
 }
 
-RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from, MatchBudget &budget) const {
+RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from, qsizetype &nextLook,
+                                                MatchBudget &budget) const {
     for (qsizetype start = nextCandidate(text, from); start <= text.size();) {
-        if (budget.spent())
-            return Step::LimitReached;
+        if (start >= nextLook) {
+            if (budget.spent())
+                return Step::LimitReached;
+            nextLook = start + positionsPerStep;
+        }
         qsizetype last = std::min(text.size(), start + positionsPerStep - 1);
         if (m_compiled->startsAtLines) {
             // The engine would pass by the place between CR and LF; a step that begins there looks at it.
@@ -164,8 +168,9 @@ RegularExpression::Outcome RegularExpression::forEachMatch(QStringView text, Mat
                                                            const Visitor &visit) const {
     if (!isValid())
         return Outcome::Completed;
+    qsizetype nextLook = 0;
     for (qsizetype from = 0; from <= text.size();) {
-        const Step result = step(text, from, budget);
+        const Step result = step(text, from, nextLook, budget);
         if (result != Step::Found)
             return result == Step::NoMatch ? Outcome::Completed : Outcome::LimitReached;
         const RegularExpressionMatch match(text,

@@ -72,7 +72,8 @@ class RegularExpression {
     enum class Step { Found, NoMatch, LimitReached };
 
     void compile(const QString &pattern, bool matchCase);
-    Step step(QStringView text, qsizetype from, MatchBudget &budget) const;
+    /// The next match. The budget is looked at from position `nextLook` on, which then moves on.
+    Step step(QStringView text, qsizetype from, qsizetype &nextLook, MatchBudget &budget) const;
     [[nodiscard]] qsizetype nextCandidate(QStringView text, qsizetype from) const;
 
     PatternState m_state = PatternState::Valid;

@@ -17,14 +17,6 @@ bool CSearch::standsAsWord(QStringView text, qsizetype position, QStringView fin
            (!IsAlpha(find.last(1)) || m_text.atEndOfWord(text, position + find.size()));
 }
 
-bool CSearch::selectHit(qsizetype index, qsizetype length, bool fromStart) {
-    TextBox &box = m_host.txtCurrent();
-    tolvo::select(box, static_cast<int>(index), static_cast<int>(length));
-    if (fromStart)
-        m_host.directionChanged(SearchDirection::Down);
-    return true;
-}
-
 bool CSearch::SimpleSearch(QString find, bool specialChars, bool up, bool down, bool &fromStart,
                            bool matchCase, bool wholeWords) {
     if (find.isEmpty())
@@ -50,7 +42,10 @@ bool CSearch::SimpleSearch(QString find, bool specialChars, bool up, bool down, 
         if (searchDown || up)
             LiteralMatcher(find, matchCase).forEachOccurrence(text, searchDown ? from : 0, visit);
         if (hit) {
-            found = selectHit(*hit, find.size(), fromStart);
+            found = true;
+            tolvo::select(box, static_cast<int>(*hit), static_cast<int>(find.size()));
+            if (fromStart)
+                m_host.directionChanged(SearchDirection::Down);
         } else {
             inform(QStringLiteral("Text not found"));
             fromStart = true;
@@ -79,7 +74,7 @@ void CSearch::listSimpleHits(const QString &find, bool matchCase, bool wholeWord
         if (wholeWords && !standsAsWord(text, index + 1, find))
             return true;
         const qint32 location = packLocation(index, find.size());
-        results.add(joined({QStringLiteral("Line %1: ").arg(lines.lineOf(index)),
+        results.add(joined({u"Line ", QString::number(lines.lineOf(index)), u": ",
                             hitContext(text, index + 1, find.size())}),
                     location);
         ++count;

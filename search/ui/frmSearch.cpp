@@ -205,7 +205,7 @@ void frmSearch::showDialog(bool bReplace) {
     show();
     raise();
     activateWindow();
-    m_controls.cmbSearchText->setFocus(Qt::TabFocusReason);
+    m_controls.cmbSearchText->begin();
 }
 
 bool frmSearch::getSettings(QString &settings, bool bReplace) {
@@ -215,7 +215,7 @@ bool frmSearch::getSettings(QString &settings, bool bReplace) {
     m_collecting = true;
     useMode(bReplace);
     showForm();
-    m_controls.cmbSearchText->setFocus(Qt::TabFocusReason);
+    m_controls.cmbSearchText->begin();
     const bool confirmed = exec() == QDialog::Accepted;
     m_collecting = false;
     useMode(bReplace);

@@ -53,6 +53,12 @@ void SearchListEdit::resume() {
         lineEdit()->setCursorPosition(start);
 }
 
+void SearchListEdit::begin() {
+    setFocus(Qt::OtherFocusReason);
+    lineEdit()->selectAll();
+    remember();
+}
+
 void SearchListEdit::insertText(const QString &text) {
     resume();
     lineEdit()->insert(text);

@@ -16,6 +16,8 @@ class SearchListEdit final : public QComboBox {
     void show(const QStringList &entries, const QString &text);
     /// Takes the focus with caret and selection as they last were.
     void resume();
+    /// Takes the focus with all of its text selected, for a new one to be typed over it.
+    void begin();
     /// Puts a text in place of the selection where the caret last was.
     void insertText(const QString &text);
 
