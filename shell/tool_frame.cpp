@@ -66,7 +66,7 @@ void refuse(frmMain &session, const ToolRow &row, bool selected) {
     if (!tell || row.refusal.statusToo)
         session.setStatus(QString::fromUtf16(row.status.text));
     if (tell)
-        session.say(QString::fromUtf16(row.refusal.message), BoxIcon::Exclamation);
+        session.say(QString::fromUtf16(row.refusal.message));
 }
 
 void runTextOperation(frmMain &session, const ToolRow &row, const TextOperation &operation) {
@@ -110,7 +110,7 @@ void frmMain::runTool(const QString &token) {
     if (row && !row->powerButtonOnly) {
         keepingText([&] { runToolRow(*this, *row, nullptr); });
     } else {
-        say(QStringLiteral("This tool is not implemented yet"), BoxIcon::Exclamation);
+        say(QStringLiteral("This tool is not implemented yet"));
         sLastTool.clear();
     }
     pushUndo();

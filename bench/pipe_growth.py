@@ -1,0 +1,74 @@
+# SPDX-License-Identifier: MIT
+"""pipe_growth.py PIPE: times tolvo-pipe on 1 MB and 16 MB of text, and the shell tool that a user would pick on 16 MB.
+Growth compares the time above the start of the program; sorts may grow by n log n. Ends with 1 if a figure is over."""
+
+import math
+import subprocess
+import sys
+import tempfile
+import time
+
+PAGE = ("The committee met on 12 March, at 10:30, in room 4 (second floor); see www.example.org/minutes.txt.\n"
+        "Members don't read \"all of it\", e.g. the annex, but they're asked to... Isn't that so?\n\n"
+        "    1. First item, with\ta tab and  two blanks\n* A bullet point, costing 300 &amp; more\n"
+        "> An answer quoted from mail@example.com\niv) A Roman item; 'single quotes' and a closing line.   \n")
+SMALL, LARGE = 1 << 20, 1 << 24
+GROWTH = 1.15
+
+TOOLS = ["ccUPP", "ccREV", "ccTIT", "ccINC", "ccSEN", "ccCAP", "edSTR", "edPLA", "edCRL", "edUDC", "edHDC", "edEOL",
+         "foTRA", "foTRM", "foSSP", "foT2S", "foS2T", "foWRP:Width=60, Justify=0, Hanging=0, Tab=True", "foPAR",
+         "foREM:Single=0, Multiple=1", "foIND:Spaces=4, Text=, RadioButton=0", "soALP", "soNUM", "soREV", "soKEY",
+         "liNUM:Style=0, Start=1, Renumber=0, FollowChar=1, Tab=True, Spaces=4", "liRMB", "liREM", "liRLN", "chPNC",
+         "edREP:Mode=1, Find=the, MatchCase=0, Direction=D, WholeWords=0, SpecialChars=0, Replace=a, SmartReplace=0, "
+         "ReplaceAll=1"]
+SORTS = {"soALP", "soNUM"}
+SHELL = [("soALP", ["sort", "-f"]), ("soREV", ["tac"]), ("foWRP:Width=60, Justify=0, Hanging=0, Tab=True", ["fmt", "-w", "60"]),
+         ("foT2S", ["expand"]), ("foTRA", ["sed", "s/[ \\t]*$//"]), ("ccUPP", ["tr", "a-z", "A-Z"])]
+
+
+def text_file(size):
+    file = tempfile.NamedTemporaryFile(suffix=".txt")
+    lines = PAGE.splitlines(keepends=True)
+    written, count = 0, 0
+    while written < size:
+        # Every line differs from the others, as in real texts.
+        line = f"{(count * 7919) % 99991} {lines[count % len(lines)]}" if count % 3 == 0 else lines[count % len(lines)]
+        written += file.write(line.encode())
+        count += 1
+    file.flush()
+    return file
+
+
+def seconds(command, file, runs):
+    best = math.inf
+    for _ in range(runs):
+        with open(file.name, "rb") as text:
+            start = time.perf_counter()
+            subprocess.run(command, stdin=text, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
+            best = min(best, time.perf_counter() - start)
+    return best
+
+
+def main():
+    pipe, over = sys.argv[1], False
+    empty, small, large = text_file(0), text_file(SMALL), text_file(LARGE)
+    start = seconds([pipe, "pbCLR"], empty, 5)
+    print("\ntolvo-pipe: growth from 1 MB to 16 MB, above the start of the program")
+    for step in TOOLS:
+        times = [max(seconds([pipe, step], file, runs) - start, 1e-4) for file, runs in ((small, 3), (large, 2))]
+        limit = GROWTH * (math.log(LARGE) / math.log(SMALL) if step in SORTS else 1)
+        growth = times[1] / times[0] / (LARGE / SMALL)
+        over |= growth > limit
+        print(f"  {step.split(':')[0]:8} {times[0] * 1000:9.1f} ms {times[1] * 1000:9.1f} ms   growth {growth:5.2f} of "
+              f"{limit:4.2f} {'OVER' if growth > limit else ''}")
+    print("\ntolvo-pipe beside the shell's tools, 16 MB")
+    for step, command in SHELL:
+        ours, theirs = seconds([pipe, step], large, 2), seconds(command, large, 2)
+        over |= ours > theirs
+        print(f"  {step.split(':')[0]:8} {ours * 1000:9.1f} ms   {' '.join(command):28} {theirs * 1000:9.1f} ms "
+              f"{'OVER' if ours > theirs else ''}")
+    return 1 if over else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
