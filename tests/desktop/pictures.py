@@ -60,6 +60,12 @@ def open_page(run, name):
     run.click_on(tab)
 
 
+def leave_two_windows():
+    for _ in range(2):
+        keys("Escape")
+        time.sleep(0.5)
+
+
 def tools(run, photographer):
     for category, names in TOOLS:
         run.click(category)
@@ -95,7 +101,7 @@ def power_buttons(photographer):
     photographer.take("powerbutton")
     keys("alt+i")
     photographer.take("icon")
-    keys("Escape", "Escape")
+    leave_two_windows()
 
 
 def others(run, photographer):
@@ -131,7 +137,7 @@ def main():
                 part()
             except (AssertionError, subprocess.CalledProcessError) as trouble:
                 print(f"{theme} {scale}: {trouble}", file=sys.stderr)
-                keys("Escape", "Escape")
+                leave_two_windows()
         run.kill()
         settings.close()
 
