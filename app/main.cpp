@@ -10,6 +10,7 @@
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/clipboard_keeper.h"
 #include "platform/network/NetworkHttpClient.h"
+#include "platform/report_error.h"
 #include "preferences/settings_store.h"
 #include "shell/modMain.h"
 #include "shell/ui/desktop_session.h"
@@ -21,6 +22,22 @@
 namespace {
 
 using namespace tolvo;
+
+/// What nothing else has caught is reported here, where an event enters; the session goes on.
+class Application : public QApplication {
+  public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override {
+        bool handled = false;
+        reportFailures(m_boxes, applicationTitle(), QStringLiteral("notify"),
+                       [&] { handled = QApplication::notify(receiver, event); });
+        return handled;
+    }
+
+  private:
+    DesktopMessageBoxes m_boxes;
+};
 
 /// Buttons of dialogs show words only, whichever class has laid them out.
 class WordsOnButtons : public QProxyStyle {
@@ -71,7 +88,7 @@ int runOnce() {
 int main(int argc, char **argv) {
     // The fork behind this call has to come before anything of the toolkit exists.
     return runAsClipboardKeeper([&](KeeperSession &keeper) {
-        QApplication application(argc, argv);
+        const Application application(argc, argv);
         QApplication::setStyle(new WordsOnButtons);
         QCoreApplication::setApplicationName(QStringLiteral("tolvo"));
         QCoreApplication::setApplicationVersion(applicationVersion());

@@ -108,9 +108,9 @@ QString statisticsJson(const TextStatistics &statistics) {
 } // namespace
 
 bool PipeReply::warned() const {
-    return std::any_of(messages.begin(), messages.end(), [](const Box &box) {
-        return box.icon == BoxIcon::Exclamation || box.icon == BoxIcon::Critical;
-    });
+    return toolWarned || std::any_of(messages.begin(), messages.end(), [](const Box &box) {
+               return box.icon == BoxIcon::Exclamation || box.icon == BoxIcon::Critical;
+           });
 }
 
 PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
@@ -147,7 +147,8 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
             .dirty = session.bDirty(),
             .clipboard = headless.clipboard.text,
             .messages = boxes.shown,
-            .statistics = windows.statistics};
+            .statistics = windows.statistics,
+            .toolWarned = session.warnings() > 0};
 }
 
 QString replyLine(const PipeReply &reply) {

@@ -46,6 +46,7 @@ struct PipeReply {
     QString clipboard;
     std::vector<Box> messages;
     std::optional<TextStatistics> statistics;
+    bool toolWarned = false; ///< whatever the icon of its box was
 
     /// A tool reported a failure or a warning.
     [[nodiscard]] bool warned() const;

@@ -1,21 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/apply_options.h"
 
-#include "base/conversions.h"
-#include "preferences/settings_table.h"
 #include "shell/frmMain.h"
-#include "text/top_level_domains.h"
 
 namespace tolvo {
-
-namespace {
-
-void useWordOptions(frmMain &session, const QStringList &extensions, bool fullDomainList) {
-    session.services().extensions.setUserExtensions(extensions);
-    session.oTextMethods.setTopLevelDomains(fullDomainList ? longTopLevelDomains() : shortTopLevelDomains());
-}
-
-} // namespace
 
 ProgramOptions presentOptions(const frmMain &session) {
     const FileExtensions &extensions = session.services().extensions;
@@ -32,13 +20,7 @@ void applyOptions(frmMain &session, const ProgramOptions &options) {
         session.imgWordwrap_Click();
     saveOptions(session.services().store, options);
     session.bSounds = options.sounds;
-    useWordOptions(session, options.extensions, options.fullDomainList);
-}
-
-void loadWordOptions(frmMain &session) {
-    const SettingsStore &store = session.services().store;
-    useWordOptions(session, readList(store, QStringLiteral("Preferences\\UserFileExtensions")),
-                   toFlag(readSetting(store, u"Preferences", u"TLD_Full")));
+    session.readTextPreferences();
 }
 
 } // namespace tolvo

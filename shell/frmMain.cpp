@@ -75,7 +75,7 @@ CSearch &frmMain::oSearch() {
 }
 
 void frmMain::warn(const QString &text, const QString &title) {
-    ++m_warnings;
+    noteWarning();
     m_services.boxes.show({.text = text, .icon = BoxIcon::Exclamation, .title = title});
 }
 

@@ -83,8 +83,9 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     [[nodiscard]] SearchHost &searchHost() { return *this; }
     [[nodiscard]] const SessionServices &services() const { return m_services; }
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
-    /// The number of warnings that the text engine has shown so far.
+    /// How often a tool has warned of something or refused its text so far.
     [[nodiscard]] int warnings() const { return m_warnings; }
+    void noteWarning() { ++m_warnings; }
 
     [[nodiscard]] TextState textState();
     void pushUndo() { oUndo.Push(textState()); }

@@ -65,8 +65,10 @@ void refuse(frmMain &session, const ToolRow &row, bool selected) {
     const bool tell = row.refusal.when == SortRefusal::Always || !selected;
     if (!tell || row.refusal.statusToo)
         session.setStatus(QString::fromUtf16(row.status.text));
-    if (tell)
+    if (tell) {
         session.say(QString::fromUtf16(row.refusal.message));
+        session.noteWarning();
+    }
 }
 
 void runTextOperation(frmMain &session, const ToolRow &row, const TextOperation &operation) {

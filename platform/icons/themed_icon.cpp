@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/icons/themed_icon.h"
 
+#include "platform/icons/painted_icon.h"
+
 #include <QFile>
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -11,38 +12,20 @@ namespace tolvo {
 
 namespace {
 
-class ThemedIconEngine : public QIconEngine {
-  public:
-    explicit ThemedIconEngine(QByteArray svg) : m_svg(std::move(svg)) {}
-
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
-        const QPalette palette = QGuiApplication::palette();
-        const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QColor text = mode == QIcon::Selected ? palette.color(QPalette::HighlightedText)
-                                                    : palette.color(group, QPalette::WindowText);
-        const QColor second = mode == QIcon::Normal || mode == QIcon::Active ? accent(palette) : text;
-        QByteArray svg = m_svg;
-        svg.replace("currentColor", text.name().toLatin1()).replace("accentColor", second.name().toLatin1());
-        QSvgRenderer renderer(svg);
-        const int side = qMin(rect.width(), rect.height());
-        QRect square(0, 0, side, side);
-        square.moveCenter(rect.center());
-        renderer.render(painter, square);
-    }
-
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
-    }
-
-    [[nodiscard]] QIconEngine *clone() const override { return new ThemedIconEngine(m_svg); }
-
-  private:
-    QByteArray m_svg;
-};
+void paintThemed(QPainter &painter, const QRect &rect, QIcon::Mode mode, const QByteArray &file) {
+    const QPalette palette = QGuiApplication::palette();
+    const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const QColor text =
+        palette.color(group, mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText);
+    const bool plain = mode == QIcon::Normal || mode == QIcon::Active;
+    const QColor second = plain ? accent(palette) : text;
+    QByteArray svg = file;
+    svg.replace("currentColor", text.name().toLatin1()).replace("accentColor", second.name().toLatin1());
+    const int side = qMin(rect.width(), rect.height());
+    QRect square(0, 0, side, side);
+    square.moveCenter(rect.center());
+    QSvgRenderer(svg).render(&painter, square);
+}
 
 } // namespace
 
@@ -58,7 +41,9 @@ QIcon themedIcon(const QString &name) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    return QIcon(new ThemedIconEngine(file.readAll()));
+    return paintedIcon([svg = file.readAll()](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
+        paintThemed(painter, rect, mode, svg);
+    });
 }
 
 } // namespace tolvo

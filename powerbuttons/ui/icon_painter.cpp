@@ -1,37 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/ui/icon_painter.h"
 
+#include "platform/icons/painted_icon.h"
+
 #include <QFontMetricsF>
-#include <QIconEngine>
-#include <QPixmap>
 #include <algorithm>
 #include <cmath>
 
 namespace tolvo {
-
-namespace {
-
-class ButtonIconEngine : public QIconEngine {
-  public:
-    explicit ButtonIconEngine(ButtonIcon icon) : m_icon(std::move(icon)) {}
-
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override {
-        paintIcon(*painter, rect, m_icon);
-    }
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
-    }
-    [[nodiscard]] QIconEngine *clone() const override { return new ButtonIconEngine(m_icon); }
-
-  private:
-    ButtonIcon m_icon;
-};
-
-} // namespace
 
 QFont iconFont(const Font &font) {
     QFont result(font.name.isEmpty() ? defaultIconFont() : font.name);
@@ -62,7 +38,8 @@ void paintIcon(QPainter &painter, const QRectF &target, const CPowerButton &butt
 }
 
 QIcon toQIcon(const ButtonIcon &icon) {
-    return QIcon(new ButtonIconEngine(icon));
+    return paintedIcon(
+        [icon](QPainter &painter, const QRect &rect, QIcon::Mode) { paintIcon(painter, rect, icon); });
 }
 
 QPointF centredPosition(const ButtonIcon &icon) {

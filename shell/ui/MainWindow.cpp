@@ -64,7 +64,12 @@ void MainWindow::delay(int milliseconds) {
 }
 
 void MainWindow::closeEvent(QCloseEvent *event) {
-    if (m_session && !m_session->bSessionOver && !m_session->queryUnload()) {
+    bool mayGo = true;
+    if (m_session && !m_session->bSessionOver) {
+        mayGo = false;
+        m_session->guarded(u"Form_QueryUnload", [&] { mayGo = m_session->queryUnload(); });
+    }
+    if (!mayGo) {
         event->ignore();
         return;
     }

@@ -33,7 +33,6 @@ DesktopDialogs::~DesktopDialogs() = default;
 void DesktopDialogs::attach(frmMain &session) {
     m_session = &session;
     m_options.attach(session);
-    loadWordOptions(session);
 }
 
 void DesktopDialogs::unload() {

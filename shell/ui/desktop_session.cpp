@@ -68,7 +68,7 @@ void DesktopSession::takeClipboardOnceActive() {
     if (!m_clipboardPending)
         return;
     m_clipboardPending = false;
-    m_session->beginWithClipboard();
+    m_session->guarded(u"beginWithClipboard", [this] { m_session->beginWithClipboard(); });
 }
 
 void DesktopSession::showModal() {

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """From the clipboard to the clipboard: what a user does with one run of the program."""
 
+import time
 import unittest
 
 from desk import Settings, Tolvo, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text
@@ -26,6 +27,8 @@ class SessionStories(unittest.TestCase):
         run = self.start("good morning\nworld")
         run.text_becomes("good morning\nworld")
         run.click("Capitals")
+        run.find("Capitalise sentences")
+        time.sleep(0.5)  # rows take no click until the last one has slid out
         run.click("UPPER CASE")
         run.text_becomes("GOOD MORNING\nWORLD")
         run.status_becomes("19 characters: upper case")
