@@ -17,7 +17,7 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
-#include <ranges>
+#include <algorithm>
 
 namespace tolvo {
 
@@ -205,15 +205,14 @@ void dlgPickCharacter::accept() {
 }
 
 void dlgPickCharacter::rememberChosen() {
-    const QList<uint> characters = m_chosen->text().toUcs4();
-    for (const uint character : characters | std::views::reverse) {
+    QStringList remembered;
+    for (const uint character : m_chosen->text().toUcs4()) {
         const auto code = static_cast<char32_t>(character);
-        const QString text = QString::fromUcs4(&code, 1);
-        m_recent.removeAll(text);
-        m_recent.prepend(text);
+        remembered.append(QString::fromUcs4(&code, 1));
     }
-    while (m_recent.size() > columns)
-        m_recent.removeLast();
+    remembered.append(m_recent);
+    remembered.removeDuplicates();
+    m_recent = remembered.first(std::min<qsizetype>(remembered.size(), columns));
 }
 
 dlgPickCharacter::Choice dlgPickCharacter::choice() const {

@@ -134,7 +134,7 @@ bool frmPowerButton::eventFilter(QObject *watched, QEvent *event) {
     if (watched == m_name && event->type() == QEvent::FocusIn &&
         m_name->text() == CPowerButton::undefinedName())
         // Behind the mouse press that sets the caret.
-        QMetaObject::invokeMethod(m_name, &QLineEdit::selectAll, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(m_name, "selectAll", Qt::QueuedConnection);
     if (watched == m_tree && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
