@@ -67,8 +67,7 @@ class cTextMethods {
     [[nodiscard]] QString Paragraph(QStringView text) const;
     [[nodiscard]] QString Indent(QStringView text, QStringView indent) const;
     [[nodiscard]] QString Unindent(QStringView text, QStringView indent) const;
-    /// `startColumn` is added to the columns of the first line only; the handler passes a value of 0 or
-    /// below.
+    /// `startColumn` is the column, from 0, at which the first line begins; all other lines begin at 0.
     [[nodiscard]] QString Tab2space(QStringView text, int startColumn, int tabWidth) const;
     [[nodiscard]] QString Spaces2tab(QStringView text) const;
 

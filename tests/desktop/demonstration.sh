@@ -16,7 +16,7 @@ echo 'No display here: one run on a virtual X server.'
 echo '--- clipboard before'
 xclip -selection clipboard -out
 echo
-"$bin/tolvo" &
+"$bin/tolvo" 2>/dev/null &
 run=$!
 wait_for xdotool search --name '^Tolvo [0-9]'
 window=$(xdotool search --name '^Tolvo [0-9]' | head -1)

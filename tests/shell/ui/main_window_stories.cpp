@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// The main window offscreen: its size, its panel, its keys.
+#include "platform/desktop/DesktopClipboard.h"
+#include "platform/desktop/EscapeWatch.h"
+#include "platform/headless/ConsoleBoxes.h"
+#include "platform/headless/SilentSound.h"
+#include "platform/headless/SystemProcesses.h"
+#include "platform/network/NetworkHttpClient.h"
+#include "preferences/settings_table.h"
+#include "shell/ui/desktop_session.h"
+#include "shell/ui/window_size.h"
+#include "spelling/word_automation.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+using namespace tolvo;
+
+namespace {
+
+TEST(WindowSize, isKeptAboveItsSmallest) {
+    EXPECT_EQ(allowedOuterSize({8024, 5324}), QSize(8025, 5325));
+    EXPECT_EQ(allowedOuterSize({9000, 5000}), QSize(9000, 5325));
+    struct Row {
+        QPoint pointer;
+        std::optional<QSize> size;
+    };
+    // The handle stands at 7800, 4700 and is 240 high, which only the height takes in.
+    const Row rows[] = {
+        {{105, 25}, QSize(7905, 4965)}, {{104, 25}, {}}, {{105, 24}, {}}, {{400, 400}, QSize(8200, 5340)}};
+    for (const Row &row : rows)
+        EXPECT_EQ(draggedOuterSize({7800, 4700}, 240, row.pointer), row.size) << row.pointer.x();
+}
+
+/// One whole run of the program, with a user who acts once the window is there.
+class MainWindowStory : public testing::Test {
+  protected:
+    void run(const QString &clipboardText, const std::function<void()> &user) {
+        writeSetting(store, u"Preferences", u"Show Tips at Startup", QStringLiteral("0"));
+        QApplication::clipboard()->setText(clipboardText);
+        const RunServices services{store, clipboard,  boxes,    sound,   processes,
+                                   clock, extensions, programs, spelling};
+        modMain program(services,
+                        [&] { return std::make_unique<DesktopSession>(services, clipboard, escape); });
+        QTimer::singleShot(0, &escape, [&] {
+            user();
+            if (QWidget *left = window(); left && left->isVisible()) {
+                ADD_FAILURE() << "the user forgot to close";
+                QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
+            }
+        });
+        EXPECT_EQ(program.Main(), 0);
+    }
+    static QWidget *window() {
+        for (QWidget *top : QApplication::topLevelWidgets()) {
+            if (top->objectName() == QLatin1StringView("frmMain"))
+                return top;
+        }
+        return nullptr;
+    }
+    template <class Control>
+    static Control *control(const QString &name) {
+        return window()->findChild<Control *>(name);
+    }
+    static QPlainTextEdit *text() {
+        auto *plain = control<QPlainTextEdit>(QStringLiteral("txtText1"));
+        return plain->isVisible() ? plain : control<QPlainTextEdit>(QStringLiteral("txtTextWW"));
+    }
+    static QString status() { return control<QLabel>(QStringLiteral("labStatus"))->text(); }
+    static void clickRow(int row, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(control<QAbstractButton>(QStringLiteral("lblToolbox_%1").arg(row)), button);
+    }
+    static QString pasted() { return QApplication::clipboard()->text(); }
+
+    const QString programs = QString::fromLocal8Bit(qgetenv("TOLVO_BIN"));
+    SettingsStore store{QStringLiteral(":memory:")};
+    DesktopClipboard clipboard;
+    RecordingBoxes boxes;
+    SilentSound sound;
+    RecordingProcesses processes;
+    Clock clock;
+    FileExtensions extensions;
+    EscapeWatch escape;
+    NetworkHttpClient http;
+    NoWordAutomation word;
+    SpellingServices spelling{store, boxes, http, word, programs, programs};
+};
+
+TEST_F(MainWindowStory, aCategoryOpensAndItsToolRuns) {
+    run(QStringLiteral("one\ntwo"), [] {
+        clickRow(1); // returns when the rows have slid out
+        EXPECT_EQ(control<QAbstractButton>(QStringLiteral("lblToolbox_2"))->accessibleName(),
+                  QStringLiteral("UPPER CASE"));
+        clickRow(2);
+        EXPECT_EQ(status(), QStringLiteral("8 characters: upper case"));
+        EXPECT_TRUE(control<QAbstractButton>(QStringLiteral("cmdUndo"))->isEnabled());
+        control<QAbstractButton>(QStringLiteral("cmdClose"))->click();
+    });
+    EXPECT_EQ(pasted(), QStringLiteral("ONE\nTWO"));
+    EXPECT_EQ(sound.waves.size(), 1); // scrbar.wav as the rows slid out
+    EXPECT_EQ(sound.beeps, 1);
+}
+
+TEST_F(MainWindowStory, keysReachTheTextInBothBoxes) {
+    run(QStringLiteral("abc"), [] {
+        QTest::keyClick(text(), Qt::Key_U, Qt::ControlModifier);
+        QTest::keyClick(text(), Qt::Key_W, Qt::AltModifier);
+        EXPECT_EQ(text()->objectName(), QStringLiteral("txtTextWW"));
+        EXPECT_EQ(status(), QStringLiteral("Word wrap now ON"));
+        QTest::keyClick(text(), Qt::Key_U, Qt::ControlModifier);
+        QTest::keyClicks(text(), QStringLiteral("-"));
+        QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
+    });
+    EXPECT_EQ(pasted(), QStringLiteral("AB-c"));
+    EXPECT_EQ(readSetting(store, u"Preferences", u"Wordwrap"), QStringLiteral("1"));
+}
+
+TEST_F(MainWindowStory, theRightButtonRunsAToolWithItsLastSettings) {
+    writeSetting(store, u"Indent", u"Option", QStringLiteral("Spaces"));
+    run(QStringLiteral("x"), [] {
+        QTest::mouseClick(control<QAbstractButton>(QStringLiteral("imgFavourites_0")), Qt::RightButton);
+        EXPECT_EQ(status(), QStringLiteral("Indent increased"));
+        QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
+    });
+    EXPECT_EQ(pasted(), QStringLiteral("    x"));
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
