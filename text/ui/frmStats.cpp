@@ -14,7 +14,8 @@ namespace tolvo {
 namespace {
 
 void addRow(QTreeWidget *list, const QStringList &cells, bool bold) {
-    auto *row = new QTreeWidgetItem(list, cells);
+    auto *row = new QTreeWidgetItem(cells);
+    list->addTopLevelItem(row);
     QFont font = list->font();
     font.setBold(bold);
     for (int column = 0; column < list->columnCount(); ++column) {
