@@ -107,7 +107,11 @@ TEST_F(Dialogs, WalkThroughAText) {
         correction.selectAll();
         QTest::keyClicks(&correction, u("is"));
         press(window, "cmdChangeAll");
-        EXPECT_FALSE(window.isVisible());
+        EXPECT_FALSE(window.isVisible())
+            << said().join(u("/")).toStdString()
+            << find<QPlainTextEdit>(window, "rtbText").toPlainText().left(400).toStdString()
+            << find<QPlainTextEdit>(window, "rtbText").textCursor().position()
+            << mistake(window).toStdString() << find<QLineEdit>(window, "txtCorrection").text().toStdString();
     });
     EXPECT_EQ(result, u("teh fox\rthe dog, zqx there helo is"));
     EXPECT_EQ(fileContents(dictionaries() + u("/persdict.dat")), "helo\r\n");
@@ -169,6 +173,43 @@ TEST_F(Dialogs, KeepALongTextAndItsErrorInView) {
         keepPicture(window, "dlgSpelling-long");
         press(window, "cmdStop");
     });
+}
+
+TEST_F(Dialogs, WalkALongTextWithARealDictionary) {
+    for (const char *name : {"/en_GB.aff", "/en_GB.dic"})
+        QFile::remove(dictionaries() + u(name)); // the system's is next
+    if (!findDictionary(u("en-gb"), dictionaryFolders(services.programFolder)))
+        GTEST_SKIP() << "no British dictionary on this system";
+    const QString text = u("He has recieved the seperate parcels, Recieved teh rest later.\r").repeated(1000);
+    const QString result = check(text.toUtf8().constData(), [](QWidget &window) {
+        EXPECT_EQ(mistake(window), u("recieved"));
+        EXPECT_EQ(find<QLineEdit>(window, "txtCorrection").text(), u("received"));
+        find<QAbstractButton>(window, "chkSmartReplace").click();
+        press(window, "cmdChangeAll");
+        EXPECT_EQ(mistake(window), u("seperate"));
+        press(window, "cmdIgnoreAll");
+        EXPECT_EQ(mistake(window), u("teh"));
+        auto &correction = find<QLineEdit>(window, "txtCorrection");
+        correction.selectAll();
+        QTest::keyClicks(&correction, u("the"));
+        for (int change = 0; change < 3; ++change) {
+            press(window, "cmdChange");
+            EXPECT_EQ(mistake(window), u("teh"));
+            correction.setText(u("the"));
+        }
+        keepPicture(window, "dlgSpelling-real");
+        press(window, "cmdUndo"); // the last change was one that the walk made by itself
+        EXPECT_EQ(mistake(window), u("Recieved"));
+        press(window, "cmdIgnore");
+        correction.setText(u("the"));
+        press(window, "cmdChangeAll");
+        EXPECT_FALSE(window.isVisible());
+    });
+    QString expected = text;
+    expected.replace(u("recieved"), u("received")).replace(u("Recieved"), u("Received"));
+    expected.replace(u("teh"), u("the"));
+    expected.replace(expected.indexOf(u("Received"), 3 * expected.indexOf(u'\r')), 8, u("Recieved"));
+    EXPECT_TRUE(result == expected) << result.left(300).toStdString();
 }
 
 TEST_F(Dialogs, MarkReadablyOnADarkBackground) {
