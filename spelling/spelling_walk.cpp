@@ -4,25 +4,13 @@
 #include "base/application.h"
 #include "base/code_page.h"
 #include "base/conversions.h"
-#include "base/failure.h"
-#include "platform/message_box.h"
 #include "preferences/settings_store.h"
 #include "spelling/languages.h"
 #include "text/cTextMethods.h"
 
-#include <utility>
-
 namespace tolvo {
 
 namespace {
-
-QString moreRow() {
-    return QStringLiteral("<More...>");
-}
-
-QString omitRow() {
-    return QStringLiteral("<Omit>");
-}
 
 QString repeatedWord() {
     return QStringLiteral("(Repeated word)");
@@ -164,7 +152,7 @@ void ErrorWalk::offerSuggestions(const CSpellingError &error) {
                 oMoreSuggestions += suggestion;
         }
         if (!oMoreSuggestions.isEmpty())
-            list += moreRow();
+            list += moreSuggestionsRow();
     }
     select(0);
 }
@@ -223,173 +211,6 @@ void ErrorWalk::ReplaceAt(qsizetype start, qsizetype length, const QString &repl
 void ErrorWalk::PushUndo() {
     m_undo.append(UndoRecord{m_text.state(), m_current, m_offset, oErrors, oChangeAll});
     m_controls.cmdUndoEnabled = true;
-}
-
-void ErrorWalk::goOn() {
-    ++m_current;
-    ShowNextError(true);
-}
-
-void ErrorWalk::replaceAndGoOn() {
-    ReplaceCurrent();
-    goOn();
-}
-
-bool ErrorWalk::isOmitted(const QString &text) const {
-    return text == omitRow() || text.isEmpty();
-}
-
-void ErrorWalk::cmdIgnore() {
-    if (m_over)
-        return;
-    const CSpellingError &error = current();
-    if (error.TextStart() > 0)
-        m_text.mark(errorStart(), errorLength(), Mark::Plain);
-    const QString word = toUpper(error.ErrorText());
-    if (!oIgnore.contains(word))
-        oIgnore.insert(word, QStringLiteral("one"));
-    goOn();
-}
-
-void ErrorWalk::cmdIgnoreAll() {
-    if (m_over)
-        return;
-    oIgnore.insert(toUpper(current().ErrorText()), QStringLiteral("all"));
-    cmdIgnore();
-}
-
-void ErrorWalk::cmdAddToDic() {
-    if (m_over)
-        return;
-    oSpelling->AddToCustomDic(m_controls.labMistake);
-    cmdIgnoreAll();
-}
-
-void ErrorWalk::cmdChange() {
-    if (m_over)
-        return;
-    const QString word = m_controls.txtCorrection;
-    if (isOmitted(word))
-        cmdDelete();
-    else if (oSpelling->Spell(word, false))
-        replaceAndCheckAgain();
-    else
-        replaceAndGoOn();
-}
-
-void ErrorWalk::cmdChangeAll() {
-    if (m_over)
-        return;
-    const QString replacement = m_controls.txtCorrection;
-    if (replacement == omitRow()) {
-        cmdDelete();
-        return;
-    }
-    const QString word = current().ErrorText();
-    const bool misspelt = oSpelling->Spell(replacement, false);
-    if (misspelt) {
-        const Box question{.text = u'\'' + replacement + QStringLiteral("' may contain misspellings.\r\n") +
-                                   QStringLiteral("Do you really want to change all instances of '") + word +
-                                   QStringLiteral("'?"),
-                           .icon = BoxIcon::Question,
-                           .buttons = BoxButtons::YesNo};
-        if (m_services.boxes.show(question) != BoxAnswer::Yes)
-            return;
-    }
-    oChangeAll.insert(toUpper(word), replacement);
-    if (misspelt)
-        replaceAndCheckAgain();
-    else
-        replaceAndGoOn();
-}
-
-/// A replacement that the provider doubts: the whole corrected text is checked anew, and the walk starts
-/// again at its first error, unless that lies behind the place where the caret was.
-void ErrorWalk::replaceAndCheckAgain() {
-    const qsizetype place = m_caret;
-    ReplaceCurrent();
-    bool found = false;
-    try {
-        found = oSpelling->Spell(m_text.text());
-    } catch (const Failure &) {
-        goOn(); // the replacement stands; its error must not be replaced again
-        throw;
-    }
-    if (!found) {
-        goOn();
-        return;
-    }
-    oErrors = oSpelling->SpellingErrors();
-    m_current = 1;
-    while (m_current <= oErrors.Count() && current().TextStart() > place)
-        ++m_current;
-    m_offset = 0;
-    ShowNextError(true);
-}
-
-void ErrorWalk::cmdDelete() {
-    if (m_over)
-        return;
-    PushUndo();
-    m_controls.cmdDeleteEnabled = false;
-    const qsizetype start = errorStart();
-    const QString &text = m_text.text();
-    qsizetype end = start + errorLength();
-    while (end < text.size() && text[end] == u' ')
-        ++end;
-    ReplaceAt(start, end - start, {});
-    goOn();
-}
-
-void ErrorWalk::cmdUndo() {
-    if (m_over || m_undo.isEmpty())
-        return;
-    const UndoRecord record = m_undo.takeLast();
-    m_text.restore(record.text);
-    m_current = record.current;
-    m_offset = record.offset;
-    oErrors = record.errors;
-    oChangeAll = record.changeAll;
-    m_controls.cmdUndoEnabled = !m_undo.isEmpty();
-    ShowNextError(false);
-}
-
-void ErrorWalk::cmdCancel() {
-    m_cancelled = true;
-    m_over = true;
-}
-
-void ErrorWalk::clickSuggestion(int row) {
-    QStringList &list = m_controls.lstSuggestions;
-    if (row < 0 || row >= list.size())
-        return;
-    m_controls.selectedSuggestion = row;
-    m_justExpanded = list[row] == moreRow();
-    if (!m_justExpanded) {
-        setCorrection(list[row]);
-        return;
-    }
-    list.removeAt(row);
-    for (const QString &suggestion : std::as_const(oMoreSuggestions))
-        list.insert(row++, suggestion);
-    oMoreSuggestions.clear();
-}
-
-void ErrorWalk::doubleClickSuggestion(int row) {
-    if (m_over || row < 0 || row >= m_controls.lstSuggestions.size())
-        return;
-    // The first half of a double click on "<More...>" has put a suggestion there that nobody has seen yet.
-    if (std::exchange(m_justExpanded, false))
-        return;
-    if (m_controls.lstSuggestions[row] == moreRow()) {
-        clickSuggestion(row);
-        return;
-    }
-    setCorrection(m_controls.lstSuggestions[row]);
-    if (isOmitted(m_controls.txtCorrection))
-        cmdDelete();
-    else
-        replaceAndGoOn();
 }
 
 } // namespace tolvo

@@ -16,6 +16,11 @@
 
 namespace tolvo {
 
+/// The row that stands for suggestions held back.
+[[nodiscard]] inline QString moreSuggestionsRow() {
+    return QStringLiteral("<More...>");
+}
+
 /// What the controls show, and which of them can be used.
 struct WalkControls {
     QString caption;

@@ -142,7 +142,7 @@ void dlgSpelling::connectEntry() {
     connect(lstSuggestions, &QListWidget::itemClicked, this, click);
     // The arrow keys choose a row as a click does; a row that opens more waits for a click or Enter.
     connect(lstSuggestions, &QListWidget::currentItemChanged, this, [this, click](QListWidgetItem *item) {
-        if (item && !m_refreshing && item->text() != QStringLiteral("<More...>"))
+        if (item && !m_refreshing && item->text() != moreSuggestionsRow())
             click(item);
     });
     connect(lstSuggestions, &QListWidget::itemDoubleClicked, this, [this, row](QListWidgetItem *item) {

@@ -252,11 +252,6 @@ TEST_F(OverTheNetwork, SendsTheRepairedTextPercentEncoded) {
     EXPECT_EQ(keys.size(), 2);
 }
 
-TEST_F(OverTheNetwork, TakesTheAnswer) {
-    server.answer = tolvo::test::http("<results>" + error("teh", "spelling", "a", {"the"}) + "</results>");
-    EXPECT_EQ(ask(u("a teh")), QStringList(u("teh 2-5 1 the")));
-}
-
 TEST_F(OverTheNetwork, FailsInWords) {
     const QStringList silent{u("5007 After the Deadline did not respond. Please try again later' "
                                "(CSpelling::Spell)")};

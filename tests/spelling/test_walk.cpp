@@ -109,15 +109,6 @@ TEST_F(Walk, IgnoresAWordEverywhere) {
     EXPECT_EQ(mistake(), u("helo"));
 }
 
-TEST_F(Walk, AddsToThePersonalDictionary) {
-    ASSERT_TRUE(start("a zqx xzj zqx"));
-    walk.cmdAddToDic();
-    EXPECT_EQ(mistake(), u("xzj"));
-    walk.cmdIgnore();
-    EXPECT_EQ(mistake(), u("(over)"));
-    EXPECT_EQ(fileContents(dictionaries() + u("/persdict.dat")), "zqx\r\n");
-}
-
 TEST_F(Walk, ChangesAWordEverywhere) {
     for (const bool smart : {false, true}) {
         walk.setSmartReplace(smart);

@@ -70,31 +70,6 @@ TEST_F(Places, OfAPhrase) {
     }
 }
 
-TEST(ErrorList, ReplacesAnItemOfTheSameText) {
-    const auto error = [](const char *text, qsizetype start) {
-        const auto item = std::make_shared<CSpellingError>();
-        item->init(u(text), start, start + 1, 1);
-        return item;
-    };
-    CSpellingErrors list;
-    list.Add(u("z"), 9, 10, 1);
-    EXPECT_EQ(list.AddItem(error("a", 0), 1), 0);
-    EXPECT_EQ(list.AddItem(error("b", 1), 2), 0);
-    const CSpellingErrors copy = list;
-    EXPECT_EQ(list.AddItem(error("a", 2), 3), 1);
-    EXPECT_EQ(SpellingWorld::told(list), QStringList({u("b 1-2 1"), u("z 9-10 1"), u("a 2-3 1")}));
-    EXPECT_EQ(copy.Count(), 3);
-    EXPECT_EQ(copy.Item(1).TextStart(), 0);
-    EXPECT_TRUE(list.Exists(u("a")));
-    EXPECT_FALSE(list.Exists(u("z"))); // added without a key
-    EXPECT_THROW((void)list.Item(4), Failure);
-    EXPECT_THROW(list.Remove(u("z")), Failure);
-    list.Remove(u("a"));
-    EXPECT_FALSE(list.Exists(u("a")));
-    list.RemoveAll();
-    EXPECT_EQ(list.Count(), 0);
-}
-
 TEST(SuggestionList, IsMadeOnceWhenItIsLookedAt) {
     int made = 0;
     CSpellingSuggestions list([&made](CSpellingSuggestions &self) {

@@ -4,8 +4,6 @@
 #include "../spelling_world.h"
 #include "spelling/ui/MarkedTextView.h"
 #include "spelling/ui/dlgDicQuickList.h"
-#include "spelling/ui/dlgHunspellLanguage.h"
-#include "spelling/ui/dlgReadDicsProgress.h"
 #include "spelling/ui/dlgSpellLanguage.h"
 #include "spelling/ui/dlgSpelling.h"
 
@@ -159,22 +157,6 @@ TEST_F(Dialogs, ReportAFailureAndGoOn) {
               u("a fox"));
 }
 
-TEST_F(Dialogs, KeepALongTextAndItsErrorInView) {
-    QString text = u("the quick brown fox\r").repeated(3000) + u("\u2028odd\tteh ") + u("x").repeated(3000);
-    check(text.toUtf8().constData(), [](QWidget &window) {
-        auto &view = find<QPlainTextEdit>(window, "rtbText");
-        press(window, "cmdIgnore");
-        EXPECT_EQ(mistake(window), u("teh"));
-        EXPECT_TRUE(view.viewport()->rect().contains(view.cursorRect().center()));
-        EXPECT_EQ(view.textCursor().position(), 60005);
-        EXPECT_GT(view.height(), window.height() / 3);
-        press(window, "cmdIgnore");
-        EXPECT_LT(window.width(), 2000);
-        keepPicture(window, "dlgSpelling-long");
-        press(window, "cmdStop");
-    });
-}
-
 TEST_F(Dialogs, WalkALongTextWithARealDictionary) {
     for (const char *name : {"/en_GB.aff", "/en_GB.dic"})
         QFile::remove(dictionaries() + u(name)); // the system's is next
@@ -217,12 +199,13 @@ TEST_F(Dialogs, MarkReadablyOnADarkBackground) {
     QPalette palette;
     palette.setColor(QPalette::Base, Qt::white);
     view.setPalette(palette);
-    MarkedText text(u("a teh fox"));
-    text.mark(2, 3, Mark::Mistake);
-    view.showText(text, 2);
+    MarkedText text(u("\r\u2028 \u2029a teh fox"));
+    text.mark(6, 3, Mark::Mistake);
+    view.showText(text, 6);
+    EXPECT_EQ(view.textCursor().position(), 6);
     const auto colour = [&view] {
         QTextCursor cursor(view.document());
-        cursor.setPosition(4);
+        cursor.setPosition(8);
         return cursor.charFormat().foreground().color();
     };
     EXPECT_EQ(colour(), QColor(255, 0, 0));
@@ -269,6 +252,13 @@ TEST_F(Dialogs, AskForTheLanguage) {
     whenOpen([](QWidget &window) {
         EXPECT_EQ(find<QLabel>(window, "labProvider").text(), u("Provider: Hunspell"));
         EXPECT_EQ(find<QComboBox>(window, "cmbQuickList").currentText(), u("English (GB) - en-gb"));
+        whenOpen([](QWidget &list) {
+            EXPECT_EQ(find<QTreeWidget>(list, "lvwHunspellLangs").topLevelItem(0)->text(1),
+                      u("English (UK)"));
+            keepPicture(list, "dlgHunspellLanguage");
+            press(list, "cmdOK");
+        });
+        press(window, "imgBrowse");
         press(window, "OKButton");
     });
     EXPECT_NE(dialogList.GetLangID(-2, false), -2);
@@ -307,28 +297,6 @@ TEST_F(Dialogs, TellWhyWordsLanguagesCannotBeRead) {
     word.installed = false;
     EXPECT_FALSE(window.doGetDicListFromWord([] { return false; }));
     EXPECT_EQ(said(), QStringList(u("Microsoft Word must be installed to check spelling and grammar")));
-    dlgReadDicsProgress progress;
-    whenOpen([](QWidget &pages) {
-        press(pages, "cmdNext");
-        EXPECT_TRUE(find<QAbstractButton>(pages, "cmdFinish").isEnabled());
-        keepPicture(pages, "dlgReadDicsProgress-failed");
-        press(pages, "cmdFinish");
-    });
-    progress.ShowMe([](const std::function<bool()> &) { return false; });
-    whenOpen([](QWidget &pages) { press(pages, "cmdCancel"); });
-    progress.ShowMe([](const std::function<bool()> &) { return true; });
-    EXPECT_TRUE(progress.Cancel());
-}
-
-TEST_F(Dialogs, ListHunspellsLanguages) {
-    dlgHunspellLanguage window(store);
-    whenOpen([](QWidget &list) {
-        const QTreeWidgetItem *row = find<QTreeWidget>(list, "lvwHunspellLangs").topLevelItem(0);
-        EXPECT_EQ(row->text(0) + row->text(1) + row->text(2), u("en-gbEnglish (UK)English (UK)"));
-        keepPicture(list, "dlgHunspellLanguage");
-        press(list, "cmdOK");
-    });
-    EXPECT_EQ(window.exec(), int(QDialog::Accepted));
 }
 
 } // namespace tolvo::test
