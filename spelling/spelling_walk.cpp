@@ -33,7 +33,8 @@ bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
     m_controls.caption =
         QStringLiteral("Spelling and Grammar - ") + LanguageList(m_services.store).langFromID(LangID);
     m_current = 1;
-    m_offset = 0;
+    m_shifts.clear();
+    m_offset = {};
     m_host.setStatus(QStringLiteral("Checking. Please wait..."));
     m_host.processEvents();
 
@@ -63,7 +64,21 @@ void ErrorWalk::end() {
 }
 
 qsizetype ErrorWalk::errorStart() const {
-    return m_current <= oErrors.Count() ? current().TextStart() + m_offset : m_caret;
+    return m_current <= oErrors.Count() ? placeOf(current()) : m_caret;
+}
+
+/// Where an error of the checked text stands now. Errors come in the order of the text as a rule; one that
+/// doesn't is moved by the changes in front of it alone.
+qsizetype ErrorWalk::placeOf(const CSpellingError &error) const {
+    const qsizetype start = error.TextStart();
+    if (start >= m_offset.furthest)
+        return start + m_offset.sum;
+    qsizetype place = start;
+    for (qsizetype i = m_offset.first; i < m_offset.count; ++i) {
+        if (m_shifts[i].start < start)
+            place += m_shifts[i].added;
+    }
+    return place;
 }
 
 qsizetype ErrorWalk::errorLength() const {
@@ -114,7 +129,7 @@ void ErrorWalk::markError(const CSpellingError &error) {
         m_caret = 1;
         return;
     }
-    m_text.mark(error.TextStart() + m_offset, error.length(), Mark::Mistake);
+    m_text.mark(placeOf(error), error.length(), Mark::Mistake);
     m_caret = error.TextStart();
 }
 
@@ -123,7 +138,7 @@ void ErrorWalk::offerNothing(const CSpellingError &error) {
     setCorrection(error.ErrorText());
     setChangeEnabled(false);
     QStringList &list = m_controls.lstSuggestions;
-    if (equalsIgnoringCase(PreviousWord(error.TextStart() + m_offset), error.ErrorText())) {
+    if (equalsIgnoringCase(PreviousWord(placeOf(error)), error.ErrorText())) {
         list += repeatedWord();
         m_controls.cmdDeleteEnabled = true;
     } else if (!error.Description.isEmpty() && error.errorType != spellingErrorType::notInDictionary) {
@@ -205,7 +220,14 @@ void ErrorWalk::ReplaceCurrent() {
 
 void ErrorWalk::ReplaceAt(qsizetype start, qsizetype length, const QString &replacement) {
     m_text.replace(start, length, replacement, Mark::Replaced);
-    m_offset += replacement.size() - length;
+    noteShift(current().TextStart(), replacement.size() - length);
+}
+
+void ErrorWalk::noteShift(qsizetype start, qsizetype added) {
+    m_shifts.append(Shift{start, added});
+    ++m_offset.count;
+    m_offset.sum += added;
+    m_offset.furthest = qMax(m_offset.furthest, start);
 }
 
 void ErrorWalk::PushUndo() {

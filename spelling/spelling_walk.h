@@ -76,14 +76,27 @@ class ErrorWalk {
     void doubleClickSuggestion(int row);
 
   private:
+    /// What a change at a place of the checked text has added to its length.
+    struct Shift {
+        qsizetype start;
+        qsizetype added;
+    };
+    /// All changes of the present list of errors.
+    struct Shifts {
+        qsizetype first = 0;     ///< the first of them in m_shifts
+        qsizetype count = 0;     ///< the size of m_shifts
+        qsizetype sum = 0;       ///< all that they have added
+        qsizetype furthest = -1; ///< the greatest of their places
+    };
     struct UndoRecord {
         qsizetype text; ///< state of the marked text
         qsizetype current;
-        qsizetype offset;
+        Shifts shifts;
         CSpellingErrors errors;
         QHash<QString, QString> changeAll;
     };
 
+    [[nodiscard]] qsizetype placeOf(const CSpellingError &error) const;
     void ShowNextError(bool useChangeAll);
     [[nodiscard]] bool passOver(const CSpellingError &error, bool useChangeAll);
     void markError(const CSpellingError &error);
@@ -95,6 +108,7 @@ class ErrorWalk {
     [[nodiscard]] QString PreviousWord(qsizetype position) const;
     void ReplaceCurrent();
     void ReplaceAt(qsizetype start, qsizetype length, const QString &replacement);
+    void noteShift(qsizetype start, qsizetype added);
     void PushUndo();
     void goOn();
     void replaceAndGoOn();
@@ -107,7 +121,8 @@ class ErrorWalk {
     std::unique_ptr<CSpelling> oSpelling;
     CSpellingErrors oErrors;
     qsizetype m_current = 1; ///< index of the current error, from 1
-    qsizetype m_offset = 0;  ///< what the changes so far have added to the text's length
+    Shifts m_offset;         ///< iOffset
+    QList<Shift> m_shifts;
     QHash<QString, QString> oIgnore;
     QHash<QString, QString> oChangeAll;
     QStringList oMoreSuggestions;

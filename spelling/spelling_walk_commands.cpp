@@ -116,7 +116,7 @@ void ErrorWalk::replaceAndCheckAgain() {
     m_current = 1;
     while (m_current <= oErrors.Count() && current().TextStart() > place)
         ++m_current;
-    m_offset = 0;
+    m_offset = {.first = m_shifts.size(), .count = m_shifts.size()};
     ShowNextError(true);
 }
 
@@ -140,7 +140,8 @@ void ErrorWalk::cmdUndo() {
     const UndoRecord record = m_undo.takeLast();
     m_text.restore(record.text);
     m_current = record.current;
-    m_offset = record.offset;
+    m_offset = record.shifts;
+    m_shifts.resize(m_offset.count);
     oErrors = record.errors;
     oChangeAll = record.changeAll;
     m_controls.cmdUndoEnabled = !m_undo.isEmpty();

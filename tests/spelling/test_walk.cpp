@@ -45,14 +45,10 @@ class Walk : public SpellingWorld {
     ErrorWalk walk{services, *this};
 };
 
-TEST_F(Walk, ShowsNothingWithoutErrors) {
-    EXPECT_FALSE(start("the quick fox"));
-    EXPECT_TRUE(walk.isOver());
-    EXPECT_EQ(status, QStringList(u("Checking. Please wait...")));
-}
-
 TEST_F(Walk, ShowsAnError) {
     store.SaveSetting(u("Tolvo"), u("Spelling"), u("DictionaryList"), u("British|English|2057"));
+    EXPECT_FALSE(start("the quick fox"));
+    EXPECT_EQ(std::exchange(status, {}), QStringList(u("Checking. Please wait...")));
     ASSERT_TRUE(start("the teh", 2057));
     EXPECT_EQ(walk.controls().caption, u("Spelling and Grammar - British"));
     EXPECT_EQ(walk.controls().labErrorType, u("Not in dictionary:"));
@@ -222,6 +218,18 @@ TEST_F(Walk, HoldsBackLocalSuggestions) {
     ASSERT_TRUE(start("a teh fox"));
     EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("the")));
     EXPECT_EQ(enabled(), u("CA--"));
+}
+
+TEST_F(Walk, ChangesTheRightPlaceOfAnErrorOutOfOrder) {
+    service("fox", "grammar", "a", "<option>dog</option>");
+    ASSERT_TRUE(start("zqx xzj zqx a fox")); // the local error at 8 comes last
+    change("the");
+    change("hello");
+    EXPECT_EQ(picture(), u("zqx {the} [zqx] a {hello}"));
+    walk.cmdUndo();
+    change("a");
+    change("there");
+    EXPECT_EQ(picture(), u("zqx {the} {there} a {a}"));
 }
 
 TEST_F(Walk, GoesOnWhenAServiceFailsInTheMiddle) {
