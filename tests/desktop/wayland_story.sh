@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# One run on Wayland: the text comes in, Copy and Close, and it can be pasted after the end. A compositor stands as a
+# window on a virtual X server, so that real keys reach it.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+if [ "${1:-}" != inside ]; then exec "$here/on_display.sh" "$0" inside; fi
+for program in weston wl-copy wl-paste; do
+    command -v $program >/dev/null || { echo "SKIPPED: $program is not installed"; exit 0; }
+done
+store=$(mktemp -d)
+printf '[core]\nidle-time=0\n[shell]\nlocking=false\npanel-position=none\n' >"$store/weston.ini"
+trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$store"' EXIT
+fail() { echo "FAILED: $*"; cat "$store/weston.log"; exit 1; }
+wait_for() { for _ in $(seq 150); do "$@" >/dev/null 2>&1 && return 0; sleep 0.1; done; fail "waited in vain: $*"; }
+
+export WAYLAND_DISPLAY=tolvo-wayland
+weston --backend=x11-backend.so --use-pixman --config="$store/weston.ini" --socket="$WAYLAND_DISPLAY" --width=1100 \
+    --height=800 >"$store/weston.log" 2>&1 &
+wait_for test -S "$XDG_RUNTIME_DIR/$WAYLAND_DISPLAY"
+screen_id() { xwininfo -root -tree | awk '/[Ww]eston/ { print $1; exit }'; }
+wait_for bash -c 'xwininfo -root -tree | grep -qi weston'
+screen=$(screen_id)
+[ -n "$screen" ] || fail "the compositor has no window"
+xdotool windowfocus "$screen"
+
+printf 'words from wayland' | wl-copy
+export TOLVO_SETTINGS=$store/settings.sqlite XDG_DATA_HOME=$store
+"$TOLVO_BIN/../tests/store_tool" "$TOLVO_SETTINGS" write Tolvo Preferences "Show Tips at Startup" 0
+QT_QPA_PLATFORM=wayland "$TOLVO_BIN/tolvo" >"$store/tolvo.log" 2>&1 &
+run=$!
+sleep 3
+xdotool windowfocus "$screen" key --delay 100 ctrl+a ctrl+u
+sleep 0.5
+xdotool key alt+d
+for _ in $(seq 100); do kill -0 "$run" 2>/dev/null || break; sleep 0.1; done
+kill -0 "$run" 2>/dev/null && fail "the run did not end: $(cat "$store/tolvo.log")"
+wait "$run" || fail "the run ended with $?: $(cat "$store/tolvo.log")"
+pasted=$(timeout 10 wl-paste --no-newline || true)
+[ "$pasted" = "WORDS FROM WAYLAND" ] || fail "pasted: '$pasted' $(cat "$store/tolvo.log")"
+echo "passed: '$pasted' pasted after the end"
