@@ -233,7 +233,11 @@ void frmSearch::run(const std::function<void()> &command) {
         m_controls.cmbReplaceText->show(m_form.recentReplaces, m_form.replace);
         m_controls.cmbSearchText->show(m_form.recentFinds, m_form.find);
     }
+    const bool wasActive = isActiveWindow();
     command();
+    // Behind the list of results the window manager may have chosen another window.
+    if (wasActive)
+        activateWindow();
     resumeList();
 }
 
