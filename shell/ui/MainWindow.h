@@ -65,6 +65,7 @@ class MainWindow : public QWidget {
                         std::function<void()> clicked);
     void arrangeTabOrder();
     void showElidedStatus();
+    bool leaveTextBox(const QKeyEvent &event);
     bool keyPressed(const QKeyEvent &event, bool inTextBox);
 
     frmMain *m_session = nullptr;

@@ -91,6 +91,15 @@ bool MainWindow::keyPressed(const QKeyEvent &event, bool inTextBox) {
     return m_keys->formKeyPress(typed) || (inTextBox && m_keys->textKeyPress(typed));
 }
 
+/// The Tab key types a tab into the text; with Ctrl it goes on to the next control, with Shift too to the one
+/// before.
+bool MainWindow::leaveTextBox(const QKeyEvent &event) {
+    const bool forward = event.key() == Qt::Key_Tab;
+    if (!event.modifiers().testFlag(Qt::ControlModifier) || (!forward && event.key() != Qt::Key_Backtab))
+        return false;
+    return focusNextPrevChild(forward);
+}
+
 void MainWindow::keyPressEvent(QKeyEvent *event) {
     // Keys that the control with the focus has no use for; the text box's own have been asked for already.
     if (m_session && !m_session->bSessionOver && keyPressed(*event, false))
@@ -103,7 +112,8 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event) {
         return QWidget::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::KeyPress:
-        if (keyPressed(*static_cast<QKeyEvent *>(event), watched == &shownTextBox()))
+        if (leaveTextBox(*static_cast<QKeyEvent *>(event)) ||
+            keyPressed(*static_cast<QKeyEvent *>(event), watched == &shownTextBox()))
             return true;
         break;
     case QEvent::KeyRelease:
