@@ -9,7 +9,7 @@ import sqlite3
 import subprocess
 import tempfile
 import time
-
+import unittest
 import warnings
 
 import gi
@@ -18,8 +18,9 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
 PROGRAMS = os.environ["TOLVO_BIN"]
+FIELD = Atspi.Role.TEXT
 warnings.simplefilter("ignore", DeprecationWarning)
-PATIENCE = 15.0
+PATIENCE = float(os.environ.get("TOLVO_PATIENCE", "15"))
 
 
 def wait_for(condition, what, patience=PATIENCE):
@@ -37,8 +38,9 @@ def wait_for(condition, what, patience=PATIENCE):
 
 
 def keys(*names):
+    """Presses keys, one after the other; a name may hold several, parted by blanks, that go down in one stroke."""
     for name in names:
-        subprocess.run(["xdotool", "key", "--clearmodifiers", name], check=True)
+        subprocess.run(["xdotool", "key", "--clearmodifiers", *name.split()], check=True)
         time.sleep(0.05)
 
 
@@ -101,6 +103,7 @@ class Tolvo:
     def __init__(self, settings, wait=True, **environment):
         self.settings = settings
         self.scale = int(environment.get("QT_SCALE_FACTOR", "1"))
+        self._text = None
         self.process = subprocess.Popen([os.path.join(PROGRAMS, "tolvo")], env={**settings.environment(), **environment},
                                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         if wait:
@@ -116,44 +119,120 @@ class Tolvo:
         return None
 
     def window(self):
-        return wait_for(lambda: self._named(lambda n: n.get_role() == Atspi.Role.FRAME), "the main window")
+        return wait_for(lambda: next(w for w in self.windows() if w.get_name().startswith("Tolvo ")), "the main window")
 
     def find(self, name, role=None):
-        """The showing control of an accessible name."""
+        """The showing control of an accessible name, in the active window before all others."""
         return wait_for(lambda: self._named(lambda n: n.get_name() == name and (role is None or n.get_role() == role) and
                                             n.get_state_set().contains(Atspi.StateType.SHOWING)),
                         f"a control named {name!r}")
+
+    def windows(self):
+        """The showing windows, the active one first."""
+        application = self.accessible()
+        children = [application.get_child_at_index(i) for i in range(application.get_child_count())] if application else []
+        showing = [c for c in children if c and c.get_state_set().contains(Atspi.StateType.SHOWING)]
+        return sorted(showing, key=lambda w: not w.get_state_set().contains(Atspi.StateType.ACTIVE))
+
+    def active(self, title):
+        """Waits until the window whose title begins so has the keyboard."""
+        return wait_for(lambda: next(w for w in self.windows() if w.get_name().startswith(title) and
+                                     w.get_state_set().contains(Atspi.StateType.ACTIVE)), f"the window {title!r}")
+
+    def main_is_active(self):
+        wait_for(lambda: len(self.windows()) == 1 and self.windows()[0].get_state_set().contains(Atspi.StateType.ACTIVE),
+                 "the main window alone")
 
     def shows(self, name):
         return self._named(lambda n: n.get_name() == name and
                            n.get_state_set().contains(Atspi.StateType.SHOWING)) is not None
 
-    def _named(self, matches):
-        application = self.accessible()
-        queue = [application] if application else []
-        while queue:
-            node = queue.pop(0)
-            if matches(node):
-                return node
-            queue += [c for c in (node.get_child_at_index(i) for i in range(node.get_child_count())) if c]
+    def _named(self, matches, windows=None):
+        for window in windows or self.windows():
+            queue = [window]
+            while queue:
+                node = queue.pop(0)
+                if matches(node):
+                    return node
+                queue += [c for c in (node.get_child_at_index(i) for i in range(node.get_child_count())) if c]
         return None
 
-    def click(self, name, button=1, role=None):
-        self.click_on(self.find(name, role), button)
+    def click(self, name, button=1, role=None, times=1):
+        """Clicks a control, given by its name or by a function that finds it."""
+        def control():
+            return self.find(name, role) if isinstance(name, str) else name()
 
-    def click_on(self, control, button=1):
-        """Clicks the middle of a control; the bus tells places without the scale of the screen."""
+        def still():
+            # Controls may take another name while the panel moves, so they are found afresh.
+            before = self.middle(control())
+            time.sleep(0.15)
+            return self.middle(control()) == before
+
+        wait_for(still, f"{name!r} to stand still")
+        self.click_on(control(), button, times)
+
+    def middle(self, control):
         area = control.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        x, y = ((area.x + area.width // 2) * self.scale, (area.y + area.height // 2) * self.scale)
-        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)], check=True)
+        return (area.x + area.width // 2) * self.scale, (area.y + area.height // 2) * self.scale
+
+    def click_on(self, control, button=1, times=1):
+        """Clicks the middle of a control; the bus tells places without the scale of the screen."""
+        x, y = self.middle(control)
+        subprocess.run(["xdotool", "mousemove", "--sync", str(x), str(y), "click", "--repeat", str(times), "--delay", "40",
+                        str(button)], check=True)
         time.sleep(0.15)
+
+    def rows(self, role=Atspi.Role.LIST_ITEM):
+        """The rows of the list in the active window."""
+        found = []
+        self._named(lambda n: n.get_role() == role and found.append(n))
+        return found
+
+    def tool(self, group, name, button=1):
+        """Clicks a tool of the panel, its group first if that is closed."""
+        if not self.shows(name):
+            self.click(group)
+        self.click(name, button)
+
+    def text_node(self, name="Text"):
+        if not (self._text and self._text.get_state_set().contains(Atspi.StateType.SHOWING)):
+            self._text = wait_for(lambda: next(n for n in [self._named(
+                lambda n: n.get_name() == name and n.get_role() == Atspi.Role.TEXT and
+                n.get_state_set().contains(Atspi.StateType.SHOWING))] if n), "the text area")
+        return self._text
 
     def text(self):
         """What the text area shows, lines by LF."""
-        node = wait_for(lambda: self._named(lambda n: n.get_name() == "Text" and n.get_role() == Atspi.Role.TEXT and
-                                            n.get_state_set().contains(Atspi.StateType.SHOWING)), "the text area")
-        text = node.get_text_iface()
+        text = self.text_node().get_text_iface()
         return Atspi.Text.get_text(text, 0, Atspi.Text.get_character_count(text))
+
+    def picture(self):
+        """The text with its selection between « and », a bare caret as ¦."""
+        node = self.text_node().get_text_iface()
+        text = self.text()
+        if Atspi.Text.get_n_selections(node):
+            chosen = Atspi.Text.get_selection(node, 0)
+            return text[:chosen.start_offset] + "«" + text[chosen.start_offset:chosen.end_offset] + "»" + \
+                text[chosen.end_offset:]
+        caret = Atspi.Text.get_caret_offset(node)
+        return text[:caret] + "¦" + text[caret:]
+
+    def picture_becomes(self, picture):
+        try:
+            wait_for(lambda: self.picture() == picture, "")
+        except AssertionError:
+            raise AssertionError(f"waited in vain for {picture!r}, it is {self.picture()!r}") from None
+
+    def place(self, picture):
+        """Brings text and selection about: by the clipboard and with the arrow keys."""
+        start, end = (picture.index("¦"),) * 2 if "¦" in picture else (picture.index("«"), picture.index("»") - 1)
+        text = picture.translate({ord(c): None for c in "«»¦"})
+        set_clipboard(text)
+        keys("alt+f")
+        self.text_becomes(text)
+        self.status_becomes("Text retrieved from clipboard")
+        keys(" ".join(["ctrl+Home"] + ["Right"] * start + ["shift+Right"] * (end - start)))
+        self.picture_becomes(picture)
 
     def text_becomes(self, text):
         wait_for(lambda: self.text() == text, f"the text {text[:60]!r}, it is {self.text()[:60]!r}")
@@ -162,9 +241,13 @@ class Tolvo:
         wait_for(lambda: self.shows(text), f"the status {text!r}")
 
     def box_says(self, text):
-        """Waits for a message box or a dialog with a text that begins so."""
-        wait_for(lambda: self._named(lambda n: n.get_name().startswith(text) or
-                                     (n.get_description() or "").startswith(text)), f"a box: {text!r}")
+        """Waits for a message box or a dialog that has the keyboard, with a text that begins so."""
+        def said():
+            window = self.windows()[0]
+            return window.get_state_set().contains(Atspi.StateType.ACTIVE) and self._named(
+                lambda n: n.get_name().startswith(text) or (n.get_description() or "").startswith(text), [window])
+
+        wait_for(said, f"a box: {text!r}")
 
     def ends(self, code=0, patience=PATIENCE):
         try:
@@ -192,3 +275,22 @@ def parent_of(process):
             return int(file.read().rsplit(")", 1)[1].split()[1])
     except (OSError, ValueError):
         return 0
+
+
+class Story(unittest.TestCase):
+    """Stories of one user: a store without tips, and runs that end with the story."""
+
+    def setUp(self):
+        self.settings = Settings()
+        self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "0")
+        self.runs = []
+
+    def tearDown(self):
+        for run in self.runs:
+            run.kill()
+        self.settings.close()
+
+    def start(self, clipboard, wait=True, **environment):
+        set_clipboard(clipboard)
+        self.runs.append(Tolvo(self.settings, wait, **environment))
+        return self.runs[-1]

@@ -4,25 +4,10 @@
 import time
 import unittest
 
-from desk import Settings, Tolvo, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text
+from desk import Story, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text
 
 
-class SessionStories(unittest.TestCase):
-    def setUp(self):
-        self.settings = Settings()
-        self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "0")
-        self.runs = []
-
-    def tearDown(self):
-        for run in self.runs:
-            run.kill()
-        self.settings.close()
-
-    def start(self, clipboard, wait=True, **environment):
-        set_clipboard(clipboard)
-        self.runs.append(Tolvo(self.settings, wait, **environment))
-        return self.runs[-1]
-
+class SessionStories(Story):
     def test_text_goes_in_and_comes_out_after_the_end(self):
         run = self.start("good morning\nworld")
         run.text_becomes("good morning\nworld")
