@@ -30,6 +30,12 @@ frmSearch::frmSearch(CSearch &oSearch, SearchHost &host, SettingsStore &store, M
     showForm();
 }
 
+frmSearch::~frmSearch() {
+    // The lists lose the focus as they go, when there is no window left that could remember it.
+    for (SearchListEdit *list : {m_controls.cmbSearchText, m_controls.cmbReplaceText})
+        list->disconnect(this);
+}
+
 void frmSearch::connectControls() {
     SearchControls &c = m_controls;
     connect(c.TabStrip1, &QTabBar::currentChanged, this, [this](int index) {

@@ -19,6 +19,7 @@ class frmSearch final : public QDialog {
 
   public:
     frmSearch(CSearch &oSearch, SearchHost &host, SettingsStore &store, MessageBoxes &boxes, QWidget *parent);
+    ~frmSearch() override;
 
     void setSearchText(const QString &text);
     [[nodiscard]] QString searchText() const;
