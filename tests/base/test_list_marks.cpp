@@ -10,56 +10,24 @@ using namespace tolvo;
 
 namespace {
 
-struct Case {
-    const char16_t *line;
-    const char16_t *number = nullptr; ///< none: no mark
-    int length = 0;
-    int tenths = 0;
-};
-
-void expectMarks(std::optional<ListMark> (*parse)(QStringView), std::initializer_list<Case> cases) {
-    for (const Case &c : cases) {
-        const auto mark = parse(c.line);
-        ASSERT_EQ(mark.has_value(), c.number != nullptr) << shown(c.line);
-        if (!mark)
-            continue;
-        EXPECT_EQ(mark->number, QStringView(c.number));
-        EXPECT_EQ(mark->length, c.length) << shown(c.line);
-        EXPECT_EQ(mark->tenths, c.tenths) << shown(c.line);
+/// Examples "line→number length tenths"; nothing behind the arrow: no mark.
+void expectMarks(std::optional<ListMark> (*parse)(QStringView), std::initializer_list<QStringView> examples) {
+    for (const QStringView example : examples) {
+        const qsizetype arrow = example.indexOf(u'→');
+        const auto mark = parse(example.first(arrow));
+        const QString found =
+            mark ? QString("%1 %2 %3").arg(mark->number).arg(mark->length).arg(mark->tenths) : "";
+        EXPECT_EQ(found, example.sliced(arrow + 1)) << shown(example);
     }
 }
 
-TEST(ListMarks, ofDecimalNumbers) {
-    expectMarks(ParseDecimalMark, {{u"12. Item", u"12", 3, 5},
-                                   {u"12 apples", u"12", 3, 3},
-                                   {u"137) x", u"137", 4, 3},
-                                   {u"(4) x", u"4", 3, 5},
-                                   {u"1.2.3 x", u"1.2.3", 6, 3},
-                                   {u"1.2.3. x", u"1.2.3", 6, 5},
-                                   {u"7\tx", u"7", 2, 5},
-                                   {u"12.", u"12", 3, 5},
-                                   {u"(4. x"},
-                                   {u"12"},
-                                   {u"12a"},
-                                   {u"1,2 x"},
-                                   {u" 1. x"},
-                                   {u"("},
-                                   {u""}});
-}
-
-TEST(ListMarks, ofRomanNumerals) {
-    expectMarks(ParseRomanMark, {{u"(iv) x", u"iv", 4, 5},
-                                 {u"(II) x", u"ii", 4, 9},
-                                 {u"x. y", u"x", 2, 7},
-                                 {u"MIX) it", u"mix", 4, 3},
-                                 {u"i.", u"i", 2, 3},
-                                 {u"iii\tz", u"iii", 4, 7},
-                                 {u"i said"},
-                                 {u"(i. x"},
-                                 {u"iiii. x"},
-                                 {u"ivxlcdm"},
-                                 {u"()"},
-                                 {u""}});
+TEST(ListMarks, areNumbersAndNumerals) {
+    expectMarks(ParseDecimalMark, {u"12. Item→12 3 5", u"12 apples→12 3 3", u"137) x→137 4 3", u"(4) x→4 3 5",
+                                   u"1.2.3 x→1.2.3 6 3", u"1.2.3. x→1.2.3 6 5", u"7\tx→7 2 5", u"12.→12 3 5",
+                                   u"(4. x→", u"12→", u"12a→", u"1,2 x→", u" 1. x→", u"(→", u"→"});
+    expectMarks(ParseRomanMark,
+                {u"(iv) x→iv 4 5", u"(II) x→ii 4 9", u"x. y→x 2 7", u"MIX) it→mix 4 3", u"i.→i 2 3",
+                 u"iii\tz→iii 4 7", u"i said→", u"(i. x→", u"iiii. x→", u"ivxlcdm→", u"()→", u"→"});
 }
 
 TEST(ListMarks, romanNumeralsAreTold) {

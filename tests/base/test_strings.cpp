@@ -13,7 +13,7 @@ using namespace tolvo;
 namespace {
 
 TEST(Strings, areParsedFieldByField) {
-    QString rest = QStringLiteral(" a , b, ");
+    QString rest = u" a , b, "_qs;
     EXPECT_EQ(parse(rest, u','), u"a");
     EXPECT_EQ(rest, u" b, ");
     EXPECT_EQ(parse(rest, u','), u"b");
@@ -47,69 +47,43 @@ TEST(Strings, areCutByPosition) {
     EXPECT_EQ(lastIndexOf(u"aaa", u"aa", Qt::CaseSensitive), 2);
     EXPECT_EQ(lastIndexOf(u"aBab", u"AB", Qt::CaseInsensitive), 3);
     EXPECT_EQ(lastIndexOf(u"abc", u"x", Qt::CaseSensitive), 0);
-    EXPECT_EQ(IndexInList(QStringLiteral("b"), {QStringLiteral("a"), QStringLiteral("b")}), 1);
-    EXPECT_EQ(IndexInList(QStringLiteral("B"), {QStringLiteral("b")}), -1);
 }
 
 TEST(Strings, areSplitAtCrLfAlone) {
-    const auto split = [](const char16_t *text) {
-        QStringList lines;
-        for (const QStringView line : splitLines(text))
-            lines.append(line.toString());
-        return lines;
-    };
-    EXPECT_TRUE(split(u"").isEmpty());
-    EXPECT_EQ(split(u"a\r\n"), QStringList({QStringLiteral("a"), QString(QLatin1StringView(""))}));
-    EXPECT_EQ(split(u"a\nb\rc\r\r\nd"), QStringList({QStringLiteral("a\nb\rc\r"), QStringLiteral("d")}));
+    EXPECT_TRUE(splitLines(u"").isEmpty());
+    EXPECT_EQ(splitLines(u"a\r\n"), (QList<QStringView>{u"a", u""}));
+    EXPECT_EQ(splitLines(u"a\nb\rc\r\r\nd"), (QList<QStringView>{u"a\nb\rc\r", u"d"}));
 }
 
 TEST(Strings, fillTemplates) {
-    EXPECT_EQ(FillTemplate(QStringLiteral("%1 of %0, %10"), {QStringLiteral("a"), QStringLiteral("b")}),
-              u"b of a, b0");
-    const QString one = QStringLiteral("one %1");
-    const QString many = QStringLiteral("%1 in %2");
-    EXPECT_EQ(FillCountedTemplate(one, many, true, {QStringLiteral("5")}), u"one %1");
-    EXPECT_EQ(FillCountedTemplate(one, many, false, {QStringLiteral("5"), QStringLiteral("x")}), u"5 in x");
+    EXPECT_EQ(FillTemplate("%1 of %0, %10", {"a", "b"}), u"b of a, b0");
+    EXPECT_EQ(FillCountedTemplate("one %1", "%1 in %2", true, {"5"}), u"one %1");
+    EXPECT_EQ(FillCountedTemplate("one %1", "%1 in %2", false, {"5", "x"}), u"5 in x");
 }
 
 TEST(Params, areThePairsOfASettingsString) {
-    struct Case {
-        const char *settings;
-        const char *key;
-        const char *value;
-    };
-    for (const Case &c : {Case{"Mode=1, Find=abc, MatchCase=0", "Find", "abc"},
-                          {"a=1, a=2", "a", "1"},
-                          {"a = 1", "a", " 1"},
-                          {"a=1,b=2", "a", "1,b=2"},
-                          {"a=1 , b=2", "a", "1 "},
-                          {"Find=a, b, MatchCase=1", "b", ""},
-                          {"Find=a, b, MatchCase=1", "MatchCase", "1"},
-                          {"Find=x=y", "Find", "x=y"},
-                          {"Find=\"q\"", "Find", "\"q\""},
-                          {"Find=a, MatchCase=1, MatchCase=0", "MatchCase", "1"},
-                          {"Mode=1", "mode", ""},
-                          {"", "Mode", ""}})
-        EXPECT_EQ(CParams(QString::fromLatin1(c.settings)).arg(QString::fromLatin1(c.key)),
-                  QLatin1StringView(c.value))
-            << c.settings;
-    EXPECT_TRUE(CParams(QStringLiteral("Find=, b")).contains(QStringLiteral("b")));
-    EXPECT_FALSE(CParams(QStringLiteral("Find=, b")).contains(QStringLiteral("c")));
+    // A settings string, a key, its value
+    for (const char *example :
+         {"Mode=1, Find=abc, MatchCase=0→Find→abc", "a=1, a=2→a→1", "a = 1→a→ 1", "a=1,b=2→a→1,b=2",
+          "a=1 , b=2→a→1 ", "Find=a, b, MatchCase=1→b→", "Find=a, b, MatchCase=1→MatchCase→1",
+          "Find=x=y→Find→x=y", "Find=\"q\"→Find→\"q\"", "Mode=1→mode→", "→Mode→"}) {
+        const QStringList parts = QString(example).split(u'→');
+        EXPECT_EQ(CParams(parts[0]).arg(parts[1]), parts[2]) << example;
+    }
+    EXPECT_TRUE(CParams(u"Find=, b"_qs).contains(u"b"_qs));
+    EXPECT_FALSE(CParams(u"Find=, b"_qs).contains(u"c"_qs));
 }
 
 TEST(Paths, areTakenApart) {
-    EXPECT_EQ(sAppPath(QStringLiteral("C:\\x"), u'\\'), u"C:\\x\\");
-    EXPECT_EQ(sAppPath(QStringLiteral("C:\\"), u'\\'), u"C:\\");
-    EXPECT_EQ(fnLeaf(QStringLiteral("C:\\a\\b.txt")), u"b.txt");
-    EXPECT_EQ(fnLeaf(QStringLiteral("b.txt")), u"b.txt");
+    EXPECT_EQ(sAppPath(u"C:\\x"_qs, u'\\'), u"C:\\x\\");
+    EXPECT_EQ(sAppPath(u"C:\\"_qs, u'\\'), u"C:\\");
+    EXPECT_EQ(fnLeaf(u"C:\\a\\b.txt"_qs), u"b.txt");
+    EXPECT_EQ(fnLeaf(u"b.txt"_qs), u"b.txt");
     for (const auto &[name, extension] :
-         std::initializer_list<std::pair<const char16_t *, const char16_t *>>{{u"report.final.txt", u"txt"},
-                                                                              {u"readme", u""},
-                                                                              {u"a.txt|b", u"txt"},
-                                                                              {u"a.", u""},
-                                                                              {u"a.b c", u"b"},
-                                                                              {u"a.\"b", u""}})
+         {std::pair(u"report.final.txt", u"txt"), {u"a.txt|b", u"txt"}, {u"a.b c", u"b"}})
         EXPECT_EQ(fnExtension(name), QStringView(extension));
+    for (const char16_t *name : {u"readme", u"a.", u"a.\"b"})
+        EXPECT_EQ(fnExtension(name), QStringView(u""));
     QByteArray bytes("\n  \n one \r\n\ntwo");
     QBuffer file(&bytes);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));

@@ -40,18 +40,16 @@ TEST_F(Numbering, numbersLinesAndOutlines) {
         const char16_t *expected;
         int start = 1;
     };
-    for (const Case &c : {
-             Case{0, 0, u"a||b|  |c", u"1.\ta||2.\tb|  |3.\tc"},
-             {0, 4, u"a| more|b|", u"1.  a|     more|2.  b|"},
-             {3, 0, u"a|\tmore|b", u"iv.\ta|\t\tmore|v.\tb", 4},
-             {5, 0, u"a|\tb|\tc|d", u"1.\ta|\t1.1.\tb|\t1.2.\tc|2.\td"},
-             {5, 0, u"a|\tb|c|\td", u"1.\ta|\t1.1.\tb|2.\tc|\t2.1.\td"},
-             {5, 0, u"a|\t\tb|\tc|", u"3.\ta|\t\t3.0.1.\tb|\t3.1.\tc|", 3},
-             {5, 4, u"a|    b|\tc| d ", u"1.  a|    1.1.b|    1.2.c|2.  d"},
-             {5, -1, u"a| b", u"1a| 1b"},
-             {99, 0, u"a", u"1.\ta"},
-             {0, 0, u"", u""},
-         })
+    for (const Case &c : {Case{0, 0, u"a||b|  |c", u"1.\ta||2.\tb|  |3.\tc"},
+                          {0, 4, u"a| more|b|", u"1.  a|     more|2.  b|"},
+                          {3, 0, u"a|\tmore|b", u"iv.\ta|\t\tmore|v.\tb", 4},
+                          {5, 0, u"a|\tb|\tc|d", u"1.\ta|\t1.1.\tb|\t1.2.\tc|2.\td"},
+                          {5, 0, u"a|\tb|c|\td", u"1.\ta|\t1.1.\tb|2.\tc|\t2.1.\td"},
+                          {5, 0, u"a|\t\tb|\tc|", u"3.\ta|\t\t3.0.1.\tb|\t3.1.\tc|", 3},
+                          {5, 4, u"a|    b|\tc| d ", u"1.  a|    1.1.b|    1.2.c|2.  d"},
+                          {5, -1, u"a| b", u"1a| 1b"},
+                          {99, 0, u"a", u"1.\ta"},
+                          {0, 0, u"", u""}})
         EXPECT_EQ(engine.number(lines(c.text), c.start, c.style, 1, c.spaces == 0, c.spaces),
                   lines(c.expected));
 }
@@ -80,47 +78,30 @@ TEST_F(Numbering, numbersLinesOfAListing) {
           {u"", u""}})
         EXPECT_EQ(engine.LineNumber(lines(c.text), c.start, c.step, c.every, c.blankLines, c.pad, c.right),
                   lines(c.expected));
-    const QString listing =
-        engine.LineNumber(QStringLiteral("x\r\n").repeated(119) + u'x', 1, 1, 1, true, true, true);
+    const QString listing = engine.LineNumber(u"x\r\n"_qs.repeated(119) + u'x', 1, 1, 1, true, true, true);
     EXPECT_TRUE(listing.startsWith(u"  1 x\r\n  2 x\r\n"));
     EXPECT_TRUE(listing.endsWith(u"\r\n120 x"));
 }
 
 TEST_F(Numbering, takesMarksOff) {
-    struct Case {
-        const char16_t *text;
-        const char16_t *expected;
-    };
-    for (const Case &c : {Case{u"12. Item", u"Item"},
-                          {u"12 apples", u"apples"},
-                          {u"  (4)\tItem|\t1.2.3. x", u"  Item|\tx"},
-                          {u"12", u"12"},
-                          {u"12.", u""},
-                          {u"1.. )2", u")2"},
-                          {u"i. said so", u"i. said so"},
-                          {u"i. a|ii. b|iii. c", u"a|b|c"},
-                          {u"i. a||  ii. b|iii. c|", u"a||  b|c|"},
-                          {u"i. a||ii. b||||iii. c", u"a||b||||c"},
-                          {u"x. y", u"y"},
-                          {u"mix) it|words", u"mix) it|words"},
-                          {u"mix) it|ii) words|i) more", u"it|words|more"},
-                          {u"i. a|mix. b|word|i. c", u"a|b|word|i. c"},
-                          {u"(iv) x", u"x"},
-                          {u"i said|ivxlcdm", u"i said|ivxlcdm"},
-                          {u"", u""}})
-        EXPECT_EQ(engine.removeNumbers(lines(c.text)), lines(c.expected));
-    for (const Case &c :
-         {Case{u"- * item", u"* item"}, {u"\t\u2022 a| \u00B7b|c|-5", u"\ta| b|c|5"}, {u"-|*- ", u"|"}})
-        EXPECT_EQ(engine.removeBullets(lines(c.text)), lines(c.expected));
-    for (const Case &c : {Case{u"  1 a| 10   b|   c|12|\t3", u"a|b|c||\t3"}, {u"  | 1", u"  |"}})
-        EXPECT_EQ(engine.RemoveLineNumbers(lines(c.text)), lines(c.expected));
+    expectExamples([this](QStringView text) { return engine.removeNumbers(text); },
+                   {u"12. Item→Item", u"12 apples→apples", u"  (4)\tItem|\t1.2.3. x→  Item|\tx", u"12→12",
+                    u"12.→", u"1.. )2→)2", u"i. said so→i. said so", u"i. a|ii. b|iii. c→a|b|c",
+                    u"i. a||  ii. b|iii. c|→a||  b|c|", u"i. a||ii. b||||iii. c→a||b||||c", u"x. y→y",
+                    u"mix) it|words→mix) it|words", u"mix) it|ii) words|i) more→it|words|more",
+                    u"i. a|mix. b|word|i. c→a|b|word|i. c", u"(iv) x→x", u"i said|ivxlcdm→i said|ivxlcdm",
+                    u"→"});
+    expectExamples([this](QStringView text) { return engine.removeBullets(text); },
+                   {u"- * item→* item", u"\t\u2022 a| \u00B7b|c|-5→\ta| b|c|5", u"-|*- →|"});
+    expectExamples([this](QStringView text) { return engine.RemoveLineNumbers(text); },
+                   {u"  1 a| 10   b|   c|12|\t3→a|b|c||\t3", u"  | 1→  |"});
 }
 
 TEST_F(Numbering, givesTheTextBack) {
     QStringList plain;
     for (int i = 0; i < 60; ++i)
-        plain.append(QStringLiteral("Entry of a list"));
-    const QString text = plain.join(QStringLiteral("\r\n"));
+        plain.append(u"Entry of a list"_qs);
+    const QString text = plain.join(u"\r\n"_qs);
     for (int style : {0, 3, 4, 5}) {
         for (const bool tab : {false, true})
             EXPECT_EQ(engine.removeNumbers(engine.number(text, 1, style, 1, tab, 12)), text) << style;

@@ -16,12 +16,12 @@ QStringList guests() {
                          lines(u"|"),
                          lines(u"|||"),
                          lines(u"a|b"),
-                         QStringLiteral("a\rb\nc"),
+                         u"a\rb\nc"_qs,
                          QString(QChar(0xD800)),
-                         QStringLiteral("x") + QChar(0xDC00) + u'.',
+                         u"x"_qs + QChar(0xDC00) + u'.',
                          QString(QChar(0)),
-                         QStringLiteral(" "),
-                         QStringLiteral("'")};
+                         u" "_qs,
+                         u"'"_qs};
     for (const char16_t *unit : {u"a",   u" ",  u"a\r\n", u".",  u"(",    u"]",  u"'",  u"\"",  u"&#", u"&#1",
                                  u"%41", u"\t", u"\r",    u"\n", u"\r\n", u"a'", u"1.", u"mc-", u"…",  u"i "})
         texts += QString::fromUtf16(unit).repeated(1 + 20000 / QStringView(unit).size());

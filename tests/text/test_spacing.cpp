@@ -8,33 +8,23 @@ namespace {
 
 using Spacing = Engine;
 
-struct Case {
-    QString (cTextMethods::*tool)(QStringView) const;
-    const char16_t *text;
-    const char16_t *expected;
-};
-
 TEST_F(Spacing, examples) {
-    constexpr auto trail = &cTextMethods::TrimTrail;
-    constexpr auto both = &cTextMethods::TrimWhiteSpace;
-    constexpr auto single = &cTextMethods::SingleSpace;
-    constexpr auto toTabs = &cTextMethods::Spaces2tab;
-    constexpr auto regular = &cTextMethods::RegularEOL;
-    for (const Case &c : {
-             Case{trail, u" a \t|\u00A0|b\r|", u" a||b|"},
-             {trail, u"a ", u"a"},
-             {&cTextMethods::LTrimWhiteSpace, u" ||\t\u00A0a |", u"a |"},
-             {both, u"\t\u00A0 | a b\u00A0|", u"|a b|"},
-             {&cTextMethods::TrimStopChars, u".a.?)]} ,;:!", u".a.?)]} "},
-             {&cTextMethods::TrimQuotes, u"\"‘a'b”’", u"a'b"},
-             {single, u"  a   b  ", u"  a b"},
-             {single, u"\u00A0\u00A0a\u00A0b|  |", u"  a b||"},
-             {single, u"a \t  \t b\t", u"a\t\tb"},
-             {toTabs, u"a   b c  |  ", u"a\tb c\t|\t"},
-             {regular, u"a\rb\nc|d\r", u"a|b|c|d"},
-             {regular, u"\n\r\r\n\r\r", u"||||"},
-         })
-        EXPECT_EQ((engine.*c.tool)(lines(c.text)), lines(c.expected));
+    const auto expect = [this](QString (cTextMethods::*tool)(QStringView) const,
+                               std::initializer_list<const char16_t *> examples) {
+        expectExamples([this, tool](QStringView text) { return (engine.*tool)(text); }, examples);
+    };
+    expect(&cTextMethods::TrimTrail, {u" a \t|\u00A0|b\r|→ a||b|", u"a →a"});
+    expect(&cTextMethods::LTrimWhiteSpace, {u" ||\t\u00A0a |→a |"});
+    expect(&cTextMethods::TrimWhiteSpace, {u"\t\u00A0 | a b\u00A0|→|a b|"});
+    expect(&cTextMethods::TrimStopChars, {u".a.?)]} ,;:!→.a.?)]} "});
+    expect(&cTextMethods::TrimQuotes, {u"\"‘a'b”’→a'b"});
+    expect(&cTextMethods::SingleSpace,
+           {u"  a   b  →  a b", u"\u00A0\u00A0a\u00A0b|  |→  a b||", u"a \t  \t b\t→a\t\tb"});
+    expect(&cTextMethods::Spaces2tab, {u"a   b c  |  →a\tb c\t|\t"});
+    expect(&cTextMethods::RegularEOL, {u"a\rb\nc|d\r→a|b|c|d", u"\n\r\r\n\r\r→||||"});
+    expect(&cTextMethods::Paragraph,
+           {u"a  |b|c→a b c", u"a|||| b|c|→a|| b c|", u"a|* b|- c|\td|e→a|* b|- c|\td e",
+            u"1. a|b|iv) c|d|mix it|up→1. a|b iv) c|d mix it up", u"12|a→12 a", u"|a| |b→a|b", u"→"});
 }
 
 TEST_F(Spacing, indents) {
@@ -56,21 +46,6 @@ TEST_F(Spacing, removesBlankLines) {
                   lines(row.three));
     }
     EXPECT_EQ(engine.removeExtraLines(lines(u"a|b|"), false, false), lines(u"a|b"));
-}
-
-TEST_F(Spacing, joinsLinesOfParagraphs) {
-    constexpr auto joined = &cTextMethods::Paragraph;
-    for (const Case &c : {
-             Case{joined, u"a  |b|c", u"a b c"},
-             {joined, u"a|||| b|c|", u"a|| b c|"},
-             {joined, u"a|* b|- c|\td|e", u"a|* b|- c|\td e"},
-             {joined, u"1. a|b|iv) c|d|mix it|up", u"1. a|b iv) c|d mix it up"},
-             {joined, u"12|a", u"12 a"},
-             {joined, u"|a| |b", u"a|b"},
-             {joined, u"", u""},
-         })
-        EXPECT_EQ((engine.*c.tool)(lines(c.text)), lines(c.expected))
-            << testing::PrintToString(lines(c.text));
 }
 
 TEST_F(Spacing, tabsToSpaces) {

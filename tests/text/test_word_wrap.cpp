@@ -21,23 +21,22 @@ struct Case {
 };
 
 TEST_F(WordWrap, breaksLinesAtBlanks) {
-    for (const Case &c : {
-             Case{20, u"aaaa bbbb cccc dddd eeee ", u"aaaa bbbb cccc dddd|eeee"},
-             {12, u"short|text ", u"short|text"},
-             {12, u"short text|", u"short text|"},
-             {12, u"", u""},
-             {12, u"a  b   c", u"a  b   c"},
-             {12, u"  ab c", u"ab c"},
-             {12, u"aaaaaaaaaaaa b", u"|aaaaaaaaaaaa|b"},
-             {12, u"a bbbbbbbbbbbbbbb c d", u"a|bbbbbbbbbbbbbbb|c d"},
-             {12, u"a\tb ccc", u"a\tb|ccc"},
-             {12, u"aaaaaaaaa \tb c", u"aaaaaaaaa |\tb c"},
-             {12, u"aaaa bbbb cccc dddd eeee", u"aaaa bbbb|\tcccc|\tdddd|\teeee", true},
-             {13, u"aaaa bbbb cccc dddd|e ", u"aaaa bbbb|        cccc|        dddd|e", true, false},
-             // Behind the last blank everything is one word, line ends included.
-             {12, u"aaaa bb|c|d", u"aaaa|bb|c|d"},
-             {12, u"aaaa|bbbbbbbbbbbbbbbbbbbbbb", u"|aaaa|bbbbbbbbbbbbbbbbbbbbbb"},
-         })
+    for (const Case &c :
+         {Case{20, u"aaaa bbbb cccc dddd eeee ", u"aaaa bbbb cccc dddd|eeee"},
+          {12, u"short|text ", u"short|text"},
+          {12, u"short text|", u"short text|"},
+          {12, u"", u""},
+          {12, u"a  b   c", u"a  b   c"},
+          {12, u"  ab c", u"ab c"},
+          {12, u"aaaaaaaaaaaa b", u"|aaaaaaaaaaaa|b"},
+          {12, u"a bbbbbbbbbbbbbbb c d", u"a|bbbbbbbbbbbbbbb|c d"},
+          {12, u"a\tb ccc", u"a\tb|ccc"},
+          {12, u"aaaaaaaaa \tb c", u"aaaaaaaaa |\tb c"},
+          {12, u"aaaa bbbb cccc dddd eeee", u"aaaa bbbb|\tcccc|\tdddd|\teeee", true},
+          {13, u"aaaa bbbb cccc dddd|e ", u"aaaa bbbb|        cccc|        dddd|e", true, false},
+          // Behind the last blank everything is one word, line ends included.
+          {12, u"aaaa bb|c|d", u"aaaa|bb|c|d"},
+          {12, u"aaaa|bbbbbbbbbbbbbbbbbbbbbb", u"|aaaa|bbbbbbbbbbbbbbbbbbbbbb"}})
         EXPECT_EQ(engine.WordWrap(lines(c.text), c.width, c.hanging, c.tab, false), lines(c.expected));
 }
 
@@ -56,9 +55,9 @@ QString wrappedStepByStep(const QString &text, int width, bool hanging, bool tab
             output += word;
             column += length;
         } else {
-            output += QStringLiteral("\r\n");
+            output += u"\r\n"_qs;
             if (hanging)
-                output += tab ? QStringLiteral("\t") : QStringLiteral("        ");
+                output += tab ? u"\t"_qs : u"        "_qs;
             output += word;
             column = (hanging ? 8 : 0) + word.size();
         }
@@ -73,10 +72,10 @@ QString wrappedStepByStep(const QString &text, int width, bool hanging, bool tab
             break;
         put(text.mid(position - 1, n - position));
         if (text.at(n - 1) == u'\t')
-            put(QStringLiteral("\t"));
+            put(u"\t"_qs);
         const bool lineEnd = text.mid(n - 1, 2) == u"\r\n";
         if (lineEnd) {
-            output += QStringLiteral("\r\n");
+            output += u"\r\n"_qs;
             column = 0;
         }
         position = n + (lineEnd ? 2 : 1);
@@ -87,9 +86,7 @@ QString wrappedStepByStep(const QString &text, int width, bool hanging, bool tab
 }
 
 QString randomText(std::mt19937 &random) {
-    static const QStringList pieces = {QStringLiteral(" "),    QStringLiteral(" "),  QStringLiteral("\t"),
-                                       QStringLiteral("\r\n"), QStringLiteral("\r"), QStringLiteral("word"),
-                                       QStringLiteral("a"),    QStringLiteral("bc"), QStringLiteral("\n")};
+    static const QStringList pieces = QString(" ~ ~\t~\r\n~\r~word~a~bc~\n").split(u'~');
     QString text;
     for (auto left = random() % 60; left > 0; --left)
         text += pieces.at(static_cast<qsizetype>(random() % 9));
@@ -117,7 +114,7 @@ qsizetype widthOnScreen(QStringView line) {
 
 TEST_F(WordWrap, justifiesAllLinesButTheRaggedOnes) {
     const QString paragraph =
-        QStringLiteral("The quick brown fox jumps over the lazy dog and runs away again and again. ");
+        u"The quick brown fox jumps over the lazy dog and runs away again and again. "_qs;
     const QString text = paragraph.repeated(3) + lines(u"A short line |") + paragraph + lines(u"|one ");
     for (const bool tab : {false, true}) {
         const QString wrapped = engine.WordWrap(text, 33, true, tab, false);
