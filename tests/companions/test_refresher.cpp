@@ -18,8 +18,8 @@
 namespace tolvo {
 namespace {
 
-const QString stats = QStringLiteral("Tolvo-Stats");
-const QString before = QStringLiteral("2026-01-02 03:04:05");
+const QString stats = u"Tolvo-Stats"_qs;
+const QString before = u"2026-01-02 03:04:05"_qs;
 
 /// Answers every request with the same bytes and keeps what was asked; an empty answer leaves it waiting.
 class Server {
@@ -71,19 +71,15 @@ void fill(SettingsStore &store) {
 
 TEST(Refresh, CountersAreResetOnlyAfterAYes) {
     const struct {
-        const char *what;
         QByteArray answer;
-        bool down;
-        bool yes;
-    } cases[] = {{"yes", http("200 OK"), false, true},
-                 {"yes without a body", http("204 No Content"), false, true},
-                 {"elsewhere", http("302 Found"), false, false},
-                 {"no", http("503 Service Unavailable"), false, false},
-                 {"nonsense", "SSH-2.0-nonsense\r\n", false, false},
-                 {"slow", {}, false, false},
-                 {"down", http("200 OK"), true, false}};
-    for (const auto &[what, answer, down, yes] : cases) {
-        SCOPED_TRACE(what);
+        bool yes = false;
+        bool down = false;
+    } cases[] = {{http("200 OK"), true},       {http("204 No Content"), true},
+                 {http("302 Found")},          {http("503 Service Unavailable")},
+                 {"SSH-2.0-nonsense\r\n"},     {{}},
+                 {http("200 OK"), false, true}};
+    for (const auto &[answer, yes, down] : cases) {
+        SCOPED_TRACE(answer.toStdString());
         SettingsStore store(u":memory:"_qs);
         fill(store);
         Server server(answer);
@@ -113,8 +109,7 @@ TEST(Refresh, SaysWhatItFoundAboutUpdates) {
         {http("200 OK", "{\"version\": \"" + applicationVersion().toUtf8() + "\"}"), "up to date", true, ""},
         {http("200 OK", R"({"version": "0.1"})"), "up to date", true, ""},
         {http("200 OK", "<html>99.1</html>"), "makes no sense", false, ""},
-        {http("404 Not Found"), "404", false, ""},
-    };
+        {http("404 Not Found"), "404", false, ""}};
     for (const auto &[answer, says, done, download] : cases) {
         SCOPED_TRACE(says);
         SettingsStore store(u":memory:"_qs);

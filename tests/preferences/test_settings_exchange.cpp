@@ -16,7 +16,7 @@
 namespace tolvo {
 namespace {
 
-const QString app = QStringLiteral("Tolvo");
+const QString app = u"Tolvo"_qs;
 const QByteArray tree = "HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo";
 
 struct SettingsExchange : testing::Test {
@@ -27,17 +27,15 @@ struct SettingsExchange : testing::Test {
     void SetUp() override {
         const struct {
             QString section, key, value;
-        } rows[] = {
-            {u"Search"_qs, u"Tab"_qs, u"2"_qs},
-            {u"PowerButtons\\Button 2"_qs, u"Name"_qs, u"say \"hi\\there\" 😀"_qs},
-            {u"PowerButtons\\Button 2\\2"_qs, u"Token"_qs, u"edREP"_qs},
-            {u"PowerButtons\\Button 2\\2"_qs, u"Details"_qs, u"Find=a\r\nb, Replace=\t\\"_qs},
-            {u"PowerButtons\\Button 2\\1"_qs, u"Token"_qs, u"ccUPP"_qs},
-            {u"PowerButtons\\Button 1"_qs, u"Name"_qs, u"<Enter a name>"_qs},
-            {u"Search\\SearchMRU"_qs, u"b"_qs, u"second"_qs},
-            {u"Search\\SearchMRU"_qs, u"a"_qs, u" first "_qs},
-            {u"Preferences"_qs, u"Show Tips at Startup"_qs, u"0"_qs},
-        };
+        } rows[] = {{u"Search"_qs, u"Tab"_qs, u"2"_qs},
+                    {u"PowerButtons\\Button 2"_qs, u"Name"_qs, u"say \"hi\\there\" 😀"_qs},
+                    {u"PowerButtons\\Button 2\\2"_qs, u"Token"_qs, u"edREP"_qs},
+                    {u"PowerButtons\\Button 2\\2"_qs, u"Details"_qs, u"Find=a\r\nb, Replace=\t\\"_qs},
+                    {u"PowerButtons\\Button 2\\1"_qs, u"Token"_qs, u"ccUPP"_qs},
+                    {u"PowerButtons\\Button 1"_qs, u"Name"_qs, u"<Enter a name>"_qs},
+                    {u"Search\\SearchMRU"_qs, u"b"_qs, u"second"_qs},
+                    {u"Search\\SearchMRU"_qs, u"a"_qs, u" first "_qs},
+                    {u"Preferences"_qs, u"Show Tips at Startup"_qs, u"0"_qs}};
         for (const auto &[section, key, value] : rows)
             store.SaveSetting(app, section, key, value);
         store.SaveSetting(u"Tolvo-Stats"_qs, u"Usage"_qs, u"Count"_qs, u"5"_qs);

@@ -9,11 +9,11 @@
 namespace tolvo {
 namespace {
 
-const QString app = QStringLiteral("Tolvo");
-const QString stats = QStringLiteral("Tolvo-Stats");
+const QString app = u"Tolvo"_qs;
+const QString stats = u"Tolvo-Stats"_qs;
 
 struct Store : testing::Test {
-    SettingsStore store{QStringLiteral(":memory:")};
+    SettingsStore store{u":memory:"_qs};
 };
 
 TEST_F(Store, DefaultsAreTexts) {

@@ -14,8 +14,8 @@
 namespace tolvo {
 namespace {
 
-const QString app = QStringLiteral("Tolvo");
-const QString section = QStringLiteral("Deep\\Section");
+const QString app = u"Tolvo"_qs;
+const QString section = u"Deep\\Section"_qs;
 
 /// Runs `body` in a child process, which ends without a word.
 template <class Body>

@@ -14,8 +14,8 @@
 namespace tolvo {
 namespace {
 
-const QString app = QStringLiteral("Tolvo");
-const QString section = QStringLiteral("S");
+const QString app = u"Tolvo"_qs;
+const QString section = u"S"_qs;
 
 QByteArray bytesOf(const QString &path) {
     QFile file(path);

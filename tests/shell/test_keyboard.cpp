@@ -9,35 +9,20 @@ namespace {
 constexpr int openingBracket = 'A' - 1 + 27; // Ctrl-[ has the character code 27
 
 TEST(Keyboard, editsAtTheCaret) {
-    const struct {
-        char key;
-        const char16_t *before;
-        const char16_t *after;
-    } cases[] = {
-        {'U', u"«»abcd", u"A«»bcd"},
-        {'U', u"a«bc»d", u"aBC«»d"},
-        {'U', u"ab«»", u"ab«»"},
-        {'U', u"a«»|b", u"a|«»b"},
-        {'U', u"«»\U0001F600b", u"\U0001F600«»b"}, // never half a pair
-        {'L', u"«»ABC", u"a«»BC"},
-        {'S', u"«aB»c", u"Ab«»c"},
-        {'K', u"«»abc def", u"A«»bc def"},
-        {'K', u"«abc def»", u"Abc Def«»"},
-        {'K', u"abc def«»", u"Abc Def«»"}, // nothing to select: the whole text
-        {'T', u"a«»b", u"ba«»"},
-        {'T', u"«»ab", u"«»ab"},
-        {'T', u"ab«»", u"ab«»"},
-        {'T', u"a«»\U0001F600c", u"\U0001F600a«»c"},
-        {'T', u"a«bc»d", u"ba«»cd"},
-        {'T', u"a«»|b", u"|a«»b"},
-        {'A', u"a«»|b", u"«a|b»"},
-    };
-    for (const auto &row : cases) {
-        SCOPED_TRACE(row.key);
+    // The key with Ctrl, before, afterwards
+    for (const char16_t *example :
+         {u"U→«»abcd→A«»bcd", u"U→a«bc»d→aBC«»d", u"U→ab«»→ab«»", u"U→a«»|b→a|«»b",
+          u"U→«»\U0001F600b→\U0001F600«»b", // never half a pair
+          u"L→«»ABC→a«»BC", u"S→«aB»c→Ab«»c", u"K→«»abc def→A«»bc def", u"K→«abc def»→Abc Def«»",
+          u"K→abc def«»→Abc Def«»", // nothing to select: the whole text
+          u"T→a«»b→ba«»", u"T→«»ab→«»ab", u"T→ab«»→ab«»", u"T→a«»\U0001F600c→\U0001F600a«»c",
+          u"T→a«bc»d→ba«»cd", u"T→a«»|b→|a«»b", u"A→a«»|b→«a|b»"}) {
+        const QStringList parts = QString::fromUtf16(example).split(u'→');
+        SCOPED_TRACE(parts[0].toStdString());
         User user;
-        user.startsWith(QString::fromUtf16(row.before));
-        user.presses(row.key);
-        user.sees(QString::fromUtf16(row.after));
+        user.startsWith(parts[1]);
+        user.presses(parts[0].front().toLatin1());
+        user.sees(parts[2]);
     }
 }
 
@@ -60,24 +45,18 @@ TEST(Keyboard, initialCapsTellTheLengthOfALongSelection) {
 }
 
 TEST(Keyboard, findsThePartnerOfABracket) {
-    const struct {
-        const char16_t *before;
-        const char16_t *after;
-        const char16_t *told;
-    } cases[] = {
-        {u"«»(a(b)c)", u"(a(b)c«)»", nullptr}, {u"(a(b)c)«»", u"«(»a(b)c)", nullptr},
-        {u"(a(b)«»c)", u"(a«(»b)c)", nullptr}, {u"a <«»b>", u"a <b«>»", nullptr},
-        {u"[(«»])", u"«[»(])", nullptr}, // the right side first
-        {u"«»(", u"«»(", u"No matching )"},    {u"«»)", u"«»)", u"No matching ("},
-        {u"a«»b", u"a«»b", nullptr},           {u"«»", u"«»", nullptr},
-    };
-    for (const auto &row : cases) {
+    // Before, afterwards, what is told
+    for (const char16_t *example :
+         {u"«»(a(b)c)→(a(b)c«)»→", u"(a(b)c)«»→«(»a(b)c)→", u"(a(b)«»c)→(a«(»b)c)→", u"a <«»b>→a <b«>»→",
+          u"[(«»])→«[»(])→", // the right side first
+          u"«»(→«»(→No matching )", u"«»)→«»)→No matching (", u"a«»b→a«»b→", u"«»→«»→"}) {
+        const QStringList parts = QString::fromUtf16(example).split(u'→');
         User user;
-        user.startsWith(QString::fromUtf16(row.before));
+        user.startsWith(parts[0]);
         user.presses(static_cast<char>(openingBracket));
-        if (row.told)
-            user.isTold(QString::fromUtf16(row.told));
-        user.sees(QString::fromUtf16(row.after));
+        if (!parts[2].isEmpty())
+            user.isTold(parts[2]);
+        user.sees(parts[1]);
     }
 }
 

@@ -45,30 +45,28 @@ TEST_F(Pipe, runsStepsOnText) {
         QByteArray in;
         QByteArray out;
         int code;
-    } cases[] = {
-        {{"ccUPP", "foTRA"}, "a \nb\n", "A\nB\n", 0},
-        {{"soREV"}, "a\r\nb", "b\r\na", 0},
-        {{"--raw", "soREV"}, "a\nb", "a\nb", 1}, // one line for the tool
-        {{"--select", "1,1", "ccUPP"}, "abc", "aBc", 0},
-        {{"--select=3,9", "ccUPP"}, "a\nb\nc", "a\nB\nC", 0},
-        {{"foIND:Spaces=4, Text=> , RadioButton=2"}, "a\nb", "> a\n> b", 0},
-        {{"foIND:RadioButton=x", "ccUPP"}, "a", "A", 1},
-        {{"ccLOW"},
-         "\xEF\xBB\xBF"
-         "A\xF0\x9F\x98\x80",
-         "\xEF\xBB\xBF"
-         "a\xF0\x9F\x98\x80",
-         0},
-        {{"ccLOW"}, "", "", 0},
-        {{"ccLOW"}, "A\xED\xA0\x80", "", 2},
-        {{"chSPE"}, "a", "", 2},
-        {{"edSRC"}, "a", "", 2},
-        {{"foTRA:x"}, "a", "", 2},
-        {{"nothing"}, "a", "", 2},
-        {{}, "a", "", 2},
-        {{"--nothing", "ccUPP"}, "a", "", 2},
-        {{"--select", "1", "ccUPP"}, "a", "", 2},
-    };
+    } cases[] = {{{"ccUPP", "foTRA"}, "a \nb\n", "A\nB\n", 0},
+                 {{"soREV"}, "a\r\nb", "b\r\na", 0},
+                 {{"--raw", "soREV"}, "a\nb", "a\nb", 1}, // one line for the tool
+                 {{"--select", "1,1", "ccUPP"}, "abc", "aBc", 0},
+                 {{"--select=3,9", "ccUPP"}, "a\nb\nc", "a\nB\nC", 0},
+                 {{"foIND:Spaces=4, Text=> , RadioButton=2"}, "a\nb", "> a\n> b", 0},
+                 {{"foIND:RadioButton=x", "ccUPP"}, "a", "A", 1},
+                 {{"ccLOW"},
+                  "\xEF\xBB\xBF"
+                  "A\xF0\x9F\x98\x80",
+                  "\xEF\xBB\xBF"
+                  "a\xF0\x9F\x98\x80",
+                  0},
+                 {{"ccLOW"}, "", "", 0},
+                 {{"ccLOW"}, "A\xED\xA0\x80", "", 2},
+                 {{"chSPE"}, "a", "", 2},
+                 {{"edSRC"}, "a", "", 2},
+                 {{"foTRA:x"}, "a", "", 2},
+                 {{"nothing"}, "a", "", 2},
+                 {{}, "a", "", 2},
+                 {{"--nothing", "ccUPP"}, "a", "", 2},
+                 {{"--select", "1", "ccUPP"}, "a", "", 2}};
     for (const auto &row : cases) {
         SCOPED_TRACE(row.arguments.join(u' ').toStdString());
         const Result result = run(row.arguments, row.in);
@@ -155,8 +153,7 @@ TEST_F(Pipe, batchAndSessionComeToTheSame) {
         {"one two", {"edREP:Mode=3, Find=o, Replace=0, ReplaceAll=1", "edSRC:Mode=1, Find=zzz, Direction=D"}},
         {"a", {"liBUL:Bullet=*, Tab=maybe, Spaces=2", "ccUPP"}},
         {"a «b c»", {"liNUM", "liREN:Start=1", "chPNC", "foCOL:"}},
-        {"x", {"pbPBT:PowerButton=9", "pbTAG", "soKEY"}},
-    };
+        {"x", {"pbPBT:PowerButton=9", "pbTAG", "soKEY"}}};
     QByteArray requests;
     for (const auto &row : cases) {
         const TextState state = stateOf(row.picture);

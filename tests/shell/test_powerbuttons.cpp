@@ -107,8 +107,7 @@ TEST(PowerButtons, searchWithStoredSettings) {
         {u"Mode=3, Find=b, Direction=S, Replace=x", true, u"b «»b", u"b x"},
         {u"Mode=3, Find=b, Direction=S", false, u"b «»b", u"«b» b"},
         // The separator that the window stores is not the one that is read.
-        {u"Mode=2, Find=#, DecimalSep=., GroupingSep=,, Replace=n, ReplaceAll=1", true, u"1,234", u"n,n"},
-    };
+        {u"Mode=2, Find=#, DecimalSep=., GroupingSep=,, Replace=n, ReplaceAll=1", true, u"1,234", u"n,n"}};
     for (const auto &row : cases) {
         SCOPED_TRACE(QString::fromUtf16(row.details).toStdString());
         User user;

@@ -173,10 +173,8 @@ TEST_F(Runs, takePreferencesAndKeepToolSettings) {
 }
 
 TEST_F(Runs, endAfterAFailureAtTheStart) {
-    const std::function<void()> faults[] = {
-        [&] { processes.missing = true; },
-        [&] { QFile::remove(folder.filePath("Tools.dat")); },
-    };
+    const std::function<void()> faults[] = {[&] { processes.missing = true; },
+                                            [&] { QFile::remove(folder.filePath("Tools.dat")); }};
     for (const auto &fault : faults) {
         fault();
         boxes.shown.clear();

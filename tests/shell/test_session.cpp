@@ -25,12 +25,10 @@ TEST(Session, cancelAsksOnlyAfterAChange) {
         CloseAnswer answer;
         bool over;
         const char16_t *clipboard;
-    } cases[] = {
-        {false, CloseAnswer::Cancel, true, u"a"},
-        {true, CloseAnswer::Cancel, false, u"a"},
-        {true, CloseAnswer::Discard, true, u"a"},
-        {true, CloseAnswer::CopyAndClose, true, u"A"},
-    };
+    } cases[] = {{false, CloseAnswer::Cancel, true, u"a"},
+                 {true, CloseAnswer::Cancel, false, u"a"},
+                 {true, CloseAnswer::Discard, true, u"a"},
+                 {true, CloseAnswer::CopyAndClose, true, u"A"}};
     for (const bool closeBox : {false, true}) {
         for (const auto &row : cases) {
             User user;
