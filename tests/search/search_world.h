@@ -5,16 +5,9 @@
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/MemoryTextBox.h"
 #include "search/CSearch.h"
+#include "tests/text/engine.h"
 
 #include <QStringList>
-#include <gtest/gtest.h>
-#include <ostream>
-
-// Google Test prints texts as UTF-8.
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toUtf8().replace("\r", "\\r").replace("\n", "\\n").replace("\t", "\\t").toStdString()
-         << '"';
-}
 
 namespace tolvo::test {
 
@@ -39,11 +32,6 @@ struct KeptResults : SearchResults {
     QList<qint32> locations;
     QString caption;
     int timesShown = 0;
-};
-
-struct Silence : TextHost {
-    void setStatus(const QString &) override {}
-    void warn(const QString &, const QString &) override {}
 };
 
 class SearchWorld : public ::testing::Test, public SearchHost {
@@ -84,8 +72,8 @@ class SearchWorld : public ::testing::Test, public SearchHost {
     RecordingBoxes boxes;
     KeptResults list;
     QList<SearchDirection> directions;
-    Silence silence;
-    cTextMethods textMethods{silence, [](const QString &) { return false; }};
+    KeptWords engineWords;
+    cTextMethods textMethods{engineWords, [](const QString &) { return false; }};
     CSearch search{*this, boxes, textMethods};
 };
 
