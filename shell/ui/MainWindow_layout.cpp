@@ -91,6 +91,7 @@ QPushButton *MainWindow::button(const char *name, const QString &caption, const 
     auto *result = new QPushButton(caption);
     result->setObjectName(QLatin1StringView(name));
     result->setToolTip(tip);
+    result->setFocusPolicy(Qt::TabFocus); // a click leaves the keys with the text
     connect(result, &QPushButton::clicked, this, [this, clicked = std::move(clicked)] {
         if (m_session)
             clicked();

@@ -192,6 +192,8 @@ class Tolvo:
         """Clicks a tool of the panel, its group first if that is closed."""
         if not self.shows(name):
             self.click(group)
+            self.find(name)
+            time.sleep(1.5)  # rows take no click until the last one has slid out
         self.click(name, button)
 
     def text_node(self, name="Text"):
