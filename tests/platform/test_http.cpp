@@ -52,28 +52,18 @@ void sayForEver(QTcpSocket &socket) {
 }
 
 TEST(Http, BringsStatusReasonAndBody) {
-    struct Row {
-        QByteArray answer;
-        int status;
-        QString reason;
-        QByteArray body;
-    };
-    const Row rows[] = {
+    const std::tuple<QByteArray, int, QString, QByteArray> rows[] = {
         {"HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello", 200, u"OK"_s, "hello"},
         {"HTTP/1.1 200 Fine\r\n\r\n", 200, u"Fine"_s, ""},
         {"HTTP/1.1 500 Broken\r\nContent-Length: 2\r\n\r\nno", 500, u"Broken"_s, "no"},
-        {"HTTP/1.1 404 Gone Away\r\nContent-Length: 0\r\n\r\n", 404, u"Gone Away"_s, ""},
         {"HTTP/1.1 302 Found\r\nLocation: http://127.0.0.1:1/\r\nContent-Length: 0\r\n\r\n", 302, u"Found"_s,
          ""},
     };
-    for (const Row &row : rows) {
-        Server server([&](QTcpSocket &socket) { say(socket, row.answer); });
-        NetworkHttpClient client;
-        const HttpReply reply = client.get(server.url("/a%20b?q=%C3%A9%26"));
-        EXPECT_EQ(reply.status, row.status);
-        EXPECT_EQ(reply.statusText, row.reason);
-        EXPECT_EQ(reply.body, row.body);
-        EXPECT_TRUE(server.request.startsWith("GET /a%20b?q=%C3%A9%26 HTTP/1.1\r\n"))
+    for (const auto &row : rows) {
+        Server server([&](QTcpSocket &socket) { say(socket, std::get<0>(row)); });
+        const HttpReply reply = NetworkHttpClient().get(server.url("/a%20b?q=%C3%A9%26%2C1%2B1~"));
+        EXPECT_EQ(std::tuple(std::get<0>(row), reply.status, reply.statusText, reply.body), row);
+        EXPECT_TRUE(server.request.startsWith("GET /a%20b?q=%C3%A9%26%2C1%2B1~ HTTP/1.1\r\n"))
             << server.request.data();
     }
 }
@@ -137,9 +127,3 @@ TEST(Http, CanBeCancelledAndGuardsTheInputMeanwhile) {
 
 } // namespace
 } // namespace tolvo
-
-int main(int argc, char **argv) {
-    QCoreApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

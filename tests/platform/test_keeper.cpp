@@ -183,9 +183,3 @@ TEST_F(Keeper, AnOwnerThatHangsIsAnEmptyClipboardAndIsSaid) {
 }
 
 } // namespace
-
-int main(int argc, char **argv) {
-    QCoreApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

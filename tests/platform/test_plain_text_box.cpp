@@ -135,15 +135,6 @@ TEST_F(User, GetsOfPasteDropAndInputMethodWhatFits) {
     EXPECT_EQ(box.Text(), u"a\r\n12"_s);
 }
 
-TEST_F(User, PastesInTheFormOfTheTextArea) {
-    pastes(u"a\nb\n"_s);
-    EXPECT_EQ(box.Text(), u"a\r\nb\r\n"_s);
-    box.setText({});
-    pastes(u"a\rb\nc\u2029\uFDD2"_s);
-    EXPECT_EQ(box.Text(), u"a\rb\nc\u2029\uFDD2"_s);
-    EXPECT_TRUE(box.hasTypingToTakeBack());
-}
-
 TEST_F(User, CopiesAndCutsTheRealText) {
     const QString text = u"a\u00A0b\r\nc\rd\u2029\uFDD2\uFDD0"_s;
     box.setText(text);
@@ -172,17 +163,6 @@ TEST_F(User, TypesCharactersThatStandForOthers) {
     EXPECT_EQ(box.Text().remove(QRegularExpression(u"[\uFDD2-\uFDD9]"_s)), u"a\nb\rc"_s);
 }
 
-TEST_F(User, DeletingBetweenCrAndLfMakesALineEnd) {
-    box.setText(u"a\rX\nb"_s);
-    box.setSelStart(2);
-    presses(Qt::Key_Delete);
-    EXPECT_EQ(box.Text(), u"a\r\nb"_s);
-    EXPECT_EQ(box.document()->blockCount(), 2);
-    EXPECT_FALSE(box.hasTypingToTakeBack());
-    presses(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(box.Text(), u"a\r\nb"_s);
-}
-
 TEST_F(User, TakesBackTypingButNothingThatCodeDid) {
     box.setText(u"base"_s);
     EXPECT_FALSE(box.hasTypingToTakeBack());
@@ -200,30 +180,6 @@ TEST_F(User, TakesBackTypingButNothingThatCodeDid) {
     types(u"y"_s);
     presses(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(box.Text(), u"\rtool\nbase"_s);
-}
-
-TEST_F(User, MovesOverALineEndInOneStep) {
-    box.setText(u"a\r\nb"_s);
-    presses(Qt::Key_Right);
-    presses(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(box.SelStart(), 1);
-    EXPECT_EQ(box.SelText(), u"\r\n"_s);
-    presses(Qt::Key_Left, Qt::ShiftModifier);
-    presses(Qt::Key_Left, Qt::ShiftModifier);
-    EXPECT_EQ(box.SelStart(), 0);
-    EXPECT_EQ(box.SelText(), u"a"_s);
-}
-
-TEST_F(User, SeesLongRunsBrokenAnywhere) {
-    PlainTextBox wrapped(PlainTextBox::Lines::Wrapped);
-    wrapped.setText(QString(2000, u'x') + u' ' + QString(2000, u'x'));
-    EXPECT_EQ(wrapped.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
-    QTest::keyClicks(&wrapped, u"x"_s);
-    EXPECT_EQ(wrapped.wordWrapMode(), QTextOption::WrapAnywhere);
-    QTest::keyClick(&wrapped, Qt::Key_Backspace);
-    EXPECT_EQ(wrapped.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
-    wrapped.setText(QString(2001, u'x'));
-    EXPECT_EQ(wrapped.wordWrapMode(), QTextOption::WrapAnywhere);
 }
 
 } // namespace

@@ -27,8 +27,4 @@ struct TextBoxKind {
 
 std::vector<TextBoxKind> textBoxKinds();
 
-/// Texts that a text box must hold unchanged, each with all that a document or a converter might take for
-/// something else.
-std::vector<QString> awkwardTexts();
-
 } // namespace tolvo

@@ -19,40 +19,21 @@ class PowerButtons : public World {
 };
 
 TEST_F(PowerButtons, addActionsAtAPosition) {
-    using Place = std::optional<int>;
-    struct Case {
-        Place index, before, after;
-        const char *result;
+    using Place = std::optional<int>; // index, before, after
+    const std::tuple<Place, Place, Place, const char *> cases[] = {
+        {{}, {}, {}, "soALP soNUM soREV ccUPP"}, {2, {}, {}, "soALP ccUPP soREV"},
+        {4, {}, {}, "soALP soNUM soREV ccUPP"},  {0, {}, {}, "soALP soNUM soREV ccUPP"},
+        {{}, 1, {}, "ccUPP soALP soNUM soREV"},  {{}, 3, 1, "soALP soNUM ccUPP soREV"},
+        {{}, {}, 1, "soALP ccUPP soNUM soREV"},  {2, {}, 3, "soALP soNUM soREV ccUPP"},
+        {{}, 99, {}, "soALP soNUM soREV ccUPP"}, {{}, {}, -5, "ccUPP soALP soNUM soREV"},
     };
-    const std::array cases{
-        Case{{}, {}, {}, "soALP soNUM soREV ccUPP"}, Case{2, {}, {}, "soALP ccUPP soREV"},
-        Case{4, {}, {}, "soALP soNUM soREV ccUPP"},  Case{0, {}, {}, "soALP soNUM soREV ccUPP"},
-        Case{{}, 1, {}, "ccUPP soALP soNUM soREV"},  Case{{}, 3, 1, "soALP soNUM ccUPP soREV"},
-        Case{{}, {}, 1, "soALP ccUPP soNUM soREV"},  Case{2, {}, 3, "soALP soNUM soREV ccUPP"},
-        Case{{}, 99, {}, "soALP soNUM soREV ccUPP"}, Case{{}, {}, -5, "ccUPP soALP soNUM soREV"},
-    };
-    for (const Case &row : cases) {
+    for (const auto &[index, before, after, result] : cases) {
         CPowerButton button;
         for (const char *token : {"soALP", "soNUM", "soREV"})
             button.Add(action(token));
-        button.Add(action("ccUPP"), row.index, row.before, row.after);
-        EXPECT_EQ(actionsOf(button), QLatin1StringView(row.result));
+        button.Add(action("ccUPP"), index, before, after);
+        EXPECT_EQ(actionsOf(button), QLatin1StringView(result));
     }
-}
-
-TEST_F(PowerButtons, removeAndLookUp) {
-    CPowerButton button;
-    for (const char *token : {"soALP", "soNUM", "soREV"})
-        button.Add(action(token));
-    button.Remove(2);
-    button.Remove(7);
-    EXPECT_EQ(button.Item(2)->Tool()->Token(), "soREV");
-    EXPECT_EQ(button.Item(3), nullptr);
-
-    buttons.Remove(3);
-    for (const int number : {0, 3, 9})
-        EXPECT_EQ(buttons.Item(number), nullptr);
-    EXPECT_EQ(buttons.Count(), 7);
 }
 
 TEST_F(PowerButtons, comeBackFromTheStore) {

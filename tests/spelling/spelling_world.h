@@ -45,6 +45,16 @@ inline QByteArray fileContents(const QString &path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
 }
 
+/// An error of After the Deadline's reply: string, type, precontext, options, description.
+inline QByteArray error(const char *phrase, const char *type, const char *context = "",
+                        const QByteArrayList &options = {}, const char *why = "") {
+    QByteArray xml = QByteArray("<error><string>") + phrase + "</string><type>" + type +
+                     "</type><description>" + why + "</description><precontext>" + context + "</precontext>";
+    if (!options.isEmpty())
+        xml += "<suggestions><option>" + options.join("</option><option>") + "</option></suggestions>";
+    return xml + "</error>";
+}
+
 struct ScriptedHttp : HttpClient {
     HttpReply get(const QByteArray &url) override {
         urls.append(url);
@@ -131,6 +141,13 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
     // ProofingHost
     void setStatus(const QString &text) override { status += text; }
     const cTextMethods &textMethods() const override { return oTextMethods; }
+
+    /// The service is asked from now on, and finds these errors.
+    void service(const QByteArray &errors) {
+        setProvider(2);
+        services.atdEndpoint = u("http://service");
+        http.reply = {200, u("OK"), "<?xml version=\"1.0\"?>\n<results>\n" + errors + "</results>"};
+    }
 
     QString dictionaries() const { return services.programFolder + u("/Dictionaries"); }
     void dictionary(const QString &name, const QByteArray &aff, const QByteArray &dic) {

@@ -21,11 +21,7 @@ class Hunspell_ : public SpellingWorld {
 };
 
 TEST_F(Hunspell_, ChecksWordByWord) {
-    struct Case {
-        const char *text;
-        QStringList errors;
-    };
-    const Case cases[] = {
+    const std::pair<const char *, QStringList> cases[] = {
         {"x", {}}, // a text of one character is never checked
         {"", {}},
         {"zqx xzj", {u("zqx 0-3 1"), u("xzj 4-7 1")}},
@@ -34,8 +30,8 @@ TEST_F(Hunspell_, ChecksWordByWord) {
         {"don't well-known well-teh", {u("well-teh 17-25 1 well-known")}},
         {"The FOX hELLO", {u("hELLO 8-13 1 hello")}},
     };
-    for (const Case &one : cases)
-        EXPECT_EQ(check(one.text), one.errors) << one.text;
+    for (const auto &[text, errors] : cases)
+        EXPECT_EQ(check(text), errors) << text;
 }
 
 TEST_F(Hunspell_, FindsDictionariesWithoutRegardToCase) {
@@ -69,18 +65,15 @@ TEST_F(Hunspell_, SpeaksTheDictionarysEncoding) {
 }
 
 TEST_F(Hunspell_, ReportsADictionaryThatCannotBeLoaded) {
-    struct Case {
-        const char *aff, *dic;
-    };
-    const Case cases[] = {{"SET UTF-8\n", ""},
-                          {"", "1\nword\n"},
-                          {"SET UTF-8\n", "word\n"},
-                          {"SET NO-SUCH-SET\n", "1\nword\n"}};
+    const std::pair<const char *, const char *> cases[] = {{"SET UTF-8\n", ""},
+                                                           {"", "1\nword\n"},
+                                                           {"SET UTF-8\n", "word\n"},
+                                                           {"SET NO-SUCH-SET\n", "1\nword\n"}};
     const QStringList report{u("5003 Unable to initialise Hunspell provider (CSpelling::init)")};
-    for (const Case &one : cases) {
-        dictionary(u("xx_yy"), one.aff, one.dic);
+    for (const auto &[aff, dic] : cases) {
+        dictionary(u("xx_yy"), aff, dic);
         LocalDictionary local = load("xx-yy");
-        EXPECT_EQ(said(), report) << one.aff << one.dic;
+        EXPECT_EQ(said(), report) << aff << dic;
         EXPECT_EQ(told(local.checkHunspell(u("zqx qzk"))), QStringList());
     }
     (void)load("no-such");
@@ -120,22 +113,6 @@ TEST_F(Hunspell_, KnowsThePersonalWords) {
     EXPECT_EQ(check("zqx"), QStringList());
 }
 
-TEST_F(Hunspell_, KeepsPersonalWordsWithTheUserWhereTheProgramCannotWrite) {
-    services.programFolder = folder.path() + u("/nowhere");
-    prepareSpelling(services);
-    EXPECT_EQ(fileContents(folder.path() + u("/user/persdict.dat")), "");
-}
-
-TEST_F(Hunspell_, CanBeAnUnknownProvider) {
-    int LangID = 0;
-    QString locale;
-    CSpelling spelling(services, oTextMethods);
-    spelling.init(7, LangID, locale);
-    EXPECT_EQ(said(), QStringList(u("5002 Unrecognised spelling provider (CSpelling::init)")));
-    EXPECT_FALSE(spelling.Spell(u("zqx qzk")));
-    EXPECT_EQ(spelling.SpellingErrors().Count(), 0);
-}
-
 /// Words of the dictionary and misspellings made from them, all of one kind with what the check takes out of
 /// a text.
 QStringList wordsToJudge(const QString &dic) {
@@ -150,32 +127,16 @@ QStringList wordsToJudge(const QString &dic) {
         if (word.size() < 2 || !std::all_of(word.cbegin(), word.cend(), isLetter))
             continue;
         const int at = random.bounded(int(word.size()));
-        switch (random.bounded(8)) {
-        case 0:
-            word.remove(at, 1);
-            break;
-        case 1:
-            word.insert(at, QChar(u'a' + random.bounded(26)));
-            break;
-        case 2:
-            word[at] = QChar(u'a' + random.bounded(26));
-            break;
-        case 3:
-            word = word.toUpper();
-            break;
-        case 4:
-            word += u("'s");
-            break;
-        case 5:
-            word += u("ing");
-            break;
-        case 6:
-            word = u("un") + word;
-            break;
-        default:
-            break;
-        }
-        words.insert(word);
+        const QChar letter(u'a' + random.bounded(26));
+        const QString made[] = {QString(word).remove(at, 1),
+                                QString(word).insert(at, letter),
+                                QString(word).replace(at, 1, letter),
+                                word.toUpper(),
+                                word + u("'s"),
+                                word + u("ing"),
+                                u("un") + word,
+                                word};
+        words.insert(made[random.bounded(8)]);
     }
     return words.values();
 }

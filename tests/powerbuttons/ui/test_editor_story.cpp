@@ -2,8 +2,8 @@
 #include "powerbuttons/ui/dlgChoosePB.h"
 #include "powerbuttons/ui/dlgEditIcon.h"
 #include "powerbuttons/ui/frmPowerButton.h"
-#include "tests/powerbuttons/ui/modal.h"
 #include "tests/powerbuttons/world.h"
+#include "tests/ui/modal.h"
 
 #include <QGroupBox>
 #include <QLabel>

@@ -2,7 +2,7 @@
 #include "powerbuttons/ui/dlgEditIcon.h"
 #include "powerbuttons/ui/dlgPickCharacter.h"
 #include "powerbuttons/ui/icon_painter.h"
-#include "tests/powerbuttons/ui/modal.h"
+#include "tests/ui/modal.h"
 
 #include <QImage>
 #include <QLabel>

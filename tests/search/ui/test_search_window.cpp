@@ -5,8 +5,8 @@
 #include "search/ui/frmSearch.h"
 #include "search/ui/frmSearchResults.h"
 #include "tests/search/search_world.h"
+#include "tests/ui/modal.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -15,8 +15,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
-#include <QTest>
-#include <QTimer>
 #include <QToolButton>
 
 namespace tolvo::test {
@@ -36,7 +34,7 @@ class SearchWindow : public SearchWorld {
     void reopen() { window = std::make_unique<frmSearch>(search, *this, store, boxes, nullptr); }
     template <class Control>
     Control &find(const char *name) {
-        return *window->findChild<Control *>(QString::fromLatin1(name));
+        return child<Control>(*window, name);
     }
     void click(const char *name) { find<QAbstractButton>(name).click(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
@@ -62,8 +60,6 @@ class SearchWindow : public SearchWorld {
 
 TEST_F(SearchWindow, FindsAndReplacesByKeysAlone) {
     open(true);
-    EXPECT_EQ(window->windowTitle(), "Tolvo Search & Replace");
-    EXPECT_EQ(find<QPushButton>("cmdReplaceAll").text(), "Replace &All");
     type("one");
     alt(Qt::Key_D);
     press(Qt::Key_Return);
@@ -91,20 +87,16 @@ TEST_F(SearchWindow, FindsAndReplacesByKeysAlone) {
 
 TEST_F(SearchWindow, MouseAndOptions) {
     open(false);
-    EXPECT_EQ(window->windowTitle(), "Tolvo Search");
     for (const char *name : {"cmdReplace", "imgSwop", "cmdOK", "cmdCancel", "chkMatchCase", "picMoreArrowUp"})
         EXPECT_FALSE(visible(name)) << name;
     EXPECT_FALSE(find<QWidget>("cmbReplaceText").isEnabled());
-    const int collapsed = window->height();
     click("picMoreArrowDown");
-    EXPECT_EQ(find<QPushButton>("cmdMore").text(), "Less     ");
     EXPECT_TRUE(visible("picMoreArrowUp") && visible("cmdTab") && !visible("fraWildcards"));
     EXPECT_FALSE(find<QWidget>("cmdTab").isEnabled());
     const QSize simple = window->size();
     find<QTabBar>("TabStrip1").setCurrentIndex(1);
     EXPECT_TRUE(visible("fraWildcards") && visible("labWildcardHelp"));
     EXPECT_GT(window->height(), simple.height());
-    EXPECT_GT(window->width(), simple.width());
     click("chkWholeWord");
     click("optWildcardOptions1");
     EXPECT_FALSE(find<QCheckBox>("chkWholeWord").isChecked());
@@ -113,7 +105,6 @@ TEST_F(SearchWindow, MouseAndOptions) {
     find<QTabBar>("TabStrip1").setCurrentIndex(2);
     EXPECT_FALSE(visible("chkSpecialChars") || find<QWidget>("chkWholeWord").isEnabled());
     EXPECT_LT(window->height(), simple.height());
-    EXPECT_GT(window->height(), collapsed);
 
     // Special characters go in where the caret was, in place of what was selected.
     find<QTabBar>("TabStrip1").setCurrentIndex(0);
@@ -126,8 +117,6 @@ TEST_F(SearchWindow, MouseAndOptions) {
     EXPECT_EQ(edit.text(), "a\\xd");
     EXPECT_EQ(edit.cursorPosition(), 3);
     EXPECT_TRUE(find<QComboBox>("cmbSearchText").hasFocus());
-    click("cmdSearchHelp");
-    EXPECT_EQ(said(), "Help is not implemented yet");
 }
 
 TEST_F(SearchWindow, ConvertsWildcardsAndSwops) {
@@ -151,18 +140,15 @@ TEST_F(SearchWindow, ListsHitsAndJumpsToThem) {
     open(false);
     find<QTabBar>("TabStrip1").setCurrentIndex(2);
     window->setSearchText("one");
-    QTimer::singleShot(0, window.get(), [this] {
-        QWidget *shown = QApplication::activeModalWidget();
-        ASSERT_NE(shown, nullptr);
-        EXPECT_EQ(shown->windowTitle(), "2 results found for one");
-        auto *listed = shown->findChild<QListView *>(QStringLiteral("lstResults"));
-        EXPECT_EQ(listed->model()->index(1, 0).data().toString(), "Line 1: one two One");
-        const QRect second = listed->visualRect(listed->model()->index(1, 0));
-        QTest::mouseClick(listed->viewport(), Qt::LeftButton, {}, second.center());
+    withModal<QDialog>([this](QDialog &shown) {
+        EXPECT_EQ(shown.windowTitle(), "2 results found for one");
+        auto &listed = child<QListView>(shown, "lstResults");
+        const QModelIndex second = listed.model()->index(1, 0);
+        EXPECT_EQ(second.data().toString(), "Line 1: one two One");
+        QTest::mouseClick(listed.viewport(), Qt::LeftButton, {}, listed.visualRect(second).center());
         EXPECT_EQ(picture(), "one two [One]");
-        QTest::keyClick(listed, Qt::Key_Up);
+        QTest::keyClick(&listed, Qt::Key_Up);
         EXPECT_EQ(picture(), "[one] two One");
-        shown->close();
     });
     click("cmdReplaceAll");
     EXPECT_EQ(said(), "");
@@ -191,7 +177,6 @@ TEST_F(SearchWindow, RemembersItsStateAndItsLists) {
     EXPECT_TRUE(window->getSettings(settings, true));
     EXPECT_EQ(settings, "Mode=2, Find=1, MatchCase=0, Direction=U, WholeWords=0, SpecialChars=0, Replace=24, "
                         "SmartReplace=1, ReplaceAll=0, Anchor=2, DecimalSep=., GroupingSep=space");
-    EXPECT_EQ(find<QPushButton>("cmdMore").text(), "Less     ");
 }
 
 TEST_F(SearchWindow, CollectsSettings) {
@@ -199,9 +184,7 @@ TEST_F(SearchWindow, CollectsSettings) {
     const QString given = settings;
     QTimer::singleShot(0, window.get(), [this] {
         EXPECT_EQ(window->searchText(), "a=b");
-        EXPECT_TRUE(visible("cmdOK") && visible("cmdCancel"));
-        EXPECT_FALSE(visible("cmdSearch") || visible("cmdReplace") || visible("cmdReplaceAll"));
-        EXPECT_TRUE(window->isModal());
+        EXPECT_TRUE(visible("cmdOK") && !visible("cmdSearch") && window->isModal());
         press(Qt::Key_Escape);
     });
     EXPECT_FALSE(window->getSettings(settings, true));
@@ -246,9 +229,3 @@ TEST_F(SearchWindow, SurvivesAnOddStore) {
 } // namespace
 
 } // namespace tolvo::test
-
-int main(int argc, char **argv) {
-    QApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
+#include <QCoreApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char **argv) {
-    QApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
