@@ -52,7 +52,10 @@ bool Proofing::proof(QString &text, int LangID, bool grammar) {
                 wordIsMissing();
             }
         });
-    return done && quiet;
+    if (done && quiet)
+        return true;
+    m_host.setStatus({}); // nothing is being checked any more
+    return false;
 }
 
 void Proofing::checkInWord(QString &text, int LangID, bool grammar) {

@@ -46,6 +46,7 @@ TEST_F(ProofingWorld, CatchesFailuresAndLeavesTheTextAlone) {
     EXPECT_EQ(proof("lone\rCR"), u("lone\rCR"));
     EXPECT_FALSE(done);
     EXPECT_EQ(said(), QStringList(u("5012 Not Found (cTextMethods::Proofing)")));
+    EXPECT_EQ(status.last(), QString());
     failure = Failure(failureNumber::objectNotCreated, u("anything"));
     EXPECT_EQ(proof("text"), u("text"));
     EXPECT_FALSE(done);
