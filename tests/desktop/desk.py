@@ -136,8 +136,10 @@ class Tolvo:
 
     def active(self, title):
         """Waits until the window whose title begins so has the keyboard."""
-        return wait_for(lambda: next(w for w in self.windows() if w.get_name().startswith(title) and
-                                     w.get_state_set().contains(Atspi.StateType.ACTIVE)), f"the window {title!r}")
+        window = wait_for(lambda: next(w for w in self.windows() if w.get_name().startswith(title) and
+                                       w.get_state_set().contains(Atspi.StateType.ACTIVE)), f"the window {title!r}")
+        time.sleep(0.3)  # the keys follow a moment after the window says so
+        return window
 
     def main_is_active(self):
         wait_for(lambda: len(self.windows()) == 1 and self.windows()[0].get_state_set().contains(Atspi.StateType.ACTIVE),
