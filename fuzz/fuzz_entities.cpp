@@ -8,7 +8,8 @@
 using namespace tolvo;
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
-    const QString text = QString::fromLatin1(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QString text =
+        QString::fromLatin1(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     try {
         const QString decoded = decodeNumericEntities(text);
         if (decoded.size() > text.size() || (!text.contains(u"&#") && decoded != text))
