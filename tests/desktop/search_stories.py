@@ -29,10 +29,11 @@ class SearchStories(Story):
             type_text(replace)
 
     def test_the_selection_is_looked_for(self):
+        self.settings.write("Tolvo", "Search", "Direction", "Down")
         run = self.start("cat cot cat")
         keys("ctrl+Home shift+Right shift+Right shift+Right", "ctrl+f")
         run.active("Tolvo Search")
-        keys("alt+d", "Return")
+        keys("Return")
         run.picture_becomes("cat cot «cat»")
         run.find("Find Next")  # the search is over: while it runs, Escape breaks it off
         keys("Escape")
