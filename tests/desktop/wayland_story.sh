@@ -17,19 +17,21 @@ export WAYLAND_DISPLAY=tolvo-wayland
 weston --backend=x11-backend.so --use-pixman --config="$store/weston.ini" --socket="$WAYLAND_DISPLAY" --width=1100 \
     --height=800 >"$store/weston.log" 2>&1 &
 wait_for test -S "$XDG_RUNTIME_DIR/$WAYLAND_DISPLAY"
-screen_id() { xwininfo -root -tree | awk '/[Ww]eston/ { print $1; exit }'; }
-wait_for bash -c 'xwininfo -root -tree | grep -qi weston'
-screen=$(screen_id)
-[ -n "$screen" ] || fail "the compositor has no window"
-xdotool windowfocus "$screen"
+screen=
+screen_takes_keys() {
+    screen=$(xdotool search --onlyvisible --class weston | head -1)
+    [ -n "$screen" ] && xdotool windowactivate --sync "$screen"
+}
+wait_for screen_takes_keys
+copy_words() { printf 'words from wayland' | timeout 3 wl-copy; }
+wait_for copy_words
 
-printf 'words from wayland' | wl-copy
 export TOLVO_SETTINGS=$store/settings.sqlite XDG_DATA_HOME=$store
 "$TOLVO_BIN/../tests/store_tool" "$TOLVO_SETTINGS" write Tolvo Preferences "Show Tips at Startup" 0
 QT_QPA_PLATFORM=wayland "$TOLVO_BIN/tolvo" >"$store/tolvo.log" 2>&1 &
 run=$!
 sleep 3
-xdotool windowfocus "$screen" key --delay 100 ctrl+a ctrl+u
+xdotool windowactivate --sync "$screen" key --delay 100 ctrl+a ctrl+u
 sleep 0.5
 xdotool key alt+d
 for _ in $(seq 100); do kill -0 "$run" 2>/dev/null || break; sleep 0.1; done
