@@ -13,7 +13,10 @@ chmod 700 "$runtime"
 xvfb-run -a -s "-screen 0 $screen -dpi 96 -nolisten tcp" dbus-run-session -- bash -c '
     openbox --sm-disable >/dev/null 2>&1 &
     manager=$!
-    for _ in $(seq 50); do xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q window && break; sleep 0.1; done
+    # The window manager names itself before it takes care of windows; it lists them when it does. A window that comes
+    # in between is never managed and gets no keys.
+    for _ in $(seq 100); do xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -q WINDOW && break; sleep 0.1; done
+    sleep 0.2
     set +e
     "$@"
     code=$?

@@ -10,7 +10,13 @@ done
 store=$(mktemp -d)
 printf '[core]\nidle-time=0\n[shell]\nlocking=false\npanel-position=none\n' >"$store/weston.ini"
 trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$store"' EXIT
-fail() { echo "FAILED: $*"; cat "$store/weston.log"; exit 1; }
+fail() {
+    echo "FAILED: $*"
+    xwininfo -root -tree
+    xprop -root _NET_SUPPORTING_WM_CHECK _NET_ACTIVE_WINDOW
+    cat "$store/weston.log"
+    exit 1
+}
 wait_for() { for _ in $(seq 150); do "$@" >/dev/null 2>&1 && return 0; sleep 0.1; done; fail "waited in vain: $*"; }
 
 export WAYLAND_DISPLAY=tolvo-wayland
