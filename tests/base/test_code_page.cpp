@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/character_sets.h"
 #include "base/code_page.h"
-#include "tests/base/print.h"
+#include "tests/support/print.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "base/code_page.h"
 #include "base/list_marks.h"
 #include "base/numbers.h"
-#include "tests/base/print.h"
+#include "tests/support/print.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "base/failure.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/SystemProcesses.h"
 #include "platform/headless/clipboard_line_ends.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/failures.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -53,7 +51,9 @@ TEST(Processes, AStartedProgramCanBeWaitedFor) {
     processes.waitFor(process);
     EXPECT_TRUE(QFile::exists(mark));
     processes.waitFor(process); // long gone: returns
-    EXPECT_THROW(processes.start(u"/nowhere/Advisor.exe"_s, {}, WindowMode::Normal), Failure);
+    const QString missing = u"/nowhere/Advisor.exe"_s;
+    expectFailure(
+        failureNumber::fileNotFound, [&] { processes.start(missing, {}, WindowMode::Normal); }, missing);
 }
 
 } // namespace tolvo

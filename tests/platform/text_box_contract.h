@@ -4,19 +4,12 @@
 #pragma once
 
 #include "platform/text_box.h"
-
-#include <QDebug>
+#include "tests/support/print.h"
 
 #include <functional>
 #include <memory>
-#include <ostream>
 #include <string>
 #include <vector>
-
-/// Failures show texts readably.
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << QDebug::toString(text).toStdString();
-}
 
 namespace tolvo {
 

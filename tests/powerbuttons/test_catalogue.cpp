@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "base/failure.h"
 #include "powerbuttons/catalogue.h"
 #include "tests/powerbuttons/world.h"
+#include "tests/support/failures.h"
 
 #include <QBuffer>
 
@@ -57,17 +57,13 @@ TEST(Catalogue, refusesInWords) {
         {"aa;A\nbb;caf\xE9;0;", failureNumber::fileAccess, "line 2: the text is not UTF-8"},
         {QByteArray(40000, 'a') + ";A", failureNumber::overflow, "line 1:"},
     };
-    for (const auto &[text, number, words] : cases) {
-        try {
-            static_cast<void>(readText(text));
-            ADD_FAILURE() << "accepted: " << words;
-        } catch (const Failure &failure) {
-            EXPECT_EQ(failure.number(), number);
-            EXPECT_TRUE(failure.description().contains(QLatin1StringView(words)))
-                << failure.description().toStdString();
-        }
-    }
-    EXPECT_THROW(static_cast<void>(Catalogue::read("/nowhere/Tools.dat")), Failure);
+    for (const auto &row : cases)
+        expectFailure(
+            std::get<int>(row), [&] { (void)readText(std::get<QByteArray>(row)); },
+            std::get<const char *>(row));
+    const QString missing = "/nowhere/Tools.dat";
+    expectFailure(
+        failureNumber::fileNotFound, [&] { (void)Catalogue::read(missing); }, missing);
 }
 
 TEST(ToolsDat, fitsIntoThePanel) {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What the store promises while its file is well.
-#include "base/failure.h"
 #include "preferences/settings_store.h"
+#include "tests/support/failures.h"
 
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace tolvo {
 namespace {
@@ -82,7 +81,7 @@ TEST_F(Store, CountersAreDecimalTexts) {
         EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"ccUPP"_qs), after);
     }
     store.SaveSetting(stats, u"Usage"_qs, u"ccUPP"_qs, u"many"_qs);
-    EXPECT_THROW(store.increment(stats, u"Usage"_qs, u"ccUPP"_qs), Failure);
+    expectFailure(failureNumber::typeMismatch, [&] { store.increment(stats, u"Usage"_qs, u"ccUPP"_qs); });
     EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"ccUPP"_qs), u"many"_qs);
 }
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "base/failure.h"
 #include "preferences/settings_store.h"
 #include "preferences/settings_table.h"
+#include "tests/support/failures.h"
 
 #include <QSet>
-#include <gtest/gtest.h>
 
 namespace tolvo {
 namespace {
@@ -16,7 +15,7 @@ TEST(SettingsTable, NamesEachSettingOnce) {
         EXPECT_FALSE(seen.contains(name.toCaseFolded())) << name.toStdString();
         seen.insert(name.toCaseFolded());
     }
-    EXPECT_THROW((void)settingsDefault(u"Preferences", u"Wordrwap"), Failure);
+    expectFailure(failureNumber::invalidArgument, [] { (void)settingsDefault(u"Preferences", u"Wordrwap"); });
 }
 
 TEST(SettingsTable, EmptyFontKeyCountsAsAbsent) {

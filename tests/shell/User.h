@@ -6,15 +6,10 @@
 #include "platform/headless/ConsoleBoxes.h"
 #include "shell/headless/HeadlessSession.h"
 #include "shell/keyboard.h"
+#include "tests/support/print.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <ostream>
-
-// Google Test prints texts as UTF-8.
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toUtf8().toStdString() << '"';
-}
 
 namespace tolvo::test {
 

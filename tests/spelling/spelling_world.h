@@ -3,7 +3,6 @@
 // service and a Word that play their parts.
 #pragma once
 
-#include "base/failure.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/http_client.h"
 #include "preferences/settings_store.h"
@@ -11,22 +10,14 @@
 #include "spelling/Proofing.h"
 #include "spelling/dictionaries.h"
 #include "spelling/word_automation.h"
-#include "text/cTextMethods.h"
+#include "tests/support/failures.h"
+#include "tests/support/silent_host.h"
 
 #include <QDir>
 #include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
-#include <ostream>
 #include <utility>
-
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toUtf8().replace("\r", "\\r").replace("\n", "\\n").toStdString() << '"';
-}
-inline void PrintTo(const QStringList &texts, std::ostream *out) {
-    *out << texts.join(QStringLiteral(" / ")).toStdString();
-}
 
 namespace tolvo::test {
 
@@ -122,11 +113,6 @@ class ScriptedWord : public WordAutomation {
     };
 };
 
-struct Silence : TextHost {
-    void setStatus(const QString &) override {}
-    void warn(const QString &, const QString &) override {}
-};
-
 class SpellingWorld : public ::testing::Test, public ProofingHost {
   public:
     SpellingWorld() {
@@ -194,7 +180,7 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
     RecordingBoxes boxes;
     ScriptedHttp http;
     ScriptedWord word;
-    Silence silence;
+    SilentHost silence;
     cTextMethods oTextMethods{silence, [](const QString &) { return false; }};
     SpellingServices services{
         store, boxes, http, word, folder.path() + u("/program"), folder.path() + u("/user"), QString()};

@@ -51,13 +51,9 @@ TEST_F(Ginger, EndsOnAnyReply) {
     for (const char *reply : {"", "f", "f()", "f(x)", "f({\"a\":1},[2],x);", "f({)", ")(", "f({\"a)"})
         EXPECT_EQ(parseGinger(boxes, u(reply), {}).Count(), 0) << reply;
     EXPECT_EQ(said().size(), 2); // the two that have an x where a bracket should be
-    try {
-        (void)parseGinger(boxes, u("f({\"exception\":1})"), {});
-        FAIL() << "an exception was passed over";
-    } catch (const Failure &failure) {
-        EXPECT_EQ(failure.number(), 5011);
-        EXPECT_EQ(failure.description(), u("{\"exception\":1}"));
-    }
+    expectFailure(
+        failureNumber::serviceException, [&] { (void)parseGinger(boxes, u("f({\"exception\":1})"), {}); },
+        u("{\"exception\":1}"));
 }
 
 } // namespace tolvo::test

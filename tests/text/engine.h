@@ -2,17 +2,10 @@
 // The text engine by itself, for tests: what it says is kept, and it knows one file extension, "txt".
 #pragma once
 
+#include "tests/support/failures.h"
 #include "text/cTextMethods.h"
 
 #include <QStringList>
-#include <gtest/gtest.h>
-#include <ostream>
-
-// Google Test prints texts as UTF-8.
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toUtf8().replace("\r", "\\r").replace("\n", "\\n").replace("\t", "\\t").toStdString()
-         << '"';
-}
 
 namespace tolvo::test {
 
@@ -43,7 +36,7 @@ template <class Tool>
 void expectExamples(Tool tool, std::initializer_list<const char16_t *> examples) {
     for (const char16_t *example : examples) {
         const QStringList parts = lines(example).split(u'→');
-        EXPECT_EQ(tool(parts.at(0)), parts.at(1)) << testing::PrintToString(parts.at(0));
+        EXPECT_EQ(tool(parts.at(0)), parts.at(1)) << shown(parts.at(0));
     }
 }
 

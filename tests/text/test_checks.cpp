@@ -38,7 +38,7 @@ TEST_F(Checks, punctuation) {
           {u"a.b\tc,|\"d\"|", u"a. b\tc,|\"d\"|"}}) {
         said = {};
         EXPECT_EQ(engine.checkPunctuation(lines(c.text), false), lines(c.expected));
-        EXPECT_EQ(said.warnings.join(u'~'), lines(c.messages)) << testing::PrintToString(lines(c.text));
+        EXPECT_EQ(said.warnings.join(u'~'), lines(c.messages)) << shown(lines(c.text));
     }
     said = {};
     (void)engine.checkPunctuation(u"(", false);
@@ -66,7 +66,7 @@ TEST_F(Checks, statistics) {
                           {u"don't\u00A0well-known abc123 123abc a1b a- b a -b", "88 44 36 10 1 1 0 0 words"},
                           {u"what?! e.g. \u00A0| a b", "38 17 12 5 2 2 3 1.67 words"}})
         EXPECT_EQ(column(engine.statistics(lines(c.text), {}), false), QLatin1StringView(c.expected))
-            << testing::PrintToString(lines(c.text));
+            << shown(lines(c.text));
     const TextStatistics selected = engine.statistics(u"x", lines(u"a b. c d?|"));
     EXPECT_EQ(column(selected, true), u"22 10 6 4 2 1 2 2 words"_qs);
     EXPECT_TRUE(selected.hasSelection);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Every tool is visited by texts that nobody would write, and keeps what it promises about any text.
-#include "base/failure.h"
 #include "tests/text/engine.h"
 #include "tests/text/operations.h"
 
@@ -31,7 +30,7 @@ QStringList guests() {
 TEST_F(PoorGuests, comeOutOfEveryTool) {
     for (const QString &text : guests()) {
         for (const Operation &operation : operations) {
-            SCOPED_TRACE(testing::PrintToString(text.left(10)) + " in " + operation.name);
+            SCOPED_TRACE(shown(text.left(10)) + " in " + operation.name);
             const QString once = operation.run(engine, text);
             EXPECT_LE(once.size(), 60 * text.size() + 60);
         }
@@ -40,7 +39,7 @@ TEST_F(PoorGuests, comeOutOfEveryTool) {
 
 TEST_F(PoorGuests, laws) {
     for (const QString &text : guests()) {
-        SCOPED_TRACE(testing::PrintToString(text.left(10)));
+        SCOPED_TRACE(shown(text.left(10)));
         const QString trimmed = engine.TrimWhiteSpace(text);
         EXPECT_EQ(engine.TrimWhiteSpace(trimmed), trimmed);
         EXPECT_EQ(engine.TrimTrail(trimmed), trimmed);

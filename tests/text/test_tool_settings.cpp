@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "base/failure.h"
 #include "preferences/settings_store.h"
 #include "preferences/settings_table.h"
 #include "tests/text/engine.h"
@@ -67,7 +66,7 @@ TEST(ToolSettings, areWrittenAsTheStoreHasThem) {
     writeSetting(store, u"NumLines", u"Pad", u"1"_qs);
     EXPECT_FALSE(loadSettings<LineNumberSettings>(store).pad) << "it is compared with \"True\"";
     writeSetting(store, u"NumList", u"PadChars", u"wide"_qs);
-    EXPECT_THROW((void)loadSettings<NumberListSettings>(store), Failure);
+    expectFailure(failureNumber::typeMismatch, [&] { (void)loadSettings<NumberListSettings>(store); });
 }
 
 template <class Settings>
@@ -93,10 +92,13 @@ TEST(ToolSettings, ofAnActionAreTakenStrictly) {
               IndentSettings::WithText);
     EXPECT_EQ(fromAction<IndentSettings>("RadioButton=1, Spaces=1000000000").prefix(), QString(255, u' '));
 
-    for (const char *bad :
-         {"", "Width=1e999, Justify=0, Hanging=0, Tab=True", "Width=60",
-          "Width=3000000000, Justify=0, Hanging=0, Tab=True", "Width=60, Justify=maybe, Hanging=0, Tab=True"})
-        EXPECT_THROW((void)fromAction<WordWrapSettings>(bad), Failure) << bad;
+    using namespace failureNumber;
+    for (const auto &[number, bad] : {std::pair(typeMismatch, ""),
+                                      {overflow, "Width=1e999, Justify=0, Hanging=0, Tab=True"},
+                                      {typeMismatch, "Width=60"},
+                                      {overflow, "Width=3000000000, Justify=0, Hanging=0, Tab=True"},
+                                      {typeMismatch, "Width=60, Justify=maybe, Hanging=0, Tab=True"}})
+        expectFailure(number, [bad = bad] { (void)fromAction<WordWrapSettings>(bad); });
 }
 
 TEST(ToolSettings, ofADialogAreTakenLeniently) {
