@@ -2,9 +2,7 @@
 // Search, find all and replace all in each mode, on a full text area with some 30,000 hits, and on texts and
 // patterns that lead searches astray.
 #include "bench/bench.h"
-#include "platform/headless/ConsoleBoxes.h"
-#include "platform/headless/MemoryTextBox.h"
-#include "search/CSearch.h"
+#include "tests/support/silent_search.h"
 
 #include <functional>
 
@@ -15,32 +13,7 @@ namespace {
 
 constexpr double frame = 16;
 
-struct Silence : TextHost {
-    void setStatus(const QString &) override {}
-    void warn(const QString &, const QString &) override {}
-};
-
-struct Listed : SearchResults {
-    void clear() override { count = 0; }
-    void add(const QString &, qint32) override { ++count; }
-    void setCaption(const QString &) override {}
-    void show() override {}
-    int count = 0;
-};
-
-struct World : SearchHost {
-    TextBox &txtCurrent() override { return box; }
-    void directionChanged(SearchDirection) override {}
-    SearchResults &results() override { return listed; }
-
-    MemoryTextBox box;
-    RecordingBoxes boxes;
-    Listed listed;
-    Silence silence;
-    cTextMethods textMethods{silence, [](const QString &) { return false; }};
-    CSearch search{*this, boxes, textMethods};
-};
-
+using World = test::SilentSearch;
 using Run = std::function<void(World &)>;
 
 void measure(Table &table, const char *name, const QString &text, const Run &run) {

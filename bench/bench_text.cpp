@@ -3,6 +3,7 @@
 // together.
 #include "base/failure.h"
 #include "bench/bench.h"
+#include "tests/support/silent_host.h"
 #include "tests/text/operations.h"
 
 #include <QSet>
@@ -13,11 +14,6 @@ using namespace tolvo;
 using namespace tolvo::bench;
 
 namespace {
-
-struct Silence : TextHost {
-    void setStatus(const QString &) override {}
-    void warn(const QString &, const QString &) override {}
-};
 
 /// A word with its own three-letter extension, and so on through all of them.
 QString differentAddresses() {
@@ -89,7 +85,7 @@ void measureWorst(const test::Operation &operation, const cTextMethods &engine, 
 } // namespace
 
 int main() {
-    Silence host;
+    test::SilentHost host;
     static const QSet<QString> extensions = {QStringLiteral("txt"), QStringLiteral("exe"),
                                              QStringLiteral("pdf")};
     const cTextMethods engine(

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Regular expressions: what the translation lets through the engine accepts or finds too large, and every
 // match lies in the text, behind the one before it.
-#include "fuzz/search_world.h"
+#include "fuzz/fuzz.h"
 #include "search/ecmascript_pattern.h"
+#include "search/regular_expression.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace tolvo;

@@ -2,10 +2,8 @@
 // Foreign files in the registry editor's format: each is read or refused in words, and what was read survives
 // being written and read again.
 #include "base/failure.h"
+#include "fuzz/fuzz.h"
 #include "preferences/reg_file.h"
-
-#include <cstdint>
-#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace tolvo;
@@ -22,7 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     } catch (const Failure &) { // a name that the format can't carry
         return 0;
     }
-    if (readRegFile(written) != keys)
-        std::abort();
+    fuzz::require(readRegFile(written) == keys);
     return 0;
 }

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Replacement templates: pattern, template and text, a zero byte between them, through replace all.
-#include "fuzz/search_world.h"
+#include "fuzz/fuzz.h"
+#include "tests/support/silent_search.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace tolvo;
-    static fuzz::World world;
+    static test::SilentSearch world;
     const QStringList parts = fuzz::textOf(data, size).split(QChar(u'\0'));
     if (parts.size() != 3 || parts[2].size() > 60)
         return 0;

@@ -1,24 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Every tool of the text engine on foreign text: nothing crashes, and what holds for any text holds.
 #include "base/failure.h"
+#include "fuzz/fuzz.h"
+#include "tests/support/silent_host.h"
 #include "tests/text/operations.h"
 
-#include <cstdlib>
 #include <cstring>
 
 using namespace tolvo;
+using fuzz::require;
 
 namespace {
-
-struct Silence : TextHost {
-    void setStatus(const QString &) override {}
-    void warn(const QString &, const QString &) override {}
-};
-
-void require(bool law) {
-    if (!law)
-        std::abort();
-}
 
 void checkLaws(const cTextMethods &engine, const QString &text) {
     const QString trimmed = engine.TrimWhiteSpace(text);
@@ -49,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
         text.resize(length / 2);
         std::memcpy(text.data(), data + 1, static_cast<std::size_t>(length / 2) * 2);
     }
-    static Silence host;
+    static test::SilentHost host;
     static const cTextMethods engine(host, [](const QString &extension) { return extension == u"txt"; });
     for (const test::Operation &operation : test::operations) {
         try {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Tools.dat of any content is read or refused; what is read holds every key once.
 #include "base/failure.h"
+#include "fuzz/fuzz.h"
 #include "powerbuttons/catalogue.h"
 
 #include <QBuffer>
 #include <QSet>
-#include <cstdint>
-#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     QBuffer file;
@@ -17,9 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         QSet<QString> keys;
         for (const tolvo::ToolPtr &tool : catalogue.tools())
             keys.insert(tool->isHeading() ? tool->Token() + tool->Name() : tool->Token());
-        if (keys.size() != catalogue.tools().size() ||
-            catalogue.panelItems().size() >= catalogue.tools().size())
-            std::abort();
+        tolvo::fuzz::require(keys.size() == catalogue.tools().size() &&
+                             catalogue.panelItems().size() < catalogue.tools().size());
     } catch (const tolvo::Failure &) {
         return 0;
     }

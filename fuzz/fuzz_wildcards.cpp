@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Wildcard patterns: whatever is typed, what is shown and what is compiled are patterns of the same standing
 // and have the same groups.
-#include "fuzz/search_world.h"
+#include "fuzz/fuzz.h"
 #include "search/ecmascript_pattern.h"
+#include "search/wildcard_translation.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace tolvo;
