@@ -19,6 +19,9 @@ class CSearch {
   public:
     CSearch(SearchHost &host, MessageBoxes &boxes, const cTextMethods &textMethods);
 
+    /// How long one command may look for matches of an expression; then it is given up with failure 5020.
+    void setTimeLimit(MatchBudget::Clock::duration limit) { m_timeLimit = limit; }
+
     // Literal text (simple_search.cpp)
 
     /// True if a match is now selected. `fromStart` is set on a failed search.
@@ -96,6 +99,7 @@ class CSearch {
     SearchHost &m_host;
     MessageBoxes &m_boxes;
     const cTextMethods &m_text;
+    MatchBudget::Clock::duration m_timeLimit = MatchBudget::usualTime;
 };
 
 } // namespace tolvo

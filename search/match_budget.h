@@ -14,8 +14,11 @@ class MatchBudget {
     using Clock = std::chrono::steady_clock;
     using Interrupted = std::function<bool()>;
 
+    /// What a command may take if nobody says otherwise.
+    static constexpr std::chrono::seconds usualTime{5};
+
     /// `interrupted` tells whether the user wants an end; it is asked some twenty times a second.
-    explicit MatchBudget(Interrupted interrupted = {}, Clock::duration time = std::chrono::seconds(5));
+    explicit MatchBudget(Interrupted interrupted = {}, Clock::duration time = usualTime);
 
     /// True from the moment on at which the command has to end.
     [[nodiscard]] bool spent();

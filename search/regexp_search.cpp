@@ -81,7 +81,7 @@ QString replaced(const RegularExpression &expression, QStringView text,
 } // namespace
 
 MatchBudget CSearch::newBudget() {
-    return MatchBudget([this] { return m_host.interrupted(); });
+    return MatchBudget([this] { return m_host.interrupted(); }, m_timeLimit);
 }
 
 bool CSearch::reported(const char *operation, const std::function<void()> &action) {

@@ -39,6 +39,7 @@ class SearchWorld : public ::testing::Test, public SearchHost {
     TextBox &txtCurrent() override { return box; }
     void directionChanged(SearchDirection direction) override { directions.append(direction); }
     SearchResults &results() override { return list; }
+    bool interrupted() override { return isImpatient; }
 
     /// A text as a picture: "one|t[w]o" has a selection and a line end in it, "on^e" a caret.
     void show(QString picture) {
@@ -72,6 +73,7 @@ class SearchWorld : public ::testing::Test, public SearchHost {
     RecordingBoxes boxes;
     KeptResults list;
     QList<SearchDirection> directions;
+    bool isImpatient = false;
     KeptWords engineWords;
     cTextMethods textMethods{engineWords, [](const QString &) { return false; }};
     CSearch search{*this, boxes, textMethods};

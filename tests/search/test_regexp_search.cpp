@@ -140,18 +140,44 @@ TEST_F(RegExpSearch, ListsAllMatches) {
     EXPECT_TRUE(said().contains("(error 5018)\r\n in CSearch::RegExpReplaceAll"));
 }
 
-TEST_F(RegExpSearch, EndlessPatternsEndWithAReport) {
+TEST_F(RegExpSearch, EndlessSearchesEndWithAReport) {
     const QString text = QString(60000, u'a') + u'b';
-    const QString huge = QString(70000, u'(') + QString(70000, u')');
-    for (const QString &pattern : {QStringLiteral("(a+)+$"), QStringLiteral("(?:a?){40}a{40}$"), huge}) {
-        SCOPED_TRACE(pattern.left(20).toStdString());
-        box.setText(text);
-        search.RegExpSearch(text, pattern, false, true, true);
-        EXPECT_TRUE(said().contains("(error 5020)\r\n in CSearch::RegExpSearch"));
-        search.RegExpReplaceAll(pattern, "x", true, false, false);
-        EXPECT_TRUE(said().contains("(error 5020)\r\n in CSearch::RegExpReplaceAll"));
-        EXPECT_EQ(box.Text(), text);
+    const struct {
+        QString pattern;
+        const char *reason;
+        std::chrono::milliseconds limit = MatchBudget::usualTime;
+        bool isImpatient = false;
+    } rows[] = {
+        {"(a+)+$", "needs too much work"},
+        {"(?:a?){40}a{40}$", "needs too much work"},
+        {QString(70000, u'(') + QString(70000, u')'), "is too large"},
+        {"(?:aa?){9}(?!a|b)", "took too long", std::chrono::milliseconds(20)},
+        {"(?:aa?){9}(?!a|b)", "was interrupted", MatchBudget::usualTime, true},
+    };
+    const std::pair<const char *, std::function<void(const QString &)>> operations[] = {
+        {"RegExpSearch", [&](const QString &p) { search.RegExpSearch(text, p, false, true, true); }},
+        {"RegExpFindAll",
+         [&](const QString &p) {
+             QString searched = text;
+             search.RegExpFindAll(searched, p, true);
+         }},
+        {"RegExpReplace",
+         [&](const QString &p) { search.RegExpReplace(p, "x", false, true, true, false, true); }},
+        {"RegExpReplaceAll", [&](const QString &p) { search.RegExpReplaceAll(p, "x", true, false, false); }},
+    };
+    box.setText(text);
+    for (const auto &row : rows) {
+        search.setTimeLimit(row.limit);
+        isImpatient = row.isImpatient;
+        for (const auto &[name, run] : operations) {
+            run(row.pattern);
+            const QString report = said();
+            EXPECT_TRUE(report.contains(row.reason)) << name << shown(report);
+            EXPECT_TRUE(report.endsWith(QString("(error 5020)\r\n in CSearch::") + name)) << shown(report);
+            EXPECT_EQ(box.Text(), text);
+        }
     }
+    isImpatient = false;
     // A word of any length is one word, and no endless search.
     search.WildcardReplaceAll("@,", "x", false, true, false, {}, false);
     EXPECT_EQ(said(), "0 strings replaced");
