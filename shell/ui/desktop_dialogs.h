@@ -63,13 +63,13 @@ class DesktopDialogs : public ToolDialogs, private SearchWindow, private ActionS
     // ActionSettings
 
     std::optional<QString> getSettings(const QString &token, const QString &details) override;
-    /// Makes the dialog of the settings and hands it to `use`.
-    template <class Settings, class Use>
+    /// Makes a dialog that shows the settings and hands it to `use`.
+    template <class Dialog, class Settings, class Use>
     auto withDialog(const Settings &settings, Use use);
-    template <class Settings>
+    template <class Dialog, class Settings>
     bool askInDialog(Settings &settings);
     /// The settings of a tool dialog as a string, edited by the user.
-    template <class Settings>
+    template <class Dialog>
     std::optional<QString> editSettings(const QString &details);
     std::optional<QString> editSearch(const QString &details);
     std::optional<QString> editReplace(const QString &details);

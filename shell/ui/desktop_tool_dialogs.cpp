@@ -12,38 +12,15 @@
 #include "text/ui/dlgWordWrap.h"
 
 #include <type_traits>
+#include <utility>
 
 namespace tolvo {
 
 namespace {
 
-/// Which dialog serves which settings.
-template <class Settings>
-struct DialogOf;
-template <>
-struct DialogOf<IndentSettings> {
-    using type = dlgIndent;
-};
-template <>
-struct DialogOf<WordWrapSettings> {
-    using type = dlgWordWrap;
-};
-template <>
-struct DialogOf<RemoveLinesSettings> {
-    using type = dlgRemLines;
-};
-template <>
-struct DialogOf<BulletSettings> {
-    using type = dlgBullet;
-};
-template <>
-struct DialogOf<NumberListSettings> {
-    using type = dlgNumberStyle;
-};
-template <>
-struct DialogOf<LineNumberSettings> {
-    using type = dlgNumLines;
-};
+/// What a dialog is for.
+template <class Dialog>
+using SettingsOf = decltype(std::declval<const Dialog &>().settings());
 
 /// Dialogs with a sample borrow the text engine, one has a message of its own.
 template <class Dialog, class Settings>
@@ -58,18 +35,17 @@ Dialog makeDialog(const Settings &settings, const frmMain &session, MessageBoxes
 
 } // namespace
 
-template <class Settings, class Use>
+template <class Dialog, class Settings, class Use>
 auto DesktopDialogs::withDialog(const Settings &settings, Use use) {
-    using Dialog = typename DialogOf<Settings>::type;
     Dialog dialog = makeDialog<Dialog>(settings, *m_session, m_services.boxes, &m_parent);
     if constexpr (requires { dialog.setSampleFont(Font()); })
         dialog.setSampleFont(m_session->currentFont());
     return use(dialog);
 }
 
-template <class Settings>
+template <class Dialog, class Settings>
 bool DesktopDialogs::askInDialog(Settings &settings) {
-    return withDialog(settings, [&settings](auto &dialog) {
+    return withDialog<Dialog>(settings, [&settings](auto &dialog) {
         if (dialog.exec() != QDialog::Accepted)
             return false;
         settings = dialog.settings();
@@ -77,52 +53,52 @@ bool DesktopDialogs::askInDialog(Settings &settings) {
     });
 }
 
-template <class Settings>
+template <class Dialog>
 std::optional<QString> DesktopDialogs::editSettings(const QString &details) {
     // What the string leaves open is as the tool was used last; what is edited here stays out of that.
-    return withDialog(m_session->toolSettings().get<Settings>(),
-                      [&details](auto &dialog) -> std::optional<QString> {
-                          QString edited = details;
-                          if (!tolvo::getSettings(dialog, edited))
-                              return std::nullopt;
-                          return edited;
-                      });
+    return withDialog<Dialog>(m_session->toolSettings().get<SettingsOf<Dialog>>(),
+                              [&details](auto &dialog) -> std::optional<QString> {
+                                  QString edited = details;
+                                  if (!tolvo::getSettings(dialog, edited))
+                                      return std::nullopt;
+                                  return edited;
+                              });
 }
 
 bool DesktopDialogs::ask(IndentSettings &settings) {
-    return askInDialog(settings);
+    return askInDialog<dlgIndent>(settings);
 }
 
 bool DesktopDialogs::ask(WordWrapSettings &settings) {
-    return askInDialog(settings);
+    return askInDialog<dlgWordWrap>(settings);
 }
 
 bool DesktopDialogs::ask(RemoveLinesSettings &settings) {
-    return askInDialog(settings);
+    return askInDialog<dlgRemLines>(settings);
 }
 
 bool DesktopDialogs::ask(BulletSettings &settings) {
-    return askInDialog(settings);
+    return askInDialog<dlgBullet>(settings);
 }
 
 bool DesktopDialogs::ask(NumberListSettings &settings) {
-    return askInDialog(settings);
+    return askInDialog<dlgNumberStyle>(settings);
 }
 
 bool DesktopDialogs::ask(LineNumberSettings &settings) {
-    return askInDialog(settings);
+    return askInDialog<dlgNumLines>(settings);
 }
 
 std::optional<QString> DesktopDialogs::getSettings(const QString &token, const QString &details) {
     using Edit = std::optional<QString> (DesktopDialogs::*)(const QString &);
     static const QHash<QString, Edit> edits{
-        {QStringLiteral("foIND"), &DesktopDialogs::editSettings<IndentSettings>},
-        {QStringLiteral("foUNI"), &DesktopDialogs::editSettings<IndentSettings>},
-        {QStringLiteral("foWRP"), &DesktopDialogs::editSettings<WordWrapSettings>},
-        {QStringLiteral("foREM"), &DesktopDialogs::editSettings<RemoveLinesSettings>},
-        {QStringLiteral("liBUL"), &DesktopDialogs::editSettings<BulletSettings>},
-        {QStringLiteral("liNUM"), &DesktopDialogs::editSettings<NumberListSettings>},
-        {QStringLiteral("liREN"), &DesktopDialogs::editSettings<LineNumberSettings>},
+        {QStringLiteral("foIND"), &DesktopDialogs::editSettings<dlgIndent>},
+        {QStringLiteral("foUNI"), &DesktopDialogs::editSettings<dlgIndent>},
+        {QStringLiteral("foWRP"), &DesktopDialogs::editSettings<dlgWordWrap>},
+        {QStringLiteral("foREM"), &DesktopDialogs::editSettings<dlgRemLines>},
+        {QStringLiteral("liBUL"), &DesktopDialogs::editSettings<dlgBullet>},
+        {QStringLiteral("liNUM"), &DesktopDialogs::editSettings<dlgNumberStyle>},
+        {QStringLiteral("liREN"), &DesktopDialogs::editSettings<dlgNumLines>},
         {QStringLiteral("edSRC"), &DesktopDialogs::editSearch},
         {QStringLiteral("edREP"), &DesktopDialogs::editReplace},
         {QStringLiteral("chSPE"), &DesktopDialogs::editLanguage},
