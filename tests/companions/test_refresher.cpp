@@ -181,9 +181,3 @@ TEST_F(RefresherProgram, ChangesNothingWithoutAnAddress) {
 
 } // namespace
 } // namespace tolvo
-
-int main(int argc, char **argv) {
-    const QCoreApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

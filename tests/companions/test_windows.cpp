@@ -96,9 +96,3 @@ TEST(Companions, StartAsPrograms) {
 
 } // namespace
 } // namespace tolvo
-
-int main(int argc, char **argv) {
-    const QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -63,22 +63,8 @@ class Runs : public ::testing::Test {
         during = std::move(script);
         log.clear();
         processes.started.clear();
-        const SpellingServices spelling{.store = store,
-                                        .boxes = boxes,
-                                        .http = network,
-                                        .word = word,
-                                        .programFolder = folder.path(),
-                                        .userFolder = folder.path(),
-                                        .atdEndpoint = {}};
-        modMain main({.store = store,
-                      .clipboard = clipboard,
-                      .boxes = boxes,
-                      .sound = sound,
-                      .processes = processes,
-                      .clock = clock,
-                      .extensions = extensions,
-                      .programFolder = folder.path(),
-                      .spelling = spelling},
+        const SpellingServices spelling{store, boxes, network, word, folder.path(), folder.path(), {}};
+        modMain main({store, clipboard, boxes, sound, processes, clock, extensions, folder.path(), spelling},
                      [this] { return std::make_unique<Window>(*this); });
         return main.Main();
     }

@@ -42,6 +42,7 @@ TEST(WindowSize, isKeptAboveItsSmallest) {
 class MainWindowStory : public testing::Test {
   protected:
     void run(const QString &clipboardText, const std::function<void()> &user) {
+        QGuiApplication::setQuitOnLastWindowClosed(false);
         writeSetting(store, u"Preferences", u"Show Tips at Startup", QStringLiteral("0"));
         QApplication::clipboard()->setText(clipboardText);
         const RunServices services{store, clipboard,  boxes,    sound,   processes,
@@ -132,10 +133,3 @@ TEST_F(MainWindowStory, theRightButtonRunsAToolWithItsLastSettings) {
 }
 
 } // namespace
-
-int main(int argc, char **argv) {
-    QApplication application(argc, argv);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
