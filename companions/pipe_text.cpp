@@ -2,6 +2,8 @@
 #include "companions/pipe_text.h"
 
 #include <QStringDecoder>
+#include <algorithm>
+#include <cstring>
 
 namespace tolvo {
 
@@ -9,12 +11,16 @@ namespace {
 
 using Byte = unsigned char;
 
+int lengthByFirstByte(Byte first) {
+    return first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+}
+
 /// Bytes of the sequence at `bytes`, of which `left` are there; 0 if it is none.
 int sequenceLength(const Byte *bytes, qsizetype left) {
     const Byte first = bytes[0];
-    if (first < 0x80)
+    const int length = lengthByFirstByte(first);
+    if (length == 1)
         return 1;
-    const int length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
     if (first < 0xC2 || first > 0xF4 || left < length)
         return 0;
     for (int i = 1; i < length; ++i) {
@@ -28,11 +34,22 @@ int sequenceLength(const Byte *bytes, qsizetype left) {
     return length;
 }
 
+/// True if the next eight bytes are ASCII, as most are.
+bool eightAscii(const Byte *bytes) {
+    quint64 word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    return (word & Q_UINT64_C(0x8080808080808080)) == 0;
+}
+
 } // namespace
 
-std::optional<qsizetype> firstBadByte(const QByteArray &bytes) {
-    const auto *data = reinterpret_cast<const Byte *>(bytes.constData());
+std::optional<qsizetype> firstBadByte(QByteArrayView bytes) {
+    const auto *data = reinterpret_cast<const Byte *>(bytes.data());
     for (qsizetype i = 0; i < bytes.size();) {
+        if (i + 8 <= bytes.size() && eightAscii(data + i)) {
+            i += 8;
+            continue;
+        }
         const int length = sequenceLength(data + i, bytes.size() - i);
         if (length == 0)
             return i;
@@ -41,7 +58,16 @@ std::optional<qsizetype> firstBadByte(const QByteArray &bytes) {
     return std::nullopt;
 }
 
-QString fromUtf8(const QByteArray &bytes) {
+qsizetype wholeSequences(QByteArrayView bytes) {
+    for (qsizetype back = 1; back <= std::min<qsizetype>(3, bytes.size()); ++back) {
+        const auto byte = static_cast<Byte>(bytes[bytes.size() - back]);
+        if ((byte & 0xC0) != 0x80)
+            return byte >= 0xC2 && lengthByFirstByte(byte) > back ? bytes.size() - back : bytes.size();
+    }
+    return bytes.size();
+}
+
+QString fromUtf8(QByteArrayView bytes) {
     return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom)(bytes);
 }
 

@@ -3,10 +3,11 @@
 #include "base/application.h"
 #include "base/failure.h"
 #include "base/paths.h"
+#include "companions/large_texts.h"
 #include "companions/pipe_arguments.h"
 #include "companions/pipe_batch.h"
 #include "companions/pipe_session.h"
-#include "companions/pipe_text.h"
+#include "companions/pipe_streams.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/MemoryTextBox.h"
 #include "platform/headless/clipboard_line_ends.h"
@@ -14,7 +15,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <cstdio>
 
 namespace tolvo {
 
@@ -26,30 +26,12 @@ void complain(const QString &text) {
     ConsoleBoxes().say(text);
 }
 
-void write(const QString &text) {
-    const QByteArray bytes = text.toUtf8();
-    const auto size = static_cast<size_t>(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
-        throw Failure(failureNumber::fileAccess, QStringLiteral("standard output can't be written"));
-}
-
-/// All of standard input as text. Throws BadRequest for what isn't UTF-8.
-QString readText() {
-    QFile input;
-    if (!input.open(stdin, QIODevice::ReadOnly))
-        throw Failure(failureNumber::fileAccess, QStringLiteral("standard input can't be read"));
-    const QByteArray bytes = input.readAll();
-    if (const auto offset = firstBadByte(bytes))
-        throw BadRequest(QStringLiteral("the text is not UTF-8: byte %1").arg(*offset));
-    return fromUtf8(bytes);
-}
-
 int runSteps(const PipeWorld &world, const PipeArguments &arguments) {
     ConsoleBoxes console;
     RecordingBoxes silent;
     ClipboardLineEnds lineEnds;
-    const QString input = readText();
-    const PipeRequest request{.text = arguments.raw ? input : lineEnds.takeIn(input),
+    const PipeRequest request{.text =
+                                  arguments.raw ? readStandardInput() : lineEnds.takeIn(readStandardInput()),
                               .selStart = arguments.selStart,
                               .selLength = arguments.selLength,
                               .steps = arguments.steps,
@@ -61,9 +43,10 @@ int runSteps(const PipeWorld &world, const PipeArguments &arguments) {
     const PipeReply reply =
         runPipe(world, request, arguments.json ? silent : static_cast<RecordingBoxes &>(console), sayStatus);
     if (arguments.json)
-        write(replyLine(reply) + u'\n');
+        writeStandardOutput(replyLine(reply) + u'\n');
     else
-        write(arguments.raw ? reply.text : lineEnds.goOut(reply.text));
+        writeStandardOutput(
+            reply.text, [&](const QString &piece) { return arguments.raw ? piece : lineEnds.goOut(piece); });
     if (reply.statistics && !arguments.json) {
         for (const StatisticsRow &row : reply.statistics->rows)
             console.say(row.name + u'\t' + row.fullText + u'\t' + row.selection);
@@ -80,7 +63,7 @@ int runBatch(const PipeWorld &world) {
         if (line.isEmpty())
             return Done;
         if (!line.trimmed().isEmpty())
-            write(answerRequest(world, line) + u'\n');
+            writeStandardOutput(answerRequest(world, line) + u'\n');
     }
 }
 
@@ -92,7 +75,7 @@ void listTools(const Catalogue &catalogue) {
         else if (tool->Token() != QLatin1StringView("toolNULL"))
             list += tool->Token() + u'\t' + tool->Name() + u'\t' + tool->Tooltip() + u'\n';
     }
-    write(list.startsWith(u'\n') ? list.sliced(1) : list);
+    writeStandardOutput(list.startsWith(u'\n') ? list.sliced(1) : list);
 }
 
 int runWithCatalogue(const PipeArguments &arguments) {
@@ -117,10 +100,10 @@ int run(const QStringList &commandLine) {
         throw BadRequest(arguments.error);
     switch (arguments.mode) {
     case PipeArguments::Help:
-        write(helpText());
+        writeStandardOutput(helpText());
         return Done;
     case PipeArguments::Version:
-        write(QStringLiteral("tolvo-pipe %1\n").arg(applicationVersion()));
+        writeStandardOutput(QStringLiteral("tolvo-pipe %1\n").arg(applicationVersion()));
         return Done;
     default:
         return runWithCatalogue(arguments);
@@ -132,6 +115,8 @@ int run(const QStringList &commandLine) {
 } // namespace tolvo
 
 int main(int argc, char **argv) {
+    tolvo::prepareForLargeTexts();
+    tolvo::useBinaryStreams();
     const QCoreApplication application(argc, argv);
     try {
         return tolvo::run(QCoreApplication::arguments().sliced(1));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/CSearch.h"
 
+#include "base/line_ends.h"
 #include "platform/report_error.h"
 #include "search/joined.h"
 #include "search/replacement_template.h"
@@ -12,13 +13,6 @@
 namespace tolvo {
 
 namespace {
-
-const QString crlf = QStringLiteral("\r\n");
-const QString lf = QStringLiteral("\n");
-
-QString withLineFeeds(QString text) {
-    return text.replace(crlf, lf);
-}
 
 [[noreturn]] void failLimit(const QString &reason) {
     throw Failure(failureNumber::patternLimit, reason);
@@ -131,7 +125,7 @@ int CSearch::RegExpFindAll(QString &text, const QString &pattern, bool matchCase
     if (pattern.isEmpty())
         return count;
     reported("RegExpFindAll", [&] {
-        text = withLineFeeds(text);
+        text = crLfToLf(text);
         const RegularExpression expression = compiled(pattern, matchCase);
         requireValid(expression);
         count = listMatches(expression, text);
@@ -151,7 +145,7 @@ int CSearch::listMatches(const RegularExpression &expression, const QString &tex
         return 0;
     SearchResults &results = m_host.results();
     results.clear();
-    LineCounter lines(text, lf);
+    LineCounter lines(text, u"\n");
     int count = 0;
     for (const auto &[start, length] : matches) {
         if (length == 0)
@@ -177,7 +171,7 @@ void CSearch::RegExpReplace(const QString &pattern, QString replace, bool up, bo
         if (!expression.isValid())
             return inform(QStringLiteral("Error in regular expression"));
         MatchBudget budget = newBudget();
-        QString selected = withLineFeeds(box.SelText());
+        QString selected = crLfToLf(box.SelText());
         if (!isOneMatch(expression, selected, budget)) {
             const QString wide = widened(pattern);
             selectMatch(wide == pattern ? expression : compiled(wide, matchCase), box.Text(), up, fromStart,
@@ -185,7 +179,7 @@ void CSearch::RegExpReplace(const QString &pattern, QString replace, bool up, bo
             if (!replaceAfterFind)
                 return;
             // A search that found nothing leaves the old selection, which is then replaced if it has a match.
-            selected = withLineFeeds(box.SelText());
+            selected = crLfToLf(box.SelText());
             if (!hasMatch(expression, selected, budget))
                 return;
             selStart = box.SelStart();
@@ -195,7 +189,7 @@ void CSearch::RegExpReplace(const QString &pattern, QString replace, bool up, bo
                                   box.capacity(), budget);
         if (smartReplace)
             result = m_text.smartMatch(selected, result);
-        result.replace(lf, crlf);
+        result = lfToCrLf(result);
         box.setSelText(result);
         tolvo::select(box, selStart, static_cast<int>(result.size()));
     });
@@ -209,10 +203,10 @@ void CSearch::RegExpReplaceAll(const QString &pattern, QString replace, bool mat
         translateSpecialChars(replace, false);
         const RegularExpression expression = compiled(pattern, matchCase);
         requireValid(expression);
-        QString text = withLineFeeds(m_host.txtCurrent().Text());
+        QString text = crLfToLf(m_host.txtCurrent().Text());
         const int count = replaceMatchByMatch(expression, text, replace, smartReplace);
         // The box is written even if nothing was replaced: a lone LF becomes CR LF.
-        m_host.txtCurrent().setText(text.replace(lf, crlf));
+        m_host.txtCurrent().setText(lfToCrLf(text));
         if (!silent)
             tellReplacements(count);
     });

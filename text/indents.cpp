@@ -31,16 +31,21 @@ QString cTextMethods::Tab2space(QStringView text, int startColumn, int tabWidth)
     QString result;
     result.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
+        const qsizetype start = i;
+        while (i < text.size() && text[i] != u'\t' && text[i] != u'\n')
+            ++i;
+        result += text.sliced(start, i - start);
+        column += i - start;
+        if (i == text.size())
+            break;
         if (text[i] == u'\t') {
             const qsizetype blanks = width - column % width;
             result.resize(result.size() + blanks, u' ');
             column += blanks;
-            continue;
+        } else {
+            result += u'\n';
+            column = i > 0 && text[i - 1] == u'\r' ? 0 : column + 1;
         }
-        result += text[i];
-        ++column;
-        if (text[i] == u'\n' && i > 0 && text[i - 1] == u'\r')
-            column = 0;
     }
     return result;
 }
@@ -48,15 +53,14 @@ QString cTextMethods::Tab2space(QStringView text, int startColumn, int tabWidth)
 QString cTextMethods::Spaces2tab(QStringView text) const {
     QString result;
     result.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] != u' ' || i + 1 == text.size() || text[i + 1] != u' ') {
-            result += text[i];
-            continue;
-        }
-        while (i + 1 < text.size() && text[i + 1] == u' ')
-            ++i;
+    qsizetype start = 0; // of what is not yet copied
+    for (qsizetype i; (i = text.indexOf(u"  ", start)) >= 0;) {
+        result += text.sliced(start, i - start);
         result += u'\t';
+        for (start = i; start < text.size() && text[start] == u' ';)
+            ++start;
     }
+    result += text.sliced(start);
     return result;
 }
 

@@ -64,13 +64,12 @@ QString cTextMethods::RegularEOL(QStringView text) const {
     QString result;
     result.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] != u'\r' && text[i] != u'\n') {
-            result += text[i];
-            continue;
-        }
-        const bool isLast = i + 1 == text.size();
+        const qsizetype start = i;
+        while (i < text.size() && text[i] != u'\r' && text[i] != u'\n')
+            ++i;
+        result += text.sliced(start, i - start);
         // A lone CR at the very end goes without a line end in its place.
-        if (text[i] == u'\r' && isLast)
+        if (i == text.size() || (text[i] == u'\r' && i + 1 == text.size()))
             break;
         result += lineEnd;
         if (text[i] == u'\r' && text[i + 1] == u'\n')

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/headless/clipboard_line_ends.h"
 
+#include "base/line_ends.h"
+
 namespace tolvo {
 
 QString ClipboardLineEnds::takeIn(const QString &foreign) {
@@ -11,13 +13,13 @@ QString ClipboardLineEnds::takeIn(const QString &foreign) {
 QString ClipboardLineEnds::comeIn(const QString &foreign) {
     if (foreign.contains(u'\r'))
         return foreign;
-    return QString(foreign).replace(u'\n', QStringLiteral("\r\n"));
+    return lfToCrLf(foreign);
 }
 
 QString ClipboardLineEnds::goOut(const QString &own) const {
     if (!m_lineFeeds)
         return own;
-    return QString(own).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return crLfToLf(own);
 }
 
 } // namespace tolvo
