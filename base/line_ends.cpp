@@ -7,18 +7,19 @@ namespace tolvo {
 
 // QString::replace moves the rest of the text once for every thousand hits; these copy each unit once.
 
-QString lfToCrLf(QStringView text) {
-    const auto count = std::count(text.begin(), text.end(), QChar(u'\n'));
-    QString result(text.size() + count, Qt::Uninitialized);
-    QChar *out = result.data();
-    qsizetype start = 0;
-    for (qsizetype end; (end = text.indexOf(u'\n', start)) >= 0; start = end + 1) {
-        out = std::copy(text.begin() + start, text.begin() + end, out);
-        *out++ = u'\r';
-        *out++ = u'\n';
+QString lfToCrLf(QString text) {
+    const auto count = std::count(text.cbegin(), text.cend(), QChar(u'\n'));
+    qsizetype end = text.size(); // of what is not yet in its place
+    text.resize(end + count);
+    QChar *const first = text.data();
+    for (QChar *out = first + text.size(); out != first + end;) {
+        const qsizetype lineFeed = QStringView(first, end).lastIndexOf(u'\n');
+        out = std::copy_backward(first + lineFeed + 1, first + end, out);
+        *--out = u'\n';
+        *--out = u'\r';
+        end = lineFeed;
     }
-    std::copy(text.begin() + start, text.end(), out);
-    return result;
+    return text;
 }
 
 QString crLfToLf(QStringView text) {

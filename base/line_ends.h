@@ -7,8 +7,8 @@
 
 namespace tolvo {
 
-/// Every LF becomes CR LF, the LF of a CR LF as well.
-[[nodiscard]] QString lfToCrLf(QStringView text);
+/// Every LF becomes CR LF, the LF of a CR LF as well; in place, if the text is handed over.
+[[nodiscard]] QString lfToCrLf(QString text);
 
 /// Every CR LF becomes LF; a lone CR stays.
 [[nodiscard]] QString crLfToLf(QStringView text);

@@ -189,7 +189,7 @@ void CSearch::RegExpReplace(const QString &pattern, QString replace, bool up, bo
                                   box.capacity(), budget);
         if (smartReplace)
             result = m_text.smartMatch(selected, result);
-        result = lfToCrLf(result);
+        result = lfToCrLf(std::move(result));
         box.setSelText(result);
         tolvo::select(box, selStart, static_cast<int>(result.size()));
     });
@@ -206,7 +206,7 @@ void CSearch::RegExpReplaceAll(const QString &pattern, QString replace, bool mat
         QString text = crLfToLf(m_host.txtCurrent().Text());
         const int count = replaceMatchByMatch(expression, text, replace, smartReplace);
         // The box is written even if nothing was replaced: a lone LF becomes CR LF.
-        m_host.txtCurrent().setText(lfToCrLf(text));
+        m_host.txtCurrent().setText(lfToCrLf(std::move(text)));
         if (!silent)
             tellReplacements(count);
     });

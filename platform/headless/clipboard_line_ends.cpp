@@ -5,15 +5,15 @@
 
 namespace tolvo {
 
-QString ClipboardLineEnds::takeIn(const QString &foreign) {
+QString ClipboardLineEnds::takeIn(QString foreign) {
     m_lineFeeds = !foreign.contains(u'\r');
-    return comeIn(foreign);
+    return comeIn(std::move(foreign));
 }
 
-QString ClipboardLineEnds::comeIn(const QString &foreign) {
+QString ClipboardLineEnds::comeIn(QString foreign) {
     if (foreign.contains(u'\r'))
         return foreign;
-    return lfToCrLf(foreign);
+    return lfToCrLf(std::move(foreign));
 }
 
 QString ClipboardLineEnds::goOut(const QString &own) const {

@@ -12,10 +12,10 @@ namespace tolvo {
 class ClipboardLineEnds {
   public:
     /// A text of another program in the form of the text area; settles how texts go out from now on.
-    [[nodiscard]] QString takeIn(const QString &foreign);
+    [[nodiscard]] QString takeIn(QString foreign);
 
     /// The same without settling anything, as for a paste.
-    [[nodiscard]] static QString comeIn(const QString &foreign);
+    [[nodiscard]] static QString comeIn(QString foreign);
 
     /// A text of the text area as other programs get it. Before anything was taken in, with LF.
     [[nodiscard]] QString goOut(const QString &own) const;
