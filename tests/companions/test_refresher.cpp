@@ -4,63 +4,22 @@
 #include "companions/refresh.h"
 #include "platform/network/NetworkHttpClient.h"
 #include "preferences/settings_store.h"
+#include "tests/support/http_server.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace tolvo {
 namespace {
 
+using test::httpReply;
+using test::HttpServer;
+
 const QString stats = u"Tolvo-Stats"_qs;
 const QString before = u"2026-01-02 03:04:05"_qs;
-
-/// Answers every request with the same bytes and keeps what was asked; an empty answer leaves it waiting.
-class Server {
-  public:
-    explicit Server(const QByteArray &answer = {}) : m_answer(answer) {
-        m_server.listen(QHostAddress::LocalHost);
-        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
-            QTcpSocket *const socket = m_server.nextPendingConnection();
-            auto asked = std::make_shared<QByteArray>();
-            QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket, asked] {
-                *asked += socket->readAll();
-                if (!isComplete(*asked) || m_answer.isEmpty())
-                    return;
-                requests += *asked;
-                socket->write(m_answer);
-                socket->disconnectFromHost();
-            });
-        });
-    }
-    QByteArray address() const {
-        return "http://127.0.0.1:" + QByteArray::number(m_server.serverPort()) + "/t";
-    }
-    void close() { m_server.close(); }
-    QByteArrayList requests;
-
-  private:
-    static bool isComplete(const QByteArray &asked) {
-        const qsizetype head = asked.indexOf("\r\n\r\n");
-        const qsizetype field = asked.toLower().indexOf("content-length:");
-        const qsizetype length =
-            field < 0 ? 0 : asked.mid(field + 15, asked.indexOf('\r', field) - field - 15).toInt();
-        return head >= 0 && asked.size() >= head + 4 + length;
-    }
-    QTcpServer m_server;
-    QByteArray m_answer;
-};
-
-QByteArray http(const char *status, const QByteArray &body = {}) {
-    return QByteArray("HTTP/1.1 ") + status + "\r\nContent-Length: " + QByteArray::number(body.size()) +
-           "\r\nConnection: close\r\n\r\n" + body;
-}
 
 void fill(SettingsStore &store) {
     store.SaveSetting(stats, u"Usage"_qs, u"StartDate"_qs, before);
@@ -74,16 +33,16 @@ TEST(Refresh, CountersAreResetOnlyAfterAYes) {
         QByteArray answer;
         bool yes = false;
         bool down = false;
-    } cases[] = {{http("200 OK"), true},       {http("204 No Content"), true},
-                 {http("302 Found")},          {http("503 Service Unavailable")},
-                 {"SSH-2.0-nonsense\r\n"},     {{}},
-                 {http("200 OK"), false, true}};
+    } cases[] = {{httpReply("200 OK"), true},       {httpReply("204 No Content"), true},
+                 {httpReply("302 Found")},          {httpReply("503 Service Unavailable")},
+                 {"SSH-2.0-nonsense\r\n"},          {{}},
+                 {httpReply("200 OK"), false, true}};
     for (const auto &[answer, yes, down] : cases) {
         SCOPED_TRACE(answer.toStdString());
         SettingsStore store(u":memory:"_qs);
         fill(store);
-        Server server(answer);
-        const QByteArray address = server.address();
+        HttpServer server(answer);
+        const QByteArray address = server.url("/t");
         if (down)
             server.close();
         NetworkHttpClient client({.milliseconds = 400});
@@ -103,19 +62,20 @@ TEST(Refresh, SaysWhatItFoundAboutUpdates) {
         bool done;
         const char *download;
     } cases[] = {
-        {http("200 OK", R"({"version": "99.1", "url": "https://example.org/get"})"), "Version 99.1", true,
-         "https://example.org/get"},
-        {http("200 OK", R"({"version": "99.1", "url": "file:///bin/sh"})"), "Version 99.1", true, ""},
-        {http("200 OK", "{\"version\": \"" + applicationVersion().toUtf8() + "\"}"), "up to date", true, ""},
-        {http("200 OK", R"({"version": "0.1"})"), "up to date", true, ""},
-        {http("200 OK", "<html>99.1</html>"), "makes no sense", false, ""},
-        {http("404 Not Found"), "404", false, ""}};
+        {httpReply("200 OK", R"({"version": "99.1", "url": "https://example.org/get"})"), "Version 99.1",
+         true, "https://example.org/get"},
+        {httpReply("200 OK", R"({"version": "99.1", "url": "file:///bin/sh"})"), "Version 99.1", true, ""},
+        {httpReply("200 OK", "{\"version\": \"" + applicationVersion().toUtf8() + "\"}"), "up to date", true,
+         ""},
+        {httpReply("200 OK", R"({"version": "0.1"})"), "up to date", true, ""},
+        {httpReply("200 OK", "<html>99.1</html>"), "makes no sense", false, ""},
+        {httpReply("404 Not Found"), "404", false, ""}};
     for (const auto &[answer, says, done, download] : cases) {
         SCOPED_TRACE(says);
         SettingsStore store(u":memory:"_qs);
-        Server server(answer);
+        HttpServer server(answer);
         NetworkHttpClient client;
-        const RefreshOutcome outcome = refresh({.update = true}, server.address(), store, client, Clock());
+        const RefreshOutcome outcome = refresh({.update = true}, server.url("/t"), store, client, Clock());
         EXPECT_EQ(outcome.done, done);
         EXPECT_TRUE(outcome.messages.join(u' ').contains(QString::fromLatin1(says)))
             << outcome.messages.join(u' ').toStdString();
@@ -155,8 +115,8 @@ struct RefresherProgram : testing::Test {
 };
 
 TEST_F(RefresherProgram, SendsTheCountersAndBeginsAPeriod) {
-    Server server(http("200 OK", R"({"version": "99.0"})"));
-    const auto [code, output] = run({u"/update"_qs, u"/stats"_qs, u"/quiet"_qs}, server.address());
+    HttpServer server(httpReply("200 OK", R"({"version": "99.0"})"));
+    const auto [code, output] = run({u"/update"_qs, u"/stats"_qs, u"/quiet"_qs}, server.url("/t"));
     EXPECT_EQ(code, 0);
     EXPECT_EQ(output, QByteArray()) << "quiet is quiet";
     ASSERT_EQ(server.requests.size(), 2);

@@ -3,7 +3,7 @@
 #include "platform/desktop/DesktopMessageBoxes.h"
 #include "platform/desktop/EscapeWatch.h"
 
-#include "tests/ui/modal.h"
+#include "tests/ui/user.h"
 
 #include <QClipboard>
 #include <QLineEdit>

@@ -1,47 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/network/NetworkHttpClient.h"
-
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QTcpServer>
-#include <QTcpSocket>
-#include <QTimer>
+#include "tests/support/http_server.h"
 
 using namespace Qt::StringLiterals;
 
 namespace tolvo {
 namespace {
 
-/// A server that answers each request as told, and keeps the requests.
-class Server {
-  public:
-    explicit Server(std::function<void(QTcpSocket &)> answer) : m_answer(std::move(answer)) {
-        EXPECT_TRUE(m_server.listen(QHostAddress::LocalHost));
-        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
-            QTcpSocket *socket = m_server.nextPendingConnection();
-            QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                request += socket->readAll();
-                if (!request.contains("\r\n\r\n") || request.endsWith(": 4\r\n\r\n"))
-                    return; // more to come
-                m_answer(*socket);
-            });
-        });
-    }
-    [[nodiscard]] QByteArray url(const QByteArray &path = "/") const {
-        return "http://127.0.0.1:" + QByteArray::number(m_server.serverPort()) + path;
-    }
-    QByteArray request;
-
-  private:
-    std::function<void(QTcpSocket &)> m_answer;
-    QTcpServer m_server;
-};
-
-void say(QTcpSocket &socket, const QByteArray &answer) {
-    socket.write(answer);
-    socket.disconnectFromHost();
-}
+using test::httpReply;
+using test::HttpServer;
 
 /// Sends ever more, as fast as it is taken.
 void sayForEver(QTcpSocket &socket) {
@@ -60,32 +27,29 @@ TEST(Http, BringsStatusReasonAndBody) {
          ""},
     };
     for (const auto &row : rows) {
-        Server server([&](QTcpSocket &socket) { say(socket, std::get<0>(row)); });
+        HttpServer server(std::get<0>(row));
         const HttpReply reply = NetworkHttpClient().get(server.url("/a%20b?q=%C3%A9%26%2C1%2B1~"));
         EXPECT_EQ(std::tuple(std::get<0>(row), reply.status, reply.statusText, reply.body), row);
-        EXPECT_TRUE(server.request.startsWith("GET /a%20b?q=%C3%A9%26%2C1%2B1~ HTTP/1.1\r\n"))
-            << server.request.data();
+        EXPECT_TRUE(server.requests.value(0).startsWith("GET /a%20b?q=%C3%A9%26%2C1%2B1~ HTTP/1.1\r\n"))
+            << server.requests.value(0).data();
     }
 }
 
 TEST(Http, PostsABody) {
-    Server server([](QTcpSocket &socket) { say(socket, "HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"); });
+    HttpServer server(httpReply("200 OK"));
     NetworkHttpClient client;
     EXPECT_EQ(client.post(server.url(), "k=v&", "application/x-www-form-urlencoded").status, 200);
-    EXPECT_TRUE(server.request.startsWith("POST / "));
-    EXPECT_TRUE(server.request.endsWith("k=v&"));
+    ASSERT_EQ(server.requests.size(), 1);
+    EXPECT_TRUE(server.requests[0].startsWith("POST / "));
+    EXPECT_TRUE(server.requests[0].endsWith("k=v&"));
 }
 
 TEST(Http, WhatIsNoAnswerHasStatusZeroAndSaysWhy) {
-    QByteArray refusing;
-    {
-        Server gone([](QTcpSocket &) {});
-        refusing = gone.url();
-    }
-    Server silent([](QTcpSocket &) {});
-    Server endless(sayForEver);
-    Server broken([](QTcpSocket &s) { say(s, "HTTP/1.1 200 OK\r\nContent-Length: 50\r\n\r\nhalf"); });
-    Server slow([](QTcpSocket &s) { s.write("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhal"); });
+    const QByteArray refusing = HttpServer().url();
+    HttpServer silent;
+    HttpServer endless(sayForEver);
+    HttpServer broken("HTTP/1.1 200 OK\r\nContent-Length: 50\r\n\r\nhalf");
+    HttpServer slow([](QTcpSocket &s) { s.write("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhal"); });
     for (const QByteArray &url : {refusing, silent.url(), endless.url(), broken.url(), slow.url(),
                                   QByteArray("nonsense"), QByteArray()}) {
         NetworkHttpClient client({.milliseconds = 400, .bodyBytes = 1'000'000});
@@ -98,16 +62,14 @@ TEST(Http, WhatIsNoAnswerHasStatusZeroAndSaysWhy) {
 
 TEST(Http, TheBodyMayBeAsLargeAsTheLimit) {
     for (const int excess : {0, 1}) {
-        Server server([&](QTcpSocket &socket) {
-            say(socket, "HTTP/1.1 200 OK\r\n\r\n" + QByteArray(3'000'000 + excess, 'x'));
-        });
+        HttpServer server("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(3'000'000 + excess, 'x'));
         NetworkHttpClient client({.milliseconds = 20'000, .bodyBytes = 3'000'000});
         EXPECT_EQ(client.get(server.url()).status, excess == 0 ? 200 : 0);
     }
 }
 
 TEST(Http, CanBeCancelledAndGuardsTheInputMeanwhile) {
-    Server silent([](QTcpSocket &) {});
+    HttpServer silent;
     NetworkHttpClient client;
     int guards = 0;
     client.guardInput = [&] {

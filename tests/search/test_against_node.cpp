@@ -3,13 +3,10 @@
 // matches with their groups. Left out is where the two may differ: groups that a repeat goes through more
 // than once keep their last text here; k, s and sharp s have more forms without regard to case.
 #include "search/regular_expression.h"
+#include "tests/support/commands.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
-#include <QStandardPaths>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace tolvo::test {
@@ -142,18 +139,8 @@ QJsonValue ourMatches(const QString &pattern, bool matchCase, const QString &tex
     return matches;
 }
 
-QJsonArray askNode(const QJsonArray &cases) {
-    QProcess node;
-    node.start(QStringLiteral("node"),
-               {qEnvironmentVariable("TOLVO_SOURCE") + "/tests/search/against_node.js"});
-    node.write(QJsonDocument(cases).toJson(QJsonDocument::Compact));
-    node.closeWriteChannel();
-    EXPECT_TRUE(node.waitForFinished(60000)) << node.readAllStandardError().toStdString();
-    return QJsonDocument::fromJson(node.readAllStandardOutput()).array();
-}
-
 TEST(AgainstNode, FindsTheSameMatches) {
-    if (QStandardPaths::findExecutable(QStringLiteral("node")).isEmpty())
+    if (!isInstalled("node"))
         GTEST_SKIP() << "node is not installed";
     Generator generator;
     QJsonArray cases;
@@ -161,7 +148,9 @@ TEST(AgainstNode, FindsTheSameMatches) {
         const QString pattern = i % 4 == 0 ? generator.soup() : generator.pattern();
         cases.append(QJsonArray{pattern, generator.oneIn(2) ? "gm" : "gmi", generator.text()});
     }
-    const QJsonArray answers = askNode(cases);
+    const QString script = qEnvironmentVariable("TOLVO_SOURCE") + "/tests/search/against_node.js";
+    const QJsonArray answers =
+        QJsonDocument::fromJson(outputOf("node", {script}, QJsonDocument(cases).toJson())).array();
     ASSERT_EQ(answers.size(), cases.size());
     int withMatches = 0;
     int invalid = 0;

@@ -2,11 +2,10 @@
 #include "spelling_world.h"
 
 #include "base/code_page.h"
+#include "tests/support/commands.h"
 
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QSet>
-#include <QStandardPaths>
 
 namespace tolvo::test {
 
@@ -143,18 +142,14 @@ QStringList wordsToJudge(const QString &dic) {
 }
 
 TEST_F(Hunspell_, JudgesWordsAsTheCommandDoes) {
-    const QString command = QStandardPaths::findExecutable(u("hunspell"));
-    const auto files = findDictionary(u("en-gb"), {u("/usr/share/hunspell")});
-    if (command.isEmpty() || !files)
+    const auto files = findDictionary(u("en-gb"), dictionaryFolders(folder.path())); // the system's
+    if (!isInstalled("hunspell") || !files)
         GTEST_SKIP() << "the hunspell command or its British dictionary is missing";
     const QStringList words = wordsToJudge(files->dic);
-    QProcess process;
-    process.start(command, {u("-d"), QString(files->dic).chopped(4), u("-i"), u("UTF-8"), u("-l")});
-    process.write(words.join(u'\n').toUtf8() + '\n');
-    process.closeWriteChannel();
-    ASSERT_TRUE(process.waitForFinished(60000));
-    const QStringList lines =
-        QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    const QByteArray output =
+        outputOf(u("hunspell"), {u("-d"), QString(files->dic).chopped(4), u("-i"), u("UTF-8"), u("-l")},
+                 words.join(u'\n').toUtf8() + '\n');
+    const QStringList lines = QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts);
     const QSet<QString> wrong(lines.cbegin(), lines.cend());
     ASSERT_GT(wrong.size(), 1000);
     ASSERT_LT(wrong.size(), words.size() - 1000);

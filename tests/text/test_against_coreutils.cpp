@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Where the engine and the shell's own tools must agree, on plain ASCII texts.
+#include "tests/support/commands.h"
 #include "tests/text/engine.h"
 
 #include <QHash>
-#include <QProcess>
 #include <QRegularExpression>
 #include <random>
 
@@ -14,13 +14,9 @@ namespace {
 
 /// What a command makes of lines that end in LF, as CR LF text without a last line end.
 QString runCommand(const QString &command, const QStringList &arguments, const QString &text) {
-    QProcess process;
-    process.start(u"env"_qs, QStringList{u"LC_ALL=C"_qs, command} + arguments);
-    process.write((QString(text).remove(u'\r') + u'\n').toLatin1());
-    process.closeWriteChannel();
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-    return QString::fromLatin1(process.readAllStandardOutput()).chopped(1).replace(u'\n', u"\r\n"_qs);
+    const QByteArray output = outputOf(u"env"_qs, QStringList{u"LC_ALL=C"_qs, command} + arguments,
+                                       (QString(text).remove(u'\r') + u'\n').toLatin1());
+    return QString::fromLatin1(output).chopped(1).replace(u'\n', u"\r\n"_qs);
 }
 
 class AgainstCoreutils : public Engine {
