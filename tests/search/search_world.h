@@ -2,9 +2,9 @@
 // A search without a window: a text box in memory, boxes that are kept, a list of results.
 #pragma once
 
-#include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/MemoryTextBox.h"
 #include "search/CSearch.h"
+#include "tests/support/boxes.h"
 #include "tests/text/engine.h"
 
 #include <QStringList>
@@ -62,12 +62,7 @@ class SearchWorld : public ::testing::Test, public SearchHost {
     }
 
     /// The texts of the boxes since the last call, "/" between them.
-    QString said() {
-        QStringList texts;
-        for (const Box &one : std::exchange(boxes.shown, {}))
-            texts += one.text;
-        return texts.join(u'/');
-    }
+    QString said() { return takeTexts(boxes).join(u'/'); }
 
     MemoryTextBox box;
     RecordingBoxes boxes;

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/ui/character_index.h"
 #include "powerbuttons/ui/dlgPickCharacter.h"
-#include "tests/ui/modal.h"
+#include "tests/ui/user.h"
 
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTableView>
-#include <QTest>
 
 namespace tolvo {
 namespace {

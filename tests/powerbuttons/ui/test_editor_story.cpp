@@ -3,17 +3,14 @@
 #include "powerbuttons/ui/dlgEditIcon.h"
 #include "powerbuttons/ui/frmPowerButton.h"
 #include "tests/powerbuttons/world.h"
-#include "tests/ui/modal.h"
+#include "tests/ui/user.h"
 
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTest>
-#include <QToolButton>
 #include <QTreeWidget>
 
 namespace tolvo {
@@ -23,15 +20,9 @@ class EditorStory : public World {
   protected:
     void open(int index) {
         form.init(index);
-        form.show();
-        activate();
+        activate(form);
     }
-    /// Keys with Alt reach the active window only.
-    void activate() {
-        form.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-    }
-    void press(const char *name) { QTest::mouseClick(&child<QAbstractButton>(form, name), Qt::LeftButton); }
+    void press(const char *name) { click(form, name); }
     /// A click on the leaf of that name.
     void clickTool(const QString &name) {
         auto &tree = child<QTreeWidget>(form, "tvwTools");
@@ -40,11 +31,7 @@ class EditorStory : public World {
         tree.scrollToItem(item);
         QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(item).center());
     }
-    /// Alt and a key: the button shows itself pressed for a moment before it acts.
-    void alt(Qt::Key key, const std::function<bool()> &done) {
-        QTest::keyClick(&form, key, Qt::AltModifier);
-        EXPECT_TRUE(QTest::qWaitFor(done));
-    }
+    void alt(Qt::Key key) { tolvo::press(form, key, Qt::AltModifier); }
     QString label(const char *name) { return child<QLabel>(form, name).text(); }
 
     frmPowerButton form{buttons, methods, tools, boxes, settings};
@@ -73,7 +60,7 @@ TEST_F(EditorStory, withTheMouse) {
 
     withModal<dlgEditIcon>([](dlgEditIcon &dialog) {
         child<QLineEdit>(dialog, "txtSymbol").setText("UP");
-        QTest::mouseClick(&child<QPushButton>(dialog, "OKButton"), Qt::LeftButton);
+        click(dialog, "OKButton");
     });
     press("picIcon");
     boxes.expect("Please enter a name for this button");
@@ -106,20 +93,21 @@ TEST_F(EditorStory, withTheKeys) {
     QTest::keyClick(&tree, Qt::Key_Return);
     EXPECT_EQ(label("labTool"), "lower case");
     auto &menu = child<QMenu>(form, "mnuAddAction");
-    alt(Qt::Key_A, [&] { return menu.isVisible(); });
+    alt(Qt::Key_A);
+    EXPECT_TRUE(menu.isVisible());
     QTest::keyClick(&menu, Qt::Key_Down);
     QTest::keyClick(&menu, Qt::Key_Down);
     QTest::keyClick(&menu, Qt::Key_Return);
     EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), " Action 2 of 2");
-    activate();
-    alt(Qt::Key_D, [&] { return buttons.Item(1)->Count() == 1; });
+    activate(form);
+    alt(Qt::Key_D);
+    EXPECT_EQ(buttons.Item(1)->Count(), 1);
     QTest::keyClick(&name, Qt::Key_Return);
     EXPECT_EQ(actionsOf(reread(1)), "ccLOW");
 
     open(0);
     boxes.expect("You are about to delete", BoxAnswer::No);
-    boxes.last = {};
-    alt(Qt::Key_X, [&] { return !boxes.last.text.isEmpty(); });
+    alt(Qt::Key_X);
     boxes.expect("Replace 'lower case' with 'Statistics' in Action 1?", BoxAnswer::Yes);
     clickTool("Statistics");
     QTest::keyClick(&form, Qt::Key_Escape);

@@ -2,14 +2,11 @@
 #include "powerbuttons/ui/dlgEditIcon.h"
 #include "powerbuttons/ui/dlgPickCharacter.h"
 #include "powerbuttons/ui/icon_painter.h"
-#include "tests/ui/modal.h"
+#include "tests/ui/user.h"
 
 #include <QImage>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QToolButton>
 
 namespace tolvo {
 namespace {
@@ -21,15 +18,15 @@ TEST(IconEditor, changesOnlyOnOK) {
     const ButtonIcon before = icon;
     withModal<dlgEditIcon>([](dlgEditIcon &shown) {
         EXPECT_EQ(child<QLabel>(shown, "labFont").text(), "Serif Bold (12.5pt)");
-        child<QToolButton>(shown, "AdjustRight").click();
+        click(shown, "AdjustRight");
     });
     EXPECT_FALSE(dialog.showDialog(icon));
     EXPECT_EQ(icon, before);
 
     withModal<dlgEditIcon>([](dlgEditIcon &shown) {
         for (const char *arrow : {"AdjustRight", "AdjustRight", "AdjustLeft", "AdjustUp"})
-            child<QToolButton>(shown, arrow).click();
-        child<QPushButton>(shown, "OKButton").click();
+            click(shown, arrow);
+        click(shown, "OKButton");
     });
     EXPECT_TRUE(dialog.showDialog(icon));
     EXPECT_EQ(icon, (ButtonIcon{before.text, before.font, 4, 3})); // half points of the size stay
@@ -48,10 +45,10 @@ TEST(IconEditor, beginsWithALetterAndTakesASymbol) {
         EXPECT_EQ(text.text(), "fou");
         withModal<dlgPickCharacter>([](dlgPickCharacter &picker) {
             child<QLineEdit>(picker, "txtFind").setText("2709");
-            child<QPushButton>(picker, "OKButton").click();
+            click(picker, "OKButton");
         });
-        child<QToolButton>(shown, "imgGetSymbol").click();
-        child<QPushButton>(shown, "OKButton").click();
+        click(shown, "imgGetSymbol");
+        click(shown, "OKButton");
     });
     EXPECT_TRUE(dialog.showDialog(icon));
     EXPECT_EQ(icon.text, u"\u2709"_qs);

@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 // A user in the Options.
-#include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/SystemProcesses.h"
 #include "preferences/settings_store.h"
 #include "preferences/settings_table.h"
 #include "preferences/ui/dlgPreferences.h"
 #include "preferences/ui/frmAbout.h"
+#include "tests/support/boxes.h"
+#include "tests/ui/user.h"
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
-#include <gtest/gtest.h>
 
 using namespace tolvo;
 
@@ -43,21 +41,19 @@ class OptionsStory : public testing::Test {
                            [this](const QString &e) { return actions.isSystemExtension(e); });
     }
     template <class Control>
-    Control *control(const char *name) {
-        auto *found = dialog.findChild<Control *>(QLatin1StringView(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+    Control &control(const char *name) {
+        return child<Control>(dialog, name);
     }
     void adds(const char *extension) {
-        control<QLineEdit>("txtExt")->clear();
-        QTest::keyClicks(control<QLineEdit>("txtExt"), QLatin1StringView(extension));
-        control<QPushButton>("cmdAdd")->click();
+        control<QLineEdit>("txtExt").clear();
+        QTest::keyClicks(&control<QLineEdit>("txtExt"), QLatin1StringView(extension));
+        control<QPushButton>("cmdAdd").click();
     }
     QStringList extensions() {
         QStringList rows;
-        auto *list = control<QListWidget>("lstExtensions");
-        for (int i = 0; i < list->count(); ++i)
-            rows += list->item(i)->text();
+        auto &list = control<QListWidget>("lstExtensions");
+        for (int i = 0; i < list.count(); ++i)
+            rows += list.item(i)->text();
         return rows;
     }
 
@@ -72,12 +68,12 @@ class OptionsStory : public testing::Test {
 TEST_F(OptionsStory, anEmptyStoreShowsTheDefaults) {
     open();
     for (const char *name : {"chkShowTips", "chkSounds", "chkUpdates", "chkUsageStats"})
-        EXPECT_TRUE(control<QCheckBox>(name)->isChecked()) << name;
-    EXPECT_EQ(control<QLabel>("labLastCheck")->text(), QStringLiteral("You have never checked for updates"));
-    EXPECT_EQ(control<QLineEdit>("txtFont_1")->text(), QStringLiteral("Courier New Bold Italic 10 pt"));
-    EXPECT_TRUE(control<QRadioButton>("optTLDs_1")->isChecked());
-    EXPECT_TRUE(control<QRadioButton>("optSpellingProvider_1")->isChecked());
-    EXPECT_FALSE(control<QPushButton>("cmdAdd")->isEnabled());
+        EXPECT_TRUE(control<QCheckBox>(name).isChecked()) << name;
+    EXPECT_EQ(control<QLabel>("labLastCheck").text(), QStringLiteral("You have never checked for updates"));
+    EXPECT_EQ(control<QLineEdit>("txtFont_1").text(), QStringLiteral("Courier New Bold Italic 10 pt"));
+    EXPECT_TRUE(control<QRadioButton>("optTLDs_1").isChecked());
+    EXPECT_TRUE(control<QRadioButton>("optSpellingProvider_1").isChecked());
+    EXPECT_FALSE(control<QPushButton>("cmdAdd").isEnabled());
 }
 
 TEST_F(OptionsStory, extensionsAreAddedOnceAndInLowerCase) {
@@ -86,25 +82,24 @@ TEST_F(OptionsStory, extensionsAreAddedOnceAndInLowerCase) {
     adds("xyz");
     adds("TXT");
     EXPECT_EQ(extensions(), QStringList{QStringLiteral("xyz")});
-    ASSERT_EQ(boxes.shown.size(), 2U);
-    EXPECT_EQ(boxes.shown[0].text, QStringLiteral("File extension 'xyz' is in the list already"));
-    EXPECT_EQ(boxes.shown[1].text,
-              QStringLiteral("File extension 'TXT' is a registered file type on this PC.\r\n"
-                             "You do not need to add it here"));
-    control<QLineEdit>("txtExt")->setText(QStringLiteral("XY"));
-    control<QPushButton>("cmdRemove")->click();
+    EXPECT_EQ(test::takeTexts(boxes),
+              QStringList({QStringLiteral("File extension 'xyz' is in the list already"),
+                           QStringLiteral("File extension 'TXT' is a registered file type on this PC.\r\n"
+                                          "You do not need to add it here")}));
+    control<QLineEdit>("txtExt").setText(QStringLiteral("XY"));
+    control<QPushButton>("cmdRemove").click();
     EXPECT_TRUE(extensions().isEmpty());
 }
 
 TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     open();
-    control<QCheckBox>("chkSounds")->setChecked(false);
-    control<QRadioButton>("optTLDs_0")->setChecked(true);
-    control<QRadioButton>("optSpellingProvider_2")->setChecked(true);
-    control<QRadioButton>("optProp_1")->setChecked(true);
+    control<QCheckBox>("chkSounds").setChecked(false);
+    control<QRadioButton>("optTLDs_0").setChecked(true);
+    control<QRadioButton>("optSpellingProvider_2").setChecked(true);
+    control<QRadioButton>("optProp_1").setChecked(true);
     for (int i = 0; i < 27; ++i)
         adds(qPrintable(QStringLiteral("ext") + (i > 25 ? QStringLiteral("az") : QString(QChar(u'a' + i)))));
-    control<QPushButton>("cmdApply")->click();
+    control<QPushButton>("cmdApply").click();
     ASSERT_EQ(actions.applied.size(), 1);
     saveOptions(store, actions.applied[0]);
     EXPECT_EQ(readSetting(store, u"Preferences", u"Sounds"), QStringLiteral("0"));
@@ -118,12 +113,12 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
 
 TEST_F(OptionsStory, cancelAppliesNothingAndTheNextOpeningShowsTheOldState) {
     open();
-    control<QCheckBox>("chkShowTips")->setChecked(false);
+    control<QCheckBox>("chkShowTips").setChecked(false);
     adds("abc");
-    control<QPushButton>("CancelButton")->click();
+    control<QPushButton>("CancelButton").click();
     EXPECT_TRUE(actions.applied.isEmpty());
     open();
-    EXPECT_TRUE(control<QCheckBox>("chkShowTips")->isChecked());
+    EXPECT_TRUE(control<QCheckBox>("chkShowTips").isChecked());
     EXPECT_TRUE(extensions().isEmpty());
 }
 
@@ -143,11 +138,9 @@ TEST(About, tellsVersionDateAndOpensTheAddress) {
     RecordingProcesses processes;
     RecordingBoxes boxes;
     frmAbout about(processes, boxes, QDate(2026, 5, 4));
-    EXPECT_TRUE(
-        about.findChild<QLabel *>(QStringLiteral("lblVersion"))->text().startsWith(u"Version 1.0 Build 0 ("));
-    EXPECT_TRUE(about.findChild<QLabel *>(QStringLiteral("lblCopyright"))->text().contains(u"2026"));
-    auto *web = about.findChild<QLabel *>(QStringLiteral("lblWeb"));
-    emit web->linkActivated(QStringLiteral("https://tolvo.example"));
+    EXPECT_TRUE(child<QLabel>(about, "lblVersion").text().startsWith(u"Version 1.0 Build 0 ("));
+    EXPECT_TRUE(child<QLabel>(about, "lblCopyright").text().contains(u"2026"));
+    emit child<QLabel>(about, "lblWeb").linkActivated(QStringLiteral("https://tolvo.example"));
     EXPECT_EQ(processes.opened, QStringList{QStringLiteral("https://tolvo.example")});
 }
 

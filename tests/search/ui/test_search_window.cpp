@@ -5,12 +5,11 @@
 #include "search/ui/frmSearch.h"
 #include "search/ui/frmSearchResults.h"
 #include "tests/search/search_world.h"
-#include "tests/ui/modal.h"
+#include "tests/ui/user.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
@@ -38,18 +37,13 @@ class SearchWindow : public SearchWorld {
     }
     void click(const char *name) { find<QAbstractButton>(name).click(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : window.get(), key,
-                        modifiers);
+        tolvo::press(QApplication::focusWidget() ? *QApplication::focusWidget() : *window, key, modifiers);
     }
-    /// A button that is reached by its letter takes a moment to spring back.
-    void alt(Qt::Key key) {
-        press(key, Qt::AltModifier);
-        QTest::qWait(150);
-    }
+    void alt(Qt::Key key) { press(key, Qt::AltModifier); }
     void type(const char *text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text)); }
     void open(bool bReplace) {
         window->showDialog(bReplace);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        activate(*window);
     }
     bool visible(const char *name) { return find<QWidget>(name).isVisible(); }
 

@@ -10,15 +10,11 @@
 #include "shell/ui/desktop_session.h"
 #include "shell/ui/window_size.h"
 #include "spelling/word_automation.h"
+#include "tests/ui/user.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QClipboard>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
 
 using namespace tolvo;
 
@@ -65,18 +61,11 @@ class MainWindowStory : public testing::Test {
         }
         return nullptr;
     }
-    template <class Control>
-    static Control *control(const QString &name) {
-        return window()->findChild<Control *>(name);
-    }
     static QPlainTextEdit *text() {
-        auto *plain = control<QPlainTextEdit>(QStringLiteral("txtText1"));
-        return plain->isVisible() ? plain : control<QPlainTextEdit>(QStringLiteral("txtTextWW"));
+        auto &plain = child<QPlainTextEdit>(*window(), "txtText1");
+        return plain.isVisible() ? &plain : &child<QPlainTextEdit>(*window(), "txtTextWW");
     }
-    static QString status() { return control<QLabel>(QStringLiteral("labStatus"))->text(); }
-    static void clickRow(int row, Qt::MouseButton button = Qt::LeftButton) {
-        QTest::mouseClick(control<QAbstractButton>(QStringLiteral("lblToolbox_%1").arg(row)), button);
-    }
+    static QString status() { return child<QLabel>(*window(), "labStatus").text(); }
     static QString pasted() { return QApplication::clipboard()->text(); }
 
     const QString programs = QString::fromLocal8Bit(qgetenv("TOLVO_BIN"));
@@ -95,13 +84,12 @@ class MainWindowStory : public testing::Test {
 
 TEST_F(MainWindowStory, aCategoryOpensAndItsToolRuns) {
     run(QStringLiteral("one\ntwo"), [] {
-        clickRow(1); // returns when the rows have slid out
-        EXPECT_EQ(control<QAbstractButton>(QStringLiteral("lblToolbox_2"))->accessibleName(),
-                  QStringLiteral("UPPER CASE"));
-        clickRow(2);
+        click(*window(), "lblToolbox_1"); // returns when the rows have slid out
+        EXPECT_EQ(child<QWidget>(*window(), "lblToolbox_2").accessibleName(), QStringLiteral("UPPER CASE"));
+        click(*window(), "lblToolbox_2");
         EXPECT_EQ(status(), QStringLiteral("8 characters: upper case"));
-        EXPECT_TRUE(control<QAbstractButton>(QStringLiteral("cmdUndo"))->isEnabled());
-        control<QAbstractButton>(QStringLiteral("cmdClose"))->click();
+        EXPECT_TRUE(child<QWidget>(*window(), "cmdUndo").isEnabled());
+        click(*window(), "cmdClose");
     });
     EXPECT_EQ(pasted(), QStringLiteral("ONE\nTWO"));
     EXPECT_EQ(sound.waves.size(), 1); // scrbar.wav as the rows slid out
@@ -125,7 +113,7 @@ TEST_F(MainWindowStory, keysReachTheTextInBothBoxes) {
 TEST_F(MainWindowStory, theRightButtonRunsAToolWithItsLastSettings) {
     writeSetting(store, u"Indent", u"Option", QStringLiteral("Spaces"));
     run(QStringLiteral("x"), [] {
-        QTest::mouseClick(control<QAbstractButton>(QStringLiteral("imgFavourites_0")), Qt::RightButton);
+        QTest::mouseClick(&child<QWidget>(*window(), "imgFavourites_0"), Qt::RightButton);
         EXPECT_EQ(status(), QStringLiteral("Indent increased"));
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
     });

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Each dialog as a user meets it: what is typed and pressed, what is shown, what comes back.
-#include "platform/message_box.h"
+#include "tests/support/boxes.h"
 #include "tests/text/engine.h"
+#include "tests/ui/user.h"
 #include "text/ui/dlgBullet.h"
 #include "text/ui/dlgIndent.h"
 #include "text/ui/dlgNumLines.h"
@@ -10,13 +11,8 @@
 #include "text/ui/dlgWordWrap.h"
 #include "text/ui/frmStats.h"
 
-#include <QAbstractSpinBox>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
+#include <QPlainTextEdit>
 #include <QTreeWidget>
 
 using namespace tolvo;
@@ -24,62 +20,27 @@ using namespace tolvo::test;
 
 namespace {
 
-struct ExpectedBoxes : MessageBoxes {
-    BoxAnswer show(const Box &box) override {
-        EXPECT_EQ(box.icon, BoxIcon::Information);
-        texts.append(box.text);
-        return BoxAnswer::Ok;
-    }
-    QStringList texts;
-};
-
-/// What a user does in one dialog.
+/// A user of one dialog, whose fields and buttons go by their names.
 class User {
   public:
-    explicit User(QDialog &dialog) : m_dialog(dialog) {
-        m_dialog.show();
-        m_dialog.activateWindow();
-        if (!QTest::qWaitForWindowActive(&m_dialog))
-            throw std::runtime_error("the dialog gets no focus");
-    }
+    explicit User(QDialog &dialog) : m_dialog(dialog) { activate(m_dialog); }
 
     template <class Control>
-    Control *control(const char *name) {
-        auto *found = m_dialog.findChild<Control *>(QString::fromLatin1(name));
-        if (found == nullptr)
-            throw std::runtime_error(std::string("the dialog has no ") + name);
-        return found;
+    Control &control(const char *name) {
+        return child<Control>(m_dialog, name);
     }
-    void types(const char *box, const QString &text) {
-        auto *edit = control<QLineEdit>(box);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
+    void types(const char *field, const QString &text) { type(m_dialog, field, text); }
+    void pastes(const char *field, const QString &text) {
+        control<QLineEdit>(field).clear();
+        control<QLineEdit>(field).insert(text);
     }
-    void pastes(const char *box, const QString &text) {
-        auto *edit = control<QLineEdit>(box);
-        edit->clear();
-        edit->insert(text);
-    }
-    QString sees(const char *box) { return control<QLineEdit>(box)->text(); }
-    QString sample() { return control<QPlainTextEdit>("txtSample")->toPlainText().replace(u'\n', u'|'); }
-    void clicks(const char *button) {
-        QTest::mouseClick(control<QAbstractButton>(button), Qt::LeftButton, {}, QPoint(8, 8));
-    }
-    bool chosen(const char *button) { return control<QAbstractButton>(button)->isChecked(); }
-    bool enabled(const char *name) { return control<QWidget>(name)->isEnabled(); }
-    void steps(const char *box, Qt::Key key) { QTest::keyClick(control<QLineEdit>(box), key); }
-    void presses(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(&m_dialog, key, modifiers);
-        // A button that is pressed by its letter stays down for a moment before it acts.
-        const auto allButtonsUp = [this] {
-            const auto buttons = m_dialog.findChildren<QAbstractButton *>();
-            return std::none_of(buttons.begin(), buttons.end(),
-                                [](auto *button) { return button->isDown(); });
-        };
-        EXPECT_TRUE(QTest::qWaitFor(allButtonsUp));
-    }
-    void leaves(const char *box) { QTest::keyClick(control<QLineEdit>(box), Qt::Key_Tab); }
+    void presses(const char *field, Qt::Key key) { press(control<QLineEdit>(field), key); }
+    void presses(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { press(m_dialog, key, modifiers); }
+    void clicks(const char *button) { click(m_dialog, button); }
+    QString sees(const char *field) { return control<QLineEdit>(field).text(); }
+    QString sample() { return control<QPlainTextEdit>("txtSample").toPlainText().replace(u'\n', u'|'); }
+    bool chosen(const char *button) { return control<QAbstractButton>(button).isChecked(); }
+    bool enabled(const char *name) { return control<QWidget>(name).isEnabled(); }
 
   private:
     QDialog &m_dialog;
@@ -87,7 +48,7 @@ class User {
 
 class Dialogs : public Engine {
   protected:
-    ExpectedBoxes boxes;
+    RecordingBoxes boxes;
 };
 
 TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
@@ -101,12 +62,12 @@ TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
     EXPECT_EQ(user.sees("txtStart"), u"999");
     user.types("txtStart", u"0"_qs);
     EXPECT_EQ(user.sees("txtStart"), u"0");
-    user.leaves("txtStart");
+    user.presses("txtStart", Qt::Key_Tab);
     EXPECT_EQ(user.sees("txtStart"), u"1");
     user.types("txtSpaces", u"20"_qs);
     EXPECT_EQ(user.sees("txtSpaces"), u"12");
     EXPECT_TRUE(user.chosen("optTab_0")) << "typing leaves the choice alone";
-    user.steps("txtSpaces", Qt::Key_Down);
+    user.presses("txtSpaces", Qt::Key_Down);
     EXPECT_EQ(user.sees("txtSpaces"), u"11");
     EXPECT_TRUE(user.chosen("optTab_1"));
     user.clicks("OKButton");
@@ -121,14 +82,14 @@ TEST_F(Dialogs, numberStyleShowsWhatTheToolWillDo) {
               u"9.  First list item|10. Second list item|11. Third list item|12. Fourth list item");
     user.types("txtSpaces", u"2"_qs);
     EXPECT_TRUE(user.sample().startsWith(u"9.First list item|10Second"));
-    user.control<QComboBox>("cmbStyle")->setCurrentIndex(5);
+    user.control<QComboBox>("cmbStyle").setCurrentIndex(5);
     EXPECT_EQ(user.sees("txtSpaces"), u"4");
     EXPECT_FALSE(user.enabled("cmbFollowChar"));
     EXPECT_TRUE(user.sample().startsWith(
         u"9.  First list item|    9.1.First sublist item|    9.2.Second sublist item|10. Second list item"));
     user.clicks("optTab_0");
     EXPECT_TRUE(user.sample().startsWith(u"9.\tFirst list item|\t9.1.\tFirst sublist item"));
-    user.control<QComboBox>("cmbStyle")->setCurrentIndex(3);
+    user.control<QComboBox>("cmbStyle").setCurrentIndex(3);
     EXPECT_EQ(user.sees("txtSpaces"), u"4") << "the spaces stay raised";
     EXPECT_TRUE(user.enabled("cmbFollowChar"));
     EXPECT_TRUE(user.sample().startsWith(u"ix.\tFirst list item|x.\t"));
@@ -137,11 +98,11 @@ TEST_F(Dialogs, numberStyleShowsWhatTheToolWillDo) {
 TEST_F(Dialogs, bulletTakesAnyText) {
     dlgBullet dialog(engine, {});
     User user(dialog);
-    auto *bullet = user.control<QComboBox>("cmbBulletChar");
-    EXPECT_EQ(bullet->count(), 4);
-    QTest::keyClicks(bullet->lineEdit(), u"=>"_qs);
+    auto &bullet = user.control<QComboBox>("cmbBulletChar");
+    EXPECT_EQ(bullet.count(), 4);
+    QTest::keyClicks(bullet.lineEdit(), u"=>"_qs);
     EXPECT_TRUE(user.sample().startsWith(u"\u2022=>\tFirst list item|"));
-    bullet->setCurrentIndex(2);
+    bullet.setCurrentIndex(2);
     user.presses(Qt::Key_S, Qt::AltModifier);
     EXPECT_EQ(user.sample(), u"*  First list item|*  Second list item|*  Third list item");
     user.presses(Qt::Key_Return);
@@ -152,8 +113,8 @@ TEST_F(Dialogs, indentRemembersItsTexts) {
     const QStringList texts = {u"# "_qs, u"> "_qs};
     dlgIndent dialog({IndentSettings::WithTab, 4, QString(), texts});
     User user(dialog);
-    auto *text = user.control<QComboBox>("cmbIndentText");
-    QTest::keyClicks(text->lineEdit(), u">"_qs);
+    auto &text = user.control<QComboBox>("cmbIndentText");
+    QTest::keyClicks(text.lineEdit(), u">"_qs);
     EXPECT_TRUE(user.chosen("optTab_2"));
     user.clicks("OKButton");
     EXPECT_EQ(dialog.settings().choice, IndentSettings::WithText);
@@ -182,7 +143,7 @@ TEST_F(Dialogs, lineNumberingShowsItsRange) {
     EXPECT_FALSE(user.enabled("optRange_0") || user.enabled("optRange_1"));
     EXPECT_TRUE(user.sample().startsWith(u"9 Lorem ipsum"));
     user.types("txtStep", u"0"_qs);
-    user.leaves("txtStep");
+    user.presses("txtStep", Qt::Key_Tab);
     EXPECT_EQ(user.sees("txtStep"), u"1");
     user.types("txtEvery", u"2"_qs);
     EXPECT_TRUE(user.sample().startsWith(u"  Lorem ipsum"));
@@ -201,10 +162,9 @@ TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
         user.pastes("txtWidth", QString::fromLatin1(width));
         user.clicks("OKButton");
         EXPECT_TRUE(dialog.isVisible()) << width;
-        EXPECT_EQ(boxes.texts, QStringList(refusal)) << width;
-        boxes.texts.clear();
+        EXPECT_EQ(takeTexts(boxes), QStringList(refusal)) << width;
     }
-    EXPECT_EQ(dialog.focusWidget(), user.control<QLineEdit>("txtWidth")->parentWidget());
+    EXPECT_EQ(dialog.focusWidget(), user.control<QLineEdit>("txtWidth").parentWidget());
     for (const int width : {12, 255}) {
         dialog.show();
         user.types("txtWidth", QString::number(width));
@@ -212,7 +172,7 @@ TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(dialog.settings(), (WordWrapSettings{width, true, true, false}));
     }
-    EXPECT_TRUE(boxes.texts.isEmpty());
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(Dialogs, removeLinesTellsWhetherItWasCancelled) {
@@ -247,11 +207,11 @@ TEST_F(Dialogs, settingsStringsAreEditedForActions) {
 TEST_F(Dialogs, statisticsShowBothColumns) {
     frmStats form(boxes, engine.statistics(u"a b. c d?\r\n", u"a b."));
     User user(form);
-    auto *list = user.control<QTreeWidget>("lvwStats");
-    EXPECT_EQ(list->topLevelItem(2)->text(1), u"22");
-    EXPECT_EQ(list->topLevelItem(2)->text(2), u"8");
+    auto &list = user.control<QTreeWidget>("lvwStats");
+    EXPECT_EQ(list.topLevelItem(2)->text(1), u"22");
+    EXPECT_EQ(list.topLevelItem(2)->text(2), u"8");
     user.clicks("cmdHelp");
-    EXPECT_EQ(boxes.texts, QStringList(u"Help is not implemented yet"_qs));
+    EXPECT_EQ(takeTexts(boxes), QStringList(u"Help is not implemented yet"_qs));
     user.presses(Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
 }
