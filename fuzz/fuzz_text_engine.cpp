@@ -8,28 +8,6 @@
 #include <cstring>
 
 using namespace tolvo;
-using fuzz::require;
-
-namespace {
-
-void checkLaws(const cTextMethods &engine, const QString &text) {
-    const QString trimmed = engine.TrimWhiteSpace(text);
-    require(engine.TrimWhiteSpace(trimmed) == trimmed);
-    const QString regular = engine.RegularEOL(text);
-    require(engine.RegularEOL(regular) == regular);
-    const QString spaced = engine.SingleSpace(text);
-    require(engine.SingleSpace(spaced) == spaced);
-    require(engine.Unindent(engine.Indent(trimmed, u"\t"), u"\t") == trimmed);
-    require(!engine.removeExtraLines(text, false, false).endsWith(u"\r\n"));
-    require(engine.SentenceCase(text).size() == text.size());
-    require(engine.Capitalise(text, true).size() == text.size());
-    const qsizetype start = text.size() / 3;
-    const qsizetype length = text.size() / 2;
-    require(engine.InitialCaps(text, start + 1, length).size() == length);
-    require(engine.TitleCase(text, start, length).size() == length);
-}
-
-} // namespace
 
 /// The first byte tells how the others become text: as UTF-16, or one byte a character.
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
@@ -49,6 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
         } catch (const Failure &) { // a refused text is a defined result
         }
     }
-    checkLaws(engine, text);
+    for (const test::Law &law : test::laws)
+        fuzz::require(law.holds(engine, text));
     return 0;
 }

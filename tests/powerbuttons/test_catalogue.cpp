@@ -66,19 +66,5 @@ TEST(Catalogue, refusesInWords) {
         failureNumber::fileNotFound, [&] { (void)Catalogue::read(missing); }, missing);
 }
 
-TEST(ToolsDat, fitsIntoThePanel) {
-    const Catalogue catalogue = Catalogue::read(realCatalogue());
-    int groups = 0;
-    int tools = 0;
-    int mostTools = 0;
-    for (const Catalogue::PanelItem &item : catalogue.panelItems()) {
-        EXPECT_FALSE(item.token.startsWith(u"pb") || item.token == QLatin1StringView("foCOL"));
-        tools = item.token == QLatin1StringView(">") ? 0 : tools + 1;
-        groups += tools == 0 ? 1 : 0;
-        mostTools = std::max(mostTools, tools);
-    }
-    EXPECT_LE(groups + mostTools, 18);
-}
-
 } // namespace
 } // namespace tolvo

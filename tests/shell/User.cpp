@@ -31,10 +31,12 @@ const Catalogue &realCatalogue() {
     return catalogue;
 }
 
-User::User()
+User::User(const QString &picture)
     : headless(store, realCatalogue(), extensions, boxes, *this, m_folder.path()), session(headless.session),
       keys(session) {
     store.SaveSetting("Tolvo", "Spelling", "Provider", "1");
+    if (!picture.isNull())
+        startsWith(picture);
 }
 
 User::~User() {

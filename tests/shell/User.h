@@ -21,7 +21,8 @@ namespace tolvo::test {
 
 class User : public HeadlessWindows {
   public:
-    User();
+    /// Begins with a text on the clipboard.
+    explicit User(const QString &picture = {});
     /// Every box must have been expected.
     ~User() override;
 

@@ -6,29 +6,31 @@ using namespace tolvo::test;
 
 namespace {
 
-constexpr int openingBracket = 'A' - 1 + 27; // Ctrl-[ has the character code 27
-
-TEST(Keyboard, editsAtTheCaret) {
-    // The key with Ctrl, before, afterwards
+TEST(Keyboard, editsAndWalksAtTheCaret) {
+    // The key with Ctrl, before, afterwards, what is told
     for (const char16_t *example :
          {u"U→«»abcd→A«»bcd", u"U→a«bc»d→aBC«»d", u"U→ab«»→ab«»", u"U→a«»|b→a|«»b",
           u"U→«»\U0001F600b→\U0001F600«»b", // never half a pair
           u"L→«»ABC→a«»BC", u"S→«aB»c→Ab«»c", u"K→«»abc def→A«»bc def", u"K→«abc def»→Abc Def«»",
           u"K→abc def«»→Abc Def«»", // nothing to select: the whole text
           u"T→a«»b→ba«»", u"T→«»ab→«»ab", u"T→ab«»→ab«»", u"T→a«»\U0001F600c→\U0001F600a«»c",
-          u"T→a«bc»d→ba«»cd", u"T→a«»|b→|a«»b", u"A→a«»|b→«a|b»"}) {
+          u"T→a«bc»d→ba«»cd", u"T→a«»|b→|a«»b", u"A→a«»|b→«a|b»",
+          // The partner of a bracket
+          u"[→«»(a(b)c)→(a(b)c«)»", u"[→(a(b)c)«»→«(»a(b)c)", u"[→(a(b)«»c)→(a«(»b)c)", u"[→a <«»b>→a <b«>»",
+          u"[→[(«»])→«[»(])", // the right side first
+          u"[→«»(→«»(→No matching )", u"[→«»)→«»)→No matching (", u"[→a«»b→a«»b", u"[→«»→«»"}) {
         const QStringList parts = QString::fromUtf16(example).split(u'→');
-        SCOPED_TRACE(parts[0].toStdString());
-        User user;
-        user.startsWith(parts[1]);
+        SCOPED_TRACE(shown(parts[0] + parts[1]));
+        User user(parts[1]);
         user.presses(parts[0].front().toLatin1());
+        if (parts.size() > 3)
+            user.isTold(parts[3]);
         user.sees(parts[2]);
     }
 }
 
 TEST(Keyboard, walksAlongTheTextWithOneUndoStateAtMost) {
-    User user;
-    user.startsWith("«»abcd");
+    User user("«»abcd");
     for (int i = 0; i < 5; ++i)
         user.presses('U');
     user.sees("ABCD«»");
@@ -38,31 +40,13 @@ TEST(Keyboard, walksAlongTheTextWithOneUndoStateAtMost) {
 }
 
 TEST(Keyboard, initialCapsTellTheLengthOfALongSelection) {
-    User user;
-    user.startsWith("«ab cd» ef");
+    User user("«ab cd» ef");
     user.presses('K');
     user.sees("Ab Cd«» ef", "5 characters: Initial caps");
 }
 
-TEST(Keyboard, findsThePartnerOfABracket) {
-    // Before, afterwards, what is told
-    for (const char16_t *example :
-         {u"«»(a(b)c)→(a(b)c«)»→", u"(a(b)c)«»→«(»a(b)c)→", u"(a(b)«»c)→(a«(»b)c)→", u"a <«»b>→a <b«>»→",
-          u"[(«»])→«[»(])→", // the right side first
-          u"«»(→«»(→No matching )", u"«»)→«»)→No matching (", u"a«»b→a«»b→", u"«»→«»→"}) {
-        const QStringList parts = QString::fromUtf16(example).split(u'→');
-        User user;
-        user.startsWith(parts[0]);
-        user.presses(static_cast<char>(openingBracket));
-        if (!parts[2].isEmpty())
-            user.isTold(parts[2]);
-        user.sees(parts[1]);
-    }
-}
-
 TEST(Keyboard, commandsOfTheWindow) {
-    User user;
-    user.startsWith("a|b«»");
+    User user("a|b«»");
     user.pressesKey(keyCode::Up, ShiftState::Alt);
     user.sees("b«»|a");
     user.pressesKey(keyCode::Down, ShiftState::Alt);
@@ -94,8 +78,7 @@ TEST(Keyboard, commandsOfTheWindow) {
 }
 
 TEST(Keyboard, consumesOnlyWhatItHandles) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     for (const int code : {113, 115, 116, 117, 118, static_cast<int>('D')})
         EXPECT_FALSE(user.keys.formKeyDown(code, 0)) << code;
     user.session.setStatus("old");
@@ -109,8 +92,7 @@ TEST(Keyboard, consumesOnlyWhatItHandles) {
 }
 
 TEST(Keyboard, repeatsToolsAndPowerButtons) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.cancelsDialogs = true;
     user.runs("foIND");
     user.presses('R'); // no dialog this time
@@ -124,8 +106,7 @@ TEST(Keyboard, repeatsToolsAndPowerButtons) {
 }
 
 TEST(Keyboard, twoSetsOfKeysRunPowerButtons) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.defines(1, {User::action("ccUPP")});
     user.defines(8, {User::action("ccLOW")});
     user.pressesKey(keyCode::F1, ShiftState::Alt);
@@ -139,8 +120,7 @@ TEST(Keyboard, twoSetsOfKeysRunPowerButtons) {
 }
 
 TEST(Keyboard, ctrlZTakesBackTypingFirst) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.runs("ccUPP");
     user.hasTypingToUndo = true;
     user.presses('Z');
@@ -156,8 +136,7 @@ TEST(Keyboard, ctrlZTakesBackTypingFirst) {
 }
 
 TEST(Keyboard, tellsTheCharacterAtTheCaret) {
-    User user;
-    user.startsWith("x|a«»€");
+    User user("x|a«»€");
     user.pressesKey(keyCode::Slash, ShiftState::Ctrl);
     user.isTold("Position: Row 2, column 2\r\n\r\nCharacter: €\r\n Decimal: 128\r\n Hex: 80");
     user.startsWith("a«»");

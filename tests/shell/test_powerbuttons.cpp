@@ -9,8 +9,7 @@ namespace {
 const QString indentSettings = "Spaces=4, Text=# , RadioButton=2";
 
 TEST(PowerButtons, runTheirActionsInTurn) {
-    User user;
-    user.startsWith("a|«b c»");
+    User user("a|«b c»");
     user.defines(2, {User::action("ccUPP"), User::action("foIND", Custom, indentSettings),
                      User::action("foCOL", Custom), User::action("foIND", 7)});
     user.session.imgPower_Click(1);
@@ -27,8 +26,7 @@ TEST(PowerButtons, runTheirActionsInTurn) {
 }
 
 TEST(PowerButtons, settingsLastUsedHoldForTheActionsBehind) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.defines(1, {User::action("foIND", Prompt)});
     user.defines(2, {User::action("foIND", Current), User::action("foIND", Prompt)});
     user.session.imgPower_Click(0);
@@ -41,8 +39,7 @@ TEST(PowerButtons, settingsLastUsedHoldForTheActionsBehind) {
 }
 
 TEST(PowerButtons, goOnAfterAnActionThatFailed) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.defines(1, {User::action("foIND", Custom, "RadioButton=x"),
                      User::action("pbPBT", Custom, "PowerButton="), User::action("toolNULL"),
                      User::action("ccUPP")});
@@ -54,16 +51,14 @@ TEST(PowerButtons, goOnAfterAnActionThatFailed) {
 }
 
 TEST(PowerButtons, tellWhenATokenHasNoStoredSettings) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.session.PowerButtonDespatcher(*User::action("ccUPP", Custom));
     user.isToldSomethingLike("No handler for Tool 'UPPER CASE' (ccUPP)");
     user.sees("«»a");
 }
 
 TEST(PowerButtons, nest) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.defines(1, {User::action("pbPBT", Custom, "PowerButton=2"),
                      User::action("pbPBT", Custom, "PowerButton=3"),
                      User::action("foIND", Custom, indentSettings)});
@@ -76,8 +71,7 @@ TEST(PowerButtons, nest) {
 }
 
 TEST(PowerButtons, aCycleEndsInOneReportAndTheTextStays) {
-    User user;
-    user.startsWith("a«b»");
+    User user("a«b»");
     const auto run = [](int number) {
         return User::action("pbPBT", Custom, QString("PowerButton=%1").arg(number));
     };
@@ -110,8 +104,7 @@ TEST(PowerButtons, searchWithStoredSettings) {
         {u"Mode=2, Find=#, DecimalSep=., GroupingSep=,, Replace=n, ReplaceAll=1", true, u"1,234", u"n,n"}};
     for (const auto &row : cases) {
         SCOPED_TRACE(QString::fromUtf16(row.details).toStdString());
-        User user;
-        user.startsWith(QString::fromUtf16(row.before));
+        User user(QString::fromUtf16(row.before));
         user.session.PowerButtonDespatcher(
             *User::action(row.replace ? "edREP" : "edSRC", Custom, QString::fromUtf16(row.details)));
         const QString picture = QString::fromUtf16(row.after);

@@ -8,8 +8,7 @@ using namespace tolvo::test;
 namespace {
 
 TEST(Session, copyAndCloseGivesTheWholeText) {
-    User user;
-    user.startsWith("one |tw«o»");
+    User user("one |tw«o»");
     user.runs("ccUPP");
     user.session.cmdClose_Click();
     EXPECT_EQ(user.headless.clipboard.text, "one \r\ntwO");
@@ -31,8 +30,7 @@ TEST(Session, cancelAsksOnlyAfterAChange) {
                  {true, CloseAnswer::CopyAndClose, true, u"A"}};
     for (const bool closeBox : {false, true}) {
         for (const auto &row : cases) {
-            User user;
-            user.startsWith("a");
+            User user("a");
             user.runs("foTRA"); // leaves the text as it was
             if (row.changed)
                 user.runs("ccUPP");
@@ -49,8 +47,7 @@ TEST(Session, cancelAsksOnlyAfterAChange) {
 }
 
 TEST(Session, refreshCanBeUndone) {
-    User user;
-    user.startsWith("old");
+    User user("old");
     user.types("typed ");
     user.headless.clipboard.text = "new";
     user.session.cmdRefresh_Click();
@@ -76,8 +73,7 @@ TEST(Session, saysWhenTheClipboardHoldsTooMuch) {
 }
 
 TEST(Session, pasteIsRefusedAtTheLimit) {
-    User user;
-    user.startsWith(u'«' + QString(60000, u'x') + u'»');
+    User user(u'«' + QString(60000, u'x') + u'»');
     user.headless.clipboard.text = QString(5534, u'y');
     EXPECT_TRUE(user.session.mayPaste());
     user.headless.clipboard.text += u'y';
@@ -88,8 +84,7 @@ TEST(Session, pasteIsRefusedAtTheLimit) {
 }
 
 TEST(Session, wordWrapMovesTheTextAndIsNoChange) {
-    User user;
-    user.startsWith("one |t«w»o");
+    User user("one |t«w»o");
     user.setTextFont(false, {"Serif", 20, true});
     user.session.imgWordwrap_Click();
     user.sees("one |t«w»o", "Word wrap now ON");

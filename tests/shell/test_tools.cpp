@@ -11,11 +11,17 @@ using namespace tolvo::test;
 namespace {
 
 TEST(Tools, workOnTheSelectionOrOnTheWholeText) {
+    const char *const noLines = "To sort the lines in a text,\r\ncopy the text you want to sort onto the "
+                                "clipboard (Ctrl-C).\r\nThen choose Refresh.";
+    const char *const noKeywords = "Copy the text you want to sort onto the clipboard (Ctrl-C), separated by "
+                                   "commas.\r\nThen choose Refresh.";
+    const char *const oneLine = "Please select more than one line.";
     const struct {
         const char *token;
         const char16_t *before;
         const char16_t *after;
         const char16_t *status;
+        const char *told = nullptr;
     } cases[] = {{"ccUPP", u"THE «old» man", u"THE «OLD» man", u"11 characters: upper case"},
                  {"ccUPP", u"the o«»ld man", u"«»THE OLD MAN", u"11 characters: upper case"},
                  {"ccLOW", u"THE «OLD» MAN", u"THE «old» MAN", u"11 characters: lower case"},
@@ -52,44 +58,23 @@ TEST(Tools, workOnTheSelectionOrOnTheWholeText) {
                  {"soNUD", u"«a|»b|c", u"c|«a|»b",
                   u""}, // a selection that ends at the start of a line moves that line too
                  {"soNUD", u"a|«b»", u"a|«b»", u"Already at the bottom"},
-                 {"soNUD", u"", u"«»", u"Already at the bottom"}};
+                 {"soNUD", u"", u"«»", u"Already at the bottom"},
+                 {"soALP", u"one", u"«»one", u"", noLines},
+                 {"soALP", u"a|o«n»e|b", u"a|«one»|b", u"Lines sorted"},
+                 {"soNUM", u"one", u"«»one", u"", noLines},
+                 {"soREV", u"on«»e", u"on«»e", u"Line order reversed", oneLine},
+                 {"soREV", u"a|o«n»e", u"a|«one»", u"Line order reversed", oneLine},
+                 {"soKEY", u"one", u"«»one", u"", noKeywords},
+                 {"soKEY", u"«one»", u"«one»", u"", noKeywords}};
     for (const auto &row : cases) {
         SCOPED_TRACE(row.token);
-        User user;
-        user.startsWith(QString::fromUtf16(row.before));
+        User user(QString::fromUtf16(row.before));
         user.runs(QLatin1StringView(row.token));
         user.sees(QString::fromUtf16(row.after), QString::fromUtf16(row.status));
-    }
-}
-
-TEST(Tools, sortsRefuseWhatTheyCannotSort) {
-    const QString noLines = "To sort the lines in a text,\r\ncopy the text you want to sort onto "
-                            "the clipboard (Ctrl-C).\r\nThen choose Refresh.";
-    const QString noKeywords = "Copy the text you want to sort onto the clipboard (Ctrl-C), "
-                               "separated by commas.\r\nThen choose Refresh.";
-    const QString oneLine = "Please select more than one line.";
-    const struct {
-        const char *token;
-        const char16_t *before;
-        const char16_t *after;
-        QString told;
-        const char16_t *status;
-    } cases[] = {{"soALP", u"one", u"«»one", noLines, u""},
-                 {"soALP", u"a|o«n»e|b", u"a|«one»|b", {}, u"Lines sorted"},
-                 {"soNUM", u"one", u"«»one", noLines, u""},
-                 {"soREV", u"on«»e", u"on«»e", oneLine, u"Line order reversed"},
-                 {"soREV", u"a|o«n»e", u"a|«one»", oneLine, u"Line order reversed"},
-                 {"soKEY", u"one", u"«»one", noKeywords, u""},
-                 {"soKEY", u"«one»", u"«one»", noKeywords, u""}};
-    for (const auto &row : cases) {
-        SCOPED_TRACE(row.token);
-        User user;
-        user.startsWith(QString::fromUtf16(row.before));
-        user.runs(QLatin1StringView(row.token));
-        user.sees(QString::fromUtf16(row.after), QString::fromUtf16(row.status));
-        if (!row.told.isEmpty())
+        if (row.told)
             user.isTold(row.told);
-        EXPECT_FALSE(user.session.bDirty());
+        EXPECT_EQ(user.session.bDirty(),
+                  stateOf(QString::fromUtf16(row.before)).text != user.session.txtCurrent().Text());
     }
 }
 
@@ -98,8 +83,7 @@ TEST(Tools, extendSelectionToLines) {
          {u"ab«c»d|ef→«abcd»|ef", u"ab|c«d|e»f|gh→ab|«cd|ef»|gh", u"a«b|»cd|e→«ab|cd»|e",
           u"ab|cd«|»→ab|«cd|»", u"«ab»|cd→«ab»|cd", u"ab|«|»cd→ab|«|cd»", u"a«»b|cd→a«»b|cd", u"«|»→«|»"}) {
         const QStringList parts = QString::fromUtf16(example).split(u'→');
-        User user;
-        user.startsWith(parts[0]);
+        User user(parts[0]);
         user.session.ExtendSelectionToLines();
         user.sees(parts[1]);
     }
@@ -143,8 +127,7 @@ TEST(Tools, ofTheTableAreThoseOfTheCatalogue) {
 }
 
 TEST(Tools, aDialogAsksOnceAndARightClickNever) {
-    User user;
-    user.startsWith("a|«b»");
+    User user("a|«b»");
     user.runs("foIND");
     user.sees("a|«> b»", "Indent increased");
     user.runsAgain("foIND");
@@ -161,8 +144,7 @@ TEST(Tools, aDialogAsksOnceAndARightClickNever) {
 }
 
 TEST(Tools, areCountedAndUnknownOnesAreTold) {
-    User user;
-    user.startsWith({});
+    User user(QString(""));
     user.runs("ccUPP");
     user.runs("ccUPP");
     EXPECT_EQ(user.counter("Usage", "ccUPP"), "2");
@@ -175,8 +157,7 @@ TEST(Tools, areCountedAndUnknownOnesAreTold) {
 }
 
 TEST(Tools, favouritesMayBeTwoToolsInOne) {
-    User user;
-    user.startsWith("a  b |c");
+    User user("a  b |c");
     user.session.imgFavourites_Click("foBOTH");
     user.sees("«»a b|c", "2 characters removed");
     user.session.cmdUndo_Click();
@@ -211,8 +192,7 @@ TEST(Tools, searchWindowBeginsWithAShortSelection) {
 }
 
 TEST(Tools, spellingThatChangesNothingIsNoChange) {
-    User user;
-    user.startsWith("teh|");
+    User user("teh|");
     user.runs("chSPE");
     user.isTold("Spelling check complete");
     EXPECT_FALSE(user.session.bDirty());

@@ -7,8 +7,7 @@ using namespace tolvo::test;
 namespace {
 
 TEST(Undo, givesBackTextAndSelection) {
-    User user;
-    user.startsWith("THE [«old» man]");
+    User user("THE [«old» man]");
     user.runs("ccUPP");
     user.runs("pbCLR");
     user.session.cmdUndo_Click(); // the selection alone is no state of its own
@@ -19,8 +18,7 @@ TEST(Undo, givesBackTextAndSelection) {
 }
 
 TEST(Undo, saysWhereItsBuffersEnd) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.session.cmdUndo_Click();
     user.sees("«»a", "Reached end of Undo buffer");
     user.session.cmdRedo_Click();
@@ -33,8 +31,7 @@ TEST(Undo, saysWhereItsBuffersEnd) {
 }
 
 TEST(Undo, keepsWhatWasTyped) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.types("x");
     user.session.cmdUndo_Click();
     user.sees("«»a");
@@ -43,8 +40,7 @@ TEST(Undo, keepsWhatWasTyped) {
 }
 
 TEST(Undo, redoAsksBeforeTypingIsLost) {
-    User user;
-    user.startsWith("a");
+    User user("a");
     user.runs("ccUPP");
     user.session.cmdUndo_Click();
     user.types("x");

@@ -135,6 +135,16 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
         http.reply = {200, u("OK"), "<?xml version=\"1.0\"?>\n<results>\n" + errors + "</results>"};
     }
 
+    /// A check with a provider.
+    struct Check : CSpelling {
+        Check(SpellingWorld &world, int provider, int language = -1)
+            : CSpelling(world.services, world.oTextMethods), LangID(language) {
+            init(provider, LangID, locale);
+        }
+        int LangID;
+        QString locale;
+    };
+
     QString dictionaries() const { return services.programFolder + u("/Dictionaries"); }
     void dictionary(const QString &name, const QByteArray &aff, const QByteArray &dic) {
         writeFile(dictionaries() + u'/' + name + u(".aff"), aff);

@@ -20,10 +20,7 @@ class AfterTheDeadline_ : public SpellingWorld {
 
     /// What a check finds, or "(failure n)" or "(none)" if it doesn't get that far.
     QStringList check(const QString &text) {
-        int LangID = -1;
-        QString locale;
-        CSpelling spelling(services, oTextMethods);
-        spelling.init(2, LangID, locale);
+        Check spelling(*this, 2);
         try {
             if (!spelling.Spell(text))
                 return {u("(none)")};

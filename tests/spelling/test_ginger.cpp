@@ -8,10 +8,7 @@ namespace tolvo::test {
 using Ginger = SpellingWorld;
 
 TEST_F(Ginger, FindsNothingInAnyText) {
-    int LangID = -1;
-    QString locale;
-    CSpelling spelling(services, oTextMethods);
-    spelling.init(3, LangID, locale);
+    Check spelling(*this, 3);
     EXPECT_FALSE(spelling.Spell(u("zqx xzj")));
     spelling.AddToCustomDic(u("zqx"));
     EXPECT_EQ(spelling.hunspellSuggest(u("teh"))->Count(), 0);

@@ -100,12 +100,9 @@ TEST_F(Hunspell_, KnowsThePersonalWords) {
     prepareSpelling(services);
     EXPECT_EQ(fileContents(path), "");
 
-    int LangID = -1;
     for (const int provider : {1, 2}) {
-        QString locale;
-        CSpelling spelling(services, oTextMethods);
-        spelling.init(provider, LangID, locale);
-        EXPECT_EQ(locale, u("en-gb"));
+        Check spelling(*this, provider);
+        EXPECT_EQ(spelling.locale, u("en-gb"));
         spelling.AddToCustomDic(provider == 1 ? u("zqx") : u("never"));
         EXPECT_TRUE(spelling.Spell(u("zqx")) || provider == 2); // the running check doesn't know the word
     }

@@ -85,11 +85,8 @@ TEST_F(ProofingWorld, ListsWordsErrors) {
     word.errors = {{u("teh"), 0, 3}};
     word.customFolder = folder.path();
     writeFile(folder.path() + u("/custom.dic"), "one\r\n");
-    int LangID = 0;
-    QString locale;
     {
-        CSpelling spelling(services, oTextMethods);
-        spelling.init(0, LangID, locale);
+        Check spelling(*this, 0, 0);
         EXPECT_TRUE(spelling.Spell(u("teh"), true));
         EXPECT_EQ(told(spelling.SpellingErrors()), QStringList(u("teh 0-3 1 TEH")));
         spelling.AddToCustomDic(u("teh"));
@@ -103,15 +100,12 @@ TEST_F(ProofingWorld, FallsBackToHunspellWithoutWord) {
     word.installed = false;
     writeFile(services.programFolder + u("/Locales.txt"), "h\nh\nen-gb\tx\tEnglish\t2057\n");
     for (const auto &[number, expected] : {std::pair(0, "en-gb"), {2057, "en-gb"}, {1036, ""}}) {
-        int LangID = number;
-        QString locale;
-        CSpelling spelling(services, oTextMethods);
-        spelling.init(0, LangID, locale);
-        EXPECT_EQ(locale, u(expected));
+        Check spelling(*this, 0, number);
+        EXPECT_EQ(spelling.locale, u(expected));
         EXPECT_EQ(spelling.ProviderType(), 1);
-        EXPECT_EQ(spelling.Spell(u("teh")), !locale.isEmpty());
+        EXPECT_EQ(spelling.Spell(u("teh")), !spelling.locale.isEmpty());
         QStringList boxesShown{u("429 no Word (CSpelling::instantiateWord)")};
-        if (locale.isEmpty())
+        if (spelling.locale.isEmpty())
             boxesShown += u("5003 Unable to initialise Hunspell provider (CSpelling::init)");
         EXPECT_EQ(said(), boxesShown);
     }
