@@ -22,6 +22,8 @@ class MatchBudget {
 
     /// True from the moment on at which the command has to end.
     [[nodiscard]] bool spent();
+    /// Between the last two calls of spent().
+    [[nodiscard]] Clock::duration lastStretch() const { return m_lastStretch; }
     /// Counts as spent from now on: the engine's own limits end a command too.
     void end(const QString &reason) { m_reason = reason; }
     /// Why it is spent, a sentence for the user.
@@ -32,6 +34,8 @@ class MatchBudget {
     Clock::duration m_time;
     Clock::time_point m_start;
     Clock::time_point m_asked;
+    Clock::time_point m_looked;
+    Clock::duration m_lastStretch{};
     QString m_reason;
 };
 

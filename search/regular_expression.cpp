@@ -18,8 +18,6 @@ namespace {
 constexpr std::uint32_t matchLimit = 1'000'000;
 constexpr std::uint32_t heapLimitKiB = 128 * 1024;
 constexpr std::uint32_t deepestNesting = 1000;
-/// Start positions between two looks at the budget: each of them may cost as much as the match limit allows.
-constexpr qsizetype positionsPerStep = 256;
 
 PCRE2_SPTR16 units(QStringView text) {
     return reinterpret_cast<PCRE2_SPTR16>(text.isEmpty() ? u"" : text.utf16());
@@ -39,6 +37,21 @@ bool isSizeError(int code) {
 }
 
 } // namespace
+
+/// Each position may cost as much as the match limit allows, some milliseconds, or next to nothing; and each
+/// step makes the engine look anew whether the rest of the text can match at all.
+struct RegularExpression::Pace {
+    qsizetype positions = 8;
+    qsizetype nextLook = 0;
+
+    void goOn(qsizetype from, MatchBudget::Clock::duration lastStretch) {
+        if (lastStretch > std::chrono::milliseconds(50))
+            positions = std::max<qsizetype>(positions / 2, 1);
+        else if (lastStretch < std::chrono::milliseconds(10))
+            positions = std::min<qsizetype>(positions * 2, 256);
+        nextLook = from + positions;
+    }
+};
 
 struct RegularExpression::Compiled {
     pcre2_code_16 *code = nullptr;
@@ -134,15 +147,15 @@ qsizetype RegularExpression::nextCandidate(QStringView text, qsizetype from) con
     return found == end ? text.size() + 1 : found - text.utf16();
 }
 
-RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from, qsizetype &nextLook,
+RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from, Pace &pace,
                                                 MatchBudget &budget) const {
     for (qsizetype start = nextCandidate(text, from); start <= text.size();) {
-        if (start >= nextLook) {
+        if (start >= pace.nextLook) {
             if (budget.spent())
                 return Step::LimitReached;
-            nextLook = start + positionsPerStep;
+            pace.goOn(start, budget.lastStretch());
         }
-        qsizetype last = std::min(text.size(), start + positionsPerStep - 1);
+        qsizetype last = std::min(text.size(), start + pace.positions - 1);
         if (m_compiled->startsAtLines) {
             // The engine would pass by the place between CR and LF; a step that begins there looks at it.
             const qsizetype lineEnd = text.sliced(start, last - start).indexOf(u"\r\n");
@@ -168,9 +181,9 @@ RegularExpression::Outcome RegularExpression::forEachMatch(QStringView text, Mat
                                                            const Visitor &visit) const {
     if (!isValid())
         return Outcome::Completed;
-    qsizetype nextLook = 0;
+    Pace pace;
     for (qsizetype from = 0; from <= text.size();) {
-        const Step result = step(text, from, nextLook, budget);
+        const Step result = step(text, from, pace, budget);
         if (result != Step::Found)
             return result == Step::NoMatch ? Outcome::Completed : Outcome::LimitReached;
         const RegularExpressionMatch match(text,

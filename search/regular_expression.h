@@ -72,8 +72,11 @@ class RegularExpression {
     enum class Step { Found, NoMatch, LimitReached };
 
     void compile(const QString &pattern, bool matchCase);
-    /// The next match. The budget is looked at from position `nextLook` on, which then moves on.
-    Step step(QStringView text, qsizetype from, qsizetype &nextLook, MatchBudget &budget) const;
+    /// How many start positions are tried between two looks at the budget, and where the next look is due.
+    struct Pace;
+
+    /// The next match.
+    Step step(QStringView text, qsizetype from, Pace &pace, MatchBudget &budget) const;
     [[nodiscard]] qsizetype nextCandidate(QStringView text, qsizetype from) const;
 
     PatternState m_state = PatternState::Valid;
