@@ -10,7 +10,6 @@
 #include <QGuiApplication>
 
 #include <QFile>
-#include <QTimer>
 
 #include <csignal>
 #include <cstdio>

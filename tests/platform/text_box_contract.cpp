@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QStringList>
-
 using namespace Qt::StringLiterals;
 
 namespace tolvo {

@@ -7,7 +7,6 @@
 #include "powerbuttons/editor_rules.h"
 #include "preferences/settings_store.h"
 
-#include <QDir>
 #include <gtest/gtest.h>
 
 namespace tolvo {

@@ -8,13 +8,11 @@
 #include "tests/ui/user.h"
 
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
-#include <QToolButton>
 
 namespace tolvo::test {
 
