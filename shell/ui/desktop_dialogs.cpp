@@ -69,11 +69,19 @@ bool DesktopDialogs::LateSpelling::CheckSpelling(ProofingHost &host, QString &te
     if (!m_owner.m_spellingDialog)
         m_owner.m_spellingDialog =
             std::make_unique<dlgSpelling>(m_owner.m_services.spelling, &m_owner.m_parent);
-    return m_owner.m_spellingDialog->CheckSpelling(host, text, LangID, grammar);
+    const bool changed = m_owner.m_spellingDialog->CheckSpelling(host, text, LangID, grammar);
+    m_owner.takeKeysBack();
+    return changed;
 }
 
 int DesktopDialogs::LateLanguages::GetLangID(int LangID, bool save) {
     return m_owner.languageForm().GetLangID(LangID, save);
+}
+
+/// Behind dialogs that may end with a question of their own: a window manager that sees both windows go at
+/// the same moment can leave the keys with no window at all.
+void DesktopDialogs::takeKeysBack() {
+    m_parent.activateWindow();
 }
 
 void DesktopDialogs::showOptions() {
@@ -115,6 +123,7 @@ void DesktopDialogs::editPowerButton(int index) {
     }
     m_powerButtonEditor->init(index);
     m_powerButtonEditor->exec();
+    takeKeysBack();
 }
 
 void DesktopDialogs::setSearchText(const QString &text) {

@@ -76,6 +76,7 @@ class DesktopDialogs : public ToolDialogs, private SearchWindow, private ActionS
     std::optional<QString> editLanguage(const QString &details);
 
     void configureProvider(int provider);
+    void takeKeysBack();
     [[nodiscard]] frmSearch &searchForm();
     [[nodiscard]] dlgDicQuickList &languageForm();
 

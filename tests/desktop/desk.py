@@ -24,7 +24,8 @@ PATIENCE = float(os.environ.get("TOLVO_PATIENCE", "15"))
 
 
 def wait_for(condition, what, patience=PATIENCE):
-    """Waits until the condition gives something true and returns it."""
+    """Waits until the condition gives something true and returns it. `what` is the name of it, or a function that says
+    in the end how things are instead."""
     end = time.monotonic() + patience
     while time.monotonic() < end:
         try:
@@ -34,7 +35,7 @@ def wait_for(condition, what, patience=PATIENCE):
         if result:
             return result
         time.sleep(0.05)
-    raise AssertionError(f"waited {patience:.0f} s in vain for {what}")
+    raise AssertionError(f"waited {patience:.0f} s in vain for {what() if callable(what) else what}")
 
 
 def keys(*names):
@@ -82,6 +83,11 @@ class Settings:
     def environment(self):
         return {**os.environ, "TOLVO_SETTINGS": self.file, "XDG_DATA_HOME": self.folder, "XDG_CONFIG_HOME": self.folder}
 
+    def programs(self, name):
+        """The ids of this user's programs of a name."""
+        return [int(program) for program in filter(str.isdigit, os.listdir("/proc"))
+                if name in file_of(program, "cmdline") and self.file in file_of(program, "environ")]
+
     def write(self, tree, section, key, value):
         """Writes one value with the store itself."""
         subprocess.run([os.path.join(PROGRAMS, "..", "tests", "store_tool"), self.file, "write", tree, section, key, value],
@@ -100,11 +106,11 @@ class Settings:
 class Tolvo:
     """One run of the program."""
 
-    def __init__(self, settings, wait=True, **environment):
+    def __init__(self, settings, wait=True, program="tolvo", **environment):
         self.settings = settings
         self.scale = int(environment.get("QT_SCALE_FACTOR", "1"))
         self._text = None
-        self.process = subprocess.Popen([os.path.join(PROGRAMS, "tolvo")], env={**settings.environment(), **environment},
+        self.process = subprocess.Popen([os.path.join(PROGRAMS, program)], env={**settings.environment(), **environment},
                                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         if wait:
             self.window()
@@ -137,13 +143,18 @@ class Tolvo:
     def active(self, title):
         """Waits until the window whose title begins so has the keyboard."""
         window = wait_for(lambda: next(w for w in self.windows() if w.get_name().startswith(title) and
-                                       w.get_state_set().contains(Atspi.StateType.ACTIVE)), f"the window {title!r}")
+                                       w.get_state_set().contains(Atspi.StateType.ACTIVE)),
+                          lambda: f"the window {title!r}, there are {self.titles()}")
         time.sleep(0.3)  # the keys follow a moment after the window says so
         return window
 
     def main_is_active(self):
         wait_for(lambda: len(self.windows()) == 1 and self.windows()[0].get_state_set().contains(Atspi.StateType.ACTIVE),
-                 "the main window alone")
+                 lambda: f"the main window alone, there are {self.titles()}")
+
+    def titles(self):
+        """The titles of the showing windows, the active one with a star."""
+        return [w.get_name() + "*" * w.get_state_set().contains(Atspi.StateType.ACTIVE) for w in self.windows()]
 
     def shows(self, name):
         return self._named(lambda n: n.get_name() == name and
@@ -273,12 +284,18 @@ class Tolvo:
         self.process.stdout.close()
 
 
-def parent_of(process):
+def file_of(process, name):
+    """What the system tells of a process, empty if it is gone."""
     try:
-        with open(f"/proc/{process}/stat") as file:
-            return int(file.read().rsplit(")", 1)[1].split()[1])
-    except (OSError, ValueError):
-        return 0
+        with open(f"/proc/{process}/{name}", errors="replace") as file:
+            return file.read()
+    except OSError:
+        return ""
+
+
+def parent_of(process):
+    stat = file_of(process, "stat")
+    return int(stat.rsplit(")", 1)[1].split()[1]) if stat else 0
 
 
 class Story(unittest.TestCase):

@@ -2,7 +2,7 @@
 """Tool dialogs, spelling with the British dictionary, Options, export and import, companions: each used once for real."""
 
 import os
-import subprocess
+import signal
 import time
 import unittest
 
@@ -123,11 +123,11 @@ class DialogStories(Story):
     def test_companions_start(self):
         self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "1")
         run = self.start("text")
-        wait_for(lambda: subprocess.run(["pgrep", "-f", "Advisor.exe"], stdout=subprocess.DEVNULL).returncode == 0, "the tips")
-        time.sleep(0.5)
+        tips = wait_for(lambda: self.settings.programs("Advisor.exe"), "the tips")
         run.click("Cancel")
         run.ends()
-        subprocess.run(["pkill", "-f", "Advisor.exe"])
+        for program in tips:
+            os.kill(program, signal.SIGTERM)
 
 
 if __name__ == "__main__":

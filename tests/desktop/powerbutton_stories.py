@@ -47,6 +47,17 @@ class PowerButtonStories(Story):
         run.click("PowerButton 1: Shout")
         run.text_becomes("•\tTHREE\n•\tFOUR")
         self.assertEqual(self.settings.read("Tolvo-Stats", "PBUsage", "ccUPP"), "3")
+        run.click("PowerButton 1: Shout", 3)
+        run.active("Edit PowerButton 1")
+        run.click("Destroy this PowerButton and Exit (Alt-X)")
+        run.box_says("You are about to delete the entire definition of this PowerButton.")
+        keys("alt+y")
+        run.main_is_active()
+        run.click("PowerButton 1, not defined")
+        run.box_says(NONE)
+        run.click("OK")
+        run.main_is_active()
+        run.text_becomes("•\tTHREE\n•\tFOUR")
 
     def choose_by_keys(self, run, beginning):
         """From the name to the tree, to the tool whose name begins so, and back to the name."""
