@@ -118,7 +118,7 @@ void dlgPickCharacter::arrange() {
     m_name->setTextFormat(Qt::PlainText);
 
     auto *form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("&Find:"), m_find);
     form->addRow(tr("&Block:"), m_block);
     form->addRow(tr("F&ont:"), m_font);

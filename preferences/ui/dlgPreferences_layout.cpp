@@ -66,6 +66,7 @@ dlgPreferences::dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWi
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(tabs, 1);
     layout->addWidget(buttonRow());
+    findChild<QPushButton *>(QStringLiteral("OKButton"))->setDefault(true); // works only inside the dialog
 }
 
 QWidget *dlgPreferences::displayPage() {
@@ -224,7 +225,6 @@ QWidget *dlgPreferences::buttonRow() {
     auto *ok = make<QPushButton>("OKButton", tr("OK"));
     auto *cancel = make<QPushButton>("CancelButton", tr("Cancel"));
     auto *apply = make<QPushButton>("cmdApply", tr("&Apply"));
-    ok->setDefault(true);
     connect(help, &QPushButton::clicked, this,
             [this] { m_boxes.show({.text = QStringLiteral("Help is not implemented yet")}); });
     connect(ok, &QPushButton::clicked, this, [this] {

@@ -9,6 +9,7 @@
 #include "shell/ui/any_click.h"
 #include "shell/ui/window_size.h"
 
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -33,6 +34,13 @@ Font textFontAtFirst() {
     return {.name = QStringLiteral("Arial"), .size = 10};
 }
 
+/// A bare widget would be told to screen readers as a part without a meaning.
+QAccessibleInterface *describeMainWindow(const QString &className, QObject *object) {
+    auto *window =
+        className == QLatin1StringView("tolvo::MainWindow") ? qobject_cast<QWidget *>(object) : nullptr;
+    return window == nullptr ? nullptr : new QAccessibleWidget(window, QAccessible::Window);
+}
+
 QHBoxLayout *row(QWidget *parent) {
     auto *layout = new QHBoxLayout(parent);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -43,6 +51,7 @@ QHBoxLayout *row(QWidget *parent) {
 
 MainWindow::MainWindow(QWidget *parent)
     : QWidget(parent), m_panel(new PanelView(this)), m_powerButtons(new PowerButtonBar(this)) {
+    QAccessible::installFactory(describeMainWindow);
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(applicationTitle() + u' ' + applicationVersion());
     setWindowIcon(QIcon(QStringLiteral(":/icons/tolvo.svg")));

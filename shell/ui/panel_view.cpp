@@ -101,9 +101,19 @@ PanelView::PanelView(QWidget *parent) : QFrame(parent) {
     layout->addStretch(1);
 }
 
+/// While rows slide, the keys stay with the row that has them, wherever it goes.
 void PanelView::showRows(const cToolbox &toolbox) {
+    QString withKeys;
+    for (const PanelRowButton *row : m_rows) {
+        if (row->hasFocus())
+            withKeys = row->accessibleName();
+    }
     for (int i = 0; i < cToolbox::rowCount; ++i)
         m_rows[static_cast<std::size_t>(i)]->showRow(toolbox.row(i + 1));
+    for (PanelRowButton *row : m_rows) {
+        if (row->isEnabled() && !withKeys.isEmpty() && row->accessibleName() == withKeys)
+            row->setFocus(Qt::TabFocusReason);
+    }
 }
 
 bool PanelView::eventFilter(QObject *watched, QEvent *event) {

@@ -3,6 +3,7 @@
 
 #include "base/CParams.h"
 #include "base/conversions.h"
+#include "platform/icons/themed_icon.h"
 #include "platform/report_error.h"
 #include "spelling/locales.h"
 #include "spelling/spelling_provider.h"
@@ -36,7 +37,8 @@ dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *pare
     cmbQuickList->setMinimumContentsLength(30);
     labProvider->setObjectName(QStringLiteral("labProvider"));
     labChange->setObjectName(QStringLiteral("labChange"));
-    labChange->setText(QStringLiteral("<a href=\"options\">Change</a>"));
+    labChange->setText(
+        QStringLiteral("<a href=\"options\" style=\"color:%1\">Change</a>").arg(accent(palette()).name()));
     labChange->setTextInteractionFlags(Qt::LinksAccessibleByKeyboard | Qt::LinksAccessibleByMouse);
     labChange->hide();
     imgBrowse->setObjectName(QStringLiteral("imgBrowse"));

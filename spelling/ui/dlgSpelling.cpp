@@ -33,9 +33,8 @@ dlgSpelling::dlgSpelling(const SpellingServices &services, QWidget *parent)
       rtbText(named(new MarkedTextView(this), QStringLiteral("rtbText"), QStringLiteral("Text"))),
       labErrorType(
           named(new QLabel(QStringLiteral("Not in dictionary:"), this), QStringLiteral("labErrorType"))),
-      labMistake(named(new QLabel(this), QStringLiteral("labMistake"), QStringLiteral("Mistake"))),
-      labErrorDescription(
-          named(new QLabel(this), QStringLiteral("labErrorDescription"), QStringLiteral("Description"))),
+      labMistake(named(new QLabel(this), QStringLiteral("labMistake"))),
+      labErrorDescription(named(new QLabel(this), QStringLiteral("labErrorDescription"))),
       lstSuggestions(
           named(new QListWidget(this), QStringLiteral("lstSuggestions"), QStringLiteral("Suggestions"))),
       txtCorrection(named(new QLineEdit(this), QStringLiteral("txtCorrection"), QStringLiteral("Change to"))),

@@ -42,11 +42,12 @@ def keys(*names):
     """Presses keys, one after the other; a name may hold several, parted by blanks, that go down in one stroke."""
     for name in names:
         subprocess.run(["xdotool", "key", "--clearmodifiers", *name.split()], check=True)
-        time.sleep(0.05)
+        time.sleep(0.2 if "alt+" in name else 0.05)  # a mnemonic holds its button down for a tenth of a second
 
 
 def type_text(text):
     subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
+    time.sleep(0.05)
 
 
 def set_clipboard(text, target="UTF8_STRING"):
@@ -195,6 +196,10 @@ class Tolvo:
                         str(button)], check=True)
         time.sleep(0.15)
 
+    def page(self, name):
+        """Clicks a tab: the bus doesn't tell of a tab that it is showing."""
+        self.click(lambda: self._named(lambda n: n.get_name() == name and n.get_role() == Atspi.Role.PAGE_TAB))
+
     def rows(self, role=Atspi.Role.LIST_ITEM):
         """The rows of the list in the active window."""
         found = []
@@ -208,6 +213,35 @@ class Tolvo:
             self.find(name)
             time.sleep(1.5)  # rows take no click until the last one has slid out
         self.click(name, button)
+
+    def focused(self):
+        """The name of the control that has the keys."""
+        return self._named(lambda n: n.get_state_set().contains(Atspi.StateType.FOCUSED)).get_name()
+
+    def tool_by_keys(self, group, name):
+        """From the text to a tool of the panel and into it, with keys alone."""
+        def walk(stroke, to):
+            def there():
+                return self.focused() == to or keys(stroke)
+
+            wait_for(there, lambda: f"the keys at {to!r}, they are at {self.focused()!r}")
+
+        keys("ctrl+Tab")
+        walk("Tab", group)
+        if not self.shows(name):
+            keys("Return")
+            self.find(name)
+            time.sleep(1.5)  # as above
+        walk("Down", name)
+        keys("Return")
+
+    def font(self):
+        """The family of the text's font."""
+        attributes, _, _ = Atspi.Text.get_attribute_run(self.text_node().get_text_iface(), 0, True)
+        return attributes["family-name"].strip('"')
+
+    def is_checked(self, name):
+        return self.find(name).get_state_set().contains(Atspi.StateType.CHECKED)
 
     def text_node(self, name="Text"):
         if not (self._text and self._text.get_state_set().contains(Atspi.StateType.SHOWING)):

@@ -6,7 +6,7 @@ import signal
 import time
 import unittest
 
-from desk import Settings, Story, keys, type_text, wait_for
+from desk import FIELD, Settings, Story, keys, type_text, wait_for
 
 # Group, tool, title of its dialog, text before and after OK with the settings of a first run.
 TOOLS = [("Spaces & Layout", "Indent...", "Indent", "a\nb", "\ta\n\tb"),
@@ -14,6 +14,20 @@ TOOLS = [("Spaces & Layout", "Indent...", "Indent", "a\nb", "\ta\n\tb"),
          ("Lists & Numbers", "Bullet list...", "Bullet List Style", "a", "•\ta"),
          ("Lists & Numbers", "Numbered list...", "Number List Style", "a\nb", "1\ta\n2\tb"),
          ("Lists & Numbers", "Line numbers...", "Line Numbering", "a", "1 a")]
+
+# Group, tool, title of its dialog, keys pressed in it before Enter, text before and after.
+BY_KEYS = [("Spaces & Layout", "Indent...", "Indent", "alt+x Tab greater space", "a\nb", "> a\n> b"),
+           ("Spaces & Layout", "Remove blank lines...", "Remove Lines", "space", "a\n\nb\n\n\nc", "a\nb\nc"),
+           ("Lists & Numbers", "Bullet list...", "Bullet List Style", "ctrl+a minus alt+s", "a\nb", "-  a\n-  b"),
+           ("Lists & Numbers", "Numbered list...", "Number List Style", "Down Tab 3 alt+p", "a\nb", "c   a\nd   b"),
+           ("Lists & Numbers", "Line numbers...", "Line Numbering", "ctrl+a 9 Tab ctrl+a 2", "a\nb", "9  a\n11 b")]
+
+# What the user sees as long as the options are those of a first run, and when all of them are changed.
+SPACED = "see notes.qqq now. see sun.it here"
+FIRST = ("Arial", False, "see notes. qqq now. see sun. it here", "Provider: Hunspell")
+CHANGED = ("Courier New", True, SPACED, "Provider: After the Deadline")
+PREFERENCES = {"FontUseProp": "0", "Wordwrap": "1", "TLD_Full": "True", "Sounds": "0", "CheckUpdates": "0",
+               "AllowStats": "0", "Show Tips at Startup": "1"}
 
 
 class DialogStories(Story):
@@ -36,9 +50,20 @@ class DialogStories(Story):
                 keys("alt+d")
                 run.ends()
 
+    def test_tool_dialogs_by_keys_alone(self):
+        run = self.start("")
+        for group, tool, title, strokes, before, after in BY_KEYS:
+            with self.subTest(tool):
+                run.place(before + "¦")
+                run.tool_by_keys(group, tool)
+                run.active(title)
+                keys(*strokes.split(), "Return")
+                run.main_is_active()
+                run.text_becomes(after)
+
     def test_word_wrap_by_keys(self):
         run = self.start("some words that are wrapped")
-        run.tool("Spaces & Layout", "Word wrap...")
+        run.tool_by_keys("Spaces & Layout", "Word wrap...")
         run.active("Word Wrap")
         keys("ctrl+a")
         type_text("11")
@@ -77,6 +102,76 @@ class DialogStories(Story):
         keys("Return")
         run.text_becomes("Thiss is wron.")
 
+    def test_a_long_text_is_walked_through(self):
+        line = "The house stands by the river and the children walk to school. "
+        text = line * 40 + "I beleive it. " + line * 40 + "We recieve a blargh. " + line * 60 + \
+            "A blargh is wron. " + line * 60 + "They recieve it. " + line * 40 + "The sentense ends. " + line * 9
+        run = self.start(text)
+        run.tool("Check", "Spelling...")
+        run.active("Select dictionary")
+        keys("Return")
+        run.active("Spelling and Grammar")
+        for word, key in (("beleive", "alt+c"), ("recieve", "alt+l"), ("blargh", "alt+g"), ("wron", "alt+c"),
+                          ("sentense", "alt+u"), ("recieve", "alt+u"), ("wron", "alt+i"), ("sentense", None)):
+            run.find(word)
+            keys(*[key] if key else [])
+        run.click("Stop")
+        run.main_is_active()
+        run.text_becomes(text.replace("beleive", "believe").replace("recieve", "receive"))
+
+    def user_sees(self, run):
+        keys("alt+f")
+        run.text_becomes(SPACED)
+        run.tool("Check", "Punctuation")
+        run.find("Punctuation")
+        time.sleep(0.3)
+        text = run.text()
+        run.click("Spelling...")
+        run.active("Select dictionary")
+        provider = run._named(lambda n: n.get_name().startswith("Provider: ")).get_name()
+        keys("Escape")
+        run.main_is_active()
+        return run.font(), run.is_checked("Toggle word wrap"), text, provider
+
+    def change_all_options(self, run):
+        run.click("Options")
+        run.active("Options")
+        run.page("Display")
+        run.click("Use Fixed font")
+        run.click("Word wrap (display only)")
+        run.page("Extensions")
+        run.click("File extension", role=FIELD)
+        type_text(".qqq")
+        run.click("Add")
+        run.click("Use full list of Internet Top Level Domains")
+        run.page("General")
+        for name in ("Show Tips at startup", "Enable sounds", "Check weekly for product updates", "Upload usage statistics"):
+            run.click(name)
+        run.page("Spelling")
+        run.click("After the Deadline")
+
+    def test_options_take_effect_when_applied_and_none_when_cancelled(self):
+        def stored():
+            return {key: self.settings.read("Tolvo", "Preferences", key) for key in PREFERENCES}
+
+        run = self.start(SPACED)
+        self.assertEqual(self.user_sees(run), FIRST)
+        before = stored()
+        self.change_all_options(run)
+        run.click("Cancel")
+        run.main_is_active()
+        self.assertEqual(self.user_sees(run), FIRST)
+        self.assertEqual(stored(), before)
+        self.change_all_options(run)
+        run.click("Apply")
+        wait_for(lambda: run.font() == "Courier New", "the fixed font behind the dialog")
+        keys("Escape")
+        run.main_is_active()
+        self.assertEqual(self.user_sees(run), CHANGED)
+        self.assertEqual(stored(), PREFERENCES)
+        run.click("Cancel")
+        run.ends()
+
     def test_options_and_their_export(self):
         run = self.start("text")
         keys("ctrl+o")
@@ -89,7 +184,7 @@ class DialogStories(Story):
         self.assertEqual(self.settings.read("Tolvo", "Preferences", "FontUseProp"), "0")
         keys("ctrl+o")
         run.active("Options")
-        run.click("General")
+        run.page("General")
         run.click("Export Preferences and PowerButtons...")
         run.active("Export")
         file = os.path.join(self.settings.folder, "mine.reg")
@@ -107,7 +202,7 @@ class DialogStories(Story):
             run = self.start("text")
             keys("ctrl+o")
             run.active("Options")
-            run.click("General")
+            run.page("General")
             run.click("Import Preferences...")
             run.active("Import")
             type_text(file)

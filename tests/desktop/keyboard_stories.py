@@ -3,7 +3,7 @@
 
 import unittest
 
-from desk import Story, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text
+from desk import Story, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text, wait_for
 
 # Before, keys, after, status (None: not looked at); « » is the selection, ¦ a bare caret.
 EDITS = [
@@ -104,6 +104,17 @@ class KeyboardStories(Story):
             set_clipboard("y" * 65524)
             keys("ctrl+v")
             run.text_becomes("one twotwo" + "y" * 65524)
+
+        self.in_both_boxes(story)
+
+    def test_ctrl_tab_leaves_the_text_box(self):
+        def story(run, box):
+            run.place("a¦b")
+            for stroke, control in ("ctrl+Tab", "Copy and Close"), ("Tab", "Cancel"), ("shift+Tab shift+Tab", "Text"):
+                keys(stroke)
+                wait_for(lambda: run.focused() == control, lambda: f"{control!r}, the keys are at {run.focused()!r}")
+            keys("Tab")
+            run.picture_becomes("a\t¦b")
 
         self.in_both_boxes(story)
 
