@@ -9,6 +9,7 @@
 #include "platform/desktop/DesktopSound.h"
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/clipboard_keeper.h"
+#include "platform/icons/themed_icon.h"
 #include "platform/network/NetworkHttpClient.h"
 #include "platform/report_error.h"
 #include "preferences/settings_store.h"
@@ -90,6 +91,7 @@ int main(int argc, char **argv) {
     return runAsClipboardKeeper([&](KeeperSession &keeper) {
         const Application application(argc, argv);
         QApplication::setStyle(new WordsOnButtons);
+        makeHintsReadable();
         QCoreApplication::setApplicationName(QStringLiteral("tolvo"));
         QCoreApplication::setApplicationVersion(applicationVersion());
         QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));

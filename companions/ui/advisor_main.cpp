@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Advisor.exe: tips, one at a time. A second one that is started while the first is open ends at once.
 #include "companions/ui/AdvisorWindow.h"
+#include "platform/icons/themed_icon.h"
 #include "preferences/settings_store.h"
 
 #include <QApplication>
@@ -8,6 +9,7 @@
 
 int main(int argc, char **argv) {
     const QApplication application(argc, argv);
+    tolvo::makeHintsReadable();
     const QString path = tolvo::SettingsStore::defaultPath();
     tolvo::SettingsStore store(path);
     QLockFile single(path + QStringLiteral(".tips"));

@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/paths.h"
 #include "companions/ui/TallyWindow.h"
+#include "platform/icons/themed_icon.h"
 #include "powerbuttons/catalogue.h"
 #include "preferences/settings_store.h"
 
@@ -22,6 +23,7 @@ tolvo::Catalogue catalogueBeside(const QString &folder) {
 
 int main(int argc, char **argv) {
     const QApplication application(argc, argv);
+    tolvo::makeHintsReadable();
     const tolvo::Catalogue catalogue = catalogueBeside(QApplication::applicationDirPath());
     const tolvo::SettingsStore store(tolvo::SettingsStore::defaultPath());
     tolvo::TallyWindow window(store, [&](const QString &token) {

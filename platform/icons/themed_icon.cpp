@@ -37,6 +37,12 @@ QColor accent(const QPalette &palette) {
     return isDark(palette) ? QColor(104, 200, 140) : QColor(1, 99, 49);
 }
 
+void makeHintsReadable() {
+    QPalette hints; // all other colours go on following the theme
+    hints.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
+    QGuiApplication::setPalette(hints);
+}
+
 QIcon themedIcon(const QString &name) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly))

@@ -6,7 +6,7 @@ import subprocess
 import sys
 import time
 
-from desk import Atspi, Settings, Tolvo, keys, set_clipboard, wait_for
+from desk import Settings, Tolvo, keys, set_clipboard, type_text, wait_for
 
 SAMPLE = """the lord of the rings
   a story in   three volumes ,by a professor of old languages
@@ -38,87 +38,138 @@ BackgroundNormal=60,60,64
 ForegroundNormal=235,235,235
 """
 
-TOOLS = [("Spaces & Layout", ["Indent...", "Word wrap...", "Remove blank lines..."]),
-         ("Lists & Numbers", ["Bullet list...", "Numbered list...", "Line numbers..."]),
-         ("Check", ["Statistics", "Spelling..."])]
+# Group of the panel, and its tools with the titles of their dialogs.
+TOOLS = [("Spaces & Layout", [("Indent...", "Indent"), ("Word wrap...", "Word Wrap"),
+                              ("Remove blank lines...", "Remove Lines")]),
+         ("Lists & Numbers", [("Bullet list...", "Bullet List Style"), ("Numbered list...", "Number List Style"),
+                              ("Line numbers...", "Line Numbering")]),
+         ("Check", [("Statistics", "Statistics")])]
 
 
 class Photographer:
-    def __init__(self, folder, suffix):
-        self.folder, self.suffix = folder, suffix
+    """Takes pictures of one run's windows; a window must have the keys before its picture is taken."""
 
-    def take(self, name):
+    def __init__(self, run, folder, suffix):
+        self.run, self.folder, self.suffix = run, folder, suffix
+
+    def take(self, name, title):
+        self.run.active(title)
         time.sleep(0.4)
-        window = wait_for(lambda: subprocess.run(["xdotool", "getactivewindow"], capture_output=True,
-                                                 text=True).stdout.strip(), "an active window")
+        window = subprocess.run(["xdotool", "getactivewindow"], capture_output=True, text=True, check=True).stdout.strip()
         subprocess.run(["import", "-window", window, os.path.join(self.folder, f"{name}-{self.suffix}.png")], check=True)
 
+    def leave(self):
+        """Escape until the main window is alone."""
+        def alone():
+            if len(self.run.windows()) == 1:
+                return True
+            keys("Escape")
+            time.sleep(0.5)
+            return False
 
-def open_page(run, name):
-    """Clicks a tab: the bus doesn't tell of a tab that it is showing."""
-    tab = wait_for(lambda: run._named(lambda n: n.get_name() == name and n.get_role() == Atspi.Role.PAGE_TAB), name)
-    run.click_on(tab)
-
-
-def leave_two_windows():
-    for _ in range(2):
-        keys("Escape")
-        time.sleep(0.5)
+        wait_for(alone, "the main window alone")
+        self.run.main_is_active()
 
 
 def tools(run, photographer):
-    for category, names in TOOLS:
-        run.click(category)
-        time.sleep(1.5)
-        photographer.take("main-" + category.split()[0].lower())
-        for name in names:
-            run.click(name)
-            photographer.take(name.rstrip(".").lower().replace(" ", "-"))
-            if name == "Spelling...":
-                keys("Return")
-                time.sleep(1.5)
-                photographer.take("checking")
-                keys("Escape")
-                run.box_says("Spelling check complete")
-            keys("Escape")
-            time.sleep(0.3)
+    photographer.take("main", "Tolvo ")
+    for group, dialogs in TOOLS:
+        for tool, title in dialogs:
+            run.tool(group, tool)
+            photographer.take(title.lower().replace(" ", "-"), title)
+            photographer.leave()
+        photographer.take("main-" + group.split()[0].lower(), "Tolvo ")
+
+
+def spelling(run, photographer):
+    run.tool("Check", "Spelling...")
+    photographer.take("dictionary", "Select dictionary")
+    keys("Return")
+    photographer.take("spelling", "Spelling and Grammar")
 
 
 def search(run, photographer):
     keys("ctrl+h")
-    photographer.take("search-simple-less")
     for tab in ("Simple Search", "Wildcard Search", "Regular Expression"):
-        open_page(run, tab)
-        photographer.take("search-" + tab.split()[0].lower())
-    open_page(run, "Simple Search")
-    keys("alt+m")
-    photographer.take("search-more")
-    keys("Escape")
+        run.active("Tolvo Search")
+        run.page(tab)
+        photographer.take("search-" + tab.split()[0].lower(), "Tolvo Search")
+        keys("alt+m")
+        photographer.take("search-" + tab.split()[0].lower() + "-other", "Tolvo Search")
+    photographer.leave()
+    keys("ctrl+f")
+    run.active("Tolvo Search")
+    run.page("Simple Search")
+    keys("alt+e", "ctrl+a")
+    type_text("the")
+    run.click("Find All")
+    photographer.take("results", "9 results found for")
 
 
-def power_buttons(photographer):
+def power_buttons(run, photographer):
     keys("ctrl+shift+1")
-    photographer.take("powerbutton")
+    photographer.take("powerbutton-new", "Edit PowerButton 1")
+    run.click("Lists & Numbers", times=2)
+    run.click("Bullet list...")
+    photographer.take("powerbutton", "Edit PowerButton 1")
     keys("alt+i")
-    photographer.take("icon")
-    leave_two_windows()
+    photographer.take("icon", "Edit Button Icon")
+    run.click("Choose symbol...")
+    photographer.take("character", "Choose Symbol")
 
 
-def others(run, photographer):
-    keys("ctrl+o")
-    for tab in ("Display", "Extensions", "General", "Spelling"):
-        open_page(run, tab)
-        photographer.take("options-" + tab.lower())
-    keys("Escape")
+def choose_power_button(run, photographer):
+    keys("ctrl+shift+2")
+    run.active("Edit PowerButton 2")
+    run.click("PowerButton steps", times=2)
+    run.click("Run PowerButton...")
+    run.click("Settings...")
+    photographer.take("choose-powerbutton", "Choose PowerButton")
+
+
+def options(run, photographer):
+    run.click("Options")  # the key would swap the fonts, as the key that opened the editor counts as a right click
+    for page in ("Display", "Extensions", "General", "Spelling"):
+        run.active("Options")
+        run.page(page)
+        photographer.take("options-" + page.lower(), "Options")
+    for provider, name, title in (("Hunspell", "language", "Select Language"),
+                                  ("Microsoft Word", "quick-list", "Select Languages for Quick List")):
+        run.click("Configure " + provider)
+        photographer.take(name, title)
+        keys("Escape")
+        run.active("Options")
+
+
+def about(run, photographer):
     run.click("About")
-    photographer.take("about")
-    keys("Escape", "ctrl+End", "x", "alt+q")
-    photographer.take("confirm-close")
-    keys("Escape")
+    photographer.take("about", "About Tolvo")
+
+
+def box(run, photographer):
+    keys("F1")
+    photographer.take("box", "Tolvo")
+
+
+def closing(run, photographer):
+    keys("ctrl+End", "x", "alt+q")
+    photographer.take("confirm-close", "Confirm close")
+
+
+PARTS = (tools, spelling, search, power_buttons, choose_power_button, options, about, box, closing)
+
+
+def companions(settings, environment, folder, suffix):
+    for name, title in ("Advisor", "Tips for Tolvo"), ("Tally", "Tolvo statistics"):
+        run = Tolvo(settings, wait=False, program=name + ".exe", **environment)
+        wait_for(lambda: title in " ".join(run.titles()), title)
+        subprocess.run(["xdotool", "search", "--name", title, "windowactivate"], check=True)  # tips leave the keys elsewhere
+        Photographer(run, folder, suffix).take(name.lower(), title)
+        run.kill()
 
 
 def main():
-    folder, scale = sys.argv[1], sys.argv[2]
+    folder, scale, troubles = sys.argv[1], sys.argv[2], 0
     for theme in ("light", "dark"):
         settings = Settings()
         settings.write("Tolvo", "Preferences", "Show Tips at Startup", "0")
@@ -128,18 +179,19 @@ def main():
                 colours.write(DARK)
             environment |= {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "KDE_FULL_SESSION": "true"}
         set_clipboard(SAMPLE)
+        suffix = f"{theme}-{int(scale) * 100}"
         run = Tolvo(settings, **environment)
-        photographer = Photographer(folder, f"{theme}-{int(scale) * 100}")
-        photographer.take("main")
-        for part in (lambda: tools(run, photographer), lambda: search(run, photographer),
-                     lambda: power_buttons(photographer), lambda: others(run, photographer)):
+        photographer = Photographer(run, folder, suffix)
+        for part in PARTS + (lambda run, _: run.kill(), lambda *_: companions(settings, environment, folder, suffix)):
             try:
-                part()
+                part(run, photographer)
             except (AssertionError, subprocess.CalledProcessError) as trouble:
-                print(f"{theme} {scale}: {trouble}", file=sys.stderr)
-                leave_two_windows()
-        run.kill()
+                troubles += 1
+                print(f"{theme} {scale}: {part.__name__}: {trouble}", file=sys.stderr)
+            if run.process.poll() is None:
+                photographer.leave()
         settings.close()
+    sys.exit(troubles > 0)
 
 
 if __name__ == "__main__":

@@ -72,7 +72,8 @@ void dlgNumLines::arrange() {
     grid->addLayout(boxes, 0, 3, 4, 1);
     grid->addWidget(labelFor(m_sample, tr("Sample:")), 4, 0, 1, 4);
     grid->addWidget(m_sample, 5, 0, 1, 4);
-    grid->setRowStretch(5, 1);
+    grid->setRowStretch(3, 1); // what the check boxes need more than the numbers
+    grid->setRowStretch(5, 100);
     grid->setColumnStretch(3, 1);
     finishDialog(*this, QStringLiteral("dlgNumLines"), tr("Line Numbering"), grid);
 }
