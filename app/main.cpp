@@ -10,7 +10,7 @@
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/clipboard_keeper.h"
 #include "platform/icons/themed_icon.h"
-#include "platform/network/NetworkHttpClient.h"
+#include "platform/network/OnDemandHttpClient.h"
 #include "platform/report_error.h"
 #include "preferences/settings_store.h"
 #include "shell/modMain.h"
@@ -61,7 +61,7 @@ int runOnce() {
     Clock clock;
     FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
     EscapeWatch escape;
-    NetworkHttpClient http;
+    OnDemandHttpClient http(folder);
     http.guardInput = [&escape] { return escape.guard(); };
     http.cancelled = [&escape] { return escape.escapePressed(); };
     NoWordAutomation word;

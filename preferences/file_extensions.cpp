@@ -7,14 +7,18 @@
 
 namespace tolvo {
 
-FileExtensions::FileExtensions(const QString &file) {
-    QFile list(file);
-    if (file.isEmpty() || !list.open(QIODevice::ReadOnly))
-        return;
+const QSet<QString> &FileExtensions::systemExtensions() const {
+    if (m_system)
+        return *m_system;
+    m_system.emplace();
+    QFile list(m_file);
+    if (m_file.isEmpty() || !list.open(QIODevice::ReadOnly))
+        return *m_system;
     for (QString line = fnReadLine(list); !line.isEmpty(); line = fnReadLine(list)) {
         if (!line.startsWith(u'#'))
-            m_system.insert(line.toCaseFolded());
+            m_system->insert(line.toCaseFolded());
     }
+    return *m_system;
 }
 
 void FileExtensions::setUserExtensions(const QStringList &extensions) {
@@ -26,11 +30,11 @@ void FileExtensions::setUserExtensions(const QStringList &extensions) {
 
 bool FileExtensions::IsRegisteredExtension(const QString &extension) const {
     const QString folded = extension.toCaseFolded();
-    return !folded.isEmpty() && (m_userSet.contains(folded) || m_system.contains(folded));
+    return !folded.isEmpty() && (m_userSet.contains(folded) || systemExtensions().contains(folded));
 }
 
 bool FileExtensions::isSystemExtension(const QString &extension) const {
-    return m_system.contains(extension.toCaseFolded());
+    return systemExtensions().contains(extension.toCaseFolded());
 }
 
 } // namespace tolvo

@@ -5,14 +5,16 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 namespace tolvo {
 
 /// The extensions that the user has listed in the Options, then data/FileExtensions.txt.
 class FileExtensions {
   public:
-    /// Reads the file (one extension a line, "#" comments); a missing file leaves the user's list alone.
-    explicit FileExtensions(const QString &file = {});
+    /// The file (one extension a line, "#" comments) is read when an extension is first asked for; a missing file
+    /// leaves the user's list alone.
+    explicit FileExtensions(QString file = {}) : m_file(std::move(file)) {}
 
     void setUserExtensions(const QStringList &extensions);
     [[nodiscard]] const QStringList &userExtensions() const { return m_user; }
@@ -23,9 +25,12 @@ class FileExtensions {
     [[nodiscard]] bool isSystemExtension(const QString &extension) const;
 
   private:
+    [[nodiscard]] const QSet<QString> &systemExtensions() const;
+
+    QString m_file;
     QStringList m_user;
     QSet<QString> m_userSet;
-    QSet<QString> m_system;
+    mutable std::optional<QSet<QString>> m_system;
 };
 
 } // namespace tolvo

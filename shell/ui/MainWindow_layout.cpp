@@ -54,7 +54,7 @@ MainWindow::MainWindow(QWidget *parent)
     QAccessible::installFactory(describeMainWindow);
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(applicationTitle() + u' ' + applicationVersion());
-    setWindowIcon(QIcon(QStringLiteral(":/icons/tolvo.svg")));
+    setWindowIcon(themedIcon(QStringLiteral("tolvo"))); // from a file it would load two plugins at start
 
     auto *right = new QVBoxLayout;
     right->setSpacing(6);
@@ -193,9 +193,7 @@ QWidget *MainWindow::buttonRow() {
     auto *close = button("cmdClose", tr("Copy and Close"),
                          tr("Put the whole text on the clipboard and close (Alt-D or Ctrl-Shift-C)"),
                          [this] { m_session->cmdClose_Click(); });
-    QFont bold = close->font();
-    bold.setBold(true);
-    close->setFont(bold);
+    close->setDefault(true); // stands out; Return works in the text as ever
     layout->addWidget(close);
     return bar;
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/network/NetworkHttpClient.h"
+#include "platform/network/OnDemandHttpClient.h"
 #include "tests/support/http_server.h"
 
 using namespace Qt::StringLiterals;
@@ -33,6 +34,18 @@ TEST(Http, BringsStatusReasonAndBody) {
         EXPECT_TRUE(server.requests.value(0).startsWith("GET /a%20b?q=%C3%A9%26%2C1%2B1~ HTTP/1.1\r\n"))
             << server.requests.value(0).data();
     }
+}
+
+TEST(Http, IsLoadedOnDemand) {
+    HttpServer server(httpReply("200 OK"));
+    OnDemandHttpClient client(qEnvironmentVariable("TOLVO_BIN"));
+    const HttpReply reply = client.post(server.url(), "k=v", "text/plain");
+    EXPECT_EQ(reply.status, 200) << reply.statusText.toStdString();
+    EXPECT_EQ(client.get(server.url()).status, 200);
+    EXPECT_EQ(server.requests.size(), 2);
+    const HttpReply none = OnDemandHttpClient(u"/nowhere"_s).get(server.url());
+    EXPECT_EQ(none.status, 0);
+    EXPECT_TRUE(none.statusText.contains("tolvo-network"));
 }
 
 TEST(Http, PostsABody) {
