@@ -211,8 +211,17 @@ class Tolvo:
         if not self.shows(name):
             self.click(group)
             self.find(name)
-            time.sleep(1.5)  # rows take no click until the last one has slid out
+            self.panel_rests()
         self.click(name, button)
+
+    def panel_rests(self):
+        """Waits until the last row of the panel has slid to its place: before that the rows take no click."""
+        def still():
+            before = [row.get_name() for row in self.rows(Atspi.Role.PUSH_BUTTON)]
+            time.sleep(0.3)
+            return before == [row.get_name() for row in self.rows(Atspi.Role.PUSH_BUTTON)]
+
+        wait_for(still, "the panel to rest")
 
     def focused(self):
         """The name of the control that has the keys."""
@@ -231,7 +240,7 @@ class Tolvo:
         if not self.shows(name):
             keys("Return")
             self.find(name)
-            time.sleep(1.5)  # as above
+            self.panel_rests()
         walk("Down", name)
         keys("Return")
 

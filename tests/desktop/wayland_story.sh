@@ -36,7 +36,9 @@ export TOLVO_SETTINGS=$store/settings.sqlite XDG_DATA_HOME=$store
 "$TOLVO_BIN/../tests/store_tool" "$TOLVO_SETTINGS" write Tolvo Preferences "Show Tips at Startup" 0
 QT_QPA_PLATFORM=wayland "$TOLVO_BIN/tolvo" >"$store/tolvo.log" 2>&1 &
 run=$!
-sleep 3
+started() { [ "$("$TOLVO_BIN/../tests/store_tool" "$TOLVO_SETTINGS" read Tolvo-Stats Usage Count)" = 1 ]; }
+wait_for started
+sleep 2 # for the window
 xdotool windowactivate --sync "$screen" key --delay 100 ctrl+a ctrl+u
 sleep 0.5
 xdotool key alt+d
