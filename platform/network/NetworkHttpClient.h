@@ -15,7 +15,7 @@ namespace tolvo {
 
 struct HttpLimits {
     int milliseconds = 60'000;           ///< for the whole request
-    qint64 bodyBytes = 16 * 1024 * 1024; ///< after decompression
+    qint64 bodyBytes = 16LL * 1024 * 1024; ///< after decompression
 };
 
 /// HTTP over Qt Network: redirects are answers like any other, no cookies, nothing is cached. Needs a
