@@ -56,7 +56,7 @@ QString dateText(const QDateTime &date) {
 }
 
 QDateTime toDate(const QString &text) {
-    const QDateTime date = QDateTime::fromString(text.trimmed(), dateFormat);
+    QDateTime date = QDateTime::fromString(text.trimmed(), dateFormat);
     if (!date.isValid())
         failTypeMismatch(text);
     return date;

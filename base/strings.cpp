@@ -58,7 +58,7 @@ QString parse(QString &s, QChar separator) {
     const qsizetype index = s.indexOf(separator);
     if (index + 1 > std::numeric_limits<qint16>::max())
         failOverflow(QStringLiteral("a separator stands behind position 32767"));
-    const QString field = trimBlanks(index < 0 ? QStringView(s) : QStringView(s).first(index)).toString();
+    QString field = trimBlanks(index < 0 ? QStringView(s) : QStringView(s).first(index)).toString();
     s = index < 0 ? QString() : s.sliced(index + 1);
     return field;
 }

@@ -47,7 +47,7 @@ class WindowCheck {
     explicit WindowCheck(const CPowerButtonCollection &buttons) : m_buttons(buttons) {}
 
     void check(const CAction &action) {
-        const ToolPtr tool = action.Tool();
+        const ToolPtr &tool = action.Tool();
         if (!tool)
             return;
         const QString &token = tool->Token();

@@ -10,7 +10,7 @@ namespace tolvo {
 RefreshOutcome refreshAloud(int argc, char **argv, const std::function<RefreshOutcome(HttpClient &)> &work) {
     const QCoreApplication application(argc, argv);
     NetworkHttpClient client;
-    const RefreshOutcome outcome = work(client);
+    RefreshOutcome outcome = work(client);
     for (const QString &message : outcome.messages)
         std::puts(message.toUtf8().constData());
     if (!outcome.download.isEmpty())

@@ -71,7 +71,7 @@ QString FontDescription(const Font &font) {
 QString lastCheckText(const QString &startDate, const QDateTime &now) {
     if (startDate.isEmpty())
         return QStringLiteral("You have never checked for updates");
-    const qint64 days = toDate(startDate).secsTo(now) / (24 * 60 * 60);
+    const qint64 days = toDate(startDate).secsTo(now) / (24LL * 60 * 60);
     return FillTemplate(QStringLiteral("You last checked for updates %0 days ago"), {QString::number(days)});
 }
 

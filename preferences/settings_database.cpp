@@ -31,7 +31,7 @@ QString nativePath(const QString &path) {
 /// A name beside `path` that no file has yet.
 QString unusedNameBeside(const QString &path) {
     for (int i = 1;; ++i) {
-        const QString name = path + QStringLiteral(".damaged-%1").arg(i);
+        QString name = path + QStringLiteral(".damaged-%1").arg(i);
         if (!QFileInfo::exists(name) && !QFileInfo::exists(name + logSuffix))
             return name;
     }

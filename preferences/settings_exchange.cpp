@@ -20,7 +20,7 @@ namespace {
 constexpr qsizetype deepestLevel = 512;
 constexpr qsizetype longestKeyName = 255;
 constexpr qsizetype longestValueName = 16'383;
-constexpr qint64 largestFile = 256 * 1024 * 1024;
+constexpr qint64 largestFile = 256LL * 1024 * 1024;
 
 [[noreturn]] void failForFile(const QString &fileName, const QString &what) {
     throw Failure(failureNumber::fileAccess,
@@ -57,7 +57,7 @@ void checkLengths(const RegKey &key) {
 std::optional<RegistryPlace> checkedPlace(const RegKey &key) {
     const bool shortRoot = key.root.compare(QLatin1StringView("HKCU"), Qt::CaseInsensitive) == 0;
     const QString root = shortRoot ? registryUserRoot.toString() : key.root;
-    const auto place = registryPlace(root, key.path);
+    auto place = registryPlace(root, key.path);
     if (place && isOurTree(place->application)) {
         checkLengths(key);
         return place;

@@ -16,7 +16,7 @@ SettingsStore::SettingsStore(const QString &path) : m_database(std::make_unique<
 SettingsStore::~SettingsStore() = default;
 
 QString SettingsStore::defaultPath() {
-    const QString named = qEnvironmentVariable("TOLVO_SETTINGS");
+    QString named = qEnvironmentVariable("TOLVO_SETTINGS");
     if (!named.isEmpty())
         return named;
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))

@@ -93,7 +93,7 @@ void frmMain::runPowerButton(int index) {
 }
 
 void frmMain::runAction(const CAction &action) {
-    const ToolPtr tool = action.Tool();
+    const ToolPtr &tool = action.Tool();
     if (!tool)
         return;
     m_services.store.increment(statisticsTree(), QStringLiteral("PBUsage"), tool->Token());

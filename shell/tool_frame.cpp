@@ -21,7 +21,7 @@ QString removedText(int count) {
 }
 
 QString statusText(const ToolStatus &status, int lengthBefore, int lengthAfter, bool warned) {
-    const QString text = QString::fromUtf16(status.text);
+    QString text = QString::fromUtf16(status.text);
     switch (status.kind) {
     case ToolStatus::None:
         break;

@@ -90,7 +90,7 @@ QString getChunk(MessageBoxes &boxes, QString &source) {
         return {};
     }
     const qsizetype position = closingPosition(source, openings[kind], closings[kind]);
-    const QString chunk = source.mid(1, position);
+    QString chunk = source.mid(1, position);
     source = source.mid(position + 1);
     return chunk;
 }

@@ -110,8 +110,8 @@ bool ErrorWalk::passOver(const CSpellingError &error, bool useChangeAll) {
     if (oIgnore.value(word) == QStringLiteral("all"))
         return true;
     markError(error);
-    m_controls.labErrorType =
-        aSpellErrorTypes.at(static_cast<std::size_t>(error.errorType + 1)).toString() + u':';
+    const int type = error.errorType + 1;
+    m_controls.labErrorType = aSpellErrorTypes.at(static_cast<std::size_t>(type)).toString() + u':';
     m_controls.labErrorDescription = error.Description;
     if (!useChangeAll || !oChangeAll.contains(word))
         return false;

@@ -67,7 +67,7 @@ HttpReply NetworkHttpClient::await(QNetworkReply &reply) {
         if (body.size() > m_limits.bodyBytes)
             stop(QStringLiteral("The answer is too large"));
     };
-    reply.setReadBufferSize(1024 * 1024); // a fast sender waits for us instead of filling the memory
+    reply.setReadBufferSize(1LL * 1024 * 1024); // a fast sender waits for us instead of filling the memory
     QObject::connect(&reply, &QIODevice::readyRead, &loop, readOn);
     QObject::connect(&reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QTimer limit;

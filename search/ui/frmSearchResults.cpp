@@ -11,7 +11,8 @@
 
 namespace tolvo {
 
-frmSearchResults::frmSearchResults(QFont textFont, std::function<TextBox &()> txtCurrent, QWidget *parent)
+frmSearchResults::frmSearchResults(const QFont &textFont, std::function<TextBox &()> txtCurrent,
+                                   QWidget *parent)
     : QDialog(parent), m_txtCurrent(std::move(txtCurrent)), labResults(new QLabel(this)),
       lstResults(new QListView(this)), m_lines(new QStringListModel(this)) {
     setObjectName(QStringLiteral("frmSearchResults"));

@@ -18,7 +18,7 @@ class frmSearchResults final : public QDialog {
     Q_OBJECT
 
   public:
-    frmSearchResults(QFont textFont, std::function<TextBox &()> txtCurrent, QWidget *parent);
+    frmSearchResults(const QFont &textFont, std::function<TextBox &()> txtCurrent, QWidget *parent);
 
     /// One line and one packed location for each hit.
     void setHits(const QStringList &lines, const QList<qint32> &locations);
