@@ -135,8 +135,8 @@ QString cTextMethods::SortReverse(QStringView text) const {
     QString result;
     result.reserve(text.size());
     const QList<QStringView> lines = splitLines(text);
-    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
-        result += *line;
+    for (qsizetype i = lines.size(); i-- > 0;) {
+        result += lines.at(i);
         result += lineEnd;
     }
     result.chop(2);
