@@ -5,6 +5,7 @@
 #include "companions/pipe_session.h"
 #include "companions/pipe_text.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #ifdef _WIN32

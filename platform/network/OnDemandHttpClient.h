@@ -8,9 +8,9 @@
 
 namespace tolvo {
 
-/// HTTP for a program that seldom needs it: the network libraries, a fifth of all that it would load at
-/// start, come with the first request, in the module "tolvo-network" beside the program. A module that can't
-/// be loaded is no answer, and the reply says why.
+/// HTTP for a program that seldom needs it: the network libraries don't slow its start but come with the
+/// first request, in the module "tolvo-network" beside the program. A module that can't be loaded is no
+/// answer, and the reply says why.
 class OnDemandHttpClient final : public HttpClient {
   public:
     explicit OnDemandHttpClient(QString programFolder) : m_programFolder(std::move(programFolder)) {}
