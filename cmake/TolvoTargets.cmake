@@ -1,9 +1,12 @@
-# How every target of Tolvo is made: warnings are errors, includes start at the top folder.
+# How every target of Tolvo is made: warnings are errors under the presets, includes start at the top folder.
 
 function(tolvo_settings target)
     target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+    if(TOLVO_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
     if(TOLVO_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                                  # Qt's headers hand null with length 0 to memcmp.

@@ -12,8 +12,8 @@ namespace tolvo {
 /// The extensions that the user has listed in the Options, then data/FileExtensions.txt.
 class FileExtensions {
   public:
-    /// The file (one extension a line, "#" comments) is read when an extension is first asked for; a missing file
-    /// leaves the user's list alone.
+    /// The file (one extension a line, "#" comments) is read when an extension is first asked for; a missing
+    /// file leaves the user's list alone.
     explicit FileExtensions(QString file = {}) : m_file(std::move(file)) {}
 
     void setUserExtensions(const QStringList &extensions);

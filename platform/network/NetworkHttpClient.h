@@ -14,7 +14,7 @@ class QNetworkRequest;
 namespace tolvo {
 
 struct HttpLimits {
-    int milliseconds = 60'000;           ///< for the whole request
+    int milliseconds = 60'000;             ///< for the whole request
     qint64 bodyBytes = 16LL * 1024 * 1024; ///< after decompression
 };
 

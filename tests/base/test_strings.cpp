@@ -7,11 +7,12 @@
 #include <QBuffer>
 
 using namespace tolvo;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 TEST(Strings, areParsedFieldByField) {
-    QString rest = u" a , b, "_qs;
+    QString rest = u" a , b, "_s;
     EXPECT_EQ(parse(rest, u','), u"a");
     EXPECT_EQ(rest, u" b, ");
     EXPECT_EQ(parse(rest, u','), u"b");
@@ -68,15 +69,15 @@ TEST(Params, areThePairsOfASettingsString) {
         const QStringList parts = QString(example).split(u'→');
         EXPECT_EQ(CParams(parts[0]).arg(parts[1]), parts[2]) << example;
     }
-    EXPECT_TRUE(CParams(u"Find=, b"_qs).contains(u"b"_qs));
-    EXPECT_FALSE(CParams(u"Find=, b"_qs).contains(u"c"_qs));
+    EXPECT_TRUE(CParams(u"Find=, b"_s).contains(u"b"_s));
+    EXPECT_FALSE(CParams(u"Find=, b"_s).contains(u"c"_s));
 }
 
 TEST(Paths, areTakenApart) {
-    EXPECT_EQ(sAppPath(u"C:\\x"_qs, u'\\'), u"C:\\x\\");
-    EXPECT_EQ(sAppPath(u"C:\\"_qs, u'\\'), u"C:\\");
-    EXPECT_EQ(fnLeaf(u"C:\\a\\b.txt"_qs), u"b.txt");
-    EXPECT_EQ(fnLeaf(u"b.txt"_qs), u"b.txt");
+    EXPECT_EQ(sAppPath(u"C:\\x"_s, u'\\'), u"C:\\x\\");
+    EXPECT_EQ(sAppPath(u"C:\\"_s, u'\\'), u"C:\\");
+    EXPECT_EQ(fnLeaf(u"C:\\a\\b.txt"_s), u"b.txt");
+    EXPECT_EQ(fnLeaf(u"b.txt"_s), u"b.txt");
     for (const auto &[name, extension] :
          {std::pair(u"report.final.txt", u"txt"), {u"a.txt|b", u"txt"}, {u"a.b c", u"b"}})
         EXPECT_EQ(fnExtension(name), QStringView(extension));

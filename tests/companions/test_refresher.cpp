@@ -12,20 +12,22 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
 using test::httpReply;
 using test::HttpServer;
 
-const QString stats = u"Tolvo-Stats"_qs;
-const QString before = u"2026-01-02 03:04:05"_qs;
+const QString stats = u"Tolvo-Stats"_s;
+const QString before = u"2026-01-02 03:04:05"_s;
 
 void fill(SettingsStore &store) {
-    store.SaveSetting(stats, u"Usage"_qs, u"StartDate"_qs, before);
-    store.SaveSetting(stats, u"Usage"_qs, u"Count"_qs, u"7"_qs);
-    store.SaveSetting(stats, u"Usage"_qs, u"foTRA"_qs, u"3"_qs);
-    store.SaveSetting(stats, u"TotUsage"_qs, u"foTRA"_qs, u"30"_qs);
+    store.SaveSetting(stats, u"Usage"_s, u"StartDate"_s, before);
+    store.SaveSetting(stats, u"Usage"_s, u"Count"_s, u"7"_s);
+    store.SaveSetting(stats, u"Usage"_s, u"foTRA"_s, u"3"_s);
+    store.SaveSetting(stats, u"TotUsage"_s, u"foTRA"_s, u"30"_s);
 }
 
 TEST(Refresh, CountersAreResetOnlyAfterAYes) {
@@ -39,7 +41,7 @@ TEST(Refresh, CountersAreResetOnlyAfterAYes) {
                  {httpReply("200 OK"), false, true}};
     for (const auto &[answer, yes, down] : cases) {
         SCOPED_TRACE(answer.toStdString());
-        SettingsStore store(u":memory:"_qs);
+        SettingsStore store(u":memory:"_s);
         fill(store);
         HttpServer server(answer);
         const QByteArray address = server.url("/t");
@@ -49,9 +51,9 @@ TEST(Refresh, CountersAreResetOnlyAfterAYes) {
         const RefreshOutcome outcome = refresh({.stats = true}, address, store, client, Clock());
         EXPECT_EQ(outcome.done, yes);
         EXPECT_EQ(outcome.messages.size(), 1);
-        EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"StartDate"_qs) != before, yes);
-        EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"foTRA"_qs, 0), yes ? u"0"_qs : u"3"_qs);
-        EXPECT_EQ(store.GetSetting(stats, u"TotUsage"_qs, u"foTRA"_qs, 0), u"30"_qs);
+        EXPECT_EQ(store.GetSetting(stats, u"Usage"_s, u"StartDate"_s) != before, yes);
+        EXPECT_EQ(store.GetSetting(stats, u"Usage"_s, u"foTRA"_s, 0), yes ? u"0"_s : u"3"_s);
+        EXPECT_EQ(store.GetSetting(stats, u"TotUsage"_s, u"foTRA"_s, 0), u"30"_s);
     }
 }
 
@@ -72,7 +74,7 @@ TEST(Refresh, SaysWhatItFoundAboutUpdates) {
         {httpReply("404 Not Found"), "404", false, ""}};
     for (const auto &[answer, says, done, download] : cases) {
         SCOPED_TRACE(says);
-        SettingsStore store(u":memory:"_qs);
+        SettingsStore store(u":memory:"_s);
         HttpServer server(answer);
         NetworkHttpClient client;
         const RefreshOutcome outcome = refresh({.update = true}, server.url("/t"), store, client, Clock());
@@ -83,14 +85,14 @@ TEST(Refresh, SaysWhatItFoundAboutUpdates) {
         ASSERT_EQ(server.requests.size(), 1);
         EXPECT_TRUE(server.requests[0].startsWith("GET /t?version=" + applicationVersion().toUtf8()));
     }
-    SettingsStore store(u":memory:"_qs);
+    SettingsStore store(u":memory:"_s);
     NetworkHttpClient client;
     EXPECT_FALSE(refresh({.update = true}, "no address", store, client, Clock()).done);
 }
 
 struct RefresherProgram : testing::Test {
     QTemporaryDir folder;
-    QString settings = folder.filePath(u"settings.sqlite"_qs);
+    QString settings = folder.filePath(u"settings.sqlite"_s);
 
     void SetUp() override {
         SettingsStore store(settings);
@@ -101,14 +103,14 @@ struct RefresherProgram : testing::Test {
     std::pair<int, QByteArray> run(const QStringList &switches, const QByteArray &address) const {
         QProcess program;
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"TOLVO_SETTINGS"_qs, settings);
-        environment.insert(u"TOLVO_UPDATE_URL"_qs, QString::fromUtf8(address));
+        environment.insert(u"TOLVO_SETTINGS"_s, settings);
+        environment.insert(u"TOLVO_UPDATE_URL"_s, QString::fromUtf8(address));
         program.setProcessEnvironment(environment);
         program.setProcessChannelMode(QProcess::MergedChannels);
         QEventLoop loop;
         QObject::connect(&program, &QProcess::finished, &loop, &QEventLoop::quit);
         QObject::connect(&program, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
-        program.start(qEnvironmentVariable("TOLVO_BIN") + u"/Refresher.exe"_qs, switches);
+        program.start(qEnvironmentVariable("TOLVO_BIN") + u"/Refresher.exe"_s, switches);
         loop.exec();
         return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1, program.readAll()};
     }
@@ -116,7 +118,7 @@ struct RefresherProgram : testing::Test {
 
 TEST_F(RefresherProgram, SendsTheCountersAndBeginsAPeriod) {
     HttpServer server(httpReply("200 OK", R"({"version": "99.0"})"));
-    const auto [code, output] = run({u"/update"_qs, u"/stats"_qs, u"/quiet"_qs}, server.url("/t"));
+    const auto [code, output] = run({u"/update"_s, u"/stats"_s, u"/quiet"_s}, server.url("/t"));
     EXPECT_EQ(code, 0);
     EXPECT_EQ(output, QByteArray()) << "quiet is quiet";
     ASSERT_EQ(server.requests.size(), 2);
@@ -124,19 +126,18 @@ TEST_F(RefresherProgram, SendsTheCountersAndBeginsAPeriod) {
     EXPECT_TRUE(server.requests[1].startsWith("POST /t "));
     const QByteArray &post = server.requests[1];
     const QJsonObject sent = QJsonDocument::fromJson(post.sliced(post.indexOf("\r\n\r\n") + 4)).object();
-    EXPECT_EQ(sent.value(u"since"_qs).toString(), before);
-    EXPECT_EQ(sent.value(u"starts"_qs).toInt(), 7);
-    EXPECT_EQ(sent.value(u"tools"_qs).toObject().value(u"foTRA"_qs).toInt(), 3);
+    EXPECT_EQ(sent.value(u"since"_s).toString(), before);
+    EXPECT_EQ(sent.value(u"starts"_s).toInt(), 7);
+    EXPECT_EQ(sent.value(u"tools"_s).toObject().value(u"foTRA"_s).toInt(), 3);
     const SettingsStore store(settings);
-    EXPECT_EQ(store.GetSetting(stats, u"Usage"_qs, u"foTRA"_qs, 0), u"0"_qs);
+    EXPECT_EQ(store.GetSetting(stats, u"Usage"_s, u"foTRA"_s, 0), u"0"_s);
 }
 
 TEST_F(RefresherProgram, ChangesNothingWithoutAnAddress) {
-    EXPECT_EQ(run({u"/update"_qs, u"/stats"_qs}, {}).first, 0);
-    EXPECT_EQ(run({u"/nonsense"_qs}, {}).first, 2);
-    EXPECT_EQ(run({u"/stats"_qs, u"/quiet"_qs}, "nowhere"), (std::pair{1, QByteArray()}))
-        << "quiet in failure";
-    EXPECT_EQ(SettingsStore(settings).GetSetting(stats, u"Usage"_qs, u"StartDate"_qs), before);
+    EXPECT_EQ(run({u"/update"_s, u"/stats"_s}, {}).first, 0);
+    EXPECT_EQ(run({u"/nonsense"_s}, {}).first, 2);
+    EXPECT_EQ(run({u"/stats"_s, u"/quiet"_s}, "nowhere"), (std::pair{1, QByteArray()})) << "quiet in failure";
+    EXPECT_EQ(SettingsStore(settings).GetSetting(stats, u"Usage"_s, u"StartDate"_s), before);
 }
 
 } // namespace

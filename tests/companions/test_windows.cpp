@@ -13,13 +13,15 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
-const QString stats = u"Tolvo-Stats"_qs;
+const QString stats = u"Tolvo-Stats"_s;
 
 TEST(Advisor, WalksThroughTheTipsAndIsSwitchedOff) {
-    SettingsStore store(u":memory:"_qs);
+    SettingsStore store(u":memory:"_s);
     AdvisorWindow window(store);
     const auto title = [&] { return child<QLabel>(window, "labTitle").text(); };
     const QString first = title();
@@ -38,17 +40,17 @@ TEST(Advisor, WalksThroughTheTipsAndIsSwitchedOff) {
     EXPECT_EQ(window.size(), size);
     EXPECT_TRUE(child<QCheckBox>(window, "chkShowTips").isChecked());
     click(window, "chkShowTips");
-    EXPECT_EQ(store.GetSetting(u"Tolvo"_qs, u"Preferences"_qs, u"Show Tips at Startup"_qs, 1), u"0"_qs);
+    EXPECT_EQ(store.GetSetting(u"Tolvo"_s, u"Preferences"_s, u"Show Tips at Startup"_s, 1), u"0"_s);
 }
 
 TEST(Tally, SortsByNumberAndPaintsBars) {
-    SettingsStore store(u":memory:"_qs);
+    SettingsStore store(u":memory:"_s);
     for (const char *count :
          {"TotUsage a 1000", "TotUsage b 200", "TotUsage c 30", "Usage a 9", "Usage b 10"}) {
         const QStringList parts = QString(count).split(u' ');
         store.SaveSetting(stats, parts[0], parts[1], parts[2]);
     }
-    TallyWindow window(store, [](const QString &token) { return u"tool "_qs + token; });
+    TallyWindow window(store, [](const QString &token) { return u"tool "_s + token; });
     auto &table = child<QTableWidget>(window, "lvwTools");
     const auto column = [&](int index) {
         QStringList texts;
@@ -56,33 +58,33 @@ TEST(Tally, SortsByNumberAndPaintsBars) {
             texts += table.item(row, index)->text();
         return texts;
     };
-    EXPECT_EQ(column(2), (QStringList{u"1,000"_qs, u"200"_qs, u"30"_qs}));
+    EXPECT_EQ(column(2), (QStringList{u"1,000"_s, u"200"_s, u"30"_s}));
     table.sortByColumn(1, Qt::AscendingOrder);
-    EXPECT_EQ(column(1), (QStringList{u"0"_qs, u"9"_qs, u"10"_qs}));
-    EXPECT_EQ(column(0), (QStringList{u"tool c"_qs, u"tool a"_qs, u"tool b"_qs}));
+    EXPECT_EQ(column(1), (QStringList{u"0"_s, u"9"_s, u"10"_s}));
+    EXPECT_EQ(column(0), (QStringList{u"tool c"_s, u"tool a"_s, u"tool b"_s}));
 
     const auto &chart = child<BarChart>(window, "picTools");
     ASSERT_EQ(chart.bars().size(), 3);
-    EXPECT_EQ(chart.bars().first().name, u"tool a"_qs);
+    EXPECT_EQ(chart.bars().first().name, u"tool a"_s);
     child<QComboBox>(window, "cmbSpan").setCurrentIndex(0);
     ASSERT_EQ(chart.bars().size(), 2) << "what wasn't used in the period has no bar";
-    EXPECT_EQ(chart.bars().first().name, u"tool b"_qs);
+    EXPECT_EQ(chart.bars().first().name, u"tool b"_s);
     EXPECT_TRUE(child<BarChart>(window, "picPowerButtons").bars().isEmpty());
 }
 
 TEST(Companions, StartAsPrograms) {
     const QTemporaryDir folder;
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"TOLVO_SETTINGS"_qs, folder.filePath(u"settings.sqlite"_qs));
+    environment.insert(u"TOLVO_SETTINGS"_s, folder.filePath(u"settings.sqlite"_s));
     const auto start = [&](QProcess &program, const QString &name) {
         program.setProcessEnvironment(environment);
         program.start(qEnvironmentVariable("TOLVO_BIN") + u'/' + name, QStringList());
         return program.waitForStarted() && !program.waitForFinished(1500);
     };
     QProcess advisor, second, tally;
-    EXPECT_TRUE(start(advisor, u"Advisor.exe"_qs));
-    EXPECT_TRUE(start(tally, u"Tally.exe"_qs));
-    EXPECT_FALSE(start(second, u"Advisor.exe"_qs)) << "one window of tips is enough";
+    EXPECT_TRUE(start(advisor, u"Advisor.exe"_s));
+    EXPECT_TRUE(start(tally, u"Tally.exe"_s));
+    EXPECT_FALSE(start(second, u"Advisor.exe"_s)) << "one window of tips is enough";
     EXPECT_EQ(second.exitCode(), 0);
     for (QProcess *const program : {&advisor, &tally}) {
         program->kill();

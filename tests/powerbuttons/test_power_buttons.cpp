@@ -7,6 +7,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
@@ -121,7 +123,7 @@ TEST_F(PowerButtons, haveReadyMadeExamples) {
 
 TEST(IconText, isCutAsReadersCount) {
     EXPECT_EQ(firstCharacters("abcd", 3), "abc");
-    EXPECT_EQ(firstCharacters(u"\U0001F600e\u0301xy"_qs, 3), u"\U0001F600e\u0301x"_qs);
+    EXPECT_EQ(firstCharacters(u"\U0001F600e\u0301xy"_s, 3), u"\U0001F600e\u0301x"_s);
     EXPECT_EQ(fontLabel({"Arial", 16, true, true}), "Arial Bold Italic (16pt)");
 }
 

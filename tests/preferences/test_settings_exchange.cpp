@@ -12,32 +12,34 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
-const QString app = u"Tolvo"_qs;
+const QString app = u"Tolvo"_s;
 const QByteArray tree = "HKEY_CURRENT_USER\\Software\\Tolvo Settings\\Tolvo";
 
 struct SettingsExchange : testing::Test {
-    SettingsStore store{u":memory:"_qs};
+    SettingsStore store{u":memory:"_s};
     QTemporaryDir folder;
-    QString path = folder.filePath(u"my settings.reg"_qs);
+    QString path = folder.filePath(u"my settings.reg"_s);
 
     void SetUp() override {
         const struct {
             QString section, key, value;
-        } rows[] = {{u"Search"_qs, u"Tab"_qs, u"2"_qs},
-                    {u"PowerButtons\\Button 2"_qs, u"Name"_qs, u"say \"hi\\there\" 😀"_qs},
-                    {u"PowerButtons\\Button 2\\2"_qs, u"Token"_qs, u"edREP"_qs},
-                    {u"PowerButtons\\Button 2\\2"_qs, u"Details"_qs, u"Find=a\r\nb, Replace=\t\\"_qs},
-                    {u"PowerButtons\\Button 2\\1"_qs, u"Token"_qs, u"ccUPP"_qs},
-                    {u"PowerButtons\\Button 1"_qs, u"Name"_qs, u"<Enter a name>"_qs},
-                    {u"Search\\SearchMRU"_qs, u"b"_qs, u"second"_qs},
-                    {u"Search\\SearchMRU"_qs, u"a"_qs, u" first "_qs},
-                    {u"Preferences"_qs, u"Show Tips at Startup"_qs, u"0"_qs}};
+        } rows[] = {{u"Search"_s, u"Tab"_s, u"2"_s},
+                    {u"PowerButtons\\Button 2"_s, u"Name"_s, u"say \"hi\\there\" 😀"_s},
+                    {u"PowerButtons\\Button 2\\2"_s, u"Token"_s, u"edREP"_s},
+                    {u"PowerButtons\\Button 2\\2"_s, u"Details"_s, u"Find=a\r\nb, Replace=\t\\"_s},
+                    {u"PowerButtons\\Button 2\\1"_s, u"Token"_s, u"ccUPP"_s},
+                    {u"PowerButtons\\Button 1"_s, u"Name"_s, u"<Enter a name>"_s},
+                    {u"Search\\SearchMRU"_s, u"b"_s, u"second"_s},
+                    {u"Search\\SearchMRU"_s, u"a"_s, u" first "_s},
+                    {u"Preferences"_s, u"Show Tips at Startup"_s, u"0"_s}};
         for (const auto &[section, key, value] : rows)
             store.SaveSetting(app, section, key, value);
-        store.SaveSetting(u"Tolvo-Stats"_qs, u"Usage"_qs, u"Count"_qs, u"5"_qs);
+        store.SaveSetting(u"Tolvo-Stats"_s, u"Usage"_s, u"Count"_s, u"5"_s);
     }
 
     QByteArray all() const { return exportedSettings(store, ExportScope::Everything); }
@@ -45,11 +47,11 @@ struct SettingsExchange : testing::Test {
 
 TEST_F(SettingsExchange, EverythingComesBackInItsOrder) {
     exportSettings(store, ExportScope::Everything, path);
-    SettingsStore other(u":memory:"_qs);
+    SettingsStore other(u":memory:"_s);
     importSettings(other, path);
     EXPECT_EQ(exportedSettings(other, ExportScope::Everything), all());
-    EXPECT_EQ(other.subsections(app, u"PowerButtons\\Button 2"_qs), (QStringList{u"2"_qs, u"1"_qs}));
-    EXPECT_FALSE(other.sectionExists(u"Tolvo-Stats"_qs, {})) << "statistics stay at home";
+    EXPECT_EQ(other.subsections(app, u"PowerButtons\\Button 2"_s), (QStringList{u"2"_s, u"1"_s}));
+    EXPECT_FALSE(other.sectionExists(u"Tolvo-Stats"_s, {})) << "statistics stay at home";
     importSettings(other, path);
     EXPECT_EQ(exportedSettings(other, ExportScope::Everything), all()) << "a second time changes nothing";
 }
@@ -58,17 +60,16 @@ TEST_F(SettingsExchange, PowerButtonsAlone) {
     const auto keys = readRegFile(exportedSettings(store, ExportScope::PowerButtons));
     ASSERT_EQ(keys.size(), 5);
     for (const RegKey &key : keys)
-        EXPECT_TRUE(key.path.startsWith(settingsKeyPath(u"PowerButtons"_qs)));
+        EXPECT_TRUE(key.path.startsWith(settingsKeyPath(u"PowerButtons"_s)));
 }
 
 TEST_F(SettingsExchange, MergesAndDeletes) {
     importSettings(store, "REGEDIT4\n[" + tree + "\\SEARCH]\n\"TAB\"=-\n\"More\"=\"True\"\n[-" + tree +
                               "\\PowerButtons]\n[HKCU\\Software\\Tolvo Settings\\tolvo\\New]\n"
                               "[HKEY_CURRENT_USER\\Software\\Tolvo Settings]\n");
-    EXPECT_EQ(store.GetAllSettings(app, u"Search"_qs),
-              (QList<SettingsStore::Pair>{{u"More"_qs, u"True"_qs}}));
-    EXPECT_EQ(store.subsections(app, {}), (QStringList{u"Search"_qs, u"Preferences"_qs, u"New"_qs}));
-    EXPECT_EQ(store.GetSetting(app, u"Preferences"_qs, u"Show Tips at Startup"_qs, 1), u"0"_qs);
+    EXPECT_EQ(store.GetAllSettings(app, u"Search"_s), (QList<SettingsStore::Pair>{{u"More"_s, u"True"_s}}));
+    EXPECT_EQ(store.subsections(app, {}), (QStringList{u"Search"_s, u"Preferences"_s, u"New"_s}));
+    EXPECT_EQ(store.GetSetting(app, u"Preferences"_s, u"Show Tips at Startup"_s, 1), u"0"_s);
 }
 
 TEST_F(SettingsExchange, AnErrorChangesNothing) {
@@ -87,25 +88,25 @@ TEST_F(SettingsExchange, AnErrorChangesNothing) {
     for (const QByteArray &bad : cases) {
         expectFailure(
             failureNumber::invalidArgument, [&] { importSettings(store, QByteArray(good + bad)); },
-            u"Line 5:"_qs);
+            u"Line 5:"_s);
         EXPECT_EQ(all(), before);
     }
 }
 
 TEST_F(SettingsExchange, AHundredThousandValues) {
-    QList<RegKey> keys{{registryUserRoot.toString(), settingsKeyPath(u"Many"_qs)}};
+    QList<RegKey> keys{{registryUserRoot.toString(), settingsKeyPath(u"Many"_s)}};
     for (int i = 0; i < 100'000; ++i)
-        keys.front().values += RegValue{{QString::number(i), u"value"_qs}};
-    SettingsStore file(folder.filePath(u"settings.sqlite"_qs));
+        keys.front().values += RegValue{{QString::number(i), u"value"_s}};
+    SettingsStore file(folder.filePath(u"settings.sqlite"_s));
     importSettings(file, writeRegFile(keys));
-    EXPECT_EQ(file.GetAllSettings(app, u"Many"_qs)->size(), 100'000);
+    EXPECT_EQ(file.GetAllSettings(app, u"Many"_s)->size(), 100'000);
 }
 
 TEST_F(SettingsExchange, FilesThatCantBeUsed) {
-    for (const QString &file : {folder.filePath(u"none/x.reg"_qs), folder.path(), u"/dev/full"_qs})
+    for (const QString &file : {folder.filePath(u"none/x.reg"_s), folder.path(), u"/dev/full"_s})
         expectFailure(failureNumber::fileAccess,
                       [&] { exportSettings(store, ExportScope::Everything, file); });
-    for (const QString &file : {folder.filePath(u"none.reg"_qs), folder.path()})
+    for (const QString &file : {folder.filePath(u"none.reg"_s), folder.path()})
         expectFailure(failureNumber::fileAccess, [&] { importSettings(store, file); });
 }
 
@@ -120,33 +121,33 @@ QMap<QString, QString> valuesOf(const QByteArray &file) {
 }
 
 TEST_F(SettingsExchange, AnotherRegistryEditorAgrees) {
-    const QString wine = QStandardPaths::findExecutable(u"wine"_qs);
+    const QString wine = QStandardPaths::findExecutable(u"wine"_s);
     if (wine.isEmpty())
         GTEST_SKIP() << "needs wine";
-    store.SaveSetting(app, u"Odd ]["_qs, u"k;\"=\\"_qs, u"x"_qs + QString(200, QChar(u'\n')));
+    store.SaveSetting(app, u"Odd ]["_s, u"k;\"=\\"_s, u"x"_s + QString(200, QChar(u'\n')));
     exportSettings(store, ExportScope::Everything, path);
-    const QString back = folder.filePath(u"back.reg"_qs);
+    const QString back = folder.filePath(u"back.reg"_s);
     QProcess editor;
     editor.setProcessChannelMode(QProcess::MergedChannels);
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"WINEPREFIX"_qs, folder.filePath(u"prefix"_qs));
-    environment.insert(u"WINEDEBUG"_qs, u"-all"_qs);
-    environment.insert(u"WINEDLLOVERRIDES"_qs, u"mscoree,mshtml="_qs);
+    environment.insert(u"WINEPREFIX"_s, folder.filePath(u"prefix"_s));
+    environment.insert(u"WINEDEBUG"_s, u"-all"_s);
+    environment.insert(u"WINEDLLOVERRIDES"_s, u"mscoree,mshtml="_s);
     editor.setProcessEnvironment(environment);
     const QString key = registryUserRoot.toString() + u'\\' + settingsKeyPath();
     QByteArray said;
     for (const QStringList &arguments :
-         {QStringList{u"wineboot"_qs, u"--init"_qs}, QStringList{u"regedit"_qs, u"/S"_qs, path},
-          QStringList{u"regedit"_qs, u"/E"_qs, back, key},
-          QStringList{u"wineboot"_qs, u"--end-session"_qs, u"--kill"_qs}}) {
+         {QStringList{u"wineboot"_s, u"--init"_s}, QStringList{u"regedit"_s, u"/S"_s, path},
+          QStringList{u"regedit"_s, u"/E"_s, back, key},
+          QStringList{u"wineboot"_s, u"--end-session"_s, u"--kill"_s}}) {
         editor.start(wine, arguments);
         ASSERT_TRUE(editor.waitForFinished(120'000)) << said.constData();
         said += editor.readAll();
-        if (!QDir(folder.filePath(u"prefix/drive_c"_qs)).exists())
+        if (!QDir(folder.filePath(u"prefix/drive_c"_s)).exists())
             GTEST_SKIP() << "wine can't set itself up here: " << said.constData();
     }
     ASSERT_TRUE(QFile::exists(back)) << said.constData();
-    SettingsStore other(u":memory:"_qs);
+    SettingsStore other(u":memory:"_s);
     importSettings(other, back);
     const auto values = valuesOf(all());
     EXPECT_EQ(values.size(), 10);

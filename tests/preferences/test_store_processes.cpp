@@ -11,11 +11,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
-const QString app = u"Tolvo"_qs;
-const QString section = u"Deep\\Section"_qs;
+const QString app = u"Tolvo"_s;
+const QString section = u"Deep\\Section"_s;
 
 /// Runs `body` in a child process, which ends without a word.
 template <class Body>
@@ -36,21 +38,21 @@ int waitFor(pid_t child) {
 
 TEST(StoreProcesses, ConcurrentIncrementsAreAllCounted) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"settings.sqlite"_qs);
+    const QString path = folder.filePath(u"settings.sqlite"_s);
     constexpr int each = 500;
     std::array<pid_t, 3> children{};
     for (pid_t &child : children) { // the file is made by whoever comes first
         child = inChild([&] {
             SettingsStore store(path);
             for (int i = 0; i < each; ++i)
-                store.increment(app, section, u"count"_qs);
+                store.increment(app, section, u"count"_s);
             if (!store.takeTrouble().isEmpty())
                 _exit(1);
         });
     }
     for (const pid_t child : children)
         EXPECT_EQ(waitFor(child), 0);
-    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"count"_qs), QString::number(each * 3));
+    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"count"_s), QString::number(each * 3));
 }
 
 /// Numbers that a writer has had committed, seen by the parent after the writer's death.
@@ -61,7 +63,7 @@ struct Progress {
 
 TEST(StoreProcesses, KilledWritersLoseNothingCommitted) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"settings.sqlite"_qs);
+    const QString path = folder.filePath(u"settings.sqlite"_s);
     auto *const progress = static_cast<Progress *>(
         mmap(nullptr, 2 * sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     ASSERT_NE(progress, MAP_FAILED);
@@ -73,7 +75,7 @@ TEST(StoreProcesses, KilledWritersLoseNothingCommitted) {
             mine.started = i;
             SettingsStore::Transaction transaction(store);
             store.SaveSetting(app, section, key(writer), QString::number(i));
-            store.SaveSetting(app, section + u"\\copy"_qs, key(writer), QString::number(i));
+            store.SaveSetting(app, section + u"\\copy"_s, key(writer), QString::number(i));
             transaction.commit();
             mine.committed = i;
         }
@@ -92,7 +94,7 @@ TEST(StoreProcesses, KilledWritersLoseNothingCommitted) {
             const int stored = store.GetSetting(app, section, key(writer), 0).toInt();
             EXPECT_GE(stored, progress[writer].committed);
             EXPECT_LE(stored, progress[writer].started);
-            EXPECT_EQ(stored, store.GetSetting(app, section + u"\\copy"_qs, key(writer), 0).toInt());
+            EXPECT_EQ(stored, store.GetSetting(app, section + u"\\copy"_s, key(writer), 0).toInt());
             progress[writer].committed = stored;
         }
         ASSERT_EQ(store.takeTrouble(), QString());

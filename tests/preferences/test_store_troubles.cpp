@@ -11,11 +11,13 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
-const QString app = u"Tolvo"_qs;
-const QString section = u"S"_qs;
+const QString app = u"Tolvo"_s;
+const QString section = u"S"_s;
 
 QByteArray bytesOf(const QString &path) {
     QFile file(path);
@@ -31,19 +33,19 @@ void overwrite(const QString &path, qint64 offset, const QByteArray &bytes) {
 
 struct StoreTroubles : testing::Test {
     QTemporaryDir folder;
-    QString path = folder.filePath(u"settings.sqlite"_qs);
+    QString path = folder.filePath(u"settings.sqlite"_s);
 
     void SetUp() override {
         SettingsStore store(path);
-        store.SaveSetting(app, section, u"old"_qs, u"value"_qs);
+        store.SaveSetting(app, section, u"old"_s, u"value"_s);
     }
 
     /// The session works, whatever became of the file, and has something to say exactly once.
     static void expectGoesOn(SettingsStore &store, const QString &word, const QString &old) {
-        store.SaveSetting(app, section, u"new"_qs, u"1"_qs);
-        store.increment(app, section, u"new"_qs);
-        EXPECT_EQ(store.GetSetting(app, section, u"new"_qs), u"2"_qs);
-        EXPECT_EQ(store.GetSetting(app, section, u"old"_qs), old);
+        store.SaveSetting(app, section, u"new"_s, u"1"_s);
+        store.increment(app, section, u"new"_s);
+        EXPECT_EQ(store.GetSetting(app, section, u"new"_s), u"2"_s);
+        EXPECT_EQ(store.GetSetting(app, section, u"old"_s), old);
         const QString trouble = store.takeTrouble();
         EXPECT_TRUE(trouble.contains(word)) << trouble.toStdString();
         EXPECT_EQ(store.takeTrouble(), QString());
@@ -58,14 +60,14 @@ TEST_F(StoreTroubles, DamagedFileIsSetAside) {
     file.close();
     {
         SettingsStore store(path);
-        expectGoesOn(store, u"settings.sqlite.damaged-1"_qs, {});
+        expectGoesOn(store, u"settings.sqlite.damaged-1"_s, {});
     }
-    EXPECT_EQ(bytesOf(path + u".damaged-1"_qs), rubbish);
-    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"new"_qs), u"2"_qs) << "a new file has been made";
+    EXPECT_EQ(bytesOf(path + u".damaged-1"_s), rubbish);
+    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"new"_s), u"2"_s) << "a new file has been made";
     overwrite(path, 0, rubbish);
     SettingsStore again(path);
-    EXPECT_TRUE(again.takeTrouble().contains(u"damaged-2"_qs)) << "the first is not overwritten";
-    EXPECT_EQ(bytesOf(path + u".damaged-1"_qs), rubbish);
+    EXPECT_TRUE(again.takeTrouble().contains(u"damaged-2"_s)) << "the first is not overwritten";
+    EXPECT_EQ(bytesOf(path + u".damaged-1"_s), rubbish);
 }
 
 TEST_F(StoreTroubles, WhatCanBeReadOfADamagedFileIsKept) {
@@ -73,26 +75,26 @@ TEST_F(StoreTroubles, WhatCanBeReadOfADamagedFileIsKept) {
         SettingsStore store(path);
         SettingsStore::Transaction transaction(store);
         for (int i = 0; i < 5000; ++i)
-            store.SaveSetting(app, u"Many"_qs, QString::number(i), QString(20, QChar(u'x')));
+            store.SaveSetting(app, u"Many"_s, QString::number(i), QString(20, QChar(u'x')));
         transaction.commit();
     }
     const qint64 size = QFileInfo(path).size();
     overwrite(path, size / 2 / 4096 * 4096, QByteArray(4 * 4096, '\xA5'));
     SettingsStore store(path);
-    (void)store.GetAllSettings(app, u"Many"_qs); // comes upon the damage
-    const auto kept = store.GetAllSettings(app, u"Many"_qs);
+    (void)store.GetAllSettings(app, u"Many"_s); // comes upon the damage
+    const auto kept = store.GetAllSettings(app, u"Many"_s);
     ASSERT_TRUE(kept);
     EXPECT_GT(kept->size(), 2500);
     EXPECT_LT(kept->size(), 5000);
-    expectGoesOn(store, u"damaged-1"_qs, u"value"_qs);
+    expectGoesOn(store, u"damaged-1"_s, u"value"_s);
 }
 
 TEST_F(StoreTroubles, NewerAndForeignFilesAreLeftAlone) {
     const struct {
         const char *sql;
         QString word;
-    } cases[] = {{"PRAGMA user_version = 2", u"newer version"_qs},
-                 {"PRAGMA user_version = 0", u"another program"_qs}};
+    } cases[] = {{"PRAGMA user_version = 2", u"newer version"_s},
+                 {"PRAGMA user_version = 0", u"another program"_s}};
     for (const auto &[sql, word] : cases) {
         {
             SqliteConnection connection(path, 0);
@@ -104,7 +106,7 @@ TEST_F(StoreTroubles, NewerAndForeignFilesAreLeftAlone) {
             expectGoesOn(store, word, {});
         }
         EXPECT_EQ(bytesOf(path), before);
-        EXPECT_EQ(QDir(folder.path()).entryList({u"*damaged*"_qs}), QStringList());
+        EXPECT_EQ(QDir(folder.path()).entryList({u"*damaged*"_s}), QStringList());
     }
 }
 
@@ -119,19 +121,19 @@ TEST_F(StoreTroubles, WriteProtectedFileIsRead) {
     }
     {
         SettingsStore store(path);
-        expectGoesOn(store, path, u"value"_qs);
-        SettingsStore none(folder.filePath(u"new folder/settings.sqlite"_qs));
-        expectGoesOn(none, u"new folder"_qs, {});
+        expectGoesOn(store, path, u"value"_s);
+        SettingsStore none(folder.filePath(u"new folder/settings.sqlite"_s));
+        expectGoesOn(none, u"new folder"_s, {});
     }
     if (superuser) {
         ASSERT_EQ(seteuid(0), 0);
     }
     QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"new"_qs, u"absent"_qs), u"absent"_qs);
+    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"new"_s, u"absent"_s), u"absent"_s);
 }
 
 TEST_F(StoreTroubles, NoFileAtAll) {
-    for (const QString &place : {u"/dev/full"_qs, folder.path()}) {
+    for (const QString &place : {u"/dev/full"_s, folder.path()}) {
         SettingsStore store(place);
         expectGoesOn(store, place, {});
     }
@@ -155,22 +157,22 @@ TEST_F(StoreTroubles, FullDiskKeepsTheSessionAndATransactionWhole) {
         {
             const FullDisk disk;
             SettingsStore::Transaction transaction(store);
-            store.SaveSetting(app, section, u"first"_qs, u"1"_qs);
-            store.SaveSetting(app, u"Big"_qs, u"second"_qs, QString(20'000'000, QChar(u'x')));
+            store.SaveSetting(app, section, u"first"_s, u"1"_s);
+            store.SaveSetting(app, u"Big"_s, u"second"_s, QString(20'000'000, QChar(u'x')));
             transaction.commit();
-            EXPECT_EQ(store.GetSetting(app, section, u"first"_qs), u"1"_qs);
+            EXPECT_EQ(store.GetSetting(app, section, u"first"_s), u"1"_s);
             {
                 SettingsStore::Transaction dropped(store);
-                store.SaveSetting(app, section, u"first"_qs, u"dropped"_qs);
+                store.SaveSetting(app, section, u"first"_s, u"dropped"_s);
             }
-            expectGoesOn(store, path, u"value"_qs);
-            EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"first"_qs, u"absent"_qs), u"absent"_qs);
+            expectGoesOn(store, path, u"value"_s);
+            EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"first"_s, u"absent"_s), u"absent"_s);
         }
     }
     SettingsStore store(path); // there was room again at the end
-    EXPECT_EQ(store.GetSetting(app, section, u"first"_qs), u"1"_qs);
-    EXPECT_EQ(store.GetSetting(app, section, u"new"_qs), u"2"_qs);
-    EXPECT_EQ(store.GetSetting(app, u"Big"_qs, u"second"_qs).size(), 20'000'000);
+    EXPECT_EQ(store.GetSetting(app, section, u"first"_s), u"1"_s);
+    EXPECT_EQ(store.GetSetting(app, section, u"new"_s), u"2"_s);
+    EXPECT_EQ(store.GetSetting(app, u"Big"_s, u"second"_s).size(), 20'000'000);
 }
 
 TEST_F(StoreTroubles, AFileThatIsHeldForLongGetsTheChangesAtTheEnd) {
@@ -178,10 +180,10 @@ TEST_F(StoreTroubles, AFileThatIsHeldForLongGetsTheChangesAtTheEnd) {
     holder->execute("BEGIN IMMEDIATE");
     {
         SettingsStore store(path);
-        expectGoesOn(store, u"another program is holding it"_qs, u"value"_qs);
+        expectGoesOn(store, u"another program is holding it"_s, u"value"_s);
         holder.reset();
     }
-    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"new"_qs), u"2"_qs);
+    EXPECT_EQ(SettingsStore(path).GetSetting(app, section, u"new"_s), u"2"_s);
 }
 
 } // namespace

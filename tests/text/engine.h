@@ -28,7 +28,8 @@ class Engine : public ::testing::Test {
 
 /// A text of lines: "a|b" stands for a, CR LF, b.
 inline QString lines(const char16_t *picture) {
-    return QString::fromUtf16(picture).replace(u'|', u"\r\n"_qs);
+    using namespace Qt::StringLiterals;
+    return QString::fromUtf16(picture).replace(u'|', u"\r\n"_s);
 }
 
 /// Examples "text→expected", both pictures of lines.

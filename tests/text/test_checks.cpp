@@ -4,6 +4,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,7 +43,7 @@ TEST_F(Checks, punctuation) {
     }
     said = {};
     (void)engine.checkPunctuation(u"(", false);
-    EXPECT_EQ(said.titles, QStringList(u"Punctuation check"_qs));
+    EXPECT_EQ(said.titles, QStringList(u"Punctuation check"_s));
     (void)engine.checkPunctuation(u"(", true);
     EXPECT_EQ(said.titles.size(), 1);
 }
@@ -68,7 +69,7 @@ TEST_F(Checks, statistics) {
         EXPECT_EQ(column(engine.statistics(lines(c.text), {}), false), QLatin1StringView(c.expected))
             << shown(lines(c.text));
     const TextStatistics selected = engine.statistics(u"x", lines(u"a b. c d?|"));
-    EXPECT_EQ(column(selected, true), u"22 10 6 4 2 1 2 2 words"_qs);
+    EXPECT_EQ(column(selected, true), u"22 10 6 4 2 1 2 2 words"_s);
     EXPECT_TRUE(selected.hasSelection);
     EXPECT_FALSE(engine.statistics(u"x", {}).hasSelection);
 }

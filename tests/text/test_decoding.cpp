@@ -3,19 +3,20 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 using Decoding = Engine;
 
 TEST_F(Decoding, plainAndCurly) {
-    EXPECT_EQ(engine.PlainChars(u"‚‘’“”„…´–—é"), u"'''\"\"\"...'--é"_qs);
+    EXPECT_EQ(engine.PlainChars(u"‚‘’“”„…´–—é"), u"'''\"\"\"...'--é"_s);
     expectExamples(
         [this](QStringView text) { return engine.CurlyQuotes(text); },
         {u"don't→don’t", u"'word' dogs' \"x\"→‘word’ dogs’ “x”", u"a---b→a—b", u"a--b-----.....→a–b—–….."});
     EXPECT_TRUE(said.warnings.isEmpty());
-    EXPECT_EQ(engine.CurlyQuotes(u"\"a 'b"), u"“a ‘b"_qs);
-    EXPECT_EQ(said.titles, QStringList(u"Curly Quotes"_qs));
+    EXPECT_EQ(engine.CurlyQuotes(u"\"a 'b"), u"“a ‘b"_s);
+    EXPECT_EQ(said.titles, QStringList(u"Curly Quotes"_s));
     EXPECT_EQ(said.warnings.value(0), lines(u"There appears to be a closing quotes (\") missing|"
                                             u"There appears to be a closing single quote (') missing"));
 }
@@ -38,12 +39,12 @@ TEST_F(Decoding, entities) {
                     u"&rsquo;&lsquo;&ldquo;&rdquo;&sbquo;&bdquo;&gt;&apos;→’‘“”‚„>'",
                     u"&dagger;&Dagger;&DAGGER;&nope;&lt→††&DAGGER;&nope;&lt"});
     EXPECT_EQ(engine.HTMLdecode(u"&#x;"), QString(QChar(0)));
-    for (const QString &tooLong : {u"&#xFFFFFFFF;"_qs, u"&#"_qs + QString(32769, u'1')})
+    for (const QString &tooLong : {u"&#xFFFFFFFF;"_s, u"&#"_s + QString(32769, u'1')})
         expectFailure(failureNumber::overflow, [&] { (void)engine.HTMLdecode(tooLong); });
 }
 
 TEST_F(Decoding, mailQuotes) {
-    EXPECT_EQ(engine.Stripmail(u"> > quoted\r\n|>x\r\n >y\r\n>|"), u"quoted\r\nx\r\n >y\r\n"_qs);
+    EXPECT_EQ(engine.Stripmail(u"> > quoted\r\n|>x\r\n >y\r\n>|"), u"quoted\r\nx\r\n >y\r\n"_s);
 }
 
 } // namespace

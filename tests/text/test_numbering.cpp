@@ -4,6 +4,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -78,7 +79,7 @@ TEST_F(Numbering, numbersLinesOfAListing) {
           {u"", u""}})
         EXPECT_EQ(engine.LineNumber(lines(c.text), c.start, c.step, c.every, c.blankLines, c.pad, c.right),
                   lines(c.expected));
-    const QString listing = engine.LineNumber(u"x\r\n"_qs.repeated(119) + u'x', 1, 1, 1, true, true, true);
+    const QString listing = engine.LineNumber(u"x\r\n"_s.repeated(119) + u'x', 1, 1, 1, true, true, true);
     EXPECT_TRUE(listing.startsWith(u"  1 x\r\n  2 x\r\n"));
     EXPECT_TRUE(listing.endsWith(u"\r\n120 x"));
 }
@@ -100,8 +101,8 @@ TEST_F(Numbering, takesMarksOff) {
 TEST_F(Numbering, givesTheTextBack) {
     QStringList plain;
     for (int i = 0; i < 60; ++i)
-        plain.append(u"Entry of a list"_qs);
-    const QString text = plain.join(u"\r\n"_qs);
+        plain.append(u"Entry of a list"_s);
+    const QString text = plain.join(u"\r\n"_s);
     for (int style : {0, 3, 4, 5}) {
         for (const bool tab : {false, true})
             EXPECT_EQ(engine.removeNumbers(engine.number(text, 1, style, 1, tab, 12)), text) << style;

@@ -5,6 +5,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,12 +16,12 @@ QStringList guests() {
                          lines(u"|"),
                          lines(u"|||"),
                          lines(u"a|b"),
-                         u"a\rb\nc"_qs,
+                         u"a\rb\nc"_s,
                          QString(QChar(0xD800)),
-                         u"x"_qs + QChar(0xDC00) + u'.',
+                         u"x"_s + QChar(0xDC00) + u'.',
                          QString(QChar(0)),
-                         u" "_qs,
-                         u"'"_qs};
+                         u" "_s,
+                         u"'"_s};
     for (const char16_t *unit : {u"a",   u" ",  u"a\r\n", u".",  u"(",    u"]",  u"'",  u"\"",  u"&#", u"&#1",
                                  u"%41", u"\t", u"\r",    u"\n", u"\r\n", u"a'", u"1.", u"mc-", u"…",  u"i "})
         texts += QString::fromUtf16(unit).repeated(1 + 20000 / QStringView(unit).size());

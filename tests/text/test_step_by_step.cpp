@@ -11,6 +11,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -57,7 +58,7 @@ QString wordAt(const QString &text, Position i) {
 // The rules for a single word have tests of their own.
 bool address(const QString &word) {
     AddressRules rules([](const QString &extension) { return extension == u"txt"; });
-    rules.setTopLevelDomains(u",com,org,"_qs);
+    rules.setTopLevelDomains(u",com,org,"_s);
     return rules.IsWebOrFileName(word);
 }
 
@@ -78,7 +79,7 @@ QString sentences(const QString &text, bool lowers, bool colon) {
         next = i < text.size() || !lowers ? ahead : next;
         QString c = nextIsUpper ? toUpper(mid(text, i)) : lowers ? toLower(mid(text, i)) : mid(text, i);
         nextIsUpper = nextIsUpper && !alpha(c);
-        result += c == u"i" && !alpha(mid(text, i - 1)) && !alpha(next) && next != u"." ? u"I"_qs : c;
+        result += c == u"i" && !alpha(mid(text, i - 1)) && !alpha(next) && next != u"." ? u"I"_s : c;
         const QString word = wordAt(text, i);
         if ((in(c, u".?!") || (colon && c == u":")) && !digit(ahead) && !IsAbbreviation(word) &&
             (lowers ? !address(word) : !alpha(ahead)))
@@ -122,7 +123,7 @@ QString TitleCase(const QString &text, Position s, Position n) {
 }
 
 QString HTMLdecode(QString text) {
-    QString mark = u"XXXXX"_qs;
+    QString mark = u"XXXXX"_s;
     for (Position p = text.indexOf(u"&#") + 1; p > 0; p = text.indexOf(u"&#", p - 1) + 1) {
         text.remove(p - 1, 2);
         while (in(mid(text, p), u"0123456789xX") && !mark.isEmpty()) {
@@ -185,7 +186,7 @@ QString checkPunctuation(const QString &text) {
                 result += u' ';
         }
         if (quotes && !open) {
-            result += prev.isEmpty() || in(prev, u"\n (\t") ? QString() : u" "_qs;
+            result += prev.isEmpty() || in(prev, u"\n (\t") ? QString() : u" "_s;
             i += next == u" " ? 1 : 0;
         }
         open = open != quotes;
@@ -206,7 +207,7 @@ QString checkPunctuation(const QString &text) {
 
 class StepByStep : public Engine {
   protected:
-    StepByStep() { engine.setTopLevelDomains(u",com,org,"_qs); }
+    StepByStep() { engine.setTopLevelDomains(u",com,org,"_s); }
 
     /// Calls `check(text)` for random texts put together from the pieces.
     template <class Check>
@@ -223,7 +224,7 @@ class StepByStep : public Engine {
 
     static QStringList pieces(const char16_t *list) {
         QStringList result = QString::fromUtf16(list).split(u'~');
-        return result << u"\r\n"_qs << u" "_qs;
+        return result << u"\r\n"_s << u" "_s;
     }
 };
 

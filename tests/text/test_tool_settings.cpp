@@ -5,19 +5,20 @@
 #include "text/tool_settings.h"
 
 using namespace tolvo;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const IndentSettings indent{IndentSettings::WithText, 7, u"> "_qs, {}};
+const IndentSettings indent{IndentSettings::WithText, 7, u"> "_s, {}};
 const WordWrapSettings wrap{72, true, true, false};
 const RemoveLinesSettings removeLines{true, false};
-const BulletSettings bullet{u"=>"_qs, false, 3};
+const BulletSettings bullet{u"=>"_s, false, 3};
 const NumberListSettings numberList{5, 12, true, 3, false, 6};
 const LineNumberSettings lineNumbers{10, 5, 2, false, true, false, true};
 
 template <class Settings>
 void comesBackFromStore(const Settings &settings) {
-    SettingsStore store(u":memory:"_qs);
+    SettingsStore store(u":memory:"_s);
     EXPECT_EQ(loadSettings<Settings>(store), Settings()) << "the defaults of store and struct differ";
     saveSettings(store, settings);
     EXPECT_EQ(loadSettings<Settings>(store), settings);
@@ -31,7 +32,7 @@ void comesBackFromString(const Settings &settings, const char *text) {
     Settings applied;
     applySettings(applied, params);
     EXPECT_EQ(applied, settings);
-    applySettings(applied, CParams(u"Colour=1"_qs));
+    applySettings(applied, CParams(u"Colour=1"_s));
     EXPECT_EQ(applied, settings) << "a key that isn't there changes a control";
 }
 
@@ -39,7 +40,7 @@ TEST(ToolSettings, comeBackFromTheStore) {
     std::apply([](const auto &...settings) { (comesBackFromStore(settings), ...); },
                std::tuple(indent, wrap, removeLines, bullet, numberList, lineNumbers));
     IndentSettings recent = indent;
-    recent.recentTexts = {u"> "_qs, u"# "_qs};
+    recent.recentTexts = {u"> "_s, u"# "_s};
     comesBackFromStore(recent);
 }
 
@@ -54,18 +55,18 @@ TEST(ToolSettings, comeBackFromTheirString) {
 }
 
 TEST(ToolSettings, areWrittenAsTheStoreHasThem) {
-    SettingsStore store(u":memory:"_qs);
+    SettingsStore store(u":memory:"_s);
     saveSettings(store, wrap);
     saveSettings(store, lineNumbers);
     EXPECT_EQ(readSetting(store, u"Wordwrap", u"Justify"), u"1");
     EXPECT_EQ(readSetting(store, u"Wordwrap", u"Tab"), u"False");
     EXPECT_EQ(readSetting(store, u"NumLines", u"IgnoreBlanks"), u"True");
 
-    writeSetting(store, u"Indent", u"Option", u"else"_qs);
+    writeSetting(store, u"Indent", u"Option", u"else"_s);
     EXPECT_EQ(loadSettings<IndentSettings>(store).choice, IndentSettings::WithText);
-    writeSetting(store, u"NumLines", u"Pad", u"1"_qs);
+    writeSetting(store, u"NumLines", u"Pad", u"1"_s);
     EXPECT_FALSE(loadSettings<LineNumberSettings>(store).pad) << "it is compared with \"True\"";
-    writeSetting(store, u"NumList", u"PadChars", u"wide"_qs);
+    writeSetting(store, u"NumList", u"PadChars", u"wide"_s);
     expectFailure(failureNumber::typeMismatch, [&] { (void)loadSettings<NumberListSettings>(store); });
 }
 
@@ -103,7 +104,7 @@ TEST(ToolSettings, ofAnActionAreTakenStrictly) {
 
 TEST(ToolSettings, ofADialogAreTakenLeniently) {
     NumberListSettings settings{3, 5, true, 1, false, 7};
-    applySettings(settings, CParams(u"Style=x, Start=, Renumber=False, Tab=true, Spaces=1e99"_qs));
+    applySettings(settings, CParams(u"Style=x, Start=, Renumber=False, Tab=true, Spaces=1e99"_s));
     EXPECT_EQ(settings, (NumberListSettings{0, 0, false, 1, false, 255}));
 }
 

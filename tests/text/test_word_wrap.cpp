@@ -7,6 +7,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,9 +56,9 @@ QString wrappedStepByStep(const QString &text, int width, bool hanging, bool tab
             output += word;
             column += length;
         } else {
-            output += u"\r\n"_qs;
+            output += u"\r\n"_s;
             if (hanging)
-                output += tab ? u"\t"_qs : u"        "_qs;
+                output += tab ? u"\t"_s : u"        "_s;
             output += word;
             column = (hanging ? 8 : 0) + word.size();
         }
@@ -72,10 +73,10 @@ QString wrappedStepByStep(const QString &text, int width, bool hanging, bool tab
             break;
         put(text.mid(position - 1, n - position));
         if (text.at(n - 1) == u'\t')
-            put(u"\t"_qs);
+            put(u"\t"_s);
         const bool lineEnd = text.mid(n - 1, 2) == u"\r\n";
         if (lineEnd) {
-            output += u"\r\n"_qs;
+            output += u"\r\n"_s;
             column = 0;
         }
         position = n + (lineEnd ? 2 : 1);
@@ -114,7 +115,7 @@ qsizetype widthOnScreen(QStringView line) {
 
 TEST_F(WordWrap, justifiesAllLinesButTheRaggedOnes) {
     const QString paragraph =
-        u"The quick brown fox jumps over the lazy dog and runs away again and again. "_qs;
+        u"The quick brown fox jumps over the lazy dog and runs away again and again. "_s;
     const QString text = paragraph.repeated(3) + lines(u"A short line |") + paragraph + lines(u"|one ");
     for (const bool tab : {false, true}) {
         const QString wrapped = engine.WordWrap(text, 33, true, tab, false);

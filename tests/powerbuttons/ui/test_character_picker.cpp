@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QTableView>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
@@ -36,7 +38,7 @@ TEST(CharacterIndex, findsByCharacterCodeAndName) {
 }
 
 TEST(CharacterPicker, collectsUpToThreeAndRemembersThem) {
-    QStringList recent{"x", u"\u2600"_qs};
+    QStringList recent{"x", u"\u2600"_s};
     dlgPickCharacter picker("DejaVu Sans", recent);
     picker.show();
     auto &table = child<QTableView>(picker, "tblCharacters");
@@ -51,8 +53,8 @@ TEST(CharacterPicker, collectsUpToThreeAndRemembersThem) {
     for (int i = 0; i < 3; ++i)
         QTest::keyClick(&table, Qt::Key_Enter);
     picker.accept();
-    EXPECT_EQ(picker.choice().text, u"\u2600\u2601\U0001F600"_qs);
-    EXPECT_EQ(recent.join(u' '), u"\u2600 \u2601 \U0001F600 x"_qs);
+    EXPECT_EQ(picker.choice().text, u"\u2600\u2601\U0001F600"_s);
+    EXPECT_EQ(recent.join(u' '), u"\u2600 \u2601 \U0001F600 x"_s);
 }
 
 } // namespace

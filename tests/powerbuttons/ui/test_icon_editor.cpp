@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
@@ -51,7 +53,7 @@ TEST(IconEditor, beginsWithALetterAndTakesASymbol) {
         click(shown, "OKButton");
     });
     EXPECT_TRUE(dialog.showDialog(icon));
-    EXPECT_EQ(icon.text, u"\u2709"_qs);
+    EXPECT_EQ(icon.text, u"\u2709"_s);
     EXPECT_EQ(icon.font.size, 20);
     EXPECT_EQ(recent, QStringList{icon.text});
 }

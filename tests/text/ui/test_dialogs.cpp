@@ -17,6 +17,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -54,17 +55,17 @@ class Dialogs : public Engine {
 TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
     dlgNumberStyle dialog(engine, {});
     User user(dialog);
-    user.types("txtStart", u"1a2"_qs);
+    user.types("txtStart", u"1a2"_s);
     EXPECT_EQ(user.sees("txtStart"), u"12");
-    user.pastes("txtStart", u" 3x4-"_qs);
+    user.pastes("txtStart", u" 3x4-"_s);
     EXPECT_EQ(user.sees("txtStart"), u"34");
-    user.types("txtStart", u"5000"_qs);
+    user.types("txtStart", u"5000"_s);
     EXPECT_EQ(user.sees("txtStart"), u"999");
-    user.types("txtStart", u"0"_qs);
+    user.types("txtStart", u"0"_s);
     EXPECT_EQ(user.sees("txtStart"), u"0");
     user.presses("txtStart", Qt::Key_Tab);
     EXPECT_EQ(user.sees("txtStart"), u"1");
-    user.types("txtSpaces", u"20"_qs);
+    user.types("txtSpaces", u"20"_s);
     EXPECT_EQ(user.sees("txtSpaces"), u"12");
     EXPECT_TRUE(user.chosen("optTab_0")) << "typing leaves the choice alone";
     user.presses("txtSpaces", Qt::Key_Down);
@@ -80,7 +81,7 @@ TEST_F(Dialogs, numberStyleShowsWhatTheToolWillDo) {
     User user(dialog);
     EXPECT_EQ(user.sample(),
               u"9.  First list item|10. Second list item|11. Third list item|12. Fourth list item");
-    user.types("txtSpaces", u"2"_qs);
+    user.types("txtSpaces", u"2"_s);
     EXPECT_TRUE(user.sample().startsWith(u"9.First list item|10Second"));
     user.control<QComboBox>("cmbStyle").setCurrentIndex(5);
     EXPECT_EQ(user.sees("txtSpaces"), u"4");
@@ -100,33 +101,33 @@ TEST_F(Dialogs, bulletTakesAnyText) {
     User user(dialog);
     auto &bullet = user.control<QComboBox>("cmbBulletChar");
     EXPECT_EQ(bullet.count(), 4);
-    QTest::keyClicks(bullet.lineEdit(), u"=>"_qs);
+    QTest::keyClicks(bullet.lineEdit(), u"=>"_s);
     EXPECT_TRUE(user.sample().startsWith(u"\u2022=>\tFirst list item|"));
     bullet.setCurrentIndex(2);
     user.presses(Qt::Key_S, Qt::AltModifier);
     EXPECT_EQ(user.sample(), u"*  First list item|*  Second list item|*  Third list item");
     user.presses(Qt::Key_Return);
-    EXPECT_EQ(dialog.settings(), (BulletSettings{u"*"_qs, false, 2}));
+    EXPECT_EQ(dialog.settings(), (BulletSettings{u"*"_s, false, 2}));
 }
 
 TEST_F(Dialogs, indentRemembersItsTexts) {
-    const QStringList texts = {u"# "_qs, u"> "_qs};
+    const QStringList texts = {u"# "_s, u"> "_s};
     dlgIndent dialog({IndentSettings::WithTab, 4, QString(), texts});
     User user(dialog);
     auto &text = user.control<QComboBox>("cmbIndentText");
-    QTest::keyClicks(text.lineEdit(), u">"_qs);
+    QTest::keyClicks(text.lineEdit(), u">"_s);
     EXPECT_TRUE(user.chosen("optTab_2"));
     user.clicks("OKButton");
     EXPECT_EQ(dialog.settings().choice, IndentSettings::WithText);
     EXPECT_EQ(dialog.settings().text, u">");
-    EXPECT_EQ(dialog.settings().recentTexts, QStringList({u">"_qs, u"# "_qs}));
+    EXPECT_EQ(dialog.settings().recentTexts, QStringList({u">"_s, u"# "_s}));
 
     QStringList many;
     for (int i = 0; i < IndentSettings::mostRecentTexts; ++i)
         many.append(QString::number(i));
-    dlgIndent full({IndentSettings::WithText, 4, u"new"_qs, many});
+    dlgIndent full({IndentSettings::WithText, 4, u"new"_s, many});
     User(full).presses(Qt::Key_Return);
-    EXPECT_EQ(full.settings().recentTexts, QStringList(u"new"_qs) + many.first(many.size() - 1));
+    EXPECT_EQ(full.settings().recentTexts, QStringList(u"new"_s) + many.first(many.size() - 1));
 }
 
 TEST_F(Dialogs, lineNumberingShowsItsRange) {
@@ -136,16 +137,16 @@ TEST_F(Dialogs, lineNumberingShowsItsRange) {
     EXPECT_TRUE(user.sample().contains(u"||2 Tincidunt ut"));
     user.clicks("chkIgnoreBlanks");
     EXPECT_TRUE(user.sample().contains(u"|2 |3 Tincidunt ut"));
-    user.types("txtStart", u"9"_qs);
+    user.types("txtStart", u"9"_s);
     user.presses(Qt::Key_R, Qt::AltModifier);
     EXPECT_TRUE(user.sample().startsWith(u" 9 Lorem ipsum"));
     user.clicks("chkPad");
     EXPECT_FALSE(user.enabled("optRange_0") || user.enabled("optRange_1"));
     EXPECT_TRUE(user.sample().startsWith(u"9 Lorem ipsum"));
-    user.types("txtStep", u"0"_qs);
+    user.types("txtStep", u"0"_s);
     user.presses("txtStep", Qt::Key_Tab);
     EXPECT_EQ(user.sees("txtStep"), u"1");
-    user.types("txtEvery", u"2"_qs);
+    user.types("txtEvery", u"2"_s);
     EXPECT_TRUE(user.sample().startsWith(u"  Lorem ipsum"));
     user.presses(Qt::Key_Return);
     EXPECT_EQ(dialog.settings(), (LineNumberSettings{9, 1, 2, true, false, false, true}));
@@ -157,7 +158,7 @@ TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
     user.presses(Qt::Key_H, Qt::AltModifier);
     user.presses(Qt::Key_S, Qt::AltModifier);
     user.presses(Qt::Key_J, Qt::AltModifier);
-    const QString refusal = u"Page width must lie between 12 and 255 inclusive"_qs;
+    const QString refusal = u"Page width must lie between 12 and 255 inclusive"_s;
     for (const char *width : {"11", "256", "", "99999999999"}) {
         user.pastes("txtWidth", QString::fromLatin1(width));
         user.clicks("OKButton");
@@ -211,7 +212,7 @@ TEST_F(Dialogs, statisticsShowBothColumns) {
     EXPECT_EQ(list.topLevelItem(2)->text(1), u"22");
     EXPECT_EQ(list.topLevelItem(2)->text(2), u"8");
     user.clicks("cmdHelp");
-    EXPECT_EQ(takeTexts(boxes), QStringList(u"Help is not implemented yet"_qs));
+    EXPECT_EQ(takeTexts(boxes), QStringList(u"Help is not implemented yet"_s));
     user.presses(Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
 }
