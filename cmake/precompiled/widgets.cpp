@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+// The target that owns the precompiled header widgets.h.
