@@ -2,6 +2,7 @@
 #include "powerbuttons/CPowerButton.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace tolvo {
 
@@ -26,6 +27,17 @@ std::shared_ptr<CAction> CPowerButton::Item(int position) const {
 void CPowerButton::Remove(int position) {
     if (position >= 1 && position <= Count())
         m_actions.removeAt(position - 1);
+}
+
+bool CPowerButton::operator==(const CPowerButton &other) const {
+    const auto properties = [](const CPowerButton &button) {
+        return std::tie(button.Name, button.IconText, button.IconFontName, button.IconFontSize,
+                        button.IconFontBold, button.IconFontItalic, button.IconX, button.IconY);
+    };
+    const auto equal = [](const std::shared_ptr<CAction> &a, const std::shared_ptr<CAction> &b) {
+        return a->Tool() == b->Tool() && a->DlgOption() == b->DlgOption() && a->Details() == b->Details();
+    };
+    return properties(*this) == properties(other) && std::ranges::equal(m_actions, other.m_actions, equal);
 }
 
 void CPowerButtonCollection::Add(std::shared_ptr<CPowerButton> button, int number) {

@@ -40,6 +40,9 @@ class CPowerButton {
     void Remove(int position);
     void Clear() { m_actions.clear(); }
 
+    /// Equal in all that the store keeps, Actions included.
+    bool operator==(const CPowerButton &other) const;
+
   private:
     QList<std::shared_ptr<CAction>> m_actions;
 };

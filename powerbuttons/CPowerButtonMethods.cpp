@@ -26,32 +26,73 @@ QString actionSection(int number, const QString &subsection) {
     return buttonSection(number) + u'\\' + subsection;
 }
 
-void readProperties(const SettingsStore &store, CPowerButton &button, int number) {
-    const QString section = buttonSection(number);
-    const auto value = [&](const char *key, const QString &defaultValue) {
-        return store.GetSetting(applicationTitle(), section, QString::fromLatin1(key), defaultValue);
-    };
-    button.Name = value("Name", CPowerButton::undefinedName());
-    button.IconFontName = value("FontName", {});
-    button.IconFontSize = toNumber(value("FontSize", QStringLiteral("16")));
-    if (button.IconFontSize == 0)
-        button.IconFontSize = defaultFontSize;
-    button.IconFontBold = toFlag(value("Bold", flagWord(false)));
-    button.IconFontItalic = toFlag(value("Italic", flagWord(false)));
-    button.IconText = value("Text", {});
-    button.IconX = toNumber(value("X", QStringLiteral("0")));
-    button.IconY = toNumber(value("Y", QStringLiteral("0")));
-}
+/// Reads one button. What can't be read takes its default and is complained of; nothing is shown here.
+class ButtonReader {
+  public:
+    ButtonReader(const SettingsStore &store, const Catalogue &tools, int number)
+        : m_store(store), m_tools(tools), m_number(number) {}
 
-/// What one subsection holds. A key that isn't there keeps the value of the Action before: stores with such
-/// gaps have always been read so.
-struct StoredAction {
-    QString token;
-    QString details;
-    int dlgOption = Prompt;
+    void read(CPowerButton &button) {
+        readProperties(button);
+        int position = 0;
+        for (const QString &subsection : m_store.subsections(applicationTitle(), buttonSection(m_number))) {
+            take(actionSection(m_number, subsection));
+            ToolPtr tool = m_tools.tool(m_token);
+            if (!tool) {
+                tool = m_tools.tool(unknownToolToken);
+                unknownTokens += m_token;
+            }
+            button.Add(std::make_shared<CAction>(tool, m_dlgOption, m_details), ++position);
+        }
+    }
 
-    void take(const SettingsStore &store, const QString &section) {
-        const auto pairs = store.GetAllSettings(applicationTitle(), section);
+    QStringList unknownTokens; ///< one for each Action without a tool
+    QStringList complaints;    ///< what is wrong with a value, and which it is
+    int failure = 0;           ///< the number of the first of them
+
+  private:
+    /// The value that `text` is converted to, or the default.
+    template <class Value>
+    Value converted(const QString &section, const char *key, const QString &text,
+                    Value (*convert)(const QString &), Value otherwise) {
+        try {
+            return convert(text);
+        } catch (const Failure &bad) {
+            if (complaints.isEmpty())
+                failure = bad.number();
+            complaints +=
+                bad.description() + QStringLiteral(" (%2 of %1)").arg(section, QLatin1StringView(key));
+            return otherwise;
+        }
+    }
+
+    void readProperties(CPowerButton &button) {
+        const QString section = buttonSection(m_number);
+        const auto value = [&](const char *key, const QString &defaultValue) {
+            return m_store.GetSetting(applicationTitle(), section, QLatin1StringView(key), defaultValue);
+        };
+        const auto number = [&](const char *key, double otherwise) {
+            return converted(section, key, value(key, numberText(otherwise)), toNumber, otherwise);
+        };
+        const auto flag = [&](const char *key) {
+            return converted(section, key, value(key, flagWord(false)), toFlag, false);
+        };
+        button.Name = value("Name", CPowerButton::undefinedName());
+        button.IconFontName = value("FontName", {});
+        button.IconFontSize = number("FontSize", defaultFontSize);
+        if (button.IconFontSize == 0)
+            button.IconFontSize = defaultFontSize;
+        button.IconFontBold = flag("Bold");
+        button.IconFontItalic = flag("Italic");
+        button.IconText = value("Text", {});
+        button.IconX = number("X", 0);
+        button.IconY = number("Y", 0);
+    }
+
+    /// Reads an Action's keys. One that isn't there keeps the value of the Action before: stores with such
+    /// gaps have always been read so.
+    void take(const QString &section) {
+        const auto pairs = m_store.GetAllSettings(applicationTitle(), section);
         if (!pairs)
             return;
         const auto is = [](const QString &key, QLatin1StringView name) {
@@ -59,13 +100,20 @@ struct StoredAction {
         };
         for (const auto &[key, value] : *pairs) {
             if (is(key, QLatin1StringView("Token")))
-                token = value;
+                m_token = value;
             else if (is(key, QLatin1StringView("Details")))
-                details = value;
+                m_details = value;
             else if (is(key, QLatin1StringView("DlgOption")))
-                dlgOption = toInteger(value);
+                m_dlgOption = converted(section, "DlgOption", value, toInteger, static_cast<int>(Prompt));
         }
     }
+
+    const SettingsStore &m_store;
+    const Catalogue &m_tools;
+    int m_number;
+    QString m_token;
+    QString m_details;
+    int m_dlgOption = Prompt;
 };
 
 } // namespace
@@ -104,24 +152,29 @@ void CPowerButtonMethods::SavePBSettings(const CPowerButton &button, int number)
 
 bool CPowerButtonMethods::ReadPBSettings(CPowerButton &button, int number) {
     reportFailures(m_boxes, className(), QStringLiteral("ReadPBSettings"), [&] {
-        readProperties(m_store, button, number);
-        StoredAction stored;
-        int position = 0;
-        for (const QString &subsection : m_store.subsections(applicationTitle(), buttonSection(number))) {
-            stored.take(m_store, actionSection(number, subsection));
-            ToolPtr tool = m_tools.tool(stored.token);
-            if (!tool) {
-                tool = m_tools.tool(unknownToolToken);
-                m_boxes.show(
-                    {FillTemplate(QStringLiteral("A tool with the token '%0' was found in PowerButton "
-                                                 "%1 '%2'.\r\nThis tool does not exist: it was probably "
-                                                 "deleted from Tools.dat.\r\nIt will be skipped"),
-                                  {stored.token, QString::number(number), button.Name})});
-            }
-            button.Add(std::make_shared<CAction>(tool, stored.dlgOption, stored.details), ++position);
-        }
+        ButtonReader reader(m_store, m_tools, number);
+        reader.read(button);
+        for (const QString &token : std::as_const(reader.unknownTokens))
+            m_boxes.show({FillTemplate(QStringLiteral("A tool with the token '%0' was found in PowerButton "
+                                                      "%1 '%2'.\r\nThis tool does not exist: it was probably "
+                                                      "deleted from Tools.dat.\r\nIt will be skipped"),
+                                       {token, QString::number(number), button.Name})});
+        if (!reader.complaints.isEmpty())
+            throw Failure(reader.failure, FillTemplate(QStringLiteral("PowerButton %0 '%1':\r\n"),
+                                                       {QString::number(number), button.Name}) +
+                                              reader.complaints.join(QStringLiteral("\r\n")));
     });
     return button.Count() > 0;
+}
+
+std::shared_ptr<CPowerButton> CPowerButtonMethods::changedInStore(const CPowerButton &button, int number) {
+    auto stored = std::make_shared<CPowerButton>();
+    ButtonReader(m_store, m_tools, number).read(*stored);
+    if (*stored == button)
+        return nullptr;
+    stored = std::make_shared<CPowerButton>();
+    ReadPBSettings(*stored, number);
+    return stored;
 }
 
 bool CPowerButtonMethods::DeletePBSetting(int number) {

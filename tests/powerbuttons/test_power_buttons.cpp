@@ -5,7 +5,7 @@
 #include "powerbuttons/icon_geometry.h"
 #include "tests/powerbuttons/world.h"
 
-#include <array>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -90,16 +90,38 @@ TEST_F(PowerButtons, keepThePlaceOfUnknownTools) {
     EXPECT_EQ(actionsOf(reread(4)), "toolNULL ccUPP");
 }
 
-TEST_F(PowerButtons, reportValuesOfTheWrongKind) {
-    const std::array<std::pair<QString, const char *>, 3> wrong{
-        {{"5", "FontSize"}, {"6", "Bold"}, {"7\\1", "DlgOption"}}};
-    for (const auto &[section, key] : wrong) {
-        put(section, key, "much");
+TEST_F(PowerButtons, keepAllElseBesideValuesOfTheWrongKind) {
+    CPowerButton whole;
+    whole.Name = "Mine";
+    setIcon(whole, {"ab", {"Serif", 12, true, true}, 3, 4});
+    whole.Add(action("foREM", "Single=1", Custom));
+    whole.Add(action("ccUPP"));
+    const std::tuple<const char *, const char *, std::function<void(CPowerButton &)>> wrong[] = {
+        {"5", "FontSize", [](CPowerButton &b) { b.IconFontSize = 16; }},
+        {"5", "Bold", [](CPowerButton &b) { b.IconFontBold = false; }},
+        {"5", "Y", [](CPowerButton &b) { b.IconY = 0; }},
+        {"5\\1", "DlgOption", [](CPowerButton &b) { b.Item(1)->setDlgOption(Prompt); }},
+    };
+    for (const auto &[section, key, repair] : wrong) {
+        methods.SavePBSettings(whole, 5);
+        put(section, key, "8,25");
         boxes.expect("Sorry, ");
-        static_cast<void>(reread(section.first(1).toInt()));
-        for (const char *part : {"CPowerButtonMethods", "ReadPBSettings", "13"})
-            EXPECT_TRUE(boxes.last.text.contains(part)) << boxes.last.text.toStdString();
+        const CPowerButton read = reread(5);
+        for (const char *part :
+             {"PowerButton 5 'Mine'", key, "'8,25'", "CPowerButtonMethods::ReadPBSettings", "13"})
+            EXPECT_TRUE(boxes.last.text.contains(QLatin1StringView(part))) << boxes.last.text.toStdString();
+        methods.SavePBSettings(whole, 5);
+        CPowerButton expected = reread(5);
+        repair(expected);
+        EXPECT_EQ(read, expected) << key;
+        methods.SavePBSettings(read, 5);
+        EXPECT_EQ(reread(5), expected) << key;
     }
+    put("5", "X", "left"); // all that is wrong with a button in one report
+    put("5\\2", "DlgOption", "1e99");
+    boxes.expect("Sorry, ");
+    static_cast<void>(reread(5));
+    EXPECT_TRUE(boxes.last.text.contains("left") && boxes.last.text.contains("DlgOption"));
 }
 
 TEST_F(PowerButtons, mayHaveEightThousandActions) {
