@@ -3,6 +3,7 @@
 
 #include "base/application.h"
 #include "base/failure.h"
+#include "base/private_files.h"
 #include "preferences/settings_schema.h"
 
 #include <QDir>
@@ -75,7 +76,7 @@ void SettingsStore::Database::open() {
         goOnInMemory(QStringLiteral("%1 is no file.").arg(nativePath(m_path)), false);
         return;
     }
-    QDir().mkpath(info.absolutePath());
+    makePrivateFolder(info.absolutePath());
     try {
         m_rows = std::make_unique<SettingsRows>(m_path, patience);
         m_inFile = true;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/settings_schema.h"
 
+#include "base/private_files.h"
+
 #include <QDeadlineTimer>
 #include <QThread>
 
@@ -36,9 +38,13 @@ bool checkVersion(SqliteConnection &connection) {
     const qint64 version = connection.number("PRAGMA user_version");
     if (version > settingsSchemaVersion)
         throw SchemaRefusal::Newer;
-    if (version == 0 && connection.number("SELECT count(*) FROM sqlite_master") > 0)
+    const bool isEmpty = version == 0 && connection.number("SELECT count(*) FROM sqlite_master") == 0;
+    const bool isOurs = version == settingsSchemaVersion &&
+                        connection.number("SELECT count(*) FROM sqlite_master WHERE type = 'table' AND "
+                                          "name IN ('section', 'value')") == 2;
+    if (!isEmpty && !isOurs)
         throw SchemaRefusal::Foreign;
-    return version == settingsSchemaVersion;
+    return isOurs;
 }
 
 void prepare(SqliteConnection &connection) {
@@ -62,6 +68,9 @@ void prepare(SqliteConnection &connection) {
 std::unique_ptr<SqliteConnection> openSettingsDatabase(const QString &path, int busyMilliseconds) {
     // The change to the write-ahead log doesn't wait for other runs by itself.
     const QDeadlineTimer deadline(busyMilliseconds);
+    // The log and its index get the rights of the file.
+    if (path != QLatin1StringView(":memory:"))
+        makePrivateFile(path);
     for (;;) {
         try {
             auto connection = std::make_unique<SqliteConnection>(path, busyMilliseconds);

@@ -4,12 +4,12 @@
 #include "base/code_page.h"
 #include "base/failure.h"
 #include "base/paths.h"
+#include "base/private_files.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QStringConverter>
 
 namespace tolvo {
 
@@ -38,13 +38,11 @@ QString fileLike(const QDir &folder, const QString &name) {
     return {};
 }
 
-/// Written by this program as UTF-8; a list from elsewhere may be in the 8-bit code page.
+/// A line, written by this program as UTF-8; those from elsewhere may be in the 8-bit code page.
 QString decoded(const QByteArray &bytes) {
-    QStringDecoder utf8(QStringConverter::Utf8);
-    QString text = utf8(bytes);
-    if (!utf8.hasError())
-        return text;
-    text.clear();
+    if (bytes.isValidUtf8())
+        return QString::fromUtf8(bytes);
+    QString text;
     text.reserve(bytes.size());
     for (const char byte : bytes)
         text += QChar(fromAnsi(static_cast<std::uint8_t>(byte)));
@@ -90,10 +88,8 @@ void ensurePersonalDictionary(const SpellingServices &services) {
     const QString path = personalDictionaryPath(services);
     if (QFile::exists(path))
         return;
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    // NewOnly: another run may have made it, with a word in it, in the meantime.
-    (void)file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    makePrivateFolder(QFileInfo(path).path());
+    makePrivateFile(path);
 }
 
 QStringList readPersonalDictionary(const QString &path) {
@@ -102,22 +98,36 @@ QStringList readPersonalDictionary(const QString &path) {
         throw Failure(failureNumber::fileNotFound, QStringLiteral("File not found: ") + path);
     if (!file.open(QIODevice::ReadOnly))
         throw Failure(failureNumber::fileAccess, path + QStringLiteral(": ") + file.errorString());
-    QString text = decoded(file.readAll());
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    if (text.isEmpty())
+    QByteArray bytes = file.readAll();
+    bytes.replace("\r\n", "\n").replace('\r', '\n');
+    if (bytes.isEmpty())
         return {};
-    if (text.endsWith(u'\n'))
-        text.chop(1);
-    return text.split(u'\n');
+    if (bytes.endsWith('\n'))
+        bytes.chop(1);
+    QStringList words;
+    for (const QByteArray &line : bytes.split('\n'))
+        words += decoded(line);
+    return words;
 }
 
 void appendWord(const QString &path, const QString &word) {
     QFile file(path);
     if (!file.exists())
         throw Failure(failureNumber::fileNotFound, QStringLiteral("File not found: ") + path);
-    const QByteArray line = word.toUtf8() + "\r\n";
-    if (!file.open(QIODevice::Append) || file.write(line) != line.size() || !file.flush())
+    const auto fail = [&] {
         throw Failure(failureNumber::fileAccess, path + QStringLiteral(": ") + file.errorString());
+    };
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::ExistingOnly))
+        fail();
+    QByteArray line = word.toUtf8() + "\r\n";
+    // An editor may have left the last line without its end.
+    char last = '\n';
+    if (file.size() > 0 && (!file.seek(file.size() - 1) || !file.getChar(&last)))
+        fail();
+    if (last != '\n' && last != '\r')
+        line.prepend("\r\n");
+    if (file.write(line) != line.size() || !file.flush())
+        fail();
 }
 
 } // namespace tolvo

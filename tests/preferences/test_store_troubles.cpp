@@ -9,6 +9,7 @@
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -94,7 +95,9 @@ TEST_F(StoreTroubles, NewerAndForeignFilesAreLeftAlone) {
         const char *sql;
         QString word;
     } cases[] = {{"PRAGMA user_version = 2", u"newer version"_s},
-                 {"PRAGMA user_version = 0", u"another program"_s}};
+                 {"PRAGMA user_version = 0", u"another program"_s},
+                 {"PRAGMA user_version = -1", u"another program"_s},
+                 {"DROP TABLE value; PRAGMA user_version = 1", u"another program"_s}};
     for (const auto &[sql, word] : cases) {
         {
             SqliteConnection connection(path, 0);
@@ -108,6 +111,22 @@ TEST_F(StoreTroubles, NewerAndForeignFilesAreLeftAlone) {
         EXPECT_EQ(bytesOf(path), before);
         EXPECT_EQ(QDir(folder.path()).entryList({u"*damaged*"_s}), QStringList());
     }
+}
+
+TEST_F(StoreTroubles, WhatIsMadeIsTheUsersAlone) {
+    const auto rights = [](const QString &place) {
+        struct stat state {};
+        return stat(qPrintable(place), &state) == 0 ? state.st_mode & 0777 : 0;
+    };
+    const mode_t before = umask(022);
+    const QString deep = folder.filePath(u"a/b/settings.sqlite"_s);
+    SettingsStore store(deep);
+    store.SaveSetting(app, section, u"new"_s, u"1"_s);
+    for (const QString &file : {deep, deep + u"-wal"_s, deep + u"-shm"_s})
+        EXPECT_EQ(rights(file), 0600U) << file.toStdString();
+    for (const QString &made : {u"a"_s, u"a/b"_s})
+        EXPECT_EQ(rights(folder.filePath(made)), 0700U) << made.toStdString();
+    umask(before);
 }
 
 TEST_F(StoreTroubles, WriteProtectedFileIsRead) {

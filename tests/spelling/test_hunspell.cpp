@@ -88,8 +88,11 @@ TEST_F(Hunspell_, KnowsThePersonalWords) {
         writeFile(path, list);
         EXPECT_EQ(check("zqx qzk"), QStringList()) << list;
     }
-    writeFile(path, "caf\xe9\r\n"); // from a program that wrote the 8-bit code page
-    EXPECT_EQ(check("caf\u00e9"), QStringList());
+    writeFile(path, "caf\xe9"); // from a program that wrote the 8-bit code page, and no line end
+    AddWordToDict(boxes, path, u("h\u00e9zqx"));
+    AddWordToDict(boxes, path, u("zqx"));
+    EXPECT_EQ(fileContents(path), "caf\xe9\r\nh\xc3\xa9zqx\r\nzqx\r\n");
+    EXPECT_EQ(check("caf\u00e9 h\u00e9zqx zqx"), QStringList());
     EXPECT_EQ(said(), QStringList());
 
     QFile::remove(path);
