@@ -270,6 +270,10 @@ void SettingsStore::Database::tell(const QString &trouble) {
     m_troubles += trouble;
 }
 
+QString SettingsStore::Database::touchedFile() const {
+    return m_inFile ? m_path + logSuffix : QString();
+}
+
 QString SettingsStore::Database::takeTrouble() {
     return std::exchange(m_troubles, {}).join(QStringLiteral("\r\n\r\n"));
 }

@@ -37,6 +37,8 @@ class SettingsStore::Database {
     void rollBack();
 
     [[nodiscard]] QString takeTrouble();
+    /// The write-ahead log; empty while the rows live in memory.
+    [[nodiscard]] QString touchedFile() const;
 
   private:
     template <class Operation>

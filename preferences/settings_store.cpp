@@ -89,6 +89,15 @@ QStringList SettingsStore::subsections(const QString &application, const QString
     return m_database->read([&](SettingsRows &rows) { return rows.subsections(address); });
 }
 
+qint64 SettingsStore::changesByOthers() const {
+    return m_database->read(
+        [](SettingsRows &rows) { return rows.connection().number("PRAGMA data_version"); });
+}
+
+QString SettingsStore::touchedFile() const {
+    return m_database->touchedFile();
+}
+
 void SettingsStore::createSection(const QString &application, const QString &section) {
     m_database->write(
         [address = SectionAddress(application, section)](SettingsRows &rows) { rows.addSection(address); });

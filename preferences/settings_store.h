@@ -70,6 +70,12 @@ class SettingsStore {
     [[nodiscard]] bool sectionExists(const QString &application, const QString &section) const;
     [[nodiscard]] QStringList subsections(const QString &application, const QString &section) const;
 
+    /// A number that is another one as soon as somebody else (another run, a companion) has written to the
+    /// file; what this store writes itself leaves it alone.
+    [[nodiscard]] qint64 changesByOthers() const;
+    /// The file that any write touches first; empty for a store in memory.
+    [[nodiscard]] QString touchedFile() const;
+
     /// Makes an empty section, as an import may ask for.
     void createSection(const QString &application, const QString &section);
 

@@ -151,6 +151,9 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     /// called in front of each. A failure is reported and ends the run.
     void runActions(const QList<std::shared_ptr<CAction>> &actions, const std::function<void()> &beforeEach);
 
+    /// Takes over the PowerButtons that the store has otherwise than the session, as another run of the
+    /// program may have defined them, and has their icons painted. One that runs goes on as it was.
+    void refreshPowerButtons();
     /// The PowerButton that an Action of pbPBT names.
     void runNestedPowerButton(const CAction &action);
 

@@ -3,6 +3,7 @@
 #include "base/application.h"
 #include "base/conversions.h"
 #include "base/strings.h"
+#include "powerbuttons/CPowerButtonMethods.h"
 #include "shell/frmMain.h"
 #include "shell/tool_table.h"
 
@@ -62,6 +63,7 @@ void frmMain::runActions(const QList<std::shared_ptr<CAction>> &actions,
 
 void frmMain::runPowerButton(int index) {
     if (bRightButton) {
+        refreshPowerButtons();
         m_services.windows.editPowerButton(index);
         m_services.view.powerButtonChanged(index);
         txtCurrent().setFocus();
@@ -90,6 +92,19 @@ void frmMain::runPowerButton(int index) {
     }
     sLastTool = QStringLiteral("PB%1").arg(index);
     txtCurrent().setFocus();
+}
+
+void frmMain::refreshPowerButtons() {
+    CPowerButtonMethods methods(m_services.store, m_services.oTools, m_services.boxes);
+    for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number) {
+        const std::shared_ptr<CPowerButton> shown = m_services.oPowerButtons.Item(number);
+        const std::shared_ptr<CPowerButton> stored =
+            methods.changedInStore(shown ? *shown : CPowerButton(), number);
+        if (!stored)
+            continue;
+        m_services.oPowerButtons.Add(stored, number);
+        m_services.view.powerButtonChanged(number - 1);
+    }
 }
 
 void frmMain::runAction(const CAction &action) {

@@ -44,8 +44,10 @@ void DesktopOptions::exportPrefs(const QString &file, bool powerButtonsOnly) {
 }
 
 void DesktopOptions::importPrefs(const QString &file) {
-    reportFailures(m_services.boxes, ownName, QStringLiteral("ExportPrefs"),
-                   [&] { importSettings(m_services.store, file); });
+    reportFailures(m_services.boxes, ownName, QStringLiteral("ExportPrefs"), [&] {
+        importSettings(m_services.store, file);
+        m_session->refreshPowerButtons();
+    });
 }
 
 void DesktopOptions::configureProvider(int provider) {

@@ -7,9 +7,10 @@
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/dlgConfirmClose.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QGuiApplication>
 #include <QTimer>
+#include <utility>
 
 namespace tolvo {
 
@@ -30,7 +31,10 @@ DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &cl
             m_session->setStatus(waiting ? MainWindow::tr("Waiting for the clipboard...") : QString());
     };
     m_window->onClosed = [this] { m_loop.quit(); };
-    m_window->onActivated = [this] { takeClipboardOnceActive(); };
+    m_window->onActivated = [this] {
+        takeClipboardOnceActive();
+        takeOverPowerButtons();
+    };
 }
 
 DesktopSession::~DesktopSession() = default;
@@ -49,6 +53,7 @@ SearchResults &DesktopSession::searchResults() {
 
 void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
     m_session = &session;
+    m_seenChanges = m_services.store.changesByOthers();
     m_window->attach(session, toolbox);
     m_dialogs.attach(session);
     toolbox.setHooks({.rowsChanged = [this, &toolbox] { m_window->panel().showRows(toolbox); },
@@ -71,6 +76,27 @@ void DesktopSession::takeClipboardOnceActive() {
     m_session->guarded(u"beginWithClipboard", [this] { m_session->beginWithClipboard(); });
 }
 
+/// PowerButtons that another run defines show at once.
+void DesktopSession::watchStore() {
+    QObject::connect(&m_storeWatch, &QFileSystemWatcher::fileChanged, m_window.get(),
+                     [this] { takeOverPowerButtons(); });
+    const QString file = m_services.store.touchedFile();
+    if (!file.isEmpty())
+        m_storeWatch.addPath(file);
+    takeOverPowerButtons();
+}
+
+void DesktopSession::takeOverPowerButtons() {
+    // The dialog may be the editor at work on a button. The main window becomes active after it.
+    if (m_session->bSessionOver || QApplication::activeModalWidget() != nullptr)
+        return;
+    m_session->guarded(u"takeOverPowerButtons", [this] {
+        const qint64 changes = m_services.store.changesByOthers();
+        if (std::exchange(m_seenChanges, changes) != changes)
+            m_session->refreshPowerButtons();
+    });
+}
+
 void DesktopSession::showModal() {
     m_clipboardPending = takesClipboardLater();
     m_window->show();
@@ -78,6 +104,7 @@ void DesktopSession::showModal() {
     m_window->activateWindow();
     if (m_clipboardPending)
         QTimer::singleShot(longestWaitForFocus, m_window.get(), [this] { takeClipboardOnceActive(); });
+    QTimer::singleShot(0, m_window.get(), [this] { watchStore(); });
     if (!m_session->bSessionOver)
         m_loop.exec();
     m_window->QWidget::hide();
@@ -161,6 +188,7 @@ void DesktopSession::showStatistics(const TextStatistics &statistics) {
 void DesktopSession::editPowerButton(int index) {
     m_dialogs.editPowerButton(index);
     powerButtonChanged(index);
+    takeOverPowerButtons(); // what others have changed meanwhile
 }
 
 } // namespace tolvo

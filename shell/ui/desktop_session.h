@@ -6,6 +6,7 @@
 #include "shell/ui/desktop_dialogs.h"
 
 #include <QEventLoop>
+#include <QFileSystemWatcher>
 #include <memory>
 
 namespace tolvo {
@@ -62,6 +63,8 @@ class DesktopSession : public SessionWindow, private SessionView, private Sessio
     [[nodiscard]] ToolDialogs &toolDialogs() override { return m_dialogs; }
 
     void takeClipboardOnceActive();
+    void watchStore();
+    void takeOverPowerButtons();
 
     RunServices m_services;
     EscapeWatch &m_escape;
@@ -70,6 +73,8 @@ class DesktopSession : public SessionWindow, private SessionView, private Sessio
     frmMain *m_session = nullptr;
     QEventLoop m_loop;
     bool m_clipboardPending = false;
+    QFileSystemWatcher m_storeWatch;
+    qint64 m_seenChanges = 0; ///< of the store by others, as of the last look at the PowerButtons
 };
 
 } // namespace tolvo

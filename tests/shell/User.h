@@ -52,6 +52,7 @@ class User : public HeadlessWindows {
     void showOptions() override { opened += "Options"; }
     void showAbout() override { opened += "About"; }
     void editPowerButton(int index) override { opened += QString("editor %1").arg(index); }
+    void powerButtonChanged(int index) override { repainted += index; }
     void hide() override { opened += "(hidden)"; }
     bool ask(IndentSettings &settings) override;
     void setSearchText(const QString &text) override { searchBox = text; }
@@ -67,6 +68,7 @@ class User : public HeadlessWindows {
 
     QStringList opened; ///< windows in the order in which they opened
     CloseAnswer closeAnswer = CloseAnswer::Cancel;
+    QList<int> repainted; ///< indices of PowerButtons
     bool cancelsDialogs = false;
     bool hasTypingToUndo = false;
     int chosenLanguage = 2057;

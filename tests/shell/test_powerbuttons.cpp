@@ -25,6 +25,30 @@ TEST(PowerButtons, runTheirActionsInTurn) {
     user.sees("a|«B C»");
 }
 
+TEST(PowerButtons, areThoseOfTheStoreWhenTheEditorOpens) {
+    User user("a");
+    user.defines(1, {User::action("ccUPP")});
+    const auto put = [&user](const QString &section, const QString &key, const QString &value) {
+        user.store.SaveSetting("Tolvo", "PowerButtons\\Button 1" + section, key, value);
+    };
+    put("", "Name", "Theirs"); // as another run of the program does
+    put("", "X", "left");
+    put("\\1", "Token", "foIND");
+    put("\\1", "Details", indentSettings);
+    put("\\1", "DlgOption", "1");
+    user.session.imgPower_Click(0);
+    user.sees("«»A"); // what the row shows
+    for (int opening = 0; opening < 2; ++opening) {
+        user.session.bRightButton = true;
+        user.session.imgPower_Click(0);
+        user.session.bRightButton = false;
+    }
+    user.isToldSomethingLike("PowerButton 1 'Theirs'"); // once
+    EXPECT_EQ(user.repainted.count(0), 3);              // once it was read, and after each opening
+    user.session.imgPower_Click(0);
+    user.sees("«»# A");
+}
+
 TEST(PowerButtons, settingsLastUsedHoldForTheActionsBehind) {
     User user("a");
     user.defines(1, {User::action("foIND", Prompt)});

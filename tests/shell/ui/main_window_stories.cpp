@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QTemporaryDir>
 
 using namespace tolvo;
 
@@ -69,7 +70,9 @@ class MainWindowStory : public testing::Test {
     static QString pasted() { return QApplication::clipboard()->text(); }
 
     const QString programs = QString::fromLocal8Bit(qgetenv("TOLVO_BIN"));
-    SettingsStore store{QStringLiteral(":memory:")};
+    QTemporaryDir folder;
+    const QString storeFile = folder.filePath(QStringLiteral("settings.sqlite"));
+    SettingsStore store{storeFile};
     DesktopClipboard clipboard;
     RecordingBoxes boxes;
     SilentSound sound;
@@ -108,6 +111,22 @@ TEST_F(MainWindowStory, keysReachTheTextInBothBoxes) {
     });
     EXPECT_EQ(pasted(), QStringLiteral("AB-c"));
     EXPECT_EQ(readSetting(store, u"Preferences", u"Wordwrap"), QStringLiteral("1"));
+}
+
+TEST_F(MainWindowStory, aPowerButtonOfAnotherRunShowsAtOnce) {
+    run(QStringLiteral("x"), [this] {
+        SettingsStore other(storeFile);
+        const auto put = [&other](const char16_t *section, const char16_t *key, const char16_t *value) {
+            writeSetting(other, section, key, QString::fromUtf16(value));
+        };
+        auto &third = child<QWidget>(*window(), "imgPower_2");
+        put(u"PowerButtons\\Button 3\\1", u"Token", u"ccUPP");
+        put(u"PowerButtons\\Button 3", u"Name", u"Shout");
+        EXPECT_TRUE(QTest::qWaitFor([&third] { return third.toolTip().startsWith(u"Shout"); }));
+        QTest::keyClick(text(), Qt::Key_F3, Qt::AltModifier);
+        QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
+    });
+    EXPECT_EQ(pasted(), QStringLiteral("X"));
 }
 
 TEST_F(MainWindowStory, theRightButtonRunsAToolWithItsLastSettings) {
