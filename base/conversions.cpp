@@ -30,6 +30,14 @@ int toInteger(const QString &text) {
     return static_cast<int>(value);
 }
 
+int toIntegerOr(const QString &text, int otherwise) {
+    try {
+        return toInteger(text);
+    } catch (const Failure &) {
+        return otherwise;
+    }
+}
+
 bool toFlag(const QString &text) {
     const QString word = text.trimmed();
     if (word.compare(QLatin1StringView("True"), Qt::CaseInsensitive) == 0)
@@ -55,11 +63,16 @@ QString dateText(const QDateTime &date) {
     return date.toString(dateFormat);
 }
 
-QDateTime toDate(const QString &text) {
+std::optional<QDateTime> dateIn(const QString &text) {
     QDateTime date = QDateTime::fromString(text.trimmed(), dateFormat);
-    if (!date.isValid())
+    return date.isValid() ? std::optional(date) : std::nullopt;
+}
+
+QDateTime toDate(const QString &text) {
+    const std::optional<QDateTime> date = dateIn(text);
+    if (!date)
         failTypeMismatch(text);
-    return date;
+    return *date;
 }
 
 } // namespace tolvo

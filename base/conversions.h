@@ -4,12 +4,16 @@
 
 #include <QDateTime>
 #include <QString>
+#include <optional>
 
 namespace tolvo {
 
 /// A 32-bit integer, halves rounded to even. Fails with a type mismatch for a text that is no number, the
 /// empty text included, and with an overflow beyond 32 bits.
 [[nodiscard]] int toInteger(const QString &text);
+
+/// The same, with `otherwise` in place of a failure.
+[[nodiscard]] int toIntegerOr(const QString &text, int otherwise);
 
 /// A number. Fails with a type mismatch.
 [[nodiscard]] double toNumber(const QString &text);
@@ -26,5 +30,7 @@ namespace tolvo {
 /// The store's form of a date and time, "YYYY-MM-DD HH:mm:ss". Reading fails with a type mismatch.
 [[nodiscard]] QString dateText(const QDateTime &date);
 [[nodiscard]] QDateTime toDate(const QString &text);
+/// The same, with nothing in place of a failure.
+[[nodiscard]] std::optional<QDateTime> dateIn(const QString &text);
 
 } // namespace tolvo

@@ -16,7 +16,7 @@ constexpr QStringView preferences = u"Preferences";
 const QString userExtensions = QStringLiteral("Preferences\\UserFileExtensions");
 
 bool readCheck(const SettingsStore &store, QStringView key) {
-    return toInteger(readSetting(store, preferences, key)) != 0;
+    return ValueOf(readSetting(store, preferences, key)) != 0;
 }
 
 void writeFont(SettingsStore &store, const QString &prefix, const Font &font) {
@@ -43,7 +43,7 @@ ProgramOptions loadOptions(const SettingsStore &store, const std::array<Font, 2>
     options.sounds = readCheck(store, u"Sounds");
     options.checkUpdates = readCheck(store, u"CheckUpdates");
     options.allowStats = readCheck(store, u"AllowStats");
-    options.provider = toInteger(readSetting(store, u"Spelling", u"Provider"));
+    options.provider = toIntegerOr(readSetting(store, u"Spelling", u"Provider"), options.provider);
     return options;
 }
 
@@ -69,9 +69,10 @@ QString FontDescription(const Font &font) {
 }
 
 QString lastCheckText(const QString &startDate, const QDateTime &now) {
-    if (startDate.isEmpty())
+    const std::optional<QDateTime> start = dateIn(startDate);
+    if (!start)
         return QStringLiteral("You have never checked for updates");
-    const qint64 days = toDate(startDate).secsTo(now) / (24LL * 60 * 60);
+    const qint64 days = start->secsTo(now) / (24LL * 60 * 60);
     return FillTemplate(QStringLiteral("You last checked for updates %0 days ago"), {QString::number(days)});
 }
 

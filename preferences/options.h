@@ -30,7 +30,8 @@ struct ProgramOptions {
 };
 
 /// Reads what the store keeps; fonts and word wrap are the session's. Extensions that the system knows by now
-/// are left out. A stored number that is none is a Failure (13).
+/// are left out. A stored check that is no number is not ticked, a provider that is none is the default: what
+/// can't be read must not keep the user from the dialog that would put it right.
 [[nodiscard]] ProgramOptions loadOptions(const SettingsStore &store, const std::array<Font, 2> &fonts,
                                          bool useProportional, bool wordWrap,
                                          const std::function<bool(const QString &)> &isSystemExtension);
@@ -41,8 +42,8 @@ void saveOptions(SettingsStore &store, const ProgramOptions &options);
 /// Name, " Bold", " Italic", a blank, the rounded size and " pt".
 [[nodiscard]] QString FontDescription(const Font &font);
 
-/// "You last checked for updates %0 days ago", or "You have never checked for updates" for an empty start
-/// date. A start date that is none is a Failure (13).
+/// "You last checked for updates %0 days ago", or "You have never checked for updates" without a start date
+/// that can be read.
 [[nodiscard]] QString lastCheckText(const QString &startDate, const QDateTime &now);
 
 } // namespace tolvo

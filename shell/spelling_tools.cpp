@@ -10,6 +10,7 @@ namespace tolvo {
 namespace {
 
 constexpr int languageCancelled = -2; ///< also asks for the stored language
+constexpr int defaultLanguage = -1;
 
 } // namespace
 
@@ -17,7 +18,7 @@ int frmMain::languageOfCheck(const CAction *action) {
     if (action)
         return toInteger(action->Param(QStringLiteral("LangID")));
     if (bRightButton)
-        return toInteger(readSetting(m_services.store, u"Spelling", u"LangID"));
+        return toIntegerOr(readSetting(m_services.store, u"Spelling", u"LangID"), defaultLanguage);
     return m_services.languages.GetLangID(languageCancelled, true);
 }
 

@@ -130,7 +130,8 @@ int LanguageList::provider() const {
 }
 
 int LanguageList::storedLangID() const {
-    return toInteger(value(QStringLiteral("LangID"), QStringLiteral("-1")));
+    constexpr int none = -1;
+    return toIntegerOr(value(QStringLiteral("LangID"), {}), none);
 }
 
 void LanguageList::saveLangID(int LangID) {

@@ -15,7 +15,8 @@ namespace tolvo {
 namespace {
 
 // The written forms. Each tells how a value stands in the store and in a settings string, and how it is read:
-// strictly from the store and for an Action, leniently into a dialog's controls.
+// strictly for an Action, leniently from the store and into a dialog's controls. A stored value that can't be
+// read must not keep the user from the dialog that would put it right.
 
 struct Number {
     int lowest = std::numeric_limits<int>::min();
@@ -23,7 +24,11 @@ struct Number {
 
     [[nodiscard]] static QString stored(int value) { return QString::number(value); }
     [[nodiscard]] static QString written(int value) { return QString::number(value); }
-    [[nodiscard]] int fromStore(const QString &text) const { return fromAction(text); }
+    [[nodiscard]] int fromStore(const QString &text) const {
+        int value = 0;
+        take(value, text);
+        return value;
+    }
     [[nodiscard]] int fromAction(const QString &text) const {
         return std::clamp(toInteger(text), lowest, highest);
     }
@@ -53,7 +58,11 @@ struct Choice : Number {
 struct Flag {
     [[nodiscard]] static QString stored(bool value) { return flagWord(value); }
     [[nodiscard]] static QString written(bool value) { return flagWord(value); }
-    [[nodiscard]] static bool fromStore(const QString &text) { return toFlag(text); }
+    /// Neither word counts as a number.
+    [[nodiscard]] static bool fromStore(const QString &text) {
+        const QString word = text.trimmed();
+        return word.compare(flagWord(true), Qt::CaseInsensitive) == 0 || ValueOf(word) != 0;
+    }
     [[nodiscard]] static bool fromAction(const QString &text) { return toFlag(text); }
     /// Neither word leaves the control alone.
     static void take(bool &value, const QString &text) {

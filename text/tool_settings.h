@@ -85,7 +85,8 @@ struct LineNumberSettings {
 
 // Each of the functions below exists for the six structs.
 
-/// The values last used, from the store. A stored number that is none is a Failure (13).
+/// The values last used, from the store. A stored number that can't be read counts as 0, and as the nearest
+/// value that is allowed.
 template <class Settings>
 [[nodiscard]] Settings loadSettings(const SettingsStore &store);
 

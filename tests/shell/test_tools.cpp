@@ -143,6 +143,21 @@ TEST(Tools, aDialogAsksOnceAndARightClickNever) {
     user.sees("a|«> b»");
 }
 
+TEST(Tools, takeStoredSettingsThatCantBeReadFor0) {
+    User user("a");
+    for (const char *key : {"Spaces", "PadChars", "StartNumber"}) {
+        for (const char *section : {"Indent", "NumList"})
+            user.store.SaveSetting("Tolvo", QLatin1StringView(section), QLatin1StringView(key), "many");
+    }
+    user.runs("foIND"); // the dialog opens
+    user.sees("«»> a", "Indent increased");
+    user.store.SaveSetting("Tolvo", "Spelling", "LangID", "none");
+    user.runsAgain("chSPE");
+    user.isTold("Spelling check complete");
+    user.runsAgain("liNUM");
+    EXPECT_TRUE(user.session.txtCurrent().Text().startsWith(u'0'));
+}
+
 TEST(Tools, areCountedAndUnknownOnesAreTold) {
     User user(QString(""));
     user.runs("ccUPP");

@@ -4,6 +4,8 @@
 #include "tests/text/engine.h"
 #include "text/tool_settings.h"
 
+#include <limits>
+
 using namespace tolvo;
 using namespace Qt::StringLiterals;
 
@@ -67,7 +69,11 @@ TEST(ToolSettings, areWrittenAsTheStoreHasThem) {
     writeSetting(store, u"NumLines", u"Pad", u"1"_s);
     EXPECT_FALSE(loadSettings<LineNumberSettings>(store).pad) << "it is compared with \"True\"";
     writeSetting(store, u"NumList", u"PadChars", u"wide"_s);
-    expectFailure(failureNumber::typeMismatch, [&] { (void)loadSettings<NumberListSettings>(store); });
+    writeSetting(store, u"NumList", u"StartNumber", u"1e99"_s);
+    writeSetting(store, u"NumList", u"Tab", u"?"_s);
+    EXPECT_EQ(loadSettings<NumberListSettings>(store),
+              (NumberListSettings{0, std::numeric_limits<int>::max(), false, 0, false, 1}))
+        << "0 for what is no number, and then the nearest that is allowed";
 }
 
 template <class Settings>
