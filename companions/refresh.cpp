@@ -22,7 +22,8 @@ bool saysYes(const HttpReply &reply) {
 QString refusal(const HttpReply &reply) {
     if (reply.status == 0)
         return QStringLiteral("The server can't be reached: %1.").arg(reply.statusText);
-    return QStringLiteral("The server refused: %1 %2.").arg(reply.status).arg(reply.statusText);
+    return QStringLiteral("The server refused: %1.")
+        .arg(QStringLiteral("%1 %2").arg(reply.status).arg(reply.statusText).trimmed());
 }
 
 bool isWebAddress(const QUrl &url) {

@@ -12,6 +12,7 @@ struct HttpReply {
     int status = 0; ///< HTTP status; 0 if no answer came at all (refused, timed out, too large, cancelled)
     QString statusText; ///< the reason phrase, or in words why no answer came
     QByteArray body;
+    bool cancelled = false; ///< no answer came because the user wanted none any more
 };
 
 class HttpClient {

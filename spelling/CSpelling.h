@@ -28,7 +28,7 @@ class CSpelling {
     void init(int providerType, int &LangID, QString &localeName);
 
     /// Replaces the list of errors; true if there is one. False without a new list if the provider didn't
-    /// answer. `grammar` is remembered; no provider behaves differently for it.
+    /// answer. Fails with CheckCancelled. `grammar` is remembered; no provider behaves differently for it.
     bool Spell(const QString &text);
     bool Spell(const QString &text, bool grammar);
 

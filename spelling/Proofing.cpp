@@ -45,6 +45,8 @@ bool Proofing::proof(QString &text, int LangID, bool grammar) {
         reportFailures(m_services.boxes, QStringLiteral("cTextMethods"), QStringLiteral("Proofing"), [&] {
             try {
                 work();
+            } catch (const CheckCancelled &) {
+                done = false;
             } catch (const Failure &failure) {
                 if (failure.number() != failureNumber::objectNotCreated)
                     throw;

@@ -43,7 +43,7 @@ class Proofing {
     Proofing(const SpellingServices &services, ProofingHost &host, SpellingWalk &walk);
 
     /// Both take and give CR LF text; a lone CR comes back as CR LF. False if a failure was caught (and
-    /// shown): the text is then as it was.
+    /// shown), or the user ended a request: the text is then as it was.
     bool CheckSpelling(QString &text, int LangID);
     bool CheckGrammar(QString &text, int LangID);
 

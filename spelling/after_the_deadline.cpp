@@ -17,8 +17,48 @@ namespace {
 constexpr int okStatus = 200;
 constexpr int keyDigits = 32;
 
+constexpr int deepestLevel = 32;       ///< the service's own replies have 4 levels
+constexpr qsizetype longestTag = 1000; ///< bytes; the service's own tags have no attributes
+
 QString className() {
     return QStringLiteral("CSpelling");
+}
+
+/// Whether anything between angle brackets is too long: the reader's time grows with the square of the number
+/// of attributes.
+bool hasLongTag(const QByteArray &reply) {
+    qsizetype length = 0; // of the tag so far, 0 outside of any
+    for (const char byte : reply) {
+        if (byte == '>')
+            length = 0;
+        else if (byte == '<' || length > 0)
+            ++length;
+        if (length > longestTag)
+            return true;
+    }
+    return false;
+}
+
+/// Whether a reply is XML of few levels without a document type: the time for a document grows with the
+/// square of its depth, and entities could grow without end.
+bool isFlat(const QByteArray &reply) {
+    QXmlStreamReader reader(reply);
+    reader.setNamespaceProcessing(false);
+    for (int depth = 0; !reader.atEnd();) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            ++depth;
+        else if (token == QXmlStreamReader::EndElement)
+            --depth;
+        if (token == QXmlStreamReader::DTD || depth > deepestLevel)
+            return false;
+    }
+    return !reader.hasError();
+}
+
+/// The reason phrase, which not every server sends.
+QString statusText(const HttpReply &reply) {
+    return reply.statusText.isEmpty() ? QStringLiteral("HTTP status %1").arg(reply.status) : reply.statusText;
 }
 
 } // namespace
@@ -34,15 +74,10 @@ QByteArray atdRequest(const QString &endpoint, const QString &preparedText) {
 }
 
 QDomDocument atdDocument(const QByteArray &reply) {
-    QXmlStreamReader prolog(reply);
-    while (!prolog.atEnd() && prolog.readNext() != QXmlStreamReader::StartElement) {
-        if (prolog.tokenType() == QXmlStreamReader::DTD)
-            return {};
-    }
     QDomDocument document;
-    if (!document.setContent(reply))
-        return {};
-    return document;
+    if (!hasLongTag(reply) && isFlat(reply) && document.setContent(reply))
+        return document;
+    return {};
 }
 
 std::optional<QDomDocument> AfterTheDeadline::getAtD(const QString &text) {
@@ -51,10 +86,12 @@ std::optional<QDomDocument> AfterTheDeadline::getAtD(const QString &text) {
     QString prepared = m_textMethods.checkPunctuation(text, true);
     prepared.replace(u'\r', u' ').replace(u'\t', u' ');
     const HttpReply reply = m_services.http.get(atdRequest(m_services.atdEndpoint, prepared));
+    if (reply.cancelled)
+        throw CheckCancelled();
     if (reply.status == 0)
         return std::nullopt;
     if (reply.status != okStatus)
-        throw Failure(failureNumber::httpStatus, reply.statusText, QStringLiteral("CSpelling::getAtD"));
+        throw Failure(failureNumber::httpStatus, statusText(reply), QStringLiteral("CSpelling::getAtD"));
     return atdDocument(reply.body);
 }
 

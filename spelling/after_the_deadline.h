@@ -24,7 +24,7 @@ class AfterTheDeadline final : public SpellingProvider {
         : m_services(services), m_textMethods(textMethods), m_dictionary(dictionary) {}
 
     /// Asks the service, then adds what the local dictionary finds between its errors. Nothing if no answer
-    /// came; fails with 5012 for any HTTP status but 200.
+    /// came; fails with 5012 for any HTTP status but 200, with CheckCancelled if the user ended the request.
     [[nodiscard]] std::optional<CSpellingErrors> check(const QString &text) override;
 
     /// The errors of a reply that have a place in the text and pass the local dictionary.
@@ -43,8 +43,8 @@ class AfterTheDeadline final : public SpellingProvider {
 /// text.
 [[nodiscard]] QByteArray atdRequest(const QString &endpoint, const QString &preparedText);
 
-/// The document of a reply. Empty for what is no XML, and for a reply with a document type of its own: the
-/// service never sends one, and its entities could grow without end.
+/// The document of a reply. Empty for what is no XML, and for what the service never sends and could take
+/// for ever: a document type of its own, many nested levels, tags with many attributes.
 [[nodiscard]] QDomDocument atdDocument(const QByteArray &reply);
 
 } // namespace tolvo

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/network/NetworkHttpClient.h"
 
-#include "base/application.h"
-
 #include <QEventLoop>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -14,8 +12,8 @@ namespace tolvo {
 
 namespace {
 
-HttpReply noAnswer(const QString &why) {
-    return {.status = 0, .statusText = why, .body = {}};
+HttpReply noAnswer(const QString &why, bool wasCancelled = false) {
+    return {.status = 0, .statusText = why, .body = {}, .cancelled = wasCancelled};
 }
 
 } // namespace
@@ -42,8 +40,6 @@ QNetworkRequest NetworkHttpClient::request(const QByteArray &encodedUrl) const {
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setHeader(QNetworkRequest::UserAgentHeader,
-                      QString(applicationTitle() + u'/' + applicationVersion()));
     return request;
 }
 
@@ -76,8 +72,10 @@ HttpReply NetworkHttpClient::await(QNetworkReply &reply) {
                      [&] { stop(QStringLiteral("The server did not answer in time")); });
     limit.start(m_limits.milliseconds);
     QTimer cancelWatch;
+    bool wasCancelled = false;
     QObject::connect(&cancelWatch, &QTimer::timeout, &loop, [&] {
-        if (cancelled())
+        wasCancelled = cancelled();
+        if (wasCancelled)
             stop(QStringLiteral("The request was cancelled"));
     });
     if (cancelled)
@@ -90,7 +88,7 @@ HttpReply NetworkHttpClient::await(QNetworkReply &reply) {
     QObject::disconnect(&reply, nullptr, &loop, nullptr);
     if (!stopped.isEmpty()) {
         reply.abort();
-        return noAnswer(stopped);
+        return noAnswer(stopped, wasCancelled);
     }
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     // From 201 upwards the errors tell the status again; below that the answer broke off or never came.

@@ -18,7 +18,8 @@ struct HttpLimits {
     qint64 bodyBytes = 16LL * 1024 * 1024; ///< after decompression
 };
 
-/// HTTP over Qt Network: redirects are answers like any other, no cookies, nothing is cached. Needs a
+/// HTTP over Qt Network: redirects are answers like any other, no cookies, nothing is cached, and no header
+/// says who asks. Needs a
 /// QCoreApplication. The network is not touched before the first request.
 class NetworkHttpClient final : public HttpClient {
   public:

@@ -19,7 +19,7 @@ HttpReply OnDemandHttpClient::post(const QByteArray &encodedUrl, const QByteArra
 
 HttpReply OnDemandHttpClient::ask(const std::function<HttpReply(HttpClient &)> &request) {
     if (const QString trouble = load(); !trouble.isEmpty())
-        return {.status = 0, .statusText = trouble, .body = {}};
+        return {.status = 0, .statusText = trouble, .body = {}, .cancelled = false};
     return request(*m_client);
 }
 

@@ -33,6 +33,7 @@ TEST(Http, BringsStatusReasonAndBody) {
         EXPECT_EQ(std::tuple(std::get<0>(row), reply.status, reply.statusText, reply.body), row);
         EXPECT_TRUE(server.requests.value(0).startsWith("GET /a%20b?q=%C3%A9%26%2C1%2B1~ HTTP/1.1\r\n"))
             << server.requests.value(0).data();
+        EXPECT_FALSE(server.requests.value(0).toLower().contains("tolvo")) << server.requests.value(0).data();
     }
 }
 
@@ -70,6 +71,7 @@ TEST(Http, WhatIsNoAnswerHasStatusZeroAndSaysWhy) {
         EXPECT_EQ(reply.status, 0) << url.data();
         EXPECT_FALSE(reply.statusText.isEmpty()) << url.data();
         EXPECT_TRUE(reply.body.isEmpty()) << url.data();
+        EXPECT_FALSE(reply.cancelled) << url.data();
     }
 }
 
@@ -96,6 +98,7 @@ TEST(Http, CanBeCancelledAndGuardsTheInputMeanwhile) {
     };
     const HttpReply reply = client.get(silent.url());
     EXPECT_EQ(reply.status, 0);
+    EXPECT_TRUE(reply.cancelled);
     EXPECT_EQ(asked, 3);
     EXPECT_EQ(guards, 0);
 }

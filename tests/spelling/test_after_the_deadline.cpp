@@ -94,8 +94,13 @@ TEST_F(AfterTheDeadline_, ChecksLocallyWhenAReplyIsNoUsableXml) {
     const QByteArray bomb =
         "<!DOCTYPE r [<!ENTITY a \"xxxxxxxxxx\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;\">]>"
         "<r><message>&b;</message></r>";
+    QByteArray attributes; // a reader that compares each with all others takes minutes
+    for (int i = 0; i < 150'000; ++i)
+        attributes += " a" + QByteArray::number(i) + "=''";
     for (const QByteArray &body :
-         {QByteArray(), QByteArray("<results><error>"), QByteArray("no XML"), bomb, QByteArray(3000, '<')}) {
+         {QByteArray(), QByteArray("<results><error>"), QByteArray("no XML"), bomb, QByteArray(3000, '<'),
+          QByteArray("<a>").repeated(170'000) + QByteArray("</a>").repeated(170'000),
+          "<results" + attributes + "><error/></results>"}) {
         http.reply = {200, u("OK"), body};
         EXPECT_EQ(check(u("a zqx")), QStringList(u("zqx 2-5 1"))) << body.left(40).constData();
         EXPECT_EQ(said(), QStringList());
@@ -130,6 +135,11 @@ TEST_F(AfterTheDeadline_, FailsInWords) {
     EXPECT_EQ(said(), silent);
     http.reply = {500, u("Out of order"), "oops"};
     EXPECT_EQ(check(u("a zqx")), QStringList(u("(failure 5012 Out of order)")));
+    http.reply = {503, {}, "oops"};
+    EXPECT_EQ(check(u("a zqx")), QStringList(u("(failure 5012 HTTP status 503)")));
+    http.reply = {0, {}, {}, true};
+    EXPECT_EQ(check(u("a zqx")), QStringList(u("(failure 18 The check was cancelled)")));
+    EXPECT_EQ(said(), QStringList());
 }
 
 } // namespace tolvo::test

@@ -12,6 +12,8 @@ class ProofingWorld : public SpellingWorld, public SpellingWalk {
         asked += QStringLiteral("%1|%2|%3").arg(text).arg(LangID).arg(grammar);
         if (failure)
             throw *failure;
+        if (cancels)
+            throw CheckCancelled();
         text = corrected;
         return confirmed;
     }
@@ -27,6 +29,7 @@ class ProofingWorld : public SpellingWorld, public SpellingWalk {
     QString corrected;
     bool confirmed = true;
     bool done = false;
+    bool cancels = false;
     std::optional<Failure> failure;
 };
 
@@ -46,6 +49,12 @@ TEST_F(ProofingWorld, CatchesFailuresAndLeavesTheTextAlone) {
     EXPECT_EQ(proof("lone\rCR"), u("lone\rCR"));
     EXPECT_FALSE(done);
     EXPECT_EQ(said(), QStringList(u("5012 Not Found (cTextMethods::Proofing)")));
+    EXPECT_EQ(status.last(), QString());
+    failure.reset();
+    cancels = true; // a request ended by Esc
+    EXPECT_EQ(proof("text"), u("text"));
+    EXPECT_FALSE(done);
+    EXPECT_EQ(said(), QStringList());
     EXPECT_EQ(status.last(), QString());
     failure = Failure(failureNumber::objectNotCreated, u("anything"));
     EXPECT_EQ(proof("text"), u("text"));
