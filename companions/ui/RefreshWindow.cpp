@@ -2,6 +2,7 @@
 #include "companions/ui/RefreshWindow.h"
 
 #include "base/application.h"
+#include "platform/box_text.h"
 #include "platform/icons/themed_icon.h"
 
 #include <QDesktopServices>
@@ -58,7 +59,7 @@ RefreshWindow::RefreshWindow(QWidget *parent)
 
 void RefreshWindow::showOutcome(const RefreshOutcome &outcome) {
     m_text->setText(outcome.messages.isEmpty() ? QStringLiteral("There was nothing to do.")
-                                               : outcome.messages.join(QStringLiteral("\n\n")));
+                                               : boxText(outcome.messages.join(QStringLiteral("\n\n"))));
     m_progress->hide();
     m_address = outcome.download;
     m_download->setVisible(!m_address.isEmpty());

@@ -2,7 +2,7 @@
 #include "platform/desktop/DesktopMessageBoxes.h"
 
 #include "base/application.h"
-#include "base/line_ends.h"
+#include "platform/box_text.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -35,7 +35,7 @@ BoxAnswer DesktopMessageBoxes::show(const Box &box) {
     window.setWindowTitle(box.title.isEmpty() ? applicationTitle() : box.title);
     window.setIcon(iconOf(box.icon));
     window.setTextFormat(Qt::PlainText);
-    window.setText(crLfToLf(box.text));
+    window.setText(boxText(box.text));
     if (box.buttons == BoxButtons::Ok) {
         window.setStandardButtons(QMessageBox::Ok);
         window.exec();

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -51,6 +52,24 @@ TEST(DesktopMessageBoxes, ShowTheTextAsItIsAndAnswerByNoUnlessTold) {
                 QTest::keyClick(&window, std::get<Qt::Key>(row));
         });
         EXPECT_EQ(DesktopMessageBoxes().show(box), answer);
+    }
+}
+
+TEST(DesktopMessageBoxes, AreNoLargerThanTheScreen) {
+    const QString end = u"\r\n(error 5005)"_s;
+    const QString lines = u"line\r\n"_s.repeated(20'000);
+    const QString pairs = u"\U0001F600"_s.repeated(60'000);
+    for (const QString &text : {QString(120'000, u'W'), lines, u"lone\n"_s.repeated(20'000),
+                                u"word "_s.repeated(24'000), pairs, u'x' + pairs}) {
+        withModal<QMessageBox>([&](QMessageBox &window) {
+            const QSize screen = window.screen()->availableSize();
+            EXPECT_LE(window.height(), screen.height()) << text.left(5).toStdString();
+            EXPECT_LE(window.width(), screen.width()) << text.left(5).toStdString();
+            EXPECT_TRUE(window.text().startsWith(text.left(2))) << "its beginning";
+            EXPECT_TRUE(window.text().endsWith(u"(error 5005)")) << "its end";
+            EXPECT_TRUE(window.text().isValidUtf16());
+        });
+        DesktopMessageBoxes().show({.text = text + end});
     }
 }
 
