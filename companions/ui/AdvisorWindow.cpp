@@ -44,10 +44,8 @@ AdvisorWindow::AdvisorWindow(SettingsStore &store, QWidget *parent)
     auto *const buttons = new QHBoxLayout;
     buttons->addWidget(showAtStartup);
     buttons->addStretch();
-    for (QPushButton *const button : {previous, next, close}) {
-        button->setAutoDefault(button == next);
+    for (QPushButton *const button : {previous, next, close})
         buttons->addWidget(button);
-    }
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(makePage(), 1);
     layout->addLayout(buttons);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/ui/dlgEditIcon.h"
 
+#include "platform/desktop/FontDialog.h"
 #include "platform/icons/themed_icon.h"
 #include "powerbuttons/ui/dlgPickCharacter.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "powerbuttons/ui/icon_preview.h"
 
 #include <QDialogButtonBox>
-#include <QFontDialog>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -169,17 +169,12 @@ void dlgEditIcon::repaintPreview() {
 }
 
 void dlgEditIcon::setFont() {
-    QFont font(m_icon.font.name);
-    font.setPointSizeF(m_icon.font.size);
-    font.setBold(m_icon.font.bold);
-    font.setItalic(m_icon.font.italic);
-    QFontDialog dialog(font, this);
-    dialog.setObjectName(QStringLiteral("cmnDialog"));
+    FontDialog dialog(m_icon.font, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QFont chosen = dialog.selectedFont();
-    m_size->setValue(static_cast<int>(std::lround(chosen.pointSizeF())));
-    m_icon.font = {chosen.family(), chosen.pointSizeF(), chosen.bold(), chosen.italic()};
+    const Font chosen = dialog.font();
+    m_size->setValue(static_cast<int>(std::lround(chosen.size)));
+    m_icon.font = chosen;
     repaintPreview();
 }
 

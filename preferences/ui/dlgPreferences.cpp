@@ -3,15 +3,18 @@
 
 #include "base/paths.h"
 #include "base/strings.h"
+#include "platform/desktop/FontDialog.h"
+#include "platform/desktop/enter_key.h"
 #include "platform/message_box.h"
 #include "preferences/special_folders.h"
 
 #include <QFileDialog>
-#include <QFontDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 
 namespace tolvo {
 
@@ -29,29 +32,24 @@ QString fileFilter() {
 
 } // namespace
 
+void dlgPreferences::showSpellingPage() {
+    m_tabs->setCurrentIndex(m_tabs->count() - 1);
+    for (QRadioButton *option : m_optSpellingProvider) {
+        if (option->isChecked())
+            option->setFocus();
+    }
+}
+
 void dlgPreferences::chooseFont(int index) {
     Font &font = m_options.fonts[static_cast<std::size_t>(index)];
-    QFont start(font.name);
-    start.setPointSizeF(font.size);
-    start.setBold(font.bold);
-    start.setItalic(font.italic);
-    bool ok = false;
-    const QFont chosen = QFontDialog::getFont(&ok, start, this, tr("Choose font"));
-    if (!ok)
+    FontDialog dialog(font, this);
+    if (dialog.exec() != QDialog::Accepted)
         return;
-    font = {chosen.family(), chosen.pointSizeF(), chosen.bold(), chosen.italic()};
+    font = dialog.font();
     m_txtFont[static_cast<std::size_t>(index)]->setText(FontDescription(font));
 }
 
 void dlgPreferences::extensionTyped(const QString &text) {
-    // A blank and a full stop are no part of an extension; dropping them here swallows them however they come
-    // in.
-    QString allowed = text;
-    allowed.remove(u' ').remove(u'.');
-    if (allowed != text) {
-        m_txtExt->setText(allowed);
-        return;
-    }
     m_cmdAdd->setEnabled(!text.isEmpty());
     if (text.isEmpty())
         return;
@@ -61,6 +59,22 @@ void dlgPreferences::extensionTyped(const QString &text) {
             return;
         }
     }
+}
+
+bool dlgPreferences::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == m_txtExt && event->type() == QEvent::KeyPress) {
+        const QString typed = static_cast<QKeyEvent *>(event)->text();
+        if (typed == u' ' || typed == u'.')
+            return true; // what is selected stays as well
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void dlgPreferences::keyPressEvent(QKeyEvent *event) {
+    if (isEnter(*event) && focusWidget() == m_txtExt)
+        addExtension();
+    else if (!pressToolButton(*event, focusWidget()))
+        QDialog::keyPressEvent(event);
 }
 
 void dlgPreferences::addExtension() {

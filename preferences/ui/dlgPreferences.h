@@ -42,6 +42,12 @@ class dlgPreferences : public QDialog {
     void init(const ProgramOptions &options, const QString &lastCheck);
     /// What the controls say.
     [[nodiscard]] ProgramOptions options() const;
+    /// Opens the page "Spelling", with the focus on the chosen provider.
+    void showSpellingPage();
+
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
   private:
     QWidget *displayPage();
@@ -65,6 +71,7 @@ class dlgPreferences : public QDialog {
     ProgramOptions m_options; ///< fonts are the dialog's working copy
     QString m_folder;
 
+    QTabWidget *m_tabs = nullptr;
     std::array<QRadioButton *, 2> m_optProp{};
     std::array<QLineEdit *, 2> m_txtFont{};
     QCheckBox *m_chkWordwrap = nullptr;

@@ -17,6 +17,8 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QValidator>
+#include <algorithm>
 
 namespace tolvo {
 
@@ -43,6 +45,20 @@ QToolButton *imageButton(const QString &name, const QString &icon, const QString
     return button;
 }
 
+/// A blank and a full stop are no part of an extension: they are dropped however they come in, and the caret
+/// stays between the characters where it was.
+class ExtensionValidator : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    State validate(QString &text, int &caret) const override {
+        const auto isDropped = [](QChar unit) { return unit == u' ' || unit == u'.'; };
+        caret -= static_cast<int>(std::count_if(text.cbegin(), text.cbegin() + caret, isDropped));
+        text.removeIf(isDropped);
+        return Acceptable;
+    }
+};
+
 QLabel *note(const QString &text) {
     auto *label = new QLabel(text);
     label->setWordWrap(true);
@@ -58,13 +74,13 @@ dlgPreferences::dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWi
     : QDialog(parent), m_actions(actions), m_boxes(boxes) {
     setObjectName(QStringLiteral("dlgPreferences"));
     setWindowTitle(tr("Options"));
-    auto *tabs = named(new QTabWidget, QStringLiteral("SSTab1"));
-    tabs->addTab(displayPage(), tr("Display"));
-    tabs->addTab(extensionsPage(), tr("Extensions"));
-    tabs->addTab(generalPage(), tr("General"));
-    tabs->addTab(spellingPage(), tr("Spelling"));
+    m_tabs = named(new QTabWidget, QStringLiteral("SSTab1"));
+    m_tabs->addTab(displayPage(), tr("Display"));
+    m_tabs->addTab(extensionsPage(), tr("Extensions"));
+    m_tabs->addTab(generalPage(), tr("General"));
+    m_tabs->addTab(spellingPage(), tr("Spelling"));
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(tabs, 1);
+    layout->addWidget(m_tabs, 1);
     layout->addWidget(buttonRow());
     findChild<QPushButton *>(QStringLiteral("OKButton"))->setDefault(true); // works only inside the dialog
 }
@@ -115,6 +131,8 @@ QWidget *dlgPreferences::extensionsPage() {
     m_cmdRemove = make<QPushButton>("cmdRemove", tr("&Remove"));
     m_cmdAdd->setEnabled(false);
     m_cmdRemove->setEnabled(false);
+    m_txtExt->setValidator(new ExtensionValidator(m_txtExt));
+    m_txtExt->installEventFilter(this);
     connect(m_txtExt, &QLineEdit::textChanged, this, &dlgPreferences::extensionTyped);
     connect(m_cmdAdd, &QPushButton::clicked, this, &dlgPreferences::addExtension);
     connect(m_cmdRemove, &QPushButton::clicked, this, &dlgPreferences::removeExtension);
@@ -153,7 +171,6 @@ QWidget *dlgPreferences::generalPage() {
     m_labLastCheck = named(new QLabel, QStringLiteral("labLastCheck"));
     const auto button = [this](const char *name, const QString &caption, auto action) {
         auto *result = make<QPushButton>(name, caption);
-        result->setAutoDefault(false);
         connect(result, &QPushButton::clicked, this, action);
         return result;
     };

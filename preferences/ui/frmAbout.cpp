@@ -51,7 +51,6 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
 
     auto *sysInfo = new QPushButton(tr("&System Info..."));
     sysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
-    sysInfo->setAutoDefault(false);
     connect(sysInfo, &QPushButton::clicked, this, &frmAbout::cmdSysInfo_Click);
     auto *ok = new QPushButton(tr("OK"));
     ok->setObjectName(QStringLiteral("cmdOK"));

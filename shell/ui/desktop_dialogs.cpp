@@ -59,7 +59,11 @@ frmSearch &DesktopDialogs::searchForm() {
 dlgDicQuickList &DesktopDialogs::languageForm() {
     if (!m_languageDialog) {
         m_languageDialog = std::make_unique<dlgDicQuickList>(m_services.spelling, &m_parent);
-        m_languageDialog->setOptionsOpener([this] { showOptions(); });
+        m_languageDialog->setOptionsOpener([this] {
+            prepareOptions();
+            m_preferences->showSpellingPage();
+            m_preferences->exec();
+        });
     }
     return *m_languageDialog;
 }
@@ -85,12 +89,16 @@ void DesktopDialogs::takeKeysBack() {
 }
 
 void DesktopDialogs::showOptions() {
+    prepareOptions();
+    m_preferences->exec();
+}
+
+void DesktopDialogs::prepareOptions() {
     if (!m_preferences)
         m_preferences = std::make_unique<dlgPreferences>(m_options, m_services.boxes, &m_parent);
     const QString startDate =
         m_services.store.GetSetting(statisticsTree(), QStringLiteral("Usage"), QStringLiteral("StartDate"));
     m_preferences->init(presentOptions(*m_session), lastCheckText(startDate, m_services.clock.now()));
-    m_preferences->exec();
 }
 
 void DesktopDialogs::configureProvider(int provider) {

@@ -75,6 +75,7 @@ class DesktopDialogs : public ToolDialogs, private SearchWindow, private ActionS
     std::optional<QString> editReplace(const QString &details);
     std::optional<QString> editLanguage(const QString &details);
 
+    void prepareOptions();
     void configureProvider(int provider);
     void takeKeysBack();
     [[nodiscard]] frmSearch &searchForm();

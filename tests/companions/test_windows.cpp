@@ -41,6 +41,10 @@ TEST(Advisor, WalksThroughTheTipsAndIsSwitchedOff) {
     EXPECT_TRUE(child<QCheckBox>(window, "chkShowTips").isChecked());
     click(window, "chkShowTips");
     EXPECT_EQ(store.GetSetting(u"Tolvo"_s, u"Preferences"_s, u"Show Tips at Startup"_s, 1), u"0"_s);
+    activate(window);
+    child<QWidget>(window, "cmdClose").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST(Tally, SortsByNumberAndPaintsBars) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A user in the Options.
+#include "platform/desktop/FontDialog.h"
 #include "platform/headless/SystemProcesses.h"
 #include "preferences/settings_store.h"
 #include "preferences/settings_table.h"
@@ -9,10 +10,14 @@
 #include "tests/ui/user.h"
 
 #include <QCheckBox>
+#include <QDoubleSpinBox>
+#include <QFontComboBox>
+#include <QFontInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 
 using namespace tolvo;
 
@@ -91,6 +96,75 @@ TEST_F(OptionsStory, extensionsAreAddedOnceAndInLowerCase) {
     EXPECT_TRUE(extensions().isEmpty());
 }
 
+TEST_F(OptionsStory, enterPressesWhatHasTheFocus) {
+    open();
+    activate(dialog);
+    auto &tabs = control<QTabWidget>("SSTab1");
+    const auto enterOn = [&](int page, const char *name) {
+        tabs.setCurrentIndex(page);
+        control<QWidget>(name).setFocus();
+        QTest::keyClick(&control<QWidget>(name), Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible()) << name;
+    };
+    enterOn(2, "cmdCheckNow");
+    enterOn(2, "cmdViewStats");
+    enterOn(3, "imgBrowse_2");
+    EXPECT_EQ(actions.done.join(u' '), QStringLiteral("check view provider 2"));
+    auto &extension = control<QLineEdit>("txtExt");
+    extension.setText(QStringLiteral("abc"));
+    enterOn(1, "txtExt");
+    enterOn(1, "txtExt"); // nothing to add
+    EXPECT_EQ(extensions(), QStringList{QStringLiteral("abc")});
+    QTest::keyClicks(&extension, QStringLiteral("qrs"));
+    extension.setCursorPosition(1);
+    QTest::keyClicks(&extension, QStringLiteral(" ."));
+    EXPECT_EQ(extension.cursorPosition(), 1);
+    extension.insert(QStringLiteral(".x y")); // as pasting does
+    EXPECT_EQ(extension.text(), QStringLiteral("qxyrs"));
+    EXPECT_EQ(extension.cursorPosition(), 3);
+    extension.selectAll();
+    QTest::keyClick(&extension, Qt::Key_Space);
+    EXPECT_EQ(extension.text(), QStringLiteral("qxyrs"));
+    dialog.showSpellingPage();
+    EXPECT_TRUE(control<QRadioButton>("optSpellingProvider_1").hasFocus());
+    EXPECT_TRUE(actions.applied.isEmpty());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // OK
+    EXPECT_EQ(actions.applied.size(), 1);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(OptionsStory, aFontThatIsNotInstalledKeepsItsName) {
+    ProgramOptions missing = load();
+    missing.fonts[0] = {QStringLiteral("No Such Font"), 8.25, false, true};
+    dialog.init(missing, {});
+    activate(dialog);
+    const QString standIn = QFontInfo(QFont(missing.fonts[0].name)).family();
+    withModal<FontDialog>([&](FontDialog &shown) {
+        EXPECT_EQ(child<QFontComboBox>(shown, "cmbFamily").currentFont().family(), standIn);
+        EXPECT_TRUE(child<QLabel>(shown, "labStandIn").text().contains(standIn));
+        EXPECT_EQ(child<QDoubleSpinBox>(shown, "txtSize").text(), QStringLiteral("8.25"));
+        child<QDoubleSpinBox>(shown, "txtSize").setValue(11);
+        click(shown, "chkBold");
+        click(shown, "OKButton");
+    });
+    control<QAbstractButton>("Image1_0").click();
+    EXPECT_EQ(dialog.options().fonts[0], (Font{missing.fonts[0].name, 11, true, true}));
+    EXPECT_EQ(control<QLineEdit>("txtFont_0").text(), QStringLiteral("No Such Font Bold Italic 11 pt"));
+    QString other;
+    withModal<FontDialog>([&](FontDialog &shown) {
+        auto &families = child<QFontComboBox>(shown, "cmbFamily");
+        families.setCurrentIndex(families.currentIndex() == 0 ? 1 : 0);
+        other = families.currentFont().family();
+        click(shown, "OKButton");
+    });
+    control<QAbstractButton>("Image1_0").click();
+    EXPECT_NE(other, standIn);
+    EXPECT_EQ(dialog.options().fonts[0].name, other);
+    withModal<FontDialog>([](FontDialog &shown) { shown.reject(); });
+    control<QAbstractButton>("Image1_1").click();
+    EXPECT_EQ(dialog.options().fonts[1], fonts[1]);
+}
+
 TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     open();
     control<QCheckBox>("chkSounds").setChecked(false);
@@ -120,6 +194,16 @@ TEST_F(OptionsStory, cancelAppliesNothingAndTheNextOpeningShowsTheOldState) {
     open();
     EXPECT_TRUE(control<QCheckBox>("chkShowTips").isChecked());
     EXPECT_TRUE(extensions().isEmpty());
+}
+
+TEST_F(OptionsStory, openOnWhatCantBeRead) {
+    for (const char16_t *key : {u"Show Tips at Startup", u"Sounds", u"CheckUpdates", u"AllowStats"})
+        writeSetting(store, u"Preferences", key, QStringLiteral("yes please"));
+    writeSetting(store, u"Spelling", u"Provider", QStringLiteral("none"));
+    dialog.init(load(), lastCheckText(QStringLiteral("yesterday"), QDateTime::currentDateTime()));
+    EXPECT_FALSE(control<QCheckBox>("chkSounds").isChecked());
+    EXPECT_TRUE(control<QRadioButton>("optSpellingProvider_1").isChecked());
+    EXPECT_EQ(control<QLabel>("labLastCheck").text(), QStringLiteral("You have never checked for updates"));
 }
 
 TEST_F(OptionsStory, aProviderOutsideTheListIsKept) {
