@@ -3,6 +3,7 @@
 
 #include "base/CParams.h"
 #include "base/conversions.h"
+#include "platform/desktop/enter_key.h"
 #include "platform/icons/themed_icon.h"
 #include "platform/report_error.h"
 #include "spelling/locales.h"
@@ -48,11 +49,7 @@ dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *pare
     imgBrowse->setFocusPolicy(Qt::StrongFocus);
     layOut();
     connect(imgBrowse, &QToolButton::clicked, this, [this] { manageDictionaries(); });
-    connect(labChange, &QLabel::linkActivated, this, [this] {
-        m_openOptions();
-        showProvider();
-        FillSpelling();
-    });
+    connect(labChange, &QLabel::linkActivated, this, &dlgDicQuickList::changeProvider);
 }
 
 void dlgDicQuickList::layOut() {
@@ -81,6 +78,20 @@ void dlgDicQuickList::layOut() {
     rows->addWidget(note);
     rows->addStretch(1);
     rows->addWidget(buttons);
+}
+
+void dlgDicQuickList::keyPressEvent(QKeyEvent *event) {
+    // A label gives the focus to itself first and to its link at the next Tab: Enter works from the first.
+    if (isEnter(*event) && focusWidget() == labChange)
+        changeProvider();
+    else if (!pressToolButton(*event, focusWidget()))
+        QDialog::keyPressEvent(event);
+}
+
+void dlgDicQuickList::changeProvider() {
+    m_openOptions();
+    showProvider();
+    FillSpelling();
 }
 
 void dlgDicQuickList::setOptionsOpener(std::function<void()> opener) {

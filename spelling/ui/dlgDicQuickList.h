@@ -29,8 +29,12 @@ class dlgDicQuickList : public QDialog, public LanguageChooser {
     /// Opens the Options; while there is nothing to open them, labChange is not shown.
     void setOptionsOpener(std::function<void()> opener);
 
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
   private:
     void layOut();
+    void changeProvider();
     void showProvider();
     void FillSpelling();
     void selectLanguage(int LangID);

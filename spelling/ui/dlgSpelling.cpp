@@ -7,12 +7,12 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QShowEvent>
-#include <QSignalBlocker>
 
 namespace tolvo {
 
@@ -46,6 +46,7 @@ dlgSpelling::dlgSpelling(const SpellingServices &services, QWidget *parent)
     columns->addLayout(layOutText(), 1);
     columns->addLayout(layOutButtons());
     connectEntry();
+    arrangeTabOrder();
     const QFontMetrics metrics = fontMetrics();
     resize(metrics.averageCharWidth() * 100, metrics.lineSpacing() * 30);
 }
@@ -123,7 +124,18 @@ QLayout *dlgSpelling::layOutButtons() {
     return column;
 }
 
+/// As the eye goes: down the left column, then down the buttons.
+void dlgSpelling::arrangeTabOrder() {
+    QList<QWidget *> order{rtbText, txtCorrection, lstSuggestions, chkSmartReplace};
+    for (QPushButton *button : findChildren<QPushButton *>())
+        order += button;
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
 void dlgSpelling::connectEntry() {
+    txtCorrection->installEventFilter(this);
+    lstSuggestions->installEventFilter(this);
     connect(txtCorrection, &QLineEdit::textChanged, this, [this](const QString &text) {
         if (!m_refreshing)
             act(QStringLiteral("txtCorrection"), [&](ErrorWalk &walk) { walk.setCorrection(text); });
@@ -150,11 +162,43 @@ void dlgSpelling::connectEntry() {
     });
 }
 
+/// Down leads from the replacement into the list and Up back again; Enter opens the row that stands for more.
+bool dlgSpelling::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    const int row = lstSuggestions->currentRow();
+    if (watched == txtCorrection && key == Qt::Key_Down && lstSuggestions->isEnabled()) {
+        lstSuggestions->setFocus();
+        if (row < 0)
+            lstSuggestions->setCurrentRow(0);
+        return true;
+    }
+    if (watched == lstSuggestions && key == Qt::Key_Up && row <= 0) {
+        txtCorrection->setFocus();
+        return true;
+    }
+    if (watched == lstSuggestions && (key == Qt::Key_Return || key == Qt::Key_Enter) && row >= 0 &&
+        lstSuggestions->item(row)->text() == moreSuggestionsRow()) {
+        act(QStringLiteral("lstSuggestions"), [row](ErrorWalk &walk) {
+            walk.clickSuggestion(row); // opens it
+            walk.clickSuggestion(row); // takes its first row, as the arrow keys do
+        });
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
 /// A rule runs, and what it throws goes no further than here; then the controls show where the walk is.
 void dlgSpelling::act(const QString &name, const std::function<void(ErrorWalk &)> &rule) {
     if (!m_walk)
         return;
-    reportFailures(m_services.boxes, QStringLiteral("dlgSpelling"), name, [&] { rule(*m_walk); });
+    reportFailures(m_services.boxes, QStringLiteral("dlgSpelling"), name, [&] {
+        try {
+            rule(*m_walk);
+        } catch (const CheckCancelled &) { // the walk stays where it is
+        }
+    });
     if (m_walk->isOver())
         done(m_walk->bCancelled() ? Rejected : Accepted);
     else
@@ -175,12 +219,19 @@ void dlgSpelling::refresh() {
         txtCorrection->selectAll();
     }
     refreshSuggestions(controls);
-    cmdChange->setEnabled(controls.cmdChangeEnabled);
-    cmdChangeAll->setEnabled(controls.cmdChangeAllEnabled);
-    cmdDelete->setEnabled(controls.cmdDeleteEnabled);
-    cmdUndo->setEnabled(controls.cmdUndoEnabled);
+    setUsable(*cmdChange, controls.cmdChangeEnabled);
+    setUsable(*cmdChangeAll, controls.cmdChangeAllEnabled);
+    setUsable(*cmdDelete, controls.cmdDeleteEnabled);
+    setUsable(*cmdUndo, controls.cmdUndoEnabled);
     rtbText->showText(m_walk->rtbText(), m_walk->errorStart());
     m_refreshing = false;
+}
+
+/// A control that goes grey under the focus would hand it to its neighbour, and the next key would act there.
+void dlgSpelling::setUsable(QWidget &control, bool usable) {
+    if (!usable && focusWidget() == &control)
+        txtCorrection->setFocus();
+    control.setEnabled(usable);
 }
 
 void dlgSpelling::refreshSuggestions(const WalkControls &controls) {
@@ -191,7 +242,7 @@ void dlgSpelling::refreshSuggestions(const WalkControls &controls) {
         lstSuggestions->clear();
         lstSuggestions->addItems(controls.lstSuggestions);
     }
-    lstSuggestions->setEnabled(controls.lstSuggestionsEnabled);
+    setUsable(*lstSuggestions, controls.lstSuggestionsEnabled);
     // A list that can't be used still holds a remark for the user to read.
     for (int row = 0; row < lstSuggestions->count(); ++row)
         lstSuggestions->item(row)->setForeground(palette().brush(QPalette::Active, QPalette::Text));

@@ -34,6 +34,7 @@ class dlgSpelling : public QDialog, public SpellingWalk {
 
   protected:
     void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
     QLayout *layOutText();
@@ -42,8 +43,10 @@ class dlgSpelling : public QDialog, public SpellingWalk {
     QPushButton *addRule(QBoxLayout &column, const QString &name, const QString &caption,
                          void (ErrorWalk::*rule)());
     void connectEntry();
+    void arrangeTabOrder();
     void act(const QString &name, const std::function<void(ErrorWalk &)> &rule);
     void refresh();
+    void setUsable(QWidget &control, bool usable);
     void refreshSuggestions(const WalkControls &controls);
 
     const SpellingServices &m_services;

@@ -107,10 +107,64 @@ TEST_F(Dialogs, ReportAFailureAndGoOn) {
         click(window, "cmdChange");
         EXPECT_EQ(said(), QStringList(u("5012 Busy (dlgSpelling::cmdChange)")));
         EXPECT_EQ(mistake(window), u("fox"));
+        http.reply = {0, {}, {}, true}; // Esc
+        click(window, "cmdChange");
+        EXPECT_EQ(mistake(window), u("fox"));
         http.reply = {0, u("gone"), {}};
         click(window, "cmdChange"); // no answer counts as no error
     });
     EXPECT_EQ(result, u("a dog a teh"));
+}
+
+TEST_F(Dialogs, AreUsedWithTheKeyboardAlone) {
+    const auto focus = [] { return QApplication::focusWidget()->objectName(); };
+    const QString result = check("teh zqx zqx fox", [&](QDialog &window) {
+        const auto key = [](Qt::Key code) { QTest::keyClick(QApplication::focusWidget(), code); };
+        QStringList order;
+        for (int i = 0; i < 15; ++i, key(Qt::Key_Tab))
+            order += focus();
+        EXPECT_EQ(order.join(u' '),
+                  u("txtCorrection lstSuggestions chkSmartReplace cmdIgnore cmdIgnoreAll cmdAddToDic "
+                    "cmdChange cmdChangeAll cmdExplain cmdHelp cmdStop cmdCancel rtbText txtCorrection "
+                    "lstSuggestions"));
+        child<QWidget>(window, "cmdChange").setFocus();
+        key(Qt::Key_Space);
+        EXPECT_EQ(mistake(window), u("zqx")); // nothing to change it to
+        EXPECT_EQ(focus(), u("txtCorrection"));
+        key(Qt::Key_Down); // into no list
+        EXPECT_EQ(focus(), u("txtCorrection"));
+        key(Qt::Key_Space);
+        EXPECT_EQ(mistake(window), u("zqx"));
+        child<QWidget>(window, "cmdIgnore").setFocus();
+        key(Qt::Key_Space);
+        child<QWidget>(window, "cmdDelete").setFocus();
+        key(Qt::Key_Return); // a button with the focus is the one that Enter presses
+    });
+    EXPECT_EQ(result, u("the zqx fox"));
+}
+
+TEST_F(Dialogs, OpenMoreSuggestionsByEnter) {
+    service(error("teh", "spelling", "a", {"then"}));
+    const QString result = check("a teh", [](QDialog &window) {
+        auto &correction = child<QLineEdit>(window, "txtCorrection");
+        auto &list = child<QListWidget>(window, "lstSuggestions");
+        EXPECT_EQ(correction.text(), u("then"));
+        QTest::keyClick(&correction, Qt::Key_Down);
+        EXPECT_TRUE(list.hasFocus());
+        EXPECT_EQ(list.currentRow(), 0);
+        QTest::keyClick(&list, Qt::Key_Up);
+        EXPECT_TRUE(correction.hasFocus());
+        list.setFocus();
+        QTest::keyClick(&list, Qt::Key_End);
+        EXPECT_EQ(list.currentItem()->text(), u("<More...>"));
+        EXPECT_EQ(correction.text(), u("then"));
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(list.currentItem()->text(), u("the"));
+        EXPECT_EQ(correction.text(), u("the"));
+        QTest::keyClick(&list, Qt::Key_Return); // Change
+    });
+    EXPECT_EQ(result, u("a the"));
 }
 
 TEST_F(Dialogs, WalkALongTextWithARealDictionary) {
@@ -208,6 +262,21 @@ TEST_F(Dialogs, AskForTheLanguage) {
         click(window, "OKButton");
     });
     EXPECT_NE(dialogList.GetLangID(-2, false), -2);
+
+    int opened = 0;
+    dialogList.setOptionsOpener([&opened] { ++opened; });
+    store.SaveSetting(u("Tolvo"), u("Spelling"), u("LangID"), u("none")); // counts as the default
+    withModal<QDialog>([](QDialog &window) {
+        child<QWidget>(window, "labChange").setFocus(Qt::TabFocusReason);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        withModal<QDialog>([](QDialog &list) { list.reject(); });
+        child<QWidget>(window, "imgBrowse").setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_TRUE(window.isVisible());
+        click(window, "OKButton");
+    });
+    EXPECT_EQ(dialogList.GetLangID(-2, false), -1);
+    EXPECT_EQ(opened, 1);
 }
 
 TEST_F(Dialogs, ManageWordsLanguages) {
