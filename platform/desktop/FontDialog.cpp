@@ -81,10 +81,10 @@ void FontDialog::layOut() {
             "labStandIn");
         note->setTextFormat(Qt::PlainText);
         note->setWordWrap(true);
-        form->addRow(note);
+        form->addRow(QString(), note);
     }
     form->addRow(tr("&Size:"), txtSize);
-    form->addRow(style);
+    form->addRow(QString(), style);
     form->addRow(txtSample);
     form->addRow(buttons);
     txtSample->setMinimumHeight(fontMetrics().height() * 3);

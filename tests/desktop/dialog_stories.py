@@ -3,6 +3,7 @@
 
 import os
 import signal
+import socket
 import unittest
 
 from desk import FIELD, Settings, Story, keys, type_text, wait_for
@@ -94,6 +95,32 @@ class DialogStories(Story):
         run.click("Stop")
         run.main_is_active()
         self.assertRegex(run.text(), "^Thiss colour is (?!wron,)")
+
+    def test_the_provider_is_changed_on_the_way(self):
+        run = self.start("teh text")
+        run.tool("Check", "Spelling...")
+        run.active("Select dictionary")
+        keys("Tab", "Tab", "Return")  # "Change"
+        run.active("Options")
+        keys("Down", "Return")  # from Hunspell on the page "Spelling" to the next provider, OK
+        run.active("Select dictionary")
+        run.find("Provider: After the Deadline")
+        keys("Escape")
+        run.main_is_active()
+
+    def test_escape_ends_a_request(self):
+        self.settings.write("Tolvo", "Spelling", "Provider", "2")
+        with socket.create_server(("127.0.0.1", 0)) as silent:
+            run = self.start("teh text", TOLVO_ATD_URL=f"http://127.0.0.1:{silent.getsockname()[1]}")
+            run.tool("Check", "Spelling...")
+            run.active("Select dictionary")
+            keys("Return")
+            run.status_becomes("Checking. Please wait...")
+            with silent.accept()[0]:
+                keys("Escape")
+                run.status_becomes("Status")  # its name while it is empty
+                self.assertEqual(len(run.windows()), 1)  # and no box
+                run.text_becomes("teh text")
 
     def test_cancelled_spelling_leaves_the_text(self):
         run = self.start("Thiss is wron.")

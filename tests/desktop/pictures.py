@@ -133,6 +133,12 @@ def options(run, photographer):
         run.active("Options")
         run.page(page)
         photographer.take("options-" + page.lower(), "Options")
+    run.page("Display")
+    run.click("Choose proportional font")
+    photographer.take("font", "Choose font")
+    keys("Escape")
+    run.active("Options")
+    run.page("Spelling")
     for provider, name, title in (("Hunspell", "language", "Select Language"),
                                   ("Microsoft Word", "quick-list", "Select Languages for Quick List")):
         run.click("Configure " + provider)

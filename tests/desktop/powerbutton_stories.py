@@ -59,6 +59,30 @@ class PowerButtonStories(Story):
         run.main_is_active()
         run.text_becomes("•\tTHREE\n•\tFOUR")
 
+    def test_in_two_runs(self):
+        first = self.start("one")
+        second = self.start("two")
+        second.click("PowerButton 1, not defined", 3)
+        second.active("Edit PowerButton 1")
+        second.click("UPPER CASE")
+        second.click(NAME, role=FIELD)
+        type_text("Shout")
+        second.click("OK")
+        second.main_is_active()
+        first.find("PowerButton 1: Shout")  # though nobody has touched its window
+        keys("alt+d")
+        second.ends()
+        first.main_is_active()
+        first.click("PowerButton 1: Shout", 3)
+        first.active("Edit PowerButton 1")
+        first.click("OK")
+        first.main_is_active()
+        keys("alt+d")
+        first.ends()
+        third = self.start("three")
+        keys("ctrl+1")
+        third.text_becomes("THREE")
+
     def choose_by_keys(self, run, beginning):
         """From the name to the tree, to the tool whose name begins so, and back to the name."""
         keys("shift+Tab")
