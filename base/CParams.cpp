@@ -15,4 +15,10 @@ void CParams::init(const QString &settings, const QString &pairSeparator, QChar 
     }
 }
 
+QString CParams::refusal(const QString &advice) {
+    return QStringLiteral(
+               "A comma followed by a space can't be stored in the settings of an Action.\r\n\r\n") +
+           advice;
+}
+
 } // namespace tolvo

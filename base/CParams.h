@@ -22,6 +22,12 @@ class CParams {
     /// The value of a key, "" if the key isn't there.
     [[nodiscard]] QString arg(const QString &key) const { return m_pairs.value(key); }
 
+    /// Whether a settings string with the separators above can hold the value: it would be cut at comma and
+    /// blank, and the rest read as pairs of its own.
+    [[nodiscard]] static bool canHold(QStringView value) { return !value.contains(u", "); }
+    /// What the user is told of a value that can't be held, followed by what to do about it.
+    [[nodiscard]] static QString refusal(const QString &advice);
+
     /// Whether the key is there at all: dialogs leave a control alone whose key is missing.
     [[nodiscard]] bool contains(const QString &key) const { return m_pairs.contains(key); }
 

@@ -171,6 +171,29 @@ QString SearchForm::request(bool bReplace) const {
     return result;
 }
 
+std::optional<SearchForm::Unkept> SearchForm::unkeptText(bool bReplace) const {
+    // A regular expression knows the escape by itself; so do the replacements of all but simple search.
+    const auto otherwise = [&](QString SearchForm::*text, bool knowsEscapes) -> Unkept {
+        if (knowsEscapes || specialChars)
+            return {text, false, CParams::refusal(QStringLiteral("Please write ,\\x20 instead"))};
+        return {text, true,
+                CParams::refusal(
+                    QStringLiteral("Please check \"Allow special characters\" and write ,\\x20 instead"))};
+    };
+    if (!CParams::canHold(find))
+        return otherwise(&SearchForm::find, mode == SearchMode::RegularExpression);
+    if (bReplace && !CParams::canHold(replace))
+        return otherwise(&SearchForm::replace, mode != SearchMode::Simple);
+    if (mode != SearchMode::Wildcard)
+        return {};
+    for (QString SearchForm::*separator : {&SearchForm::decimalSep, &SearchForm::groupingSep}) {
+        if (!CParams::canHold(this->*separator))
+            return Unkept{separator, false,
+                          CParams::refusal(QStringLiteral("Please enter another separator"))};
+    }
+    return {};
+}
+
 void SearchForm::rememberTexts() {
     if (find.isEmpty())
         return;

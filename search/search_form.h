@@ -45,6 +45,13 @@ struct SearchForm {
     /// missing mode means simple search.
     void readRequest(const QString &request, bool bReplace);
     [[nodiscard]] QString request(bool bReplace) const;
+    /// The first of its texts that request() would write and a settings string can't hold.
+    struct Unkept {
+        QString SearchForm::*text;
+        bool needsSpecialChars; ///< the text can be written otherwise, but not with special characters off
+        QString message;        ///< tells the user, with the other way to write it if there is one
+    };
+    [[nodiscard]] std::optional<Unkept> unkeptText(bool bReplace) const;
 
     /// Puts both texts in front of their lists. Nothing for an empty search text.
     void rememberTexts();

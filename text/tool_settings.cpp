@@ -98,7 +98,9 @@ struct CheckIfOne : Check {
 
 struct Text {
     [[nodiscard]] static QString stored(const QString &value) { return value; }
-    [[nodiscard]] static QString written(const QString &value) { return value; }
+    [[nodiscard]] static QString written(const QString &value) {
+        return CParams::canHold(value) ? value : QString();
+    }
     [[nodiscard]] static QString fromStore(const QString &text) { return text; }
     [[nodiscard]] static QString fromAction(const QString &text) { return text; }
     static void take(QString &value, const QString &text) { value = text; }

@@ -93,7 +93,8 @@ template <class Settings>
 template <class Settings>
 void saveSettings(SettingsStore &store, const Settings &settings);
 
-/// The settings string, keys and order as every PowerButton stores them.
+/// The settings string, keys and order as every PowerButton stores them. A text that it can't hold is left
+/// out: the dialogs refuse one that the tool would use.
 template <class Settings>
 [[nodiscard]] QString settingsString(const Settings &settings);
 

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
@@ -47,7 +48,7 @@ void frmSearch::connectControls() {
     connect(c.cmdSearch, &QPushButton::clicked, this, &frmSearch::cmdSearch_Click);
     connect(c.cmdReplace, &QPushButton::clicked, this, &frmSearch::cmdReplace_Click);
     connect(c.cmdReplaceAll, &QPushButton::clicked, this, &frmSearch::cmdReplaceAll_Click);
-    connect(c.cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(c.cmdOK, &QPushButton::clicked, this, &frmSearch::accept);
     connect(c.cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(c.imgSwop, &QToolButton::clicked, this, &frmSearch::swop);
     connect(c.cmdMore, &QPushButton::clicked, this, &frmSearch::toggleMore);
@@ -229,6 +230,29 @@ bool frmSearch::getSettings(QString &settings, bool bReplace) {
     if (confirmed)
         settings = m_form.request(bReplace);
     return confirmed;
+}
+
+QComboBox &frmSearch::listOf(QString SearchForm::*text) const {
+    if (text == &SearchForm::find)
+        return *m_controls.cmbSearchText;
+    if (text == &SearchForm::replace)
+        return *m_controls.cmbReplaceText;
+    return text == &SearchForm::decimalSep ? *m_controls.cmbDecimalSep : *m_controls.cmbThousandsSep;
+}
+
+void frmSearch::accept() {
+    readTexts();
+    const auto unkept = m_form.unkeptText(m_replacing);
+    if (!unkept) {
+        QDialog::accept();
+        return;
+    }
+    m_boxes.show({.text = unkept->message});
+    if (unkept->needsSpecialChars)
+        expandDialog();
+    QComboBox &list = listOf(unkept->text);
+    list.setFocus();
+    list.lineEdit()->selectAll();
 }
 
 /// Every command first remembers the texts, and gives the focus back to the list that had it.

@@ -39,12 +39,16 @@ class frmSearch final : public QDialog {
     /// Writes the state and the lists to the store.
     void saveState();
 
+    /// OK: refuses, with a message, a text that the settings can't hold.
+    void accept() override;
+
   private:
     void connectControls();
     void connectOptions();
     void useMode(bool bReplace);
     void showForm();
     void readTexts();
+    [[nodiscard]] QComboBox &listOf(QString SearchForm::*text) const;
     void applyRules();
     void fitSize();
     void run(const std::function<void()> &command);

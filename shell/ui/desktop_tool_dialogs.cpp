@@ -57,9 +57,9 @@ template <class Dialog>
 std::optional<QString> DesktopDialogs::editSettings(const QString &details) {
     // What the string leaves open is as the tool was used last; what is edited here stays out of that.
     return withDialog<Dialog>(m_session->toolSettings().get<SettingsOf<Dialog>>(),
-                              [&details](auto &dialog) -> std::optional<QString> {
+                              [&](auto &dialog) -> std::optional<QString> {
                                   QString edited = details;
-                                  if (!tolvo::getSettings(dialog, edited))
+                                  if (!tolvo::getSettings(dialog, edited, m_services.boxes))
                                       return std::nullopt;
                                   return edited;
                               });

@@ -9,53 +9,81 @@
 
 namespace tolvo {
 
+namespace {
+
+constexpr int smallestInt = std::numeric_limits<int>::min();
+constexpr int largestInt = std::numeric_limits<int>::max();
+
+} // namespace
+
 NumberBox::NumberBox(const QString &name, const QString &meaning, Limits limits, QWidget *parent)
     : QAbstractSpinBox(parent), m_limits(limits) {
     lineEdit()->setObjectName(name);
     setAccessibleName(meaning);
     lineEdit()->setAccessibleName(meaning);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::changed);
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
+        updateGeometry();
+        emit changed();
+    });
+    connect(lineEdit(), &QLineEdit::textEdited, this, &NumberBox::edited);
     connect(this, &QAbstractSpinBox::editingFinished, this, &NumberBox::leave);
 }
 
 int NumberBox::value() const {
-    return static_cast<int>(std::min(ValueOf(text()), 999999999.0));
+    const int number = static_cast<int>(std::clamp(ValueOf(text()), double{smallestInt}, double{largestInt}));
+    return m_limits.testedLater || text() == m_set ? number : std::max(number, m_limits.lowest);
 }
 
 void NumberBox::setValue(int value) {
-    lineEdit()->setText(QString::number(value));
+    m_set = QString::number(std::min(value, highestTyped()));
+    lineEdit()->setText(m_set);
+}
+
+void NumberBox::begin() {
+    setFocus();
+    selectAll();
 }
 
 QSize NumberBox::sizeHint() const {
-    const int digits = m_limits.highest > 99 ? 6 : 4;
-    const QSize text(fontMetrics().horizontalAdvance(u'0') * digits, lineEdit()->sizeHint().height());
+    const qsizetype usual = m_limits.highest > 99 ? 5 : 3;
+    const qsizetype characters = std::max(text().size(), usual) + 1; // one for the caret at the end
+    const QSize text(fontMetrics().horizontalAdvance(u'0') * static_cast<int>(characters),
+                     lineEdit()->sizeHint().height());
     QStyleOptionSpinBox option;
     initStyleOption(&option);
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this);
 }
 
+int NumberBox::highestTyped() const {
+    return m_limits.testedLater ? largestInt : m_limits.highest;
+}
+
 QValidator::State NumberBox::validate(QString &input, int &position) const {
-    QString digits;
+    if (input == m_set)
+        return QValidator::Acceptable;
+    QString kept;
     int before = 0;
     for (qsizetype i = 0; i < input.size(); ++i) {
-        if (!IsNumber(QStringView(input).sliced(i, 1)))
+        const QStringView character = QStringView(input).sliced(i, 1);
+        if (!IsNumber(character) && !(m_limits.takesMinus && kept.isEmpty() && character == u"-"))
             continue;
-        digits += input.at(i);
+        kept += character;
         before += i < position ? 1 : 0;
     }
-    const int highest = m_limits.testedLater ? Limits().highest : m_limits.highest;
-    if (ValueOf(digits) > highest)
-        digits = QString::number(highest);
-    input = digits;
-    position = std::min(before, static_cast<int>(digits.size()));
+    kept = ValueOf(kept) > highestTyped() ? QString::number(highestTyped())
+           : ValueOf(kept) < smallestInt  ? QString::number(smallestInt)
+                                          : kept;
+    input = kept;
+    position = std::min(before, static_cast<int>(kept.size()));
     return QValidator::Acceptable;
 }
 
 void NumberBox::stepBy(int steps) {
-    setValue(std::clamp(value() + steps, m_limits.lowest, m_limits.highest));
+    setValue(
+        static_cast<int>(std::clamp<qint64>(qint64{value()} + steps, m_limits.lowest, m_limits.highest)));
     selectAll();
-    emit stepped();
+    emit edited();
 }
 
 QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const {
@@ -68,8 +96,8 @@ QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const {
 }
 
 void NumberBox::leave() {
-    if (!m_limits.testedLater && (text().isEmpty() || value() < m_limits.lowest))
-        setValue(m_limits.lowest);
+    if (!m_limits.testedLater && text() != QString::number(value()))
+        setValue(value());
 }
 
 } // namespace tolvo

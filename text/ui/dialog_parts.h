@@ -6,12 +6,16 @@
 #include "text/tool_settings.h"
 
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <type_traits>
 
 namespace tolvo {
+
+class MessageBoxes;
 
 /// The text that shows what a tool will do with the settings as they stand. It can be read and copied, and is
 /// skipped by the TAB key.
@@ -43,6 +47,29 @@ class Options {
     QButtonGroup *m_group;
 };
 
+/// A dialog with a text of the user's own, in an editable list.
+class TextDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// From now on it collects the settings of an Action: OK refuses, with a message, a text that a settings
+    /// string can't hold.
+    void collectFor(MessageBoxes &boxes) { m_boxes = &boxes; }
+
+  public slots:
+    void accept() override;
+
+  protected:
+    TextDialog(const QString &listName, QWidget *parent);
+    [[nodiscard]] QComboBox &text() const { return *m_text; }
+    /// Whether the tool uses the text as things stand.
+    [[nodiscard]] virtual bool usesText() const { return true; }
+
+  private:
+    QComboBox *m_text;
+    MessageBoxes *m_boxes = nullptr;
+};
+
 /// A label in front of a control, which it names for those who don't see it.
 [[nodiscard]] QLabel *labelFor(QWidget *control, const QString &caption);
 
@@ -52,7 +79,9 @@ void finishDialog(QDialog &dialog, const QString &name, const QString &caption, 
 /// Edits the settings string of an Action with the dialog of its tool, which has been made from the values
 /// last used: they show where the string has no key. False on Cancel; the string then stays as it came.
 template <class Dialog>
-bool getSettings(Dialog &dialog, QString &details) {
+bool getSettings(Dialog &dialog, QString &details, MessageBoxes &boxes) {
+    if constexpr (std::is_base_of_v<TextDialog, Dialog>)
+        dialog.collectFor(boxes);
     auto settings = dialog.settings();
     applySettings(settings, CParams(details));
     dialog.setSettings(settings);

@@ -3,15 +3,13 @@
 
 #include "text/ui/dialog_parts.h"
 
-class QComboBox;
-
 namespace tolvo {
 
 class NumberBox;
 class cTextMethods;
 
 /// "Bullet List Style": which bullet is put before lines, with a sample of it.
-class dlgBullet : public QDialog {
+class dlgBullet : public TextDialog {
     Q_OBJECT
 
   public:
@@ -26,7 +24,6 @@ class dlgBullet : public QDialog {
     void refreshSample();
 
     const cTextMethods &m_engine;
-    QComboBox *m_bullet;
     Options m_tab;
     NumberBox *m_spaces;
     SampleBox *m_sample;

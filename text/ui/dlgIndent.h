@@ -3,14 +3,12 @@
 
 #include "text/ui/dialog_parts.h"
 
-class QComboBox;
-
 namespace tolvo {
 
 class NumberBox;
 
 /// "Indent": what is put before lines or taken off again.
-class dlgIndent : public QDialog {
+class dlgIndent : public TextDialog {
     Q_OBJECT
 
   public:
@@ -23,12 +21,14 @@ class dlgIndent : public QDialog {
     /// Puts the text, unless it is blank, on top of the list of recent ones.
     void accept() override;
 
+  protected:
+    [[nodiscard]] bool usesText() const override { return m_option.choice() == IndentSettings::WithText; }
+
   private:
     [[nodiscard]] QStringList recentTexts() const;
 
     Options m_option;
     NumberBox *m_spaces;
-    QComboBox *m_text;
 };
 
 } // namespace tolvo

@@ -19,13 +19,15 @@ constexpr const char *filler =
     "Tincidunt ut laoreet dolore magna aliquam erat volutpat. Ut wisi enim ad minim veniam, quis nostrud "
     "exerci tation.";
 
+constexpr NumberBox::Limits lineNumber{.lowest = 1, .takesMinus = true};
+
 } // namespace
 
 dlgNumLines::dlgNumLines(const cTextMethods &engine, const LineNumberSettings &settings, QWidget *parent)
     : QDialog(parent), m_engine(engine),
-      m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"), {1}, this)),
-      m_step(new NumberBox(QStringLiteral("txtStep"), tr("Increment"), {1}, this)),
-      m_every(new NumberBox(QStringLiteral("txtEvery"), tr("Every how many lines"), {1}, this)),
+      m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"), lineNumber, this)),
+      m_step(new NumberBox(QStringLiteral("txtStep"), tr("Increment"), lineNumber, this)),
+      m_every(new NumberBox(QStringLiteral("txtEvery"), tr("Every how many lines"), lineNumber, this)),
       m_ignoreBlanks(new QCheckBox(tr("Ignore blank lines"), this)),
       m_renumber(new QCheckBox(tr("Renumber"), this)), m_pad(new QCheckBox(tr("Pad with spaces"), this)),
       m_range(QStringLiteral("optRange"), {tr("Range &left"), tr("Range &right")}, this),
@@ -99,6 +101,7 @@ void dlgNumLines::setSettings(const LineNumberSettings &settings) {
     m_pad->setChecked(settings.pad);
     m_range.choose(settings.rangeRight ? 1 : 0);
     refresh();
+    m_start->begin();
 }
 
 void dlgNumLines::refresh() {

@@ -42,7 +42,7 @@ dlgNumberStyle::dlgNumberStyle(const cTextMethods &engine, const NumberListSetti
     setSettings(settings);
 
     connect(m_style, &QComboBox::currentIndexChanged, this, &dlgNumberStyle::styleChosen);
-    connect(m_spaces, &NumberBox::stepped, this, [this] { m_tab.choose(1); });
+    connect(m_spaces, &NumberBox::edited, this, [this] { m_tab.choose(1); });
     connect(m_followChar, &QComboBox::currentIndexChanged, this, &dlgNumberStyle::refreshSample);
     for (NumberBox *box : {m_start, m_spaces})
         connect(box, &NumberBox::changed, this, &dlgNumberStyle::refreshSample);

@@ -15,7 +15,7 @@ namespace tolvo {
 dlgWordWrap::dlgWordWrap(MessageBoxes &boxes, const WordWrapSettings &settings, QWidget *parent)
     : QDialog(parent), m_boxes(boxes),
       m_width(new NumberBox(QStringLiteral("txtWidth"), tr("Page width"),
-                            {WordWrapSettings::narrowest, WordWrapSettings::widest, true}, this)),
+                            {WordWrapSettings::narrowest, WordWrapSettings::widest, true, true}, this)),
       m_justify(new QCheckBox(tr("&Justify (no ragged right margin)"), this)),
       m_hanging(new QCheckBox(tr("&Hanging indent"), this)),
       m_tab(QStringLiteral("optTab"), {tr("&Tab"), tr("Eight &spaces")}, this) {
@@ -55,6 +55,7 @@ void dlgWordWrap::setSettings(const WordWrapSettings &settings) {
     m_hanging->setChecked(settings.hanging);
     m_tab.choose(settings.tab ? 0 : 1);
     m_tab.setEnabled(settings.hanging);
+    m_width->begin();
 }
 
 void dlgWordWrap::accept() {
@@ -67,8 +68,7 @@ void dlgWordWrap::accept() {
                                {QString::number(WordWrapSettings::narrowest),
                                 QString::number(WordWrapSettings::widest)}),
                   BoxIcon::Information});
-    m_width->setFocus();
-    m_width->selectAll();
+    m_width->begin();
 }
 
 } // namespace tolvo

@@ -197,6 +197,43 @@ TEST_F(SearchWindow, CollectsSettings) {
     EXPECT_TRUE(visible("cmdSearch") && !visible("cmdOK") && !window->isModal());
 }
 
+TEST_F(SearchWindow, SaysWhatSettingsCannotHold) {
+    const QString refusal =
+        "A comma followed by a space can't be stored in the settings of an Action.\r\n\r\n";
+    const QString otherwise = refusal + "Please write ,\\x20 instead";
+    const QString special = refusal + "Please check \"Allow special characters\" and write ,\\x20 instead";
+    struct Row {
+        const char *settings;
+        const char *list;
+        const char *typed;
+        QString message;
+    };
+    const Row rows[] = {
+        {"Mode=1, SpecialChars=0", "cmbSearchText", "a, MatchCase=1", special},
+        {"Mode=2, SpecialChars=1", "cmbSearchText", "a, b", otherwise},
+        {"Mode=3", "cmbSearchText", ", ", otherwise},
+        {"Mode=1, SpecialChars=0", "cmbReplaceText", ", ", special},
+        {"Mode=2, SpecialChars=0", "cmbReplaceText", ", ", otherwise},
+        {"Mode=2", "cmbThousandsSep", ", ", refusal + "Please enter another separator"},
+    };
+    for (const auto &row : rows) {
+        QString settings = QString::fromLatin1(row.settings) + ", Find=x, Replace=y, GroupingSep=.";
+        QTimer::singleShot(0, window.get(), [&, this] {
+            activate(*window);
+            find<QComboBox>(row.list).setEditText(row.typed);
+            click("cmdOK");
+            EXPECT_TRUE(window->isVisible());
+            EXPECT_EQ(said(), row.message);
+            EXPECT_TRUE(find<QComboBox>(row.list).hasFocus());
+            EXPECT_TRUE(row.message != special || visible("chkSpecialChars"));
+            type(",\\x20"); // in place of all of it
+            click("cmdOK");
+        });
+        EXPECT_TRUE(window->getSettings(settings, true));
+        EXPECT_TRUE(settings.contains("=,\\x20, ") || settings.endsWith("=,\\x20")) << row.typed;
+    }
+}
+
 TEST_F(SearchWindow, SurvivesAnOddStore) {
     const QString tree = QStringLiteral("Tolvo");
     for (int i = 0; i < 1000; ++i)

@@ -67,7 +67,8 @@ TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
     EXPECT_EQ(user.sees("txtStart"), u"1");
     user.types("txtSpaces", u"20"_s);
     EXPECT_EQ(user.sees("txtSpaces"), u"12");
-    EXPECT_TRUE(user.chosen("optTab_0")) << "typing leaves the choice alone";
+    EXPECT_TRUE(user.chosen("optTab_1"));
+    user.clicks("optTab_0");
     user.presses("txtSpaces", Qt::Key_Down);
     EXPECT_EQ(user.sees("txtSpaces"), u"11");
     EXPECT_TRUE(user.chosen("optTab_1"));
@@ -101,8 +102,8 @@ TEST_F(Dialogs, bulletTakesAnyText) {
     User user(dialog);
     auto &bullet = user.control<QComboBox>("cmbBulletChar");
     EXPECT_EQ(bullet.count(), 4);
-    QTest::keyClicks(bullet.lineEdit(), u"=>"_s);
-    EXPECT_TRUE(user.sample().startsWith(u"\u2022=>\tFirst list item|"));
+    QTest::keyClicks(dialog.focusWidget(), u"=>"_s);
+    EXPECT_TRUE(user.sample().startsWith(u"=>\tFirst list item|")) << "what it showed is typed over";
     bullet.setCurrentIndex(2);
     user.presses(Qt::Key_S, Qt::AltModifier);
     EXPECT_EQ(user.sample(), u"*  First list item|*  Second list item|*  Third list item");
@@ -117,6 +118,9 @@ TEST_F(Dialogs, indentRemembersItsTexts) {
     auto &text = user.control<QComboBox>("cmbIndentText");
     QTest::keyClicks(text.lineEdit(), u">"_s);
     EXPECT_TRUE(user.chosen("optTab_2"));
+    user.types("txtSpaces", u"8"_s);
+    EXPECT_TRUE(user.chosen("optTab_1"));
+    user.clicks("optTab_2");
     user.clicks("OKButton");
     EXPECT_EQ(dialog.settings().choice, IndentSettings::WithText);
     EXPECT_EQ(dialog.settings().text, u">");
@@ -126,7 +130,9 @@ TEST_F(Dialogs, indentRemembersItsTexts) {
     for (int i = 0; i < IndentSettings::mostRecentTexts; ++i)
         many.append(QString::number(i));
     dlgIndent full({IndentSettings::WithText, 4, u"new"_s, many});
-    User(full).presses(Qt::Key_Return);
+    User begin(full);
+    EXPECT_EQ(full.focusWidget()->objectName(), u"optTab_2"_s);
+    begin.presses(Qt::Key_Return);
     EXPECT_EQ(full.settings().recentTexts, QStringList(u"new"_s) + many.first(many.size() - 1));
 }
 
@@ -152,6 +158,26 @@ TEST_F(Dialogs, lineNumberingShowsItsRange) {
     EXPECT_EQ(dialog.settings(), (LineNumberSettings{9, 1, 2, true, false, false, true}));
 }
 
+TEST_F(Dialogs, numbersAreShownWholeAndAgreeWithTheSample) {
+    dlgNumLines dialog(engine, {-2147483647, 1, 1, true, true, false, false});
+    User user(dialog);
+    auto &start = user.control<QLineEdit>("txtStart");
+    EXPECT_EQ(start.text(), u"-2147483647");
+    EXPECT_GT(start.width(), start.fontMetrics().horizontalAdvance(start.text()));
+    EXPECT_EQ(dialog.settings().start, -2147483647) << "nobody has changed it";
+    QTest::keyClicks(dialog.focusWidget(), u"7"_s);
+    EXPECT_EQ(user.sees("txtStart"), u"7") << "what it showed is typed over";
+    user.types("txtStep", u"99999999999"_s);
+    EXPECT_EQ(user.sees("txtStep"), u"2147483647");
+    user.types("txtStep", u"-3"_s);
+    user.pastes("txtEvery", {});
+    const QString sample = user.sample();
+    EXPECT_TRUE(sample.startsWith(u"7 Lorem") && sample.contains(u"|8 Tincidunt"));
+    user.presses(Qt::Key_Return);
+    EXPECT_EQ(dialog.settings(), (LineNumberSettings{7, 1, 1, true, true, false, false}));
+    EXPECT_EQ(user.sample(), sample);
+}
+
 TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
     dlgWordWrap dialog(boxes, {});
     User user(dialog);
@@ -159,7 +185,7 @@ TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
     user.presses(Qt::Key_S, Qt::AltModifier);
     user.presses(Qt::Key_J, Qt::AltModifier);
     const QString refusal = u"Page width must lie between 12 and 255 inclusive"_s;
-    for (const char *width : {"11", "256", "", "99999999999"}) {
+    for (const char *width : {"11", "256", "", "99999999999", "-50"}) {
         user.pastes("txtWidth", QString::fromLatin1(width));
         user.clicks("OKButton");
         EXPECT_TRUE(dialog.isVisible()) << width;
@@ -189,10 +215,10 @@ TEST_F(Dialogs, removeLinesTellsWhetherItWasCancelled) {
 }
 
 TEST_F(Dialogs, settingsStringsAreEditedForActions) {
-    const auto edit = [](auto &dialog, const char *details, const char *button) {
+    const auto edit = [this](auto &dialog, const char *details, const char *button) {
         QTimer::singleShot(0, &dialog, [&dialog, button] { User(dialog).clicks(button); });
         QString text = QString::fromLatin1(details);
-        const bool done = getSettings(dialog, text);
+        const bool done = getSettings(dialog, text, boxes);
         EXPECT_EQ(done, QByteArrayView(button) == "OKButton");
         return text;
     };
@@ -203,6 +229,39 @@ TEST_F(Dialogs, settingsStringsAreEditedForActions) {
     dlgWordWrap wrap(boxes, {});
     EXPECT_EQ(edit(wrap, "Width=33, Hanging=1, Tab=False", "CancelButton"),
               u"Width=33, Hanging=1, Tab=False");
+}
+
+TEST_F(Dialogs, textsThatNoActionCanHoldAreRefused) {
+    const auto edit = [this](auto &dialog, const char *list, const char *option) {
+        QTimer::singleShot(0, &dialog, [this, &dialog, list, option] {
+            User user(dialog);
+            user.clicks("OKButton");
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_EQ(takeTexts(boxes).join(u'/'),
+                      u"A comma followed by a space can't be stored in the settings "
+                      "of an Action.\r\n\r\nPlease enter another text"_s);
+            EXPECT_EQ(dialog.focusWidget(), &user.control<QComboBox>(list));
+            if (option != nullptr)
+                user.clicks(option);
+            else
+                QTest::keyClicks(dialog.focusWidget(), u"a,"_s); // all of it was selected
+            user.clicks("OKButton");
+        });
+        QString details;
+        EXPECT_TRUE(getSettings(dialog, details, boxes));
+        return details;
+    };
+    dlgBullet bullet(engine, {u"a, b"_s, true, 2});
+    EXPECT_EQ(edit(bullet, "cmbBulletChar", nullptr), u"Bullet=a,, Tab=True, Spaces=2");
+    const IndentSettings lastUsed{IndentSettings::WithText, 4, u", RadioButton=1"_s, {}};
+    dlgIndent typed(lastUsed);
+    EXPECT_EQ(edit(typed, "cmbIndentText", nullptr), u"Spaces=4, Text=a,, RadioButton=2");
+    dlgIndent unused(lastUsed);
+    EXPECT_EQ(edit(unused, "cmbIndentText", "optTab_0"), u"Spaces=4, Text=, RadioButton=0");
+    dlgIndent atOnce(lastUsed); // the tool itself takes any text
+    User(atOnce).presses(Qt::Key_Return);
+    EXPECT_EQ(atOnce.settings().text, lastUsed.text);
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(Dialogs, statisticsShowBothColumns) {
