@@ -20,9 +20,9 @@ void CharacterModel::setCharacters(const QList<char32_t> &characters) {
 }
 
 void CharacterModel::setFont(const QFont &font) {
-    beginResetModel();
     m_font = font;
-    endResetModel();
+    if (rowCount() > 0)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, m_columns - 1));
 }
 
 char32_t CharacterModel::at(const QModelIndex &index) const {

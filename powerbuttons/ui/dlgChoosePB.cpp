@@ -12,19 +12,34 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <limits>
 
 namespace tolvo {
 
 namespace {
 
-/// The spin box as it is, with a way to name the text box in it.
+/// Shows any number, so that a stored one of no button is seen as it is; the up-down goes through the
+/// buttons.
 class NumberBox : public QSpinBox {
   public:
     explicit NumberBox(QWidget *parent) : QSpinBox(parent) {
         setObjectName(QStringLiteral("VScroll1"));
         lineEdit()->setObjectName(QStringLiteral("txtButtonNumber"));
-        setRange(1, CPowerButtonCollection::buttonCount);
+        setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     }
+
+  protected:
+    void stepBy(int steps) override {
+        setValue(static_cast<int>(std::clamp<qint64>(qint64{value()} + steps, 1, last)));
+        selectAll();
+    }
+    [[nodiscard]] StepEnabled stepEnabled() const override {
+        return (value() > 1 ? StepDownEnabled : StepNone) | (value() < last ? StepUpEnabled : StepNone);
+    }
+
+  private:
+    static constexpr int last = CPowerButtonCollection::buttonCount;
 };
 
 } // namespace
@@ -69,7 +84,7 @@ bool dlgChoosePB::showDialog(QString &settings, int own) {
         if (mayChoosePowerButton(m_buttons, candidate, own))
             number = candidate;
     }
-    m_number->setValue(number);
+    m_number->setValue(number == 0 ? 1 : number);
     follow();
     m_number->setFocus();
     m_number->selectAll();

@@ -62,6 +62,8 @@ void dlgEditIcon::makeControls() {
     m_size->setAccessibleName(tr("Size of the font"));
     m_size->setRange(smallestIconFont, largestIconFont);
     m_size->setPageStep(4);
+    // A scroll bar inverts its keys, which is right only for one that stands upright.
+    m_size->setInvertedControls(false);
     m_size->setFocusPolicy(Qt::StrongFocus);
     m_size->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     m_fontLabel->setObjectName(QStringLiteral("labFont"));

@@ -92,12 +92,16 @@ void dlgPickCharacter::makeTables() {
     for (const QString &character : m_recent)
         recent.append(static_cast<char32_t>(character.toUcs4().value(0)));
     m_recentCharacters->setCharacters(recent);
+    // The table would make it current, and with that the one to take, as soon as the focus passes through.
+    m_recentTable->selectionModel()->setCurrentIndex(m_recentCharacters->index(0, 0),
+                                                     QItemSelectionModel::NoUpdate);
     for (QTableView *table : {m_table, m_recentTable}) {
         table->installEventFilter(this);
-        connect(table, &QTableView::doubleClicked, this, &dlgPickCharacter::take);
+        connect(table, &QTableView::doubleClicked, this,
+                [this](const QModelIndex &index) { take(index.data(Qt::DisplayRole).toString()); });
         connect(table->selectionModel(), &QItemSelectionModel::currentChanged, this,
-                &dlgPickCharacter::showCurrent);
-        connect(table, &QTableView::clicked, this, &dlgPickCharacter::showCurrent);
+                &dlgPickCharacter::showCharacter);
+        connect(table, &QTableView::clicked, this, &dlgPickCharacter::showCharacter);
     }
 }
 
@@ -158,7 +162,7 @@ void dlgPickCharacter::find() {
     }
     m_table->scrollToTop();
     m_table->setCurrentIndex(m_characters->index(0, 0));
-    showCurrent(m_table->currentIndex());
+    showCharacter(m_table->currentIndex());
 }
 
 void dlgPickCharacter::showFont() {
@@ -169,17 +173,15 @@ void dlgPickCharacter::showFont() {
     m_chosen->setFont(QFont(shown.family(), font().pointSize()));
     shown.setPixelSize(fontMetrics().height() * 2);
     m_large->setFont(shown);
-    m_table->setCurrentIndex(m_characters->index(0, 0));
 }
 
-void dlgPickCharacter::showCurrent(const QModelIndex &index) {
+void dlgPickCharacter::showCharacter(const QModelIndex &index) {
     m_large->setText(index.data(Qt::DisplayRole).toString());
     m_name->setText(index.isValid() && !m_large->text().isEmpty() ? index.data(Qt::ToolTipRole).toString()
                                                                   : tr("No such character"));
 }
 
-void dlgPickCharacter::take(const QModelIndex &index) {
-    const QString character = index.data(Qt::DisplayRole).toString();
+void dlgPickCharacter::take(const QString &character) {
     m_chosen->setText(firstCharacters(m_chosen->text() + character, iconCharacters));
 }
 
@@ -188,7 +190,7 @@ bool dlgPickCharacter::eventFilter(QObject *watched, QEvent *event) {
     if (table != nullptr && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
-            take(table->currentIndex());
+            take(table->currentIndex().data(Qt::DisplayRole).toString());
             return true;
         }
     }
@@ -197,7 +199,7 @@ bool dlgPickCharacter::eventFilter(QObject *watched, QEvent *event) {
 
 void dlgPickCharacter::accept() {
     if (m_chosen->text().isEmpty())
-        take(m_table->currentIndex());
+        take(m_large->text());
     if (m_chosen->text().isEmpty())
         return;
     rememberChosen();

@@ -38,8 +38,9 @@ class dlgPickCharacter : public QDialog {
     void arrange();
     void find();
     void showFont();
-    void showCurrent(const QModelIndex &index);
-    void take(const QModelIndex &index);
+    /// Shows the character in large; it is the one that OK takes.
+    void showCharacter(const QModelIndex &index);
+    void take(const QString &character);
     void rememberChosen();
 
     QStringList &m_recent;

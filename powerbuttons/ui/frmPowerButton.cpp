@@ -6,6 +6,7 @@
 #include "powerbuttons/ui/dlgEditIcon.h"
 #include "powerbuttons/ui/icon_painter.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -35,8 +36,11 @@ void frmPowerButton::init(int index) {
     m_rules.init(index);
     setWindowTitle(m_rules.caption());
     m_name->setText(m_rules.button().Name);
+    m_tree->setCurrentItem(nullptr);
     m_tree->collapseAll();
-    m_tree->topLevelItemCount() > 0 ? m_tree->expandItem(m_tree->topLevelItem(0)) : void();
+    if (m_tree->topLevelItemCount() > 0)
+        m_tree->expandItem(m_tree->topLevelItem(0));
+    m_tree->scrollToTop();
     fill();
     m_name->setFocus();
 }
@@ -64,7 +68,7 @@ void frmPowerButton::fill() {
     m_right->setVisible(form.rightVisible);
     m_delete->setVisible(form.deleteVisible);
     m_examples->setVisible(form.examplesVisible);
-    m_icon->setIcon(toQIcon(iconOf(m_rules.button())));
+    m_icon->setIcon(toQIcon(shownIcon(m_rules.button(), m_rules.number())));
     showToolInTree();
 }
 
@@ -74,6 +78,7 @@ void frmPowerButton::showToolInTree() {
     for (QTreeWidgetItemIterator item(m_tree); *item != nullptr; ++item) {
         if (!token.isEmpty() && (*item)->data(0, Qt::UserRole) == token) {
             m_tree->setCurrentItem(*item);
+            m_tree->scrollToItem(*item); // a current item stays hidden in a group that has been closed
             return;
         }
     }
@@ -135,17 +140,30 @@ bool frmPowerButton::eventFilter(QObject *watched, QEvent *event) {
         m_name->text() == CPowerButton::undefinedName())
         // Behind the mouse press that sets the caret.
         QMetaObject::invokeMethod(m_name, "selectAll", Qt::QueuedConnection);
-    if (watched == m_tree && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
-            QTreeWidgetItem *item = m_tree->currentItem();
-            if (item != nullptr && item->parent() == nullptr)
-                item->setExpanded(!item->isExpanded());
-            choose(item);
-            return true;
-        }
-    }
+    if (watched == m_tree && event->type() == QEvent::KeyPress && treeKey(*static_cast<QKeyEvent *>(event)))
+        return true;
     return QDialog::eventFilter(watched, event);
+}
+
+bool frmPowerButton::treeKey(const QKeyEvent &key) {
+    const bool goesOn =
+        m_sinceTyped.isValid() && !m_sinceTyped.hasExpired(QApplication::keyboardInputInterval());
+    const bool types = !key.text().isEmpty() && key.text().front().isPrint() &&
+                       !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    const bool space = key.key() == Qt::Key_Space;
+    if (types && (!space || goesOn)) {
+        m_sinceTyped.start();
+        if (space)
+            m_tree->keyboardSearch(key.text());
+        return space;
+    }
+    if (!space && key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
+        return false;
+    QTreeWidgetItem *item = m_tree->currentItem();
+    if (item != nullptr && item->parent() == nullptr)
+        item->setExpanded(!item->isExpanded());
+    choose(item);
+    return true;
 }
 
 } // namespace tolvo

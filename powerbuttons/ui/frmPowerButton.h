@@ -5,9 +5,11 @@
 #include "powerbuttons/editor_rules.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QStringList>
 
 class QGroupBox;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QMenu;
@@ -49,6 +51,8 @@ class frmPowerButton : public QDialog, private ActionSettings {
     void fill();
     void showToolInTree();
     void choose(const QTreeWidgetItem *item);
+    /// True for a key of the tree that chooses, or that goes on with the name that is being typed.
+    bool treeKey(const QKeyEvent &key);
     void editIcon();
     bool save();
     void loadExample(const CPowerButton &example);
@@ -58,6 +62,7 @@ class frmPowerButton : public QDialog, private ActionSettings {
     ActionSettings &m_settings;
     EditorRules m_rules;
     QStringList m_recentCharacters;
+    QElapsedTimer m_sinceTyped; ///< since the last letter that was typed into the tree
 
     QTreeWidget *m_tree = nullptr;
     QWidget *m_head = nullptr;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The controls of the PowerButton editor.
+#include "platform/desktop/plain_tool_tip.h"
 #include "platform/icons/themed_icon.h"
 #include "powerbuttons/example_buttons.h"
 #include "powerbuttons/icon_geometry.h"
@@ -70,7 +71,7 @@ void frmPowerButton::makeTree(const Catalogue &tools) {
         else
             item = new QTreeWidgetItem(group);
         item->setText(0, tool->Name());
-        item->setToolTip(0, tool->Tooltip());
+        item->setToolTip(0, plainToolTip(tool->Tooltip()));
         if (tool->isHeading())
             group = item;
         else

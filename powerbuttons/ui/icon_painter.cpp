@@ -19,6 +19,17 @@ QFont iconFont(const Font &font) {
     return result;
 }
 
+ButtonIcon shownIcon(const CPowerButton &button, int number) {
+    ButtonIcon icon = iconOf(button);
+    if (!icon.text.trimmed().isEmpty())
+        return icon;
+    icon = {QString::number(number), {defaultIconFont(), iconUnits / 2, false, false}, 0, 0};
+    const QPointF position = centredPosition(icon);
+    icon.x = position.x();
+    icon.y = position.y();
+    return icon;
+}
+
 void paintIcon(QPainter &painter, const QRectF &target, const ButtonIcon &icon) {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
@@ -31,10 +42,6 @@ void paintIcon(QPainter &painter, const QRectF &target, const ButtonIcon &icon) 
     painter.setPen(Qt::black);
     painter.drawText(QPointF(icon.x, icon.y + QFontMetricsF(font).ascent()), icon.text);
     painter.restore();
-}
-
-void paintIcon(QPainter &painter, const QRectF &target, const CPowerButton &button) {
-    paintIcon(painter, target, iconOf(button));
 }
 
 QIcon toQIcon(const ButtonIcon &icon) {

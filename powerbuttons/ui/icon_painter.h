@@ -14,10 +14,12 @@ namespace tolvo {
 /// The side of an icon at 100 %, in pixels independent of the device.
 inline constexpr int iconSide = static_cast<int>(iconUnits);
 
+/// What is shown of a button's icon: its number in place of a text that it doesn't have.
+[[nodiscard]] ButtonIcon shownIcon(const CPowerButton &button, int number);
+
 /// Fills `target` with white and prints the text, scaled from the icon's units: sharp at every size, nothing
 /// outside `target`.
 void paintIcon(QPainter &painter, const QRectF &target, const ButtonIcon &icon);
-void paintIcon(QPainter &painter, const QRectF &target, const CPowerButton &button);
 
 /// The same as an icon for buttons and menus.
 [[nodiscard]] QIcon toQIcon(const ButtonIcon &icon);

@@ -2,6 +2,7 @@
 #include "shell/ui/MainWindow.h"
 
 #include "base/application.h"
+#include "platform/desktop/plain_tool_tip.h"
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
 #include "shell/ui/window_size.h"
@@ -41,7 +42,7 @@ void MainWindow::showStatus(const QString &text) {
 void MainWindow::showElidedStatus() {
     m_labStatus->setText(
         m_labStatus->fontMetrics().elidedText(m_status, Qt::ElideRight, m_labStatus->width()));
-    m_labStatus->setToolTip(m_labStatus->text() == m_status ? QString() : m_status);
+    m_labStatus->setToolTip(m_labStatus->text() == m_status ? QString() : plainToolTip(m_status));
     m_labStatus->setAccessibleName(m_status.isEmpty() ? tr("Status") : m_status);
 }
 

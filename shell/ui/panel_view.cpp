@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/panel_view.h"
 
+#include "platform/desktop/plain_tool_tip.h"
 #include "platform/icons/themed_icon.h"
 #include "shell/ui/any_click.h"
 
@@ -28,7 +29,7 @@ void PanelRowButton::showRow(const cToolbox::Row &row) {
     if (m_row == row)
         return;
     m_row = row;
-    setToolTip(row.tooltip);
+    setToolTip(plainToolTip(row.tooltip));
     setAccessibleName(row.text);
     setAccessibleDescription(row.tooltip);
     setFocusPolicy(row.visible ? Qt::TabFocus : Qt::NoFocus);

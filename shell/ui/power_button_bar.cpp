@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/power_button_bar.h"
 
+#include "platform/desktop/plain_tool_tip.h"
 #include "platform/icons/themed_icon.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "shell/ui/any_click.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace tolvo {
@@ -38,10 +40,19 @@ QSize PowerButtonImage::sizeHint() const {
 
 void PowerButtonImage::showButton(const CPowerButton &button) {
     m_button = button;
-    setToolTip(tooltip(button, m_number));
+    const QString tip = tooltip(button, m_number);
+    setToolTip(plainToolTip(tip));
+    setAccessibleDescription(tip);
     setAccessibleName(button.isDefined() ? tr("PowerButton %1: %2").arg(m_number).arg(button.Name)
                                          : tr("PowerButton %1, not defined").arg(m_number));
     update();
+}
+
+void PowerButtonImage::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
 }
 
 void PowerButtonImage::paintEvent(QPaintEvent *) {
@@ -49,7 +60,7 @@ void PowerButtonImage::paintEvent(QPaintEvent *) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect icon(frame, frame, iconSide, iconSide);
     if (m_button.isDefined()) {
-        paintIcon(painter, icon, m_button);
+        paintIcon(painter, icon, shownIcon(m_button, m_number));
     } else {
         painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
         painter.drawText(icon, Qt::AlignCenter, QString::number(m_number));

@@ -10,7 +10,7 @@
 
 namespace tolvo {
 
-/// One PowerButton: its text icon on white, or its number as long as nobody has defined it.
+/// One PowerButton: its text icon on white, or its number if it has none. Enter runs it as Space does.
 class PowerButtonImage : public QAbstractButton {
     Q_OBJECT
   public:
@@ -19,6 +19,7 @@ class PowerButtonImage : public QAbstractButton {
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
   private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/ui/dlgSpelling.h"
 
+#include "platform/desktop/plain_tool_tip.h"
 #include "platform/report_error.h"
 #include "spelling/ui/MarkedTextView.h"
 
@@ -211,7 +212,7 @@ void dlgSpelling::refresh() {
     setWindowTitle(controls.caption);
     labErrorType->setText(controls.labErrorType);
     labMistake->setText(controls.labMistake);
-    labMistake->setToolTip(controls.labMistake.left(1000));
+    labMistake->setToolTip(plainToolTip(controls.labMistake.left(1000)));
     labErrorDescription->setText(controls.labErrorDescription);
     labErrorDescription->setVisible(!controls.labErrorDescription.isEmpty());
     if (txtCorrection->text() != controls.txtCorrection) {

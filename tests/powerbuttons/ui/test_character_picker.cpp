@@ -4,6 +4,7 @@
 #include "tests/ui/user.h"
 
 #include <QComboBox>
+#include <QFontComboBox>
 #include <QLabel>
 #include <QTableView>
 
@@ -55,6 +56,21 @@ TEST(CharacterPicker, collectsUpToThreeAndRemembersThem) {
     picker.accept();
     EXPECT_EQ(picker.choice().text, u"\u2600\u2601\U0001F600"_s);
     EXPECT_EQ(recent.join(u' '), u"\u2600 \u2601 \U0001F600 x"_s);
+}
+
+TEST(CharacterPicker, takesTheCharacterThatItShows) {
+    QStringList recent{"x", "y"};
+    dlgPickCharacter picker("DejaVu Sans", recent);
+    activate(picker);
+    auto &list = child<QTableView>(picker, "tblRecent");
+    list.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(child<QLabel>(picker, "labCharacter").text(), "U+2600 BLACK SUN WITH RAYS");
+    const QModelIndex first = list.model()->index(0, 0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(first).center());
+    child<QFontComboBox>(picker, "cmbFont").setCurrentFont(QFont("DejaVu Serif"));
+    EXPECT_EQ(child<QLabel>(picker, "labCharacter").text(), "U+0078 LATIN SMALL LETTER X");
+    picker.accept();
+    EXPECT_EQ(picker.choice().text, "x");
 }
 
 } // namespace

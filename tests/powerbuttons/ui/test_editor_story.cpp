@@ -46,7 +46,9 @@ TEST_F(EditorStory, withTheMouse) {
     press("cmdAddAction");
     auto &menu = child<QMenu>(form, "mnuAddAction");
     ASSERT_TRUE(menu.isVisible());
-    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(menu.actions().at(2)).center());
+    const QPoint atEnd = menu.actionGeometry(menu.actions().at(2)).center();
+    QTest::mouseMove(&menu, atEnd); // a menu leaves the click of a mouse that hasn't moved since it opened
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, atEnd);
     EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), " Action 2 of 2");
     clickTool("Clean & Replace"); // a heading is no tool
     clickTool("Remove blank lines...");
@@ -87,6 +89,13 @@ TEST_F(EditorStory, withTheKeys) {
     QTest::keyClicks(&name, "Quiet");
     EXPECT_EQ(name.text(), "Quiet"); // the text was selected and is replaced
     tree.setFocus();
+    QTest::keyClicks(&tree, "Initial C"); // the space is a part of the name
+    EXPECT_FALSE(child<QLabel>(form, "labTool").isEnabled()) << "chosen while typing";
+    EXPECT_EQ(tree.currentItem()->text(0), "Initial Caps");
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClick(&tree, Qt::Key_Space);
+    EXPECT_EQ(label("labTool"), "Initial Caps");
+    boxes.expect("Replace 'Initial Caps' with 'lower case' in Action 1?", BoxAnswer::Yes);
     tree.setCurrentItem(tree.topLevelItem(0));
     QTest::keyClick(&tree, Qt::Key_Down);
     QTest::keyClick(&tree, Qt::Key_Down);
@@ -134,6 +143,41 @@ TEST_F(EditorStory, anotherPowerButtonAsAStep) {
     });
     press("cmdSettings");
     EXPECT_EQ(label("labDetails"), "PowerButton=3");
+    buttons.Item(2)->Item(1)->setDetails("PowerButton=12");
+    withModal<dlgChoosePB>([](dlgChoosePB &dialog) {
+        auto &number = child<QSpinBox>(dialog, "VScroll1");
+        EXPECT_EQ(number.text(), "12") << "shown as it is stored";
+        EXPECT_FALSE(child<QPushButton>(dialog, "OKButton").isEnabled());
+        number.stepDown();
+        EXPECT_EQ(number.text(), "8");
+    });
+    press("cmdSettings");
+}
+
+TEST_F(EditorStory, theTreeShowsTheToolOfTheActionEachTime) {
+    for (const char *token : {"soALP", "pbPST"})
+        buttons.Item(1)->Add(action(token));
+    auto &tree = child<QTreeWidget>(form, "tvwTools");
+    const auto shows = [&tree](const char *name) {
+        QTreeWidgetItem *item = tree.currentItem();
+        return item != nullptr && item->text(0) == QLatin1StringView(name) && item->isSelected() &&
+               tree.viewport()->rect().contains(tree.visualItemRect(item));
+    };
+    const QString first = tools.tool("soALP")->Name();
+    const QString second = tools.tool("pbPST")->Name();
+    for (int i = 0; i < 2; ++i) {
+        open(0);
+        EXPECT_TRUE(shows(qUtf8Printable(first))) << i;
+        press("cmdRight");
+        EXPECT_TRUE(shows(qUtf8Printable(second))) << i;
+        press("cmdLeft");
+        EXPECT_TRUE(shows(qUtf8Printable(first))) << i;
+        form.reject();
+        buttons.Item(1)->Add(action("soALP"));
+        buttons.Item(1)->Add(action("pbPST"));
+    }
+    open(7);
+    EXPECT_EQ(tree.currentItem(), nullptr) << "a blank Action has no tool";
 }
 
 TEST_F(EditorStory, anExampleToBeginWith) {

@@ -43,6 +43,15 @@ TEST(IconEditor, beginsWithALetterAndTakesASymbol) {
         EXPECT_EQ(text.text(), "A");
         child<QScrollBar>(shown, "FlatScrollBar1").setValue(20);
         EXPECT_EQ(child<QLabel>(shown, "labFont").text(), "Arial (20pt)");
+        for (const auto &[key, size] : {std::pair(Qt::Key_Right, 21),
+                                        {Qt::Key_Up, 22},
+                                        {Qt::Key_PageUp, 26},
+                                        {Qt::Key_Left, 25},
+                                        {Qt::Key_Down, 24},
+                                        {Qt::Key_PageDown, 20}}) {
+            QTest::keyClick(&child<QScrollBar>(shown, "FlatScrollBar1"), key);
+            EXPECT_EQ(child<QScrollBar>(shown, "FlatScrollBar1").value(), size);
+        }
         text.setText("four");
         EXPECT_EQ(text.text(), "fou");
         withModal<dlgPickCharacter>([](dlgPickCharacter &picker) {
@@ -91,6 +100,12 @@ TEST(IconPainter, printsAtThePlaceAtEveryScale) {
     EXPECT_NEAR(inkOf(icon, 4).left(), large.left() + 12, 1);
     icon.text.clear();
     EXPECT_TRUE(inkOf(icon, 1).isEmpty()); // white all over
+    CPowerButton button;
+    setIcon(button, icon);
+    EXPECT_EQ(shownIcon(button, 7).text, "7");
+    EXPECT_NEAR(inkOf(shownIcon(button, 7), 1).center().x(), iconSide / 2.0, 1.5);
+    button.IconText = "x";
+    EXPECT_EQ(shownIcon(button, 7), iconOf(button));
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
+#include <QTextDocumentFragment>
 
 using namespace tolvo;
 
@@ -137,6 +138,26 @@ TEST_F(MainWindowStory, theRightButtonRunsAToolWithItsLastSettings) {
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
     });
     EXPECT_EQ(pasted(), QStringLiteral("    x"));
+}
+
+TEST_F(MainWindowStory, aPowerButtonRunsByEnterAndShowsItsNameAsTyped) {
+    const QString section = QStringLiteral("PowerButtons\\Button 1");
+    store.SaveSetting(QStringLiteral("Tolvo"), section, QStringLiteral("Name"), QStringLiteral("<b>Loud"));
+    store.SaveSetting(QStringLiteral("Tolvo"), section + QStringLiteral("\\Action 1"),
+                      QStringLiteral("Token"), QStringLiteral("ccUPP"));
+    store.SaveSetting(QStringLiteral("Tolvo"), section + QStringLiteral("\\Action 1"),
+                      QStringLiteral("DlgOption"), QStringLiteral("0"));
+    run(QStringLiteral("x"), [] {
+        auto &button = child<QWidget>(*window(), "imgPower_0");
+        EXPECT_EQ(QTextDocumentFragment::fromHtml(button.toolTip()).toPlainText(),
+                  QStringLiteral("<b>Loud (Alt-F1)\nor Ctrl-1"));
+        EXPECT_TRUE(Qt::mightBeRichText(button.toolTip()));
+        button.setFocus();
+        QTest::keyClick(&button, Qt::Key_Return);
+        EXPECT_EQ(text()->toPlainText(), QStringLiteral("X"));
+        QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
+    });
+    EXPECT_EQ(pasted(), QStringLiteral("X"));
 }
 
 } // namespace
