@@ -43,11 +43,12 @@ TEST_F(EditorStory, withTheMouse) {
     EXPECT_FALSE(child<QWidget>(form, "optPrompt").isEnabled());
     clickTool("UPPER CASE");
     EXPECT_EQ(label("labTool"), "UPPER CASE");
+    // A menu takes a click only from a mouse that has moved since it opened, so the mouse must be somewhere.
+    QTest::mouseMove(&child<QWidget>(form, "cmdAddAction"));
     press("cmdAddAction");
     auto &menu = child<QMenu>(form, "mnuAddAction");
     ASSERT_TRUE(menu.isVisible());
     const QPoint atEnd = menu.actionGeometry(menu.actions().at(2)).center();
-    QTest::mouseMove(&menu, atEnd); // a menu leaves the click of a mouse that hasn't moved since it opened
     QTest::mouseClick(&menu, Qt::LeftButton, {}, atEnd);
     EXPECT_EQ(child<QGroupBox>(form, "frmAction").title(), " Action 2 of 2");
     clickTool("Clean & Replace"); // a heading is no tool
