@@ -3,6 +3,7 @@
 #include "base/application.h"
 #include "base/paths.h"
 #include "platform/clock.h"
+#include "platform/desktop/CommandKeys.h"
 #include "platform/desktop/DesktopClipboard.h"
 #include "platform/desktop/DesktopMessageBoxes.h"
 #include "platform/desktop/DesktopProcesses.h"
@@ -90,6 +91,7 @@ int main(int argc, char **argv) {
     // The fork behind this call has to come before anything of the toolkit exists.
     return runAsClipboardKeeper([&](KeeperSession &keeper) {
         const Application application(argc, argv);
+        const CommandKeys commandKeys;
         QApplication::setStyle(new WordsOnButtons);
         makeHintsReadable();
         QCoreApplication::setApplicationName(QStringLiteral("tolvo"));

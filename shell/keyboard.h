@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 
 namespace tolvo {
 
@@ -24,6 +25,8 @@ inline constexpr int F3 = 114;
 inline constexpr int F7 = 118;
 inline constexpr int F8 = 119;
 inline constexpr int Slash = 191;
+/// The letters that are commands with Alt alone.
+inline constexpr std::array AltLetters{D, Q, W};
 } // namespace keyCode
 
 /// Every operation that returns a flag tells whether the key is consumed: the window must then do nothing

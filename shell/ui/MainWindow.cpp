@@ -20,6 +20,7 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox) {
     m_session = &session;
     m_toolbox = &toolbox;
     m_keys.emplace(session);
+    connectAltLetters();
     m_panel->onClick = [this](int row, bool right) {
         m_session->bRightButton = right;
         m_session->lblToolbox_Click(*m_toolbox, row);

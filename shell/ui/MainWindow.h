@@ -65,6 +65,7 @@ class MainWindow : public QWidget {
                         std::function<void()> clicked);
     void arrangeTabOrder();
     void showElidedStatus();
+    void connectAltLetters();
     bool leaveTextBox(const QKeyEvent &event);
     bool keyPressed(const QKeyEvent &event, bool inTextBox);
 

@@ -1,94 +1,36 @@
 // SPDX-License-Identifier: MIT
-// Keys of the toolkit as the virtual key codes and characters that KeyboardCommands knows.
+// The way of a key from the window to KeyboardCommands.
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/key_strokes.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
+#include <QShortcut>
 
 namespace tolvo {
 
-namespace {
-
-int shiftState(Qt::KeyboardModifiers modifiers) {
-    return (modifiers.testFlag(Qt::ShiftModifier) ? Shift : 0) |
-           (modifiers.testFlag(Qt::ControlModifier) ? Ctrl : 0) |
-           (modifiers.testFlag(Qt::AltModifier) ? Alt : 0);
-}
-
-/// With Shift the digits of the upper row arrive as what is printed above them; their place on the keyboard
-/// tells them.
-int digitKey(const QKeyEvent &event) {
-#if defined(Q_OS_LINUX)
-    constexpr quint32 scanCodeOfDigit1 = 10;
-    const quint32 scanCode = event.nativeScanCode();
-    if (scanCode >= scanCodeOfDigit1 && scanCode < scanCodeOfDigit1 + 8)
-        return keyCode::Digit1 + static_cast<int>(scanCode - scanCodeOfDigit1);
-#endif
-    return event.key();
-}
-
-/// The virtual key code, or 0 for keys without a meaning here.
-int virtualKey(const QKeyEvent &event) {
-    const int key = event.key();
-    if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
-        return keyCode::F1 + key - Qt::Key_F1;
-    if (key == Qt::Key_Up)
-        return keyCode::Up;
-    if (key == Qt::Key_Down)
-        return keyCode::Down;
-    if (key == Qt::Key_Slash)
-        return keyCode::Slash;
-    if (event.modifiers().testFlag(Qt::ControlModifier)) {
-        const int digit = digitKey(event);
-        if (digit >= keyCode::Digit1 && digit <= keyCode::Digit8)
-            return digit;
+/// Alt and a letter is found as mnemonics are: Qt knows on every platform which key of a layout without Latin
+/// letters has the letter in another of the user's layouts.
+void MainWindow::connectAltLetters() {
+    for (const int letter : keyCode::AltLetters) {
+        const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(letter));
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, letter] {
+            if (!m_session->bSessionOver)
+                m_keys->formKeyDown(letter, ShiftState::Alt);
+        });
     }
-    return key > 0 && key < 0x80 ? key : 0;
 }
-
-/// The character of a key press, -1 for a key that types none. Ctrl and a letter give its position in the
-/// alphabet.
-int character(const QKeyEvent &event) {
-    const int key = event.key();
-    switch (key) {
-    case Qt::Key_Escape:
-        return 27;
-    case Qt::Key_Backspace:
-        return 8;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return 13;
-    case Qt::Key_Tab:
-        return 9;
-    default:
-        break;
-    }
-    if (event.modifiers().testFlag(Qt::ControlModifier) && !event.modifiers().testFlag(Qt::AltModifier)) {
-        if (key >= Qt::Key_A && key <= Qt::Key_Z)
-            return key - Qt::Key_A + 1;
-        if (key == Qt::Key_BracketLeft)
-            return 27;
-        if (key == Qt::Key_BracketRight)
-            return 29;
-        return -1;
-    }
-    return event.text().isEmpty() || key == Qt::Key_Delete ? -1 : event.text().front().unicode();
-}
-
-} // namespace
 
 bool MainWindow::keyPressed(const QKeyEvent &event, bool inTextBox) {
-    const int code = virtualKey(event);
-    if (m_keys->formKeyDown(code, shiftState(event.modifiers())))
+    const KeyStroke stroke = keyStroke(event);
+    if (m_keys->formKeyDown(stroke.code, stroke.shiftState))
         return true;
-    if (inTextBox && m_keys->textKeyDown(code))
+    if (inTextBox && m_keys->textKeyDown(stroke.code))
         return true;
-    const int typed = character(event);
-    if (typed < 0)
+    if (stroke.character < 0)
         return false;
-    return m_keys->formKeyPress(typed) || (inTextBox && m_keys->textKeyPress(typed));
+    return m_keys->formKeyPress(stroke.character) || (inTextBox && m_keys->textKeyPress(stroke.character));
 }
 
 /// The Tab key types a tab into the text; with Ctrl it goes on to the next control, with Shift too to the one
