@@ -4,6 +4,7 @@
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/key_strokes.h"
 
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QShortcut>
@@ -16,7 +17,9 @@ void MainWindow::connectAltLetters() {
     for (const int letter : keyCode::AltLetters) {
         const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(letter));
         connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, letter] {
-            if (!m_session->bSessionOver)
+            // Some layouts have Latin letters with Shift: that is another key.
+            const bool alone = !QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+            if (alone && !m_session->bSessionOver)
                 m_keys->formKeyDown(letter, ShiftState::Alt);
         });
     }

@@ -19,6 +19,8 @@ EDITS = [
     ("x «abcd»", "ctrl+u ctrl+z", "x «abcd»", None),
     ("«abcd»", "ctrl+u ctrl+z ctrl+y", "ABCD¦", None),
     ("ab¦", "c ctrl+z", "ab¦", None),
+    ("one two¦", "ctrl+BackSpace", "one ¦", None),
+    ("[«ab»]c", "alt+r alt+1 ctrl+alt+a ctrl+alt+1 super+j", "[«ab»]c", None),  # nothing to redo
     ("¦(a(b)c)", "ctrl+bracketright", "(a(b)c«)»", None),
     ("(a)¦", "ctrl+bracketleft", "«(»a)", None),
     ("{<b>¦}", "Escape", "«{»<b>}", None),
