@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# One run on Wayland: the text comes in, Copy and Close, and it can be pasted after the end. A compositor stands as a
-# window on a virtual X server, so that real keys reach it.
+# One run on Wayland with a Russian keyboard: the text comes in, Copy and Close, and it can be pasted after the end. A
+# compositor stands as a window on a virtual X server, so that real keys reach it; it takes the server's layouts.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 if [ "${1:-}" != inside ]; then exec "$here/on_display.sh" "$0" inside; fi
@@ -19,6 +19,7 @@ fail() {
 }
 wait_for() { for _ in $(seq 150); do "$@" >/dev/null 2>&1 && return 0; sleep 0.1; done; fail "waited in vain: $*"; }
 
+setxkbmap ru,us
 export WAYLAND_DISPLAY=tolvo-wayland
 weston --backend=x11-backend.so --use-pixman --config="$store/weston.ini" --socket="$WAYLAND_DISPLAY" --width=1100 \
     --height=800 >"$store/weston.log" 2>&1 &
@@ -39,9 +40,10 @@ run=$!
 started() { [ "$("$TOLVO_BIN/../tests/store_tool" "$TOLVO_SETTINGS" read Tolvo-Stats Usage Count)" = 1 ]; }
 wait_for started
 sleep 2 # for the window
-xdotool windowactivate --sync "$screen" key --delay 100 ctrl+a ctrl+u
+# By their codes: Ctrl-A, Ctrl-U, Alt-K, which means nothing, Alt-D.
+xdotool windowactivate --sync "$screen" key --delay 100 37+38 37+30 64+45
 sleep 0.5
-xdotool key alt+d
+xdotool key 64+40
 for _ in $(seq 100); do kill -0 "$run" 2>/dev/null || break; sleep 0.1; done
 kill -0 "$run" 2>/dev/null && fail "the run did not end: $(cat "$store/tolvo.log")"
 wait "$run" || fail "the run ended with $?: $(cat "$store/tolvo.log")"

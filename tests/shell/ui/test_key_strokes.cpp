@@ -42,6 +42,7 @@ TEST(KeyStrokes, areFoundByMeaning) {
         char16_t latin; ///< what the user's Latin layout has on this key, 0 where the layout is Latin itself
         KeyStroke expected;
         const char *typed = "";
+        quint32 native = 0; ///< native modifiers
     };
     const Row rows[] = {
         {"us", Qt::Key_D, {}, 40, "d", 0, {'D', 0, 'd'}, "d"},
@@ -73,6 +74,7 @@ TEST(KeyStrokes, areFoundByMeaning) {
         {"fr", Qt::Key_Ampersand, alt, 10, "&", 0, {0, Alt, -1}},
         {"fr", Qt::Key_ParenLeft, alt, 14, "(", 0, {0, Alt, -1}},
         {"es", Qt::Key_onehalf, ctrl | altGr, 14, "½", 0, {0, Ctrl, -1}, "½"},
+        {"es on Wayland", Qt::Key_onehalf, ctrl, 14, "½", 0, {0, Ctrl, -1}, "½", 0x80},
         // No Latin letter in the layout
         {"ru", 0x412, {}, 40, "в", u'd', {0, 0, 0x432}, "в"},
         {"ru", 0x412, alt, 40, "в", u'd', {'D', Alt, -1}},
@@ -87,7 +89,8 @@ TEST(KeyStrokes, areFoundByMeaning) {
         SCOPED_TRACE(testing::Message() << row.layout << " key " << row.key << " place " << row.place);
         latin = row.latin;
         Listener listener;
-        QKeyEvent event(QEvent::KeyPress, row.key, row.held, row.place, 0, 0, QString::fromUtf8(row.text));
+        QKeyEvent event(QEvent::KeyPress, row.key, row.held, row.place, 0, row.native,
+                        QString::fromUtf8(row.text));
         QCoreApplication::sendEvent(&listener, &event);
         EXPECT_EQ(listener.stroke.code, row.expected.code);
         EXPECT_EQ(listener.stroke.shiftState, row.expected.shiftState);
