@@ -8,6 +8,14 @@
 
 namespace tolvo {
 
+/// What the user did to the text of a box: typed, deleted, pasted, dropped.
+struct UserEdit {
+    QString before;   ///< the whole text before it
+    int selStart = 0; ///< the selection before it
+    int selLength = 0;
+    bool atOnce = false; ///< pasted or dropped: no part of what is typed next to it
+};
+
 /// A multi-line text with one selection. Lines end in CR LF; lone CR and LF are ordinary characters.
 /// Positions count UTF-16 code units from 0.
 ///
@@ -45,6 +53,9 @@ class TextBox {
 
     /// Called after every change of the text, by typing or by code.
     std::function<void()> onChange;
+
+    /// Called after every change that the user made, before onChange.
+    std::function<void(const UserEdit &edit)> onUserEdit;
 };
 
 /// Selects `length` units from `start`.

@@ -23,7 +23,9 @@ void runSearch(const SearchForm &form, CSearch &search, SearchHost &host) {
     }
 }
 
-void runReplace(const SearchForm &form, CSearch &search) {
+namespace {
+
+void replaceOne(const SearchForm &form, CSearch &search) {
     switch (form.mode) {
     case SearchMode::Simple:
         search.SimpleReplace(form.find, form.replace, form.specialChars, form.up(), form.down(),
@@ -40,7 +42,7 @@ void runReplace(const SearchForm &form, CSearch &search) {
     }
 }
 
-void runReplaceAll(const SearchForm &form, CSearch &search) {
+void replaceAll(const SearchForm &form, CSearch &search) {
     switch (form.mode) {
     case SearchMode::Simple:
         search.SimpleReplaceAll(form.find, form.replace, form.specialChars, form.matchCase, form.wholeWords,
@@ -54,6 +56,20 @@ void runReplaceAll(const SearchForm &form, CSearch &search) {
         search.RegExpReplaceAll(form.find, form.replace, form.matchCase, form.smartReplace, false);
         break;
     }
+}
+
+} // namespace
+
+void runReplace(const SearchForm &form, CSearch &search, SearchHost &host) {
+    host.pushUndo();
+    replaceOne(form, search);
+    host.pushUndo();
+}
+
+void runReplaceAll(const SearchForm &form, CSearch &search, SearchHost &host) {
+    host.pushUndo();
+    replaceAll(form, search);
+    host.pushUndo();
 }
 
 void runFindAll(const SearchForm &form, CSearch &search, SearchHost &host) {

@@ -8,9 +8,9 @@
 namespace tolvo {
 
 void runSearch(const SearchForm &form, CSearch &search, SearchHost &host);
-/// The first press selects, the next one replaces.
-void runReplace(const SearchForm &form, CSearch &search);
-void runReplaceAll(const SearchForm &form, CSearch &search);
+/// The first press selects, the next one replaces. Each replacement is an undo step of its own.
+void runReplace(const SearchForm &form, CSearch &search, SearchHost &host);
+void runReplaceAll(const SearchForm &form, CSearch &search, SearchHost &host);
 /// Lists all matches and shows the list. Nothing for an empty search text.
 void runFindAll(const SearchForm &form, CSearch &search, SearchHost &host);
 

@@ -52,4 +52,16 @@ bool cUndo::Redo(TextState &state) {
     return true;
 }
 
+void cUndo::insert(const TextState &state) {
+    m_states.insert(m_next, state);
+    ++m_next;
+    ++m_last;
+    m_hooks.enableUndo(true);
+}
+
+void cUndo::moveTo(int index) {
+    m_next = index + 1;
+    m_hooks.enableRedo(true);
+}
+
 } // namespace tolvo

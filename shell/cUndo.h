@@ -37,6 +37,18 @@ class cUndo {
     bool Pull(TextState &state);
     bool Redo(TextState &state);
 
+    // For TextHistory, which knows the ways between the states
+
+    [[nodiscard]] bool isEmpty() const { return m_next == 0; }
+    /// Index, from 0, of the state at which the text stands or from which it has been changed since. Not for
+    /// an empty buffer.
+    [[nodiscard]] int currentIndex() const { return m_next - 1; }
+    [[nodiscard]] const TextState &current() const { return m_states.at(m_next - 1); }
+    /// Puts a state that lies on the way to those of Redo before them, and makes it the current one.
+    void insert(const TextState &state);
+    /// Makes a state the current one to which, or past which, the text has been taken in single steps.
+    void moveTo(int index);
+
   private:
     void store(const TextState &state);
 

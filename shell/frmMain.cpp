@@ -10,15 +10,22 @@ frmMain::frmMain(const SessionServices &services, TextBox &txtText1, TextBox &tx
                    [&extensions = services.extensions](const QString &extension) {
                        return extensions.IsRegisteredExtension(extension);
                    }),
-      oUndo(undoHooks()), m_services(services), m_txtText1(txtText1), m_txtTextWW(txtTextWW),
-      m_txtCurrent(&txtText1), m_results(results), m_toolSettings(services.store) {
-    m_txtText1.onChange = [this] { m_dirty = true; };
-    m_txtTextWW.onChange = [this] { m_dirty = true; };
+      oUndo(undoHooks()), m_services(services), m_history(oUndo, services.clock), m_txtText1(txtText1),
+      m_txtTextWW(txtTextWW), m_txtCurrent(&txtText1), m_results(results), m_toolSettings(services.store) {
+    watch(m_txtText1);
+    watch(m_txtTextWW);
 }
 
 frmMain::~frmMain() {
-    m_txtText1.onChange = nullptr;
-    m_txtTextWW.onChange = nullptr;
+    for (TextBox *box : {&m_txtText1, &m_txtTextWW}) {
+        box->onChange = nullptr;
+        box->onUserEdit = nullptr;
+    }
+}
+
+void frmMain::watch(TextBox &box) {
+    box.onChange = [this] { m_dirty = true; };
+    box.onUserEdit = [this](const UserEdit &edit) { m_history.noteUserEdit(edit, textState()); };
 }
 
 cUndo::Hooks frmMain::undoHooks() {
@@ -63,7 +70,14 @@ TextState frmMain::textState() {
 }
 
 void frmMain::restore(const TextState &state) {
-    txtCurrent().setText(state.text);
+    TextBox &box = txtCurrent();
+    const TextEdit edit = changeBetween(box.Text(), state.text);
+    if (edit.removed.size() < box.length()) {
+        select(box, edit.position, static_cast<int>(edit.removed.size()));
+        box.setSelText(edit.inserted);
+    }
+    if (box.Text() != state.text)
+        box.setText(state.text);
     select(txtCurrent(), state.selStart, state.selLength);
 }
 

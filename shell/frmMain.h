@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/clipboard.h"
+#include "platform/clock.h"
 #include "platform/font.h"
 #include "platform/message_box.h"
 #include "platform/report_error.h"
@@ -16,6 +17,7 @@
 #include "search/CSearch.h"
 #include "shell/cUndo.h"
 #include "shell/session_windows.h"
+#include "shell/text_history.h"
 #include "shell/tool_settings_memory.h"
 #include "spelling/Proofing.h"
 #include "text/cTextMethods.h"
@@ -36,6 +38,7 @@ struct SessionServices {
     Clipboard &clipboard;
     MessageBoxes &boxes;
     SoundPlayer &sound;
+    const Clock &clock;
     FileExtensions &extensions;
     const Catalogue &oTools;
     CPowerButtonCollection &oPowerButtons;
@@ -88,8 +91,12 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void noteWarning() { ++m_warnings; }
 
     [[nodiscard]] TextState textState();
-    void pushUndo() { oUndo.Push(textState()); }
-    /// Writes text, start and length of the selection, in this order.
+    /// The text as it stands becomes a state of oUndo.
+    void pushUndo() override { m_history.push(textState()); }
+    /// Around a change of the text that is no state of its own: Ctrl-Z takes it back by itself.
+    void noteText() { m_history.note(textState()); }
+    /// Writes text, start and length of the selection, in this order. Where most of the text stays, the view
+    /// stays as well.
     void restore(const TextState &state);
 
     // The session (session.cpp)
@@ -112,6 +119,8 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void cmdRefresh_Click();
     void cmdUndo_Click();
     void cmdRedo_Click();
+    /// Takes back the last word that was typed, quick edit or tool (Ctrl-Z).
+    void undoStep();
     void imgWordwrap_Click();
     /// Shows the text wrapped or not and stores the choice; text, selection and bDirty stay.
     void toggleWordwrap(bool bOn);
@@ -177,7 +186,8 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void keepingText(Action &&action);
     void beep();
     [[nodiscard]] CloseAnswer askAboutChanges();
-    void showOtherState(bool (cUndo::*step)(TextState &));
+    void watch(TextBox &box);
+    void showOtherState(bool (TextHistory::*walk)(TextState &));
     void swapFonts();
     void hideWindow();
     [[nodiscard]] int languageOfCheck(const CAction *action);
@@ -187,13 +197,15 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void runTool(const QString &token);
     void runPowerButton(int index);
     void runAction(const CAction &action);
-    /// Runs `action`; a PowerButton that runs itself ends it with a report and the text as it was.
+    /// Runs `action`; a PowerButton that runs itself ends it with a report, and with text, status, bDirty and
+    /// undo as they were.
     template <class Action>
     void endingCycles(Action &&action);
     void runWithSettings(const CAction &action);
     void reportTroubleOfStore();
 
     SessionServices m_services;
+    TextHistory m_history;
     TextBox &m_txtText1;
     TextBox &m_txtTextWW;
     TextBox *m_txtCurrent;

@@ -168,7 +168,10 @@ bool KeyboardCommands::controlCharacter(int code) {
         m_session.cmdRedo_Click();
         return true;
     case charCode::CtrlZ:
-        undoTypingOrTool();
+        if ((shift & ShiftState::Shift) != 0)
+            m_session.cmdRedo_Click();
+        else
+            m_session.undoStep();
         return true;
     case charCode::CtrlOpeningBracket:
     case charCode::CtrlClosingBracket:
@@ -198,14 +201,6 @@ bool KeyboardCommands::repeatLastTool() {
     }
     m_session.setStatus(QStringLiteral("Repeated: ") + name);
     return true;
-}
-
-// Ctrl-Z takes back typing as the text box does as long as there is typing to take back, then whole tools.
-void KeyboardCommands::undoTypingOrTool() {
-    if ((m_session.iShiftState & ShiftState::Shift) != 0)
-        m_session.cmdRedo_Click();
-    else if (!m_session.services().view.undoTyping())
-        m_session.cmdUndo_Click();
 }
 
 } // namespace tolvo

@@ -64,7 +64,9 @@ class KeyboardCommands {
     bool commandKey(int code);
     bool controlCharacter(int charCode);
     bool repeatLastTool();
-    void undoTypingOrTool();
+    /// Runs an edit of `length` characters as one step of the history.
+    template <class Edit>
+    void quickEdit(int length, Edit edit);
     template <class Convert>
     void convertAtCaret(Convert convert);
     /// With a bare caret, the character behind it becomes the selection: both halves of a surrogate pair.

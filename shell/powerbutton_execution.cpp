@@ -35,11 +35,21 @@ class Listed {
 
 template <class Action>
 void frmMain::endingCycles(Action &&action) {
-    const TextState before = textState();
+    const auto takeBack = [this, text = textState(), undo = oUndo, history = m_history, status = m_status,
+                           dirty = m_dirty, undoEnabled = m_undoEnabled, redoEnabled = m_redoEnabled] {
+        restore(text);
+        oUndo = undo;
+        m_history = history;
+        m_undoEnabled = undoEnabled;
+        m_redoEnabled = redoEnabled;
+        m_services.view.undoRedoChanged(undoEnabled, redoEnabled);
+        setStatus(status);
+        m_dirty = dirty;
+    };
     try {
         action();
     } catch (const PowerButtonCycle &cycle) {
-        restore(before);
+        takeBack();
         ReportError(m_services.boxes, QStringLiteral("frmMain"), QStringLiteral("PowerButtonDespatcher"),
                     cycle);
     }

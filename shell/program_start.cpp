@@ -64,6 +64,7 @@ void modMain::createSession() {
                                                   .clipboard = m_services.clipboard,
                                                   .boxes = m_services.boxes,
                                                   .sound = m_services.sound,
+                                                  .clock = m_services.clock,
                                                   .extensions = m_services.extensions,
                                                   .oTools = oTools,
                                                   .oPowerButtons = oPowerButtons,

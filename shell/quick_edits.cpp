@@ -10,8 +10,8 @@ namespace tolvo {
 
 namespace {
 
-/// Changes of up to three characters are too small to be worth an undo state of their own: undo takes them
-/// back with whatever comes before.
+/// Changes of up to three characters are too small to be worth an undo state of their own: the button Undo
+/// takes them back with whatever comes before. Ctrl-Z takes back each of them.
 constexpr int longestWithoutUndo = 3;
 
 bool isPairAt(QStringView text, qsizetype position) {
@@ -42,16 +42,23 @@ void KeyboardCommands::selectCharacterAtCaret() {
     }
 }
 
+template <class Edit>
+void KeyboardCommands::quickEdit(int length, Edit edit) {
+    const auto keep = [&] { length > longestWithoutUndo ? m_session.pushUndo() : m_session.noteText(); };
+    keep();
+    edit(m_session.txtCurrent());
+    keep();
+}
+
 template <class Convert>
 void KeyboardCommands::convertAtCaret(Convert convert) {
-    TextBox &box = m_session.txtCurrent();
-    if (box.SelLength() > longestWithoutUndo)
-        m_session.pushUndo();
-    if (box.SelLength() == 0)
-        selectCharacterAtCaret();
-    const QString text = box.SelText();
-    if (!text.isEmpty())
-        box.setSelText(convert(text)); // the caret goes behind it: repeated presses walk along the text
+    quickEdit(m_session.txtCurrent().SelLength(), [&](TextBox &box) {
+        if (box.SelLength() == 0)
+            selectCharacterAtCaret();
+        const QString text = box.SelText();
+        if (!text.isEmpty())
+            box.setSelText(convert(text)); // the caret goes behind it: repeated presses walk along the text
+    });
 }
 
 void KeyboardCommands::doKBUpperCase() {
@@ -70,22 +77,21 @@ void KeyboardCommands::doKBInitCaps() {
     TextBox &box = m_session.txtCurrent();
     const int start = box.SelStart();
     const int length = box.SelLength();
-    if (length > longestWithoutUndo)
-        m_session.pushUndo();
-    if (length == 0)
-        selectCharacterAtCaret();
-    const int selected = box.SelLength();
     // At the very end of the text there is nothing to select: the tool then takes the whole text, as always
     // without a selection.
-    runToolRow(m_session, *toolRow(u"ccINC"), nullptr);
-    if (length != 0)
-        box.setSelStart(box.SelStart() + box.SelLength());
-    else
-        box.setSelStart(start + std::max(selected, 1));
-    if (length > longestWithoutUndo) {
-        m_session.pushUndo();
+    const bool wholeText = length == 0 && start == box.length();
+    quickEdit(wholeText ? box.length() : length, [&](TextBox &) {
+        if (length == 0)
+            selectCharacterAtCaret();
+        const int selected = box.SelLength();
+        runToolRow(m_session, *toolRow(u"ccINC"), nullptr);
+        if (length != 0)
+            box.setSelStart(box.SelStart() + box.SelLength());
+        else
+            box.setSelStart(start + std::max(selected, 1));
+    });
+    if (length > longestWithoutUndo)
         m_session.setStatus(QString::number(length) + QStringLiteral(" characters: Initial caps"));
-    }
 }
 
 void KeyboardCommands::doKBTranspose() {
@@ -96,9 +102,11 @@ void KeyboardCommands::doKBTranspose() {
         return;
     const int left = unitsBefore(text, caret);
     const int right = unitsAt(text, caret);
-    select(box, caret - left, left + right);
-    box.setSelText(text.sliced(caret, right) + text.sliced(caret - left, left));
-    box.setSelStart(caret + right);
+    quickEdit(2, [&](TextBox &) {
+        select(box, caret - left, left + right);
+        box.setSelText(text.sliced(caret, right) + text.sliced(caret - left, left));
+        box.setSelStart(caret + right);
+    });
 }
 
 namespace {

@@ -54,6 +54,7 @@ void frmMain::cmdRefresh_Click() {
     guarded(u"cmdRefresh_Click", [this] {
         pushUndo();
         takeClipboard();
+        noteText();
         m_dirty = false;
         setStatus(QStringLiteral("Text retrieved from clipboard"));
     });
@@ -132,17 +133,21 @@ void frmMain::hideWindow() {
 // Undo
 
 void frmMain::cmdUndo_Click() {
-    guarded(u"cmdUndo_Click", [this] { showOtherState(&cUndo::Pull); });
+    guarded(u"cmdUndo_Click", [this] { showOtherState(&TextHistory::undoState); });
 }
 
 void frmMain::cmdRedo_Click() {
-    guarded(u"cmdRedo_Click", [this] { showOtherState(&cUndo::Redo); });
+    guarded(u"cmdRedo_Click", [this] { showOtherState(&TextHistory::redo); });
 }
 
-void frmMain::showOtherState(bool (cUndo::*step)(TextState &)) {
+void frmMain::undoStep() {
+    guarded(u"undoStep", [this] { showOtherState(&TextHistory::undoStep); });
+}
+
+void frmMain::showOtherState(bool (TextHistory::*walk)(TextState &)) {
     setStatus({});
     TextState state = textState();
-    if (!(oUndo.*step)(state))
+    if (!(m_history.*walk)(state))
         return;
     restore(state);
     m_dirty = true; // also when the text is again the one that came from the clipboard

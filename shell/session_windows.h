@@ -74,9 +74,6 @@ class SessionView {
     virtual void bringToFront() = 0;
     virtual void processEvents() = 0;
     virtual void powerButtonChanged(int index) = 0;
-    /// Takes back typing in the box in use as the text box itself does (Ctrl-Z); false if there is no typing
-    /// to take back.
-    virtual bool undoTyping() { return false; }
     /// True if the user wants a long search to end (Esc); asked now and then.
     [[nodiscard]] virtual bool interrupted() { return false; }
 };

@@ -3,8 +3,11 @@
 
 #include "platform/text_positions.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextBlock>
@@ -63,11 +66,15 @@ PlainTextBox::PlainTextBox(Lines lines, QWidget *parent) : QPlainTextEdit(parent
     setLineWrapMode(lines == Lines::Wrapped ? WidgetWidth : NoWrap);
     if (lines == Lines::Wrapped)
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setUndoRedoEnabled(false);
     chooseLayout({});
     connect(document(), &QTextDocument::contentsChange, this, [this](int from, int, int added) {
         m_editStart = from;
         m_editEnd = from + added;
+        m_editing = true;
     });
+    connect(this, &QPlainTextEdit::selectionChanged, this, &PlainTextBox::noteSelection);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &PlainTextBox::noteSelection);
     connect(this, &QPlainTextEdit::textChanged, this, &PlainTextBox::edited);
 }
 
@@ -116,20 +123,14 @@ void PlainTextBox::setSelText(const QString &text) {
     const int start = SelStart();
     if (inserted != SelText()) {
         prepareFor(inserted);
-        editByCode([&] { textCursor().insertText(m_standIns.encode(inserted)); });
+        const QScopedValueRollback own(m_ownEdit, true);
+        textCursor().insertText(m_standIns.encode(inserted));
         joinLineEnds();
     }
     const bool changed = rereadText();
     setSelStart(static_cast<int>(snapBehind(m_text, start + inserted.size())));
     if (changed)
         reportChange();
-}
-
-bool PlainTextBox::hasTypingToTakeBack() const {
-    return document()->isUndoAvailable();
-}
-bool PlainTextBox::hasTypingToRestore() const {
-    return document()->isRedoAvailable();
 }
 
 // Positions: a line end is one unit in the document and two in the text.
@@ -188,8 +189,31 @@ void PlainTextBox::inputMethodEvent(QInputMethodEvent *event) {
 }
 
 void PlainTextBox::insertFromMimeData(const QMimeData *source) {
+    const QScopedValueRollback atOnce(m_userEdit.atOnce, true);
     if (!isReadOnly() && source && source->hasText())
         insertAsTyped(ClipboardLineEnds::comeIn(source->text()));
+}
+
+void PlainTextBox::dropEvent(QDropEvent *event) {
+    const QScopedValueRollback atOnce(m_userEdit.atOnce, true);
+    m_editing = true; // the caret moves to the place first
+    QPlainTextEdit::dropEvent(event);
+    m_editing = false;
+    noteSelection();
+}
+
+std::unique_ptr<QMenu> PlainTextBox::contextMenu() {
+    std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    for (const auto &name : {QStringLiteral("edit-undo"), QStringLiteral("edit-redo")})
+        delete menu->findChild<QAction *>(name);
+    menu->insertActions(menu->actions().value(0), m_undoActions);
+    return menu;
+}
+
+void PlainTextBox::contextMenuEvent(QContextMenuEvent *event) {
+    QMenu *menu = contextMenu().release();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(event->globalPos());
 }
 
 QMimeData *PlainTextBox::createMimeDataFromSelection() const {
@@ -229,22 +253,30 @@ void PlainTextBox::load(const QString &text) {
     setPlainText(m_standIns.encode(text));
 }
 
-/// The widget's own undo knows no text but the one that the user has typed into.
-void PlainTextBox::editByCode(const std::function<void()> &edit) {
-    const QScopedValueRollback own(m_ownEdit, true);
-    setUndoRedoEnabled(false);
-    edit();
-    setUndoRedoEnabled(true);
+/// The selection in front of the next edit.
+void PlainTextBox::noteSelection() {
+    if (m_editing)
+        return;
+    m_userEdit.selStart = SelStart();
+    m_userEdit.selLength = SelLength();
 }
 
-/// After every edit that is not ours.
+/// After every edit; those of our own report themselves.
 void PlainTextBox::edited() {
-    if (m_ownEdit)
+    const bool own = m_ownEdit;
+    UserEdit edit = m_userEdit;
+    edit.before = m_text;
+    if (!own) {
+        cutToCapacity();
+        joinLineEnds();
+    }
+    m_editing = false;
+    noteSelection();
+    if (own || !rereadText())
         return;
-    cutToCapacity();
-    joinLineEnds();
-    if (rereadText())
-        reportChange();
+    if (onUserEdit)
+        onUserEdit(edit);
+    reportChange();
 }
 
 /// Ways in that pass no door of ours (assistive technology, the menu of control characters): what they put in
@@ -253,13 +285,12 @@ void PlainTextBox::cutToCapacity() {
     const auto excess = [this] { return document()->characterCount() - 1 + blockCount() - 1 - m_capacity; };
     if (excess() <= 0 || m_editEnd <= m_editStart)
         return;
-    editByCode([&] {
-        const int start = m_editStart; // moves with our own edits
-        QTextCursor cursor(document());
-        cursor.setPosition(std::min(m_editEnd, document()->characterCount() - 1));
-        while (excess() > 0 && cursor.position() > start)
-            cursor.deletePreviousChar();
-    });
+    const QScopedValueRollback own(m_ownEdit, true);
+    const int start = m_editStart; // moves with our own edits
+    QTextCursor cursor(document());
+    cursor.setPosition(std::min(m_editEnd, document()->characterCount() - 1));
+    while (excess() > 0 && cursor.position() > start)
+        cursor.deletePreviousChar();
 }
 
 /// A CR and a LF that an edit has brought together are a line end like any other.
@@ -269,16 +300,15 @@ void PlainTextBox::joinLineEnds() {
     qsizetype at = raw.lastIndexOf(loose);
     if (at < 0)
         return;
-    editByCode([&] {
-        QTextCursor cursor(document());
-        cursor.beginEditBlock();
-        for (; at >= 0; at = at > 0 ? raw.lastIndexOf(loose, at - 1) : -1) {
-            cursor.setPosition(static_cast<int>(at));
-            cursor.setPosition(static_cast<int>(at) + 2, QTextCursor::KeepAnchor);
-            cursor.insertBlock();
-        }
-        cursor.endEditBlock();
-    });
+    const QScopedValueRollback own(m_ownEdit, true);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (; at >= 0; at = at > 0 ? raw.lastIndexOf(loose, at - 1) : -1) {
+        cursor.setPosition(static_cast<int>(at));
+        cursor.setPosition(static_cast<int>(at) + 2, QTextCursor::KeepAnchor);
+        cursor.insertBlock();
+    }
+    cursor.endEditBlock();
 }
 
 /// Takes over the document's text; whether it has changed.

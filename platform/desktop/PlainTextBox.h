@@ -6,14 +6,20 @@
 #include "platform/headless/clipboard_line_ends.h"
 #include "platform/text_box.h"
 
+#include <QList>
 #include <QPlainTextEdit>
+#include <memory>
+
+class QAction;
+class QMenu;
 
 namespace tolvo {
 
 /// The text box of the window. It keeps every text unchanged to the unit, in one block per CR LF line, and
 /// holds its capacity against typing, input methods, paste, drop and code.
 ///
-/// What code changes can't be taken back by the widget's own undo: its stack is empty after that.
+/// The widget keeps no undo of its own: the box reports what the user does, and the context menu offers the
+/// program's Undo and Redo.
 class PlainTextBox final : public QPlainTextEdit, public TextBox {
     Q_OBJECT
 
@@ -39,18 +45,17 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     using QPlainTextEdit::setFocus;
     void setFocus() override { QPlainTextEdit::setFocus(Qt::OtherFocusReason); }
 
-    /// Whether the user has typed, pasted or deleted since the last change by code, so that there is
-    /// something for takeBackTyping (or restoreTyping) to do.
-    [[nodiscard]] bool hasTypingToTakeBack() const;
-    [[nodiscard]] bool hasTypingToRestore() const;
-    void takeBackTyping() { undo(); }
-    void restoreTyping() { redo(); }
+    /// What stands at the top of the context menu. Both outlive the box.
+    void setUndoActions(QAction &undo, QAction &redo) { m_undoActions = {&undo, &redo}; }
+    [[nodiscard]] std::unique_ptr<QMenu> contextMenu();
 
     /// How copied and dragged text goes out to other programs. The rule outlives the box; without one, line
     /// ends go out as LF.
     void setLineEnds(const ClipboardLineEnds &rule) { m_lineEnds = &rule; }
 
   protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void insertFromMimeData(const QMimeData *source) override;
@@ -63,7 +68,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     void insertAsTyped(const QString &text);
     void prepareFor(const QString &inserted);
     void load(const QString &text);
-    void editByCode(const std::function<void()> &edit);
+    void noteSelection();
     void edited();
     void cutToCapacity();
     void joinLineEnds();
@@ -79,6 +84,9 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     int m_editStart = 0; ///< where the document was changed last, in its own positions
     int m_editEnd = 0;
     bool m_ownEdit = false; ///< an edit by code is under way; its end reports the change
+    bool m_editing = false; ///< the document is being changed; the selection is not yet what it will be
+    UserEdit m_userEdit;    ///< what there is to report of the next edit of the user
+    QList<QAction *> m_undoActions;
 };
 
 } // namespace tolvo

@@ -27,14 +27,39 @@ void MemoryTextBox::setSelLength(int length) {
 }
 
 void MemoryTextBox::setSelText(const QString &text) {
+    if (replaceSelection(text) && onChange)
+        onChange();
+}
+
+void MemoryTextBox::type(const QString &text, bool atOnce) {
+    const UserEdit edit{m_text, m_start, m_length, atOnce};
+    if (replaceSelection(text))
+        report(edit);
+}
+
+void MemoryTextBox::erase(int start, int length) {
+    const UserEdit edit{m_text, m_start, m_length};
+    select(*this, start, length);
+    if (replaceSelection({}))
+        report(edit);
+}
+
+void MemoryTextBox::report(const UserEdit &edit) {
+    if (onUserEdit)
+        onUserEdit(edit);
+    if (onChange)
+        onChange();
+}
+
+/// Whether the text is another one now.
+bool MemoryTextBox::replaceSelection(const QString &text) {
     const QStringView inserted = cutToRoom(text, m_capacity, m_text.size() - m_length);
     const bool same = inserted == QStringView(m_text).mid(m_start, m_length);
     if (!same)
         m_text.replace(m_start, m_length, inserted.data(), inserted.size());
     m_start = static_cast<int>(snapBehind(m_text, m_start + inserted.size()));
     m_length = 0;
-    if (!same && onChange)
-        onChange();
+    return !same;
 }
 
 } // namespace tolvo

@@ -25,11 +25,18 @@ class MemoryTextBox final : public TextBox {
     void setSelLength(int length) override;
     [[nodiscard]] QString SelText() const override { return m_text.mid(m_start, m_length); }
     void setSelText(const QString &text) override;
+    /// Replaces the selection as the user does: by typing or, `atOnce`, by pasting.
+    void type(const QString &text, bool atOnce = false);
+    /// Deletes a part of the text as the user does.
+    void erase(int start, int length);
     [[nodiscard]] int length() const override { return static_cast<int>(m_text.size()); }
     [[nodiscard]] int capacity() const override { return m_capacity; }
     void setCapacity(int units) override { m_capacity = units; }
 
   private:
+    void report(const UserEdit &edit);
+    bool replaceSelection(const QString &text);
+
     QString m_text;
     int m_start = 0;
     int m_length = 0;

@@ -276,13 +276,13 @@ void frmSearch::cmdSearch_Click() {
 }
 
 void frmSearch::cmdReplace_Click() {
-    run([this] { runReplace(m_form, m_search); });
+    run([this] { runReplace(m_form, m_search, m_host); });
 }
 
 void frmSearch::cmdReplaceAll_Click() {
     run([this] {
         if (m_replacing)
-            runReplaceAll(m_form, m_search);
+            runReplaceAll(m_form, m_search, m_host);
         else
             runFindAll(m_form, m_search, m_host);
     });

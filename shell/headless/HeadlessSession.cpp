@@ -17,6 +17,7 @@ HeadlessSession::HeadlessSession(SettingsStore &store, const Catalogue &catalogu
                .clipboard = clipboard,
                .boxes = boxes,
                .sound = sound,
+               .clock = clock,
                .extensions = fileExtensions,
                .oTools = catalogue,
                .oPowerButtons = oPowerButtons,

@@ -5,6 +5,7 @@
 #include "platform/headless/MemoryClipboard.h"
 #include "platform/headless/MemoryTextBox.h"
 #include "platform/headless/SilentSound.h"
+#include "platform/headless/StandingClock.h"
 #include "platform/http_client.h"
 #include "shell/frmMain.h"
 #include "shell/headless/HeadlessWindows.h"
@@ -30,6 +31,7 @@ class HeadlessSession {
     MemoryTextBox txtTextWW;
     MemoryClipboard clipboard;
     SilentSound sound;
+    StandingClock clock;
     CPowerButtonCollection oPowerButtons;
 
   private:

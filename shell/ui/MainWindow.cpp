@@ -7,6 +7,7 @@
 #include "shell/frmMain.h"
 #include "shell/ui/window_size.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QLabel>
@@ -50,6 +51,8 @@ void MainWindow::showElidedStatus() {
 void MainWindow::showUndoRedo(bool undoEnabled, bool redoEnabled) {
     m_cmdUndo->setEnabled(undoEnabled);
     m_cmdRedo->setEnabled(redoEnabled);
+    m_undoAction->setEnabled(undoEnabled);
+    m_redoAction->setEnabled(redoEnabled);
 }
 
 void MainWindow::showTextBox(bool wrapped) {

@@ -11,6 +11,7 @@
 #include <functional>
 #include <optional>
 
+class QAction;
 class QKeyEvent;
 class QLabel;
 class QPushButton;
@@ -64,6 +65,7 @@ class MainWindow : public QWidget {
     QPushButton *button(const char *name, const QString &caption, const QString &tip,
                         std::function<void()> clicked);
     void arrangeTabOrder();
+    void offerUndoInTextBoxes();
     void showElidedStatus();
     void connectAltLetters();
     bool leaveTextBox(const QKeyEvent &event);
@@ -82,6 +84,8 @@ class MainWindow : public QWidget {
     QToolButton *m_imgWordwrap = nullptr;
     QPushButton *m_cmdUndo = nullptr;
     QPushButton *m_cmdRedo = nullptr;
+    QAction *m_undoAction = nullptr;
+    QAction *m_redoAction = nullptr;
 };
 
 } // namespace tolvo

@@ -10,6 +10,7 @@
 #include "shell/ui/window_size.h"
 
 #include <QAccessibleWidget>
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -73,6 +74,7 @@ MainWindow::MainWindow(QWidget *parent)
     layout->addWidget(statusRow());
     columns->setContentsMargins(0, 0, 4, 0);
     arrangeTabOrder();
+    offerUndoInTextBoxes();
     showUndoRedo(false, false);
     showTextBox(false);
     resize(startSize);
@@ -168,7 +170,8 @@ QWidget *MainWindow::powerRow() {
     auto *layout = row(bar);
     layout->addWidget(m_powerButtons);
     layout->addStretch(1);
-    m_cmdUndo = button("cmdUndo", tr("&Undo"), tr("Take back the last change (Ctrl-Z)"),
+    m_cmdUndo = button("cmdUndo", tr("&Undo"),
+                       tr("Take back the last tool, or all that was typed after it (Ctrl-Z: step by step)"),
                        [this] { m_session->cmdUndo_Click(); });
     m_cmdRedo = button("cmdRedo", tr("&Redo"), tr("Bring back what Undo took (Ctrl-Y)"),
                        [this] { m_session->cmdRedo_Click(); });
@@ -177,6 +180,19 @@ QWidget *MainWindow::powerRow() {
     layout->addWidget(m_cmdUndo);
     layout->addWidget(m_cmdRedo);
     return bar;
+}
+
+/// What the keys do, in the context menu of the text.
+void MainWindow::offerUndoInTextBoxes() {
+    const auto action = [this](const QPushButton &like, const QString &text, void (frmMain::*command)()) {
+        auto *result = new QAction(like.icon(), text, this);
+        connect(result, &QAction::triggered, this, [this, command] { (m_session->*command)(); });
+        return result;
+    };
+    m_undoAction = action(*m_cmdUndo, tr("&Undo\tCtrl+Z"), &frmMain::undoStep);
+    m_redoAction = action(*m_cmdRedo, tr("&Redo\tCtrl+Y"), &frmMain::cmdRedo_Click);
+    for (PlainTextBox *box : {m_txtText1, m_txtTextWW})
+        box->setUndoActions(*m_undoAction, *m_redoAction);
 }
 
 QWidget *MainWindow::buttonRow() {

@@ -153,14 +153,6 @@ void DesktopSession::powerButtonChanged(int index) {
         m_window->powerButtons().showButton(index, *button);
 }
 
-bool DesktopSession::undoTyping() {
-    PlainTextBox &box = m_window->shownTextBox();
-    if (!box.hasTypingToTakeBack())
-        return false;
-    box.takeBackTyping();
-    return true;
-}
-
 bool DesktopSession::interrupted() {
     // Esc lies in the queue of events; while the guard lives no other key or click gets through.
     const auto guard = m_escape.guard();

@@ -49,7 +49,6 @@ class DesktopSession : public SessionWindow, private SessionView, private Sessio
     void bringToFront() override;
     void processEvents() override;
     void powerButtonChanged(int index) override;
-    bool undoTyping() override;
     [[nodiscard]] bool interrupted() override;
 
     // SessionWindows

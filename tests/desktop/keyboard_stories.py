@@ -21,6 +21,8 @@ EDITS = [
     ("ab¦", "c ctrl+z", "ab¦", None),
     ("one two¦", "ctrl+BackSpace", "one ¦", None),
     ("[«ab»]c", "alt+r alt+1 ctrl+alt+a ctrl+alt+1 super+j", "[«ab»]c", None),  # nothing to redo
+    ("ab¦", "c space d ctrl+z ctrl+z ctrl+y", "abc ¦", None),
+    ("ab¦", "c ctrl+t Left ctrl+t ctrl+z ctrl+z ctrl+shift+z", "abc¦", None),
     ("¦(a(b)c)", "ctrl+bracketright", "(a(b)c«)»", None),
     ("(a)¦", "ctrl+bracketleft", "«(»a)", None),
     ("{<b>¦}", "Escape", "«{»<b>}", None),

@@ -60,7 +60,12 @@ class SearchStories(Story):
                 run.text_becomes("dog one, dog two\ndog three")
                 keys("Escape")
                 run.main_is_active()
+                keys("ctrl+z")  # each replacement is a step of its own
+                run.text_becomes("cat one, dog two\ncat three")
                 keys("ctrl+z")
+                run.text_becomes(TEXT)
+                keys("ctrl+y", "ctrl+y")
+                run.text_becomes("dog one, dog two\ndog three")
                 keys("alt+q")
                 run.click("Discard changes")
                 run.ends()

@@ -5,10 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QInputMethodEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QTest>
@@ -163,23 +165,48 @@ TEST_F(User, TypesCharactersThatStandForOthers) {
     EXPECT_EQ(box.Text().remove(QRegularExpression(u"[\uFDD2-\uFDD9]"_s)), u"a\nb\rc"_s);
 }
 
-TEST_F(User, TakesBackTypingButNothingThatCodeDid) {
-    box.setText(u"base"_s);
-    EXPECT_FALSE(box.hasTypingToTakeBack());
-    types(u"abc"_s);
-    EXPECT_TRUE(box.hasTypingToTakeBack());
-    box.takeBackTyping();
-    EXPECT_EQ(box.Text(), u"base"_s);
-    EXPECT_TRUE(box.hasTypingToRestore());
-    types(u"x"_s);
+TEST_F(User, IsReportedButNotCode) {
+    QStringList reports;
+    QString last = u"a \rb"_s;
+    box.onUserEdit = [&](const UserEdit &edit) {
+        EXPECT_EQ(edit.before, last);
+        last = box.Text();
+        reports +=
+            u"%1+%2%3 %4"_s.arg(edit.selStart).arg(edit.selLength).arg(edit.atOnce ? u"!"_s : u""_s, last);
+    };
+    box.setText(last);
     select(box, 0, 1);
-    box.setSelText(u"\rtool\n"_s);
-    EXPECT_FALSE(box.hasTypingToTakeBack());
-    presses(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(box.Text(), u"\rtool\nbase"_s);
-    types(u"y"_s);
-    presses(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(box.Text(), u"\rtool\nbase"_s);
+    types(u"xy"_s);
+    presses(Qt::Key_Backspace);
+    select(box, 3, 0);
+    commits(u"\n"_s); // after the lone CR
+    select(box, 1, 1);
+    box.cut();
+    pastes(u"p\nq"_s);
+    select(box, 2, 0);
+    presses(Qt::Key_Delete);
+    commits(u"ü\uFDD2"_s);
+    presses(Qt::Key_Backspace, Qt::ControlModifier);
+    select(box, 0, 3);
+    drops(u"d"_s);
+    box.setSelText(u"code"_s);
+    presses(Qt::Key_Left);
+    presses(Qt::Key_Z, Qt::ControlModifier); // no undo of the widget's own
+    const QString all = reports.join(u'|').replace(u'\r', u"{"_s).replace(u'\n', u"}"_s);
+    EXPECT_EQ(all, u"0+1 x {b|1+0 xy {b|2+0 x {b|3+0 x {}b|1+1 x{}b|1+0! xp{}q{}b|2+0 xpq{}b|"
+                   "2+0 xpü\uFDD2q{}b|4+0 q{}b|0+3! dq{}b"_s);
+}
+
+TEST_F(User, FindsTheProgramsUndoInTheContextMenu) {
+    QAction undo(u"U"_s);
+    QAction redo(u"R"_s);
+    box.setUndoActions(undo, redo);
+    QStringList names;
+    const auto menu = box.contextMenu();
+    for (const QAction *action : menu->actions())
+        names += action->text();
+    EXPECT_EQ(names.mid(0, 3), QStringList({u"U"_s, u"R"_s, QString()}));
+    EXPECT_TRUE(names.filter(QRegularExpression(u"Undo|Redo"_s)).isEmpty());
 }
 
 } // namespace

@@ -71,6 +71,15 @@ void User::presses(char letter, int shiftState) {
         keys.textKeyPress(code);
 }
 
+void User::typesKeys(const QString &strokes) {
+    for (const QChar key : strokes) {
+        if (key == u'<' || key == u'>')
+            inUse().erase(inUse().SelStart() - (key == u'<' ? 1 : 0), 1);
+        else
+            types(key == u'|' ? QString("\r\n") : QString(key));
+    }
+}
+
 void User::sees(const QString &picture) {
     EXPECT_EQ(pictureOf(session.textState()), picture);
 }
@@ -117,12 +126,6 @@ bool User::ask(IndentSettings &settings) {
     settings.choice = IndentSettings::WithText;
     settings.text = "> ";
     return !cancelsDialogs;
-}
-
-bool User::undoTyping() {
-    if (hasTypingToUndo)
-        opened += "typing undone";
-    return hasTypingToUndo;
 }
 
 bool User::CheckSpelling(ProofingHost &, QString &text, int language, bool grammar) {

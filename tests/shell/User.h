@@ -34,7 +34,11 @@ class User : public HeadlessWindows {
     void pressesKey(int code, int shiftState = 0);
     void presses(char letter, int shiftState = ShiftState::Ctrl);
     /// Replaces the selection, as typing does.
-    void types(const QString &text) { session.txtCurrent().setSelText(text); }
+    void types(const QString &text) { inUse().type(text); }
+    /// Character by character, "<" for Backspace, ">" for Delete.
+    void typesKeys(const QString &strokes);
+    void pastes(const QString &text) { inUse().type(text, true); }
+    void waits(int milliseconds) { headless.clock.time = headless.clock.time.addMSecs(milliseconds); }
     void sees(const QString &picture, const QString &status);
     void sees(const QString &picture);
     /// The oldest box that nobody has expected yet has this text (or begins with it).
@@ -46,6 +50,11 @@ class User : public HeadlessWindows {
                                                          const QString &details = {});
     void defines(int number, const QList<std::shared_ptr<CAction>> &actions);
     [[nodiscard]] QString counter(const QString &section, const QString &key);
+
+    void undoRedoChanged(bool undoEnabled, bool redoEnabled) override {
+        canUndo = undoEnabled;
+        canRedo = redoEnabled;
+    }
 
     // What the windows are asked
     CloseAnswer confirmClose(const QString &prompt) override;
@@ -62,7 +71,6 @@ class User : public HeadlessWindows {
     void expandDialog() override { opened += "more"; }
     void showDialog(bool replace) override { opened += replace ? "replace" : "search"; }
     void cmdSearch_Click() override { opened += "next"; }
-    bool undoTyping() override;
     bool CheckSpelling(ProofingHost &, QString &text, int language, bool grammar) override;
     int GetLangID(int, bool) override { return chosenLanguage; }
 
@@ -70,13 +78,18 @@ class User : public HeadlessWindows {
     CloseAnswer closeAnswer = CloseAnswer::Cancel;
     QList<int> repainted; ///< indices of PowerButtons
     bool cancelsDialogs = false;
-    bool hasTypingToUndo = false;
+    bool canUndo = false; ///< the two buttons
+    bool canRedo = false;
     int chosenLanguage = 2057;
     QString corrected; ///< what the walk makes of a text; null: it ends without a correction
     QString searchBox;
     bool special = false;
 
   private:
+    [[nodiscard]] MemoryTextBox &inUse() {
+        return session.bWordWrap ? headless.txtTextWW : headless.txtText1;
+    }
+
     QTemporaryDir m_folder; // where the personal word list comes to lie
 
   public:

@@ -119,22 +119,6 @@ TEST(Keyboard, twoSetsOfKeysRunPowerButtons) {
     EXPECT_EQ(user.opened.join(u'|'), "editor 7|editor 0");
 }
 
-TEST(Keyboard, ctrlZTakesBackTypingFirst) {
-    User user("a");
-    user.runs("ccUPP");
-    user.hasTypingToUndo = true;
-    user.presses('Z');
-    user.sees("«»A");
-    user.hasTypingToUndo = false;
-    user.presses('Z');
-    user.sees("«»a");
-    user.presses('Z', ShiftState::Ctrl | ShiftState::Shift);
-    user.sees("«»A");
-    user.presses('Z');
-    user.presses('Y');
-    user.sees("«»A");
-}
-
 TEST(Keyboard, tellsTheCharacterAtTheCaret) {
     User user("x|a«»€");
     user.pressesKey(keyCode::Slash, ShiftState::Ctrl);

@@ -94,8 +94,13 @@ TEST(PowerButtons, nest) {
     EXPECT_EQ(user.session.sLastTool, "PB0");
 }
 
-TEST(PowerButtons, aCycleEndsInOneReportAndTheTextStays) {
+TEST(PowerButtons, aCycleEndsInOneReportAndAllStaysAsItWas) {
     User user("a«b»");
+    user.runs("ccUPP");
+    user.session.cmdUndo_Click(); // what Redo offers stays as well
+    user.session.restore(stateOf("a«b»"));
+    user.session.setDirty(false);
+    user.session.setStatus("status");
     const auto run = [](int number) {
         return User::action("pbPBT", Custom, QString("PowerButton=%1").arg(number));
     };
@@ -103,7 +108,15 @@ TEST(PowerButtons, aCycleEndsInOneReportAndTheTextStays) {
     user.defines(2, {run(1), run(1)});
     user.session.imgPower_Click(0);
     user.isToldSomethingLike("PowerButton 1 runs itself (error 28)");
-    user.sees("a«b»");
+    user.sees("a«b»", "status");
+    EXPECT_FALSE(user.session.bDirty());
+    EXPECT_TRUE(user.canRedo);
+    user.session.cmdRedo_Click();
+    user.sees("a«B»");
+    user.session.cmdUndo_Click();
+    user.session.cmdUndo_Click();
+    user.sees("«»ab", "Reached end of Undo buffer");
+    user.session.restore(stateOf("a«b»"));
     user.defines(2, {User::action("ccUPP")});
     user.session.imgPower_Click(0); // nothing of the cycle is left behind
     user.sees("a«B»");

@@ -1,10 +1,94 @@
 // SPDX-License-Identifier: MIT
 #include "tests/shell/User.h"
 
+#include <random>
+
 using namespace tolvo;
 using namespace tolvo::test;
 
 namespace {
+
+/// One word of a script: what the user does, or with "=" what is seen then. "_" is a blank.
+void plays(User &user, const QString &word) {
+    const QString rest = QString(word.mid(1)).replace(u'_', u' ');
+    if (word.startsWith(u'='))
+        user.sees(rest);
+    else if (word.startsWith(u'+'))
+        user.typesKeys(rest);
+    else if (word.startsWith(u'^'))
+        user.presses(rest[0].toLatin1());
+    else if (word == "Redo^")
+        user.presses('Z', ShiftState::Ctrl | ShiftState::Shift);
+    else if (word.startsWith(u'@'))
+        user.session.restore(stateOf(rest)); // another selection
+    else if (word.startsWith(u'>'))
+        user.pastes(rest);
+    else if (word == "Undo")
+        user.session.cmdUndo_Click();
+    else if (word == "Redo")
+        user.session.cmdRedo_Click();
+    else if (word == "Wait")
+        user.waits(3000);
+    else if (word == "Wrap")
+        user.session.imgWordwrap_Click();
+    else if (word == "Refresh") {
+        user.headless.clipboard.text = "new";
+        user.session.cmdRefresh_Click();
+    } else
+        user.runs(word);
+}
+
+TEST(Undo, isOneHistoryOfTypingQuickEditsAndTools) {
+    for (const auto &[before, script] : std::initializer_list<std::pair<const char16_t *, const char16_t *>>{
+             // Typing: by word, by pause, deleted by word, pasted, over a selection
+             {u"«»",
+              u"+one_two|x ^Z =one_two|«» ^Z =one_«» ^Z =«» ^Z =«» ^Y =one_«» Redo^ Redo =one_two|x«»"},
+             {u"«»", u"+ab Wait +cd ^Z =ab«» ^Z =«»"},
+             {u"one two three«»", u"+<<<<<<<< ^Z =one_two«» ^Z =one_two_three«» ^Y =one_two«» ^Y =one_t«»"},
+             {u"«»one two", u"+>>>>> ^Z =«»two ^Z =«»one_two ^Y =«»two"},
+             {u"x«»", u"+ab +<< +c ^Z =x«» ^Z =xab«» ^Z =x«»"},
+             {u"«»", u"+a >b +c ^Z =ab«» ^Z =a«» ^Z =«» ^Y ^Y ^Y =abc«»"},
+             {u"«one» two", u"+x ^Z =«one»_two ^Y =x«»_two"},
+             {u"«»", u"+aa @«»aa +a ^Z =«»aa ^Z =«»"},
+             // Tools that change nothing, and the button beside Ctrl-Z
+             {u"«»", u"+one edEOL =«»one ^Z =«» ^Y =one«» edEOL ^Y =«»one"},
+             {u"«»", u"+one_two ^Z edEOL =«»one_ ^Y =one_two«» Undo =one_«» Undo =«»"},
+             {u"«»", u"+a_b Undo =«» Redo =a_b«» ^Z =a_«» Undo =«» ^Y =a_«» ^Y =a_b«»"},
+             {u"«»", u"+a_b ccUPP ^Z =a_b«» ^Z =a_«» Undo =«» Redo =a_«» Redo =a_b«» Redo =«»A_B"},
+             {u"«»a", u"ccUPP +x +< Undo =«»a Redo ^Z =x«»A"},
+             // Quick edits, one by one
+             {u"«»abc", u"^U ^U ^Z =A«»bc ^Z =«»abc ^Y ^Y =AB«»c"},
+             {u"ab«»", u"+x_y ^T =abx_y«» @abx_«»y ^T =abxy_«» ^Z =abx_«»y ^Z =abx_«» ^Z =ab«»"},
+             {u"one two«»",
+              u"+_x ^K =One_Two_X«» ^Z =one_two_x«» ^Y =One_Two_X«» Undo =one_two_x«» Undo =«»one_two"},
+             {u"«abcd»e", u"^U =ABCD«»e +x Undo =ABCD«»e Undo ^Y ^Y =ABCDx«»e"},
+             // Across a Refresh and both text boxes
+             {u"old«»",
+              u"+x Refresh +y ^U +z ^Z =yN«»ew ^Z =y«»new ^Z =«»new ^Z =oldx«» ^Z =old«» ^Y ^Y =«»new"},
+             {u"«»", u"+one_ Wrap +two ^Z =one_«» Wrap ^Z =«» ^Y Wrap ^Y =one_two«»"},
+             // New typing ends what typing could be brought back, and leaves the states
+             {u"«»", u"+a_b ^Z +c ^Y =a_c«» ^Z =a_«» ^Y =a_c«»"}}) {
+        SCOPED_TRACE(QString::fromUtf16(script).toStdString());
+        User user(QString::fromUtf16(before));
+        for (const QString &word : QString::fromUtf16(script).split(u' '))
+            plays(user, word);
+    }
+}
+
+TEST(Undo, redoIsOfferedWhileThereIsSomethingToRedo) {
+    User user("");
+    EXPECT_TRUE(user.canUndo);
+    EXPECT_FALSE(user.canRedo);
+    user.typesKeys("a");
+    user.presses('Z');
+    EXPECT_TRUE(user.canRedo);
+    EXPECT_TRUE(user.session.bDirty());
+    user.runs("foTRA");
+    EXPECT_TRUE(user.canRedo);
+    user.presses('Z');
+    user.sees("«»", "Reached end of Undo buffer");
+    EXPECT_TRUE(user.canUndo);
+}
 
 TEST(Undo, givesBackTextAndSelection) {
     User user("THE [«old» man]");
@@ -77,6 +161,156 @@ TEST(Undo, aNewChangeEndsTheRedoChain) {
     EXPECT_EQ(state.text, "one");
     EXPECT_EQ(state.selStart, 1);
     EXPECT_TRUE(undoEnabled); // stays on at the bottom, and then says so
+}
+
+/// What a history must know, told without one: the texts that stood there, the states among them, where the
+/// user is, where each undo began that was not retraced, and states that new changes have led away from.
+struct Told {
+    QStringList texts;
+    QList<bool> isState;
+    int at = 0;
+    QList<int> ahead;
+    QStringList lost;
+
+    [[nodiscard]] int state(int from) const { return static_cast<int>(isState.lastIndexOf(true, from)); }
+    [[nodiscard]] bool changed() const { return texts[at] != texts[state(at)]; }
+    void change(const QString &text) {
+        if (text == texts[at])
+            return;
+        for (int i = static_cast<int>(texts.size()) - 1; i > at; --i) {
+            if (isState[i])
+                lost.prepend(texts[i]);
+        }
+        texts = texts.mid(0, at + 1) << text;
+        isState = isState.mid(0, at + 1) << false;
+        ahead.clear();
+        ++at;
+    }
+    void push() {
+        if (!changed())
+            return;
+        isState[at] = true;
+        if (ahead.isEmpty())
+            lost.clear();
+    }
+    void undo(int to) {
+        if (to < 0)
+            return;
+        ahead += at;
+        at = to;
+    }
+    void undoState() {
+        const int here = state(at);
+        const int target = changed() ? here : here > 0 ? state(here - 1) : -1;
+        push();
+        undo(target);
+    }
+    void redo(const std::function<bool()> &mayDiscard) {
+        if (!ahead.isEmpty()) {
+            at = ahead.takeLast();
+        } else if (!lost.isEmpty() && (!changed() || mayDiscard())) {
+            const QString text = lost.takeFirst();
+            change(text);
+            isState[at] = true;
+        }
+    }
+};
+
+/// A user who does anything at random.
+class Wanderer : public User {
+  public:
+    explicit Wanderer(unsigned seed) : User("one two«»"), m_random(seed) {
+        told.texts << text();
+        told.isState << true;
+    }
+    [[nodiscard]] QString text() { return session.txtCurrent().Text(); }
+    int upTo(int last) { return std::uniform_int_distribution<int>(0, last)(m_random); }
+
+    void doesSomething() {
+        const int what = upTo(19);
+        if (upTo(2) == 0)
+            select(session.txtCurrent(), upTo(12), upTo(3) == 0 ? upTo(8) : 0);
+        if (what < 6)
+            edits(what);
+        else if (what < 9)
+            quickEdit();
+        else if (what < 12)
+            tool(QStringList{"ccUPP", "ccREV", "foTRA", "ccLOW"}[upTo(3)]);
+        else if (what < 15)
+            presses('Z'), told.undo(told.at - 1);
+        else if (what < 17)
+            session.cmdUndo_Click(), told.undoState();
+        else
+            redoes();
+        EXPECT_EQ(text(), told.texts[told.at]);
+        EXPECT_TRUE(canRedo || (told.ahead.isEmpty() && told.lost.isEmpty()));
+    }
+    Told told;
+
+  private:
+    void edits(int what) {
+        if (what == 0) {
+            headless.clipboard.text = QString("new %1").arg(upTo(3));
+            session.cmdRefresh_Click();
+            told.push();
+        } else if (what == 1) {
+            session.imgWordwrap_Click();
+        } else {
+            waits(3000);
+            what == 2 ? pastes("p|") : types(what == 3 ? QString() : QString(QChar(u'a' + upTo(3))));
+        }
+        told.change(text());
+    }
+    void quickEdit() {
+        const char key = "ULSKT"[upTo(4)];
+        TextBox &box = session.txtCurrent();
+        const bool whole = key == 'K' && box.SelLength() == 0 && box.SelStart() == box.length();
+        const bool isState = key != 'T' && (whole ? box.length() : box.SelLength()) > 3;
+        presses(key);
+        if (isState)
+            told.push();
+        told.change(text());
+        if (isState)
+            told.push();
+    }
+    void tool(const QString &token) {
+        runs(token);
+        told.push();
+        told.change(text());
+        told.push();
+    }
+    void redoes() {
+        const BoxAnswer answer = upTo(1) ? BoxAnswer::Yes : BoxAnswer::No;
+        boxes.answers = {answer};
+        session.cmdRedo_Click();
+        told.redo([&] {
+            isTold("Changes have been made to the text");
+            return answer == BoxAnswer::Yes;
+        });
+    }
+
+    std::mt19937 m_random;
+};
+
+TEST(Undo, keepsEveryTextInReachOnTenThousandWalks) {
+    for (unsigned seed = 1; seed <= 10000 && !HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        Wanderer user(seed);
+        for (int steps = user.upTo(24); steps >= 0 && !HasFailure(); --steps)
+            user.doesSomething();
+        while (!user.told.ahead.isEmpty()) {
+            user.session.cmdRedo_Click();
+            user.told.redo([] { return false; });
+        }
+        QStringList back{user.text()};
+        while (user.presses('Z'), user.session.labStatus().isEmpty())
+            back.prepend(user.text());
+        EXPECT_EQ(back, user.told.texts);
+        for (const QString &text : back.mid(1)) {
+            user.presses('Y');
+            EXPECT_EQ(user.text(), text);
+        }
+    }
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // The main window offscreen: its size, its panel, its keys.
 #include "platform/desktop/DesktopClipboard.h"
 #include "platform/desktop/EscapeWatch.h"
+#include "platform/desktop/PlainTextBox.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/SilentSound.h"
 #include "platform/headless/SystemProcesses.h"
@@ -12,8 +13,10 @@
 #include "spelling/word_automation.h"
 #include "tests/ui/user.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTextDocumentFragment>
@@ -128,6 +131,40 @@ TEST_F(MainWindowStory, aPowerButtonOfAnotherRunShowsAtOnce) {
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
     });
     EXPECT_EQ(pasted(), QStringLiteral("X"));
+}
+
+TEST_F(MainWindowStory, typingIsTakenBackAndBroughtBackByKeysButtonsAndMenu) {
+    run(QStringLiteral("abc"), [] {
+        const auto menu = [](const char *item) {
+            const auto shown = static_cast<PlainTextBox *>(text())->contextMenu();
+            for (QAction *action : shown->actions()) {
+                if (action->text().startsWith(QLatin1StringView(item)))
+                    return action->trigger();
+            }
+            ADD_FAILURE() << item;
+        };
+        const auto sees = [](const char16_t *expected, int caret) {
+            EXPECT_EQ(text()->toPlainText(), QString::fromUtf16(expected));
+            EXPECT_EQ(text()->textCursor().position(), caret);
+        };
+        const auto &redo = child<QWidget>(*window(), "cmdRedo");
+        QTest::keyClicks(text(), QStringLiteral("one two"));
+        EXPECT_FALSE(redo.isEnabled());
+        QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier);
+        sees(u"one abc", 4);
+        EXPECT_TRUE(redo.isEnabled());
+        menu("&Undo");
+        sees(u"abc", 0);
+        QTest::keyClick(text(), Qt::Key_W, Qt::AltModifier); // both boxes share one history
+        click(*window(), "cmdRedo");
+        sees(u"one abc", 4);
+        menu("&Redo");
+        sees(u"one twoabc", 7);
+        click(*window(), "cmdUndo");
+        sees(u"abc", 0);
+        QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
+    });
+    EXPECT_EQ(pasted(), QStringLiteral("abc"));
 }
 
 TEST_F(MainWindowStory, theRightButtonRunsAToolWithItsLastSettings) {
