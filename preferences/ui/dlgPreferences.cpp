@@ -9,6 +9,7 @@
 #include "preferences/special_folders.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -108,7 +109,9 @@ void dlgPreferences::cmdApply_Click() {
 }
 
 QString dlgPreferences::folder() const {
-    return m_folder.isEmpty() ? GetDocumentsFolder() : m_folder;
+    const QString folder = m_folder.isEmpty() ? GetDocumentsFolder() : m_folder;
+    // The file dialog would take a folder that isn't there for the name of a file.
+    return QFileInfo(folder).isDir() ? folder : GetSpecialFolder(specialFolder::home);
 }
 
 void dlgPreferences::rememberFolder(const QString &file) {

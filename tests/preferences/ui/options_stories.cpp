@@ -10,7 +10,9 @@
 #include "tests/ui/user.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QDoubleSpinBox>
+#include <QFileDialog>
 #include <QFontComboBox>
 #include <QFontInfo>
 #include <QLabel>
@@ -18,6 +20,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
 
 using namespace tolvo;
 
@@ -204,6 +207,24 @@ TEST_F(OptionsStory, openOnWhatCantBeRead) {
     EXPECT_FALSE(control<QCheckBox>("chkSounds").isChecked());
     EXPECT_TRUE(control<QRadioButton>("optSpellingProvider_1").isChecked());
     EXPECT_EQ(control<QLabel>("labLastCheck").text(), QStringLiteral("You have never checked for updates"));
+}
+
+TEST_F(OptionsStory, theExportProposesAFolderThatIsThere) {
+    const QTemporaryDir home;
+    const QByteArray before = qgetenv("HOME");
+    qputenv("HOME", home.path().toLocal8Bit());
+    for (const bool documents : {false, true}) {
+        if (documents)
+            QDir(home.path()).mkdir(QStringLiteral("Documents"));
+        open();
+        withModal<QFileDialog>([&](QFileDialog &files) {
+            EXPECT_EQ(files.directory().path(),
+                      home.path() + QLatin1StringView(documents ? "/Documents" : ""));
+            EXPECT_EQ(child<QLineEdit>(files, "fileNameEdit").text(), QString());
+        });
+        control<QPushButton>("cmdExport").click();
+    }
+    qputenv("HOME", before);
 }
 
 TEST_F(OptionsStory, aProviderOutsideTheListIsKept) {
