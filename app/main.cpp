@@ -93,10 +93,9 @@ int main(int argc, char **argv) {
         const Application application(argc, argv);
         const CommandKeys commandKeys;
         QApplication::setStyle(new WordsOnButtons);
-        makeHintsReadable();
+        dressApplication();
         QCoreApplication::setApplicationName(QStringLiteral("tolvo"));
         QCoreApplication::setApplicationVersion(applicationVersion());
-        QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
         const int code = runOnce();
         keeper.sessionOver(code);

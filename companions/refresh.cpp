@@ -54,6 +54,7 @@ void lookForUpdate(const QUrl &address, HttpClient &client, RefreshOutcome &outc
             QStringLiteral("%1 %2 is up to date.").arg(applicationTitle(), applicationVersion());
         return;
     }
+    outcome.newer = true;
     outcome.messages += QStringLiteral("Version %1 of %2 is available. You have version %3.")
                             .arg(offered.toString(), applicationTitle(), applicationVersion());
     const QUrl download(answer.value(QStringLiteral("url")).toString());
@@ -119,8 +120,13 @@ QByteArray usageReport(const UsagePeriod &period, const QDateTime &until) {
 RefreshOutcome refresh(const RefreshTask &task, const QByteArray &address, SettingsStore &store,
                        HttpClient &client, const Clock &clock) {
     RefreshOutcome outcome;
-    if (address.isEmpty() || (!task.update && !task.stats))
+    if (!task.update && !task.stats)
         return outcome;
+    if (address.isEmpty()) {
+        outcome.messages += QStringLiteral("This copy of %1 has no address where it could ask for updates.")
+                                .arg(applicationTitle());
+        return outcome;
+    }
     const QUrl url = QUrl::fromEncoded(address);
     if (!isWebAddress(url)) {
         outcome.done = false;

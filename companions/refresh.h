@@ -18,7 +18,7 @@ namespace tolvo {
 struct RefreshTask {
     bool update = false; ///< /update: look for a newer version
     bool stats = false;  ///< /stats: send the counters and begin a new period
-    bool quiet = false;  ///< /quiet: show nothing
+    bool quiet = false;  ///< /quiet: show nothing unless there is a newer version
 };
 
 /// The switches of the command line; nothing if there is an unknown one.
@@ -28,9 +28,10 @@ struct RefreshTask {
 [[nodiscard]] QByteArray updateAddress();
 
 struct RefreshOutcome {
-    bool done = true;     ///< everything asked for has come to its end
-    QStringList messages; ///< for the user
-    QString download;     ///< web address of a newer version, empty if there is none
+    bool done = true;          ///< everything asked for has come to its end
+    QStringList messages = {}; ///< for the user
+    bool newer = false;        ///< there is a newer version
+    QString download = {};     ///< web address of a newer version, empty if there is none
 };
 
 [[nodiscard]] RefreshOutcome refresh(const RefreshTask &task, const QByteArray &address, SettingsStore &store,

@@ -1,39 +1,63 @@
 // SPDX-License-Identifier: MIT
 // Refresher.exe [/update] [/stats] [/quiet]. Exit code 0: done, or nothing to do; 1: not everything could be
-// done; 2: an unknown switch.
+// done; 2: an unknown switch. Quiet, it shows nothing but a newer version, unless a user asked for it.
 #include "base/failure.h"
 #include "companions/refresh.h"
 #include "companions/refresh_report.h"
 #include "platform/network/NetworkHttpClient.h"
+#include "platform/processes.h"
 #include "preferences/settings_store.h"
 
 #include <QCoreApplication>
+#include <QLockFile>
 #include <cstdio>
 
+namespace {
+
+using namespace tolvo;
+
+RefreshOutcome workQuietly(int argc, char **argv, const std::function<RefreshOutcome(HttpClient &)> &work) {
+    const QCoreApplication application(argc, argv);
+    NetworkHttpClient client;
+    return work(client);
+}
+
+} // namespace
+
 int main(int argc, char **argv) {
-    using namespace tolvo;
     QStringList switches;
     for (int i = 1; i < argc; ++i)
         switches += QString::fromLocal8Bit(argv[i]);
-    const auto task = refreshTask(switches);
+    auto task = refreshTask(switches);
     if (!task) {
         std::fputs("Usage: Refresher.exe [/update] [/stats] [/quiet]\n", stderr);
         return 2;
     }
     const QByteArray address = updateAddress();
-    if (address.isEmpty())
+    const bool askedFor = qEnvironmentVariableIsSet(askedForVariable);
+    if (address.isEmpty() && !askedFor)
         return 0;
     const auto work = [&](HttpClient &client) {
         try {
-            SettingsStore store(SettingsStore::defaultPath());
+            const QString path = SettingsStore::defaultPath();
+            SettingsStore store(path);
+            // While another one sends the counters there is nothing left to send.
+            QLockFile sending(path + QStringLiteral(".counters"));
+            sending.setStaleLockTime(0);
+            if (task->stats)
+                task->stats = sending.tryLock();
             return refresh(*task, address, store, client, Clock());
         } catch (const Failure &failure) {
-            return RefreshOutcome{false, {failure.description()}, {}};
+            return RefreshOutcome{.done = false, .messages = {failure.description()}};
         }
     };
-    if (!task->quiet)
-        return refreshAloud(argc, argv, work).done ? 0 : 1;
-    const QCoreApplication application(argc, argv);
-    NetworkHttpClient client;
-    return work(client).done ? 0 : 1;
+    RefreshOutcome outcome;
+    if (task->quiet && !askedFor) {
+        outcome = workQuietly(argc, argv, work);
+        if (outcome.newer)
+            refreshAloud(argc, argv, [&](HttpClient &) { return outcome; });
+    } else {
+        outcome = refreshAloud(argc, argv, work);
+    }
+    return outcome.done ? 0 : 1;
 }

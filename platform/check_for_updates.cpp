@@ -7,7 +7,7 @@
 namespace tolvo {
 
 void runCheckForUpdates(Processes &processes, MessageBoxes &boxes, const QString &programFolder, bool update,
-                        bool stats, bool quiet) {
+                        bool stats, bool quiet, bool askedFor) {
     reportFailures(boxes, QStringLiteral("Gen_Procs"), QStringLiteral("runCheckForUpdates"), [&] {
         QStringList switches;
         if (update)
@@ -16,8 +16,9 @@ void runCheckForUpdates(Processes &processes, MessageBoxes &boxes, const QString
             switches += QStringLiteral("/stats");
         if (quiet)
             switches += QStringLiteral("/quiet");
-        processes.start(sAppPath(programFolder) + QStringLiteral("Refresher.exe"), switches,
-                        WindowMode::Normal);
+        processes.start({.program = sAppPath(programFolder) + QStringLiteral("Refresher.exe"),
+                         .arguments = switches,
+                         .askedFor = askedFor});
     });
 }
 

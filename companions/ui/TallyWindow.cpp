@@ -58,14 +58,13 @@ QString headline(const UsagePeriod &period) {
 
 TallyWindow::TallyWindow(const SettingsStore &store, std::function<QString(const QString &)> nameOf,
                          QWidget *parent)
-    : QDialog(parent), m_nameOf(std::move(nameOf)), m_span(new QComboBox) {
+    : QDialog(parent), m_store(store), m_nameOf(std::move(nameOf)), m_head(new QLabel),
+      m_span(new QComboBox) {
     setObjectName(QStringLiteral("frmTally"));
     setWindowTitle(applicationTitle() + QStringLiteral(" statistics"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
 
-    const UsagePeriod period = usagePeriod(store);
-    auto *const head = new QLabel(headline(period));
-    head->setObjectName(QStringLiteral("labSince"));
+    m_head->setObjectName(QStringLiteral("labSince"));
     m_span->setObjectName(QStringLiteral("cmbSpan"));
     m_span->addItems({QStringLiteral("This period"), QStringLiteral("All time")});
     m_span->setCurrentIndex(1);
@@ -73,15 +72,14 @@ TallyWindow::TallyWindow(const SettingsStore &store, std::function<QString(const
     auto *const spanLabel = new QLabel(QStringLiteral("&Bars:"));
     spanLabel->setBuddy(m_span);
     auto *const top = new QHBoxLayout;
-    top->addWidget(head, 1);
+    top->addWidget(m_head, 1);
     top->addWidget(spanLabel);
     top->addWidget(m_span);
 
     auto *const tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("SSTab1"));
-    tabs->addTab(makePage(toolCounts(store, false), QStringLiteral("Tools")), QStringLiteral("&Tools"));
-    tabs->addTab(makePage(toolCounts(store, true), QStringLiteral("PowerButtons")),
-                 QStringLiteral("From &PowerButtons"));
+    tabs->addTab(makePage(false, QStringLiteral("Tools")), QStringLiteral("&Tools"));
+    tabs->addTab(makePage(true, QStringLiteral("PowerButtons")), QStringLiteral("From &PowerButtons"));
 
     auto *const close = new QPushButton(QStringLiteral("&Close"));
     close->setObjectName(QStringLiteral("cmdClose"));
@@ -95,15 +93,32 @@ TallyWindow::TallyWindow(const SettingsStore &store, std::function<QString(const
     layout->addLayout(top);
     layout->addWidget(tabs, 1);
     layout->addLayout(bottom);
-    showBars();
+    showCounts();
     resize(fontMetrics().averageCharWidth() * 140, fontMetrics().height() * 32);
 }
 
-QWidget *TallyWindow::makePage(const QList<ToolCount> &counts, const QString &name) {
+void TallyWindow::comeBack() {
+    showCounts();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void TallyWindow::showCounts() {
+    m_head->setText(headline(usagePeriod(m_store)));
+    for (Page &page : m_pages) {
+        page.counts = toolCounts(m_store, page.fromPowerButtons);
+        fillTable(*page.table, page.counts);
+    }
+    showBars();
+}
+
+QWidget *TallyWindow::makePage(bool fromPowerButtons, const QString &name) {
     auto *const table = new QTableWidget;
     table->setObjectName(QStringLiteral("lvw") + name);
     table->setAccessibleName(QStringLiteral("Counts"));
-    fillTable(*table, counts);
+    shapeTable(*table);
 
     auto *const chart = new BarChart;
     chart->setObjectName(QStringLiteral("pic") + name);
@@ -119,14 +134,12 @@ QWidget *TallyWindow::makePage(const QList<ToolCount> &counts, const QString &na
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
-    m_pages += Page{counts, table, chart};
+    m_pages += Page{fromPowerButtons, {}, table, chart};
     return splitter;
 }
 
 void TallyWindow::fillTable(QTableWidget &table, const QList<ToolCount> &counts) const {
-    table.setColumnCount(3);
-    table.setHorizontalHeaderLabels(
-        {QStringLiteral("Tool"), QStringLiteral("This period"), QStringLiteral("All time")});
+    table.setSortingEnabled(false); // a row would move while it is filled
     table.setRowCount(static_cast<int>(counts.size()));
     for (int row = 0; row < table.rowCount(); ++row) {
         const ToolCount &count = counts.at(row);
@@ -134,6 +147,13 @@ void TallyWindow::fillTable(QTableWidget &table, const QList<ToolCount> &counts)
         table.setItem(row, PeriodColumn, new CountItem(count.period));
         table.setItem(row, TotalColumn, new CountItem(count.total));
     }
+    table.setSortingEnabled(true);
+}
+
+void TallyWindow::shapeTable(QTableWidget &table) const {
+    table.setColumnCount(3);
+    table.setHorizontalHeaderLabels(
+        {QStringLiteral("Tool"), QStringLiteral("This period"), QStringLiteral("All time")});
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setAlternatingRowColors(true);

@@ -7,6 +7,7 @@
 #include <functional>
 
 class QComboBox;
+class QLabel;
 class QTableWidget;
 
 namespace tolvo {
@@ -23,17 +24,25 @@ class TallyWindow final : public QDialog {
     TallyWindow(const SettingsStore &store, std::function<QString(const QString &)> nameOf,
                 QWidget *parent = nullptr);
 
+    /// Shows the present counts, in front of all other windows.
+    void comeBack();
+
   private:
     struct Page {
+        bool fromPowerButtons;
         QList<ToolCount> counts;
         QTableWidget *table;
         BarChart *chart;
     };
-    [[nodiscard]] QWidget *makePage(const QList<ToolCount> &counts, const QString &name);
+    [[nodiscard]] QWidget *makePage(bool fromPowerButtons, const QString &name);
+    void shapeTable(QTableWidget &table) const;
     void fillTable(QTableWidget &table, const QList<ToolCount> &counts) const;
+    void showCounts();
     void showBars();
 
+    const SettingsStore &m_store;
     std::function<QString(const QString &)> m_nameOf;
+    QLabel *m_head;
     QComboBox *m_span;
     QList<Page> m_pages;
 };

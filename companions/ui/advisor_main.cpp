@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Advisor.exe: tips, one at a time. A second one that is started while the first is open ends at once.
+// Advisor.exe: tips, one at a time. A second one that is started while the first is open ends at once. One
+// that is held back shows its window when whoever started it lets go.
 #include "companions/ui/AdvisorWindow.h"
 #include "platform/icons/themed_icon.h"
+#include "platform/processes.h"
 #include "preferences/settings_store.h"
 
 #include <QApplication>
 #include <QLockFile>
+#include <QSocketNotifier>
+#include <unistd.h>
 
 int main(int argc, char **argv) {
     const QApplication application(argc, argv);
-    tolvo::makeHintsReadable();
+    tolvo::dressApplication();
     const QString path = tolvo::SettingsStore::defaultPath();
     tolvo::SettingsStore store(path);
     QLockFile single(path + QStringLiteral(".tips"));
@@ -17,6 +21,15 @@ int main(int argc, char **argv) {
     if (!single.tryLock() && single.error() == QLockFile::LockFailedError)
         return 0;
     tolvo::AdvisorWindow window(store);
-    window.show();
+    QSocketNotifier letGo(STDIN_FILENO, QSocketNotifier::Read);
+    if (qEnvironmentVariableIsSet(tolvo::heldBackVariable)) {
+        QObject::connect(&letGo, &QSocketNotifier::activated, &window, [&] {
+            letGo.setEnabled(false);
+            window.show();
+        });
+    } else {
+        letGo.setEnabled(false);
+        window.show();
+    }
     return QApplication::exec();
 }

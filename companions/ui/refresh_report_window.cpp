@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "companions/refresh_report.h"
 #include "companions/ui/RefreshWindow.h"
+#include "platform/icons/themed_icon.h"
 #include "platform/network/NetworkHttpClient.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@ namespace tolvo {
 
 RefreshOutcome refreshAloud(int argc, char **argv, const std::function<RefreshOutcome(HttpClient &)> &work) {
     const QApplication application(argc, argv);
+    dressApplication();
     RefreshWindow window;
     window.show();
     NetworkHttpClient client;

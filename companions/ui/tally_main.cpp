@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Tally.exe: what was counted. Tools go by their names in the catalogue, or by their tokens without one.
+// Tally.exe: what was counted. Tools go by their names in the catalogue, or by their tokens without one. A
+// second one that is started while the first is open raises that and ends.
 #include "base/failure.h"
 #include "base/paths.h"
 #include "companions/ui/TallyWindow.h"
+#include "companions/ui/single_window.h"
 #include "platform/icons/themed_icon.h"
 #include "powerbuttons/catalogue.h"
 #include "preferences/settings_store.h"
@@ -23,9 +25,13 @@ tolvo::Catalogue catalogueBeside(const QString &folder) {
 
 int main(int argc, char **argv) {
     const QApplication application(argc, argv);
-    tolvo::makeHintsReadable();
+    tolvo::dressApplication();
+    const QString path = tolvo::SettingsStore::defaultPath();
+    tolvo::SingleWindow single(path + QStringLiteral(".tally"));
+    if (!single.isFirst())
+        return 0;
     const tolvo::Catalogue catalogue = catalogueBeside(QApplication::applicationDirPath());
-    const tolvo::SettingsStore store(tolvo::SettingsStore::defaultPath());
+    const tolvo::SettingsStore store(path);
     tolvo::TallyWindow window(store, [&](const QString &token) {
         const tolvo::ToolPtr tool = catalogue.tool(token);
         QString name = tool ? tool->Name() : token;
@@ -33,6 +39,7 @@ int main(int argc, char **argv) {
             name.chop(1);
         return name;
     });
+    single.onSecond = [&window] { window.comeBack(); };
     window.show();
     return QApplication::exec();
 }

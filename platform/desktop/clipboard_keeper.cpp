@@ -2,6 +2,7 @@
 #include "platform/desktop/clipboard_keeper.h"
 
 #include "platform/desktop/x11_selection.h"
+#include "platform/headless/open_descriptors.h"
 
 #include <QClipboard>
 #include <QEventLoop>
@@ -11,8 +12,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
-#include <dirent.h>
 #include <fcntl.h>
 #include <malloc.h>
 #include <sys/prctl.h>
@@ -31,20 +30,6 @@ volatile std::sig_atomic_t sessionProcess = 0;
 
 void forwardSignal(int signal) {
     kill(static_cast<pid_t>(sessionProcess), signal);
-}
-
-std::vector<int> inheritedDescriptors() {
-    std::vector<int> found;
-    DIR *folder = opendir("/proc/self/fd");
-    if (!folder)
-        return found;
-    while (const dirent *entry = readdir(folder)) {
-        const int descriptor = std::atoi(entry->d_name);
-        if (descriptor > STDERR_FILENO && descriptor != dirfd(folder))
-            found.push_back(descriptor);
-    }
-    closedir(folder);
-    return found;
 }
 
 /// Ends this process by the signal that ended the session. The session has left the core file, if any.
@@ -136,7 +121,7 @@ void KeeperSession::keepClipboardUntilTaken() {
 }
 
 int runAsClipboardKeeper(const std::function<int(KeeperSession &)> &session) {
-    std::vector<int> inherited = inheritedDescriptors();
+    std::vector<int> inherited = openDescriptors();
     sigset_t blocked;
     sigset_t before;
     sigemptyset(&blocked);

@@ -2,13 +2,18 @@
 #include "platform/headless/SystemProcesses.h"
 
 #include "base/failure.h"
+#include "platform/headless/open_descriptors.h"
 
 #include <QProcess>
+#include <QProcessEnvironment>
 
+#include <array>
 #include <cerrno>
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tolvo {
 
@@ -20,11 +25,48 @@ namespace {
 
 } // namespace
 
-qint64 SystemProcesses::start(const QString &program, const QStringList &arguments, WindowMode) {
-    qint64 process = 0;
-    if (!QProcess::startDetached(program, arguments, QString(), &process))
-        failNotStarted(program);
-    return process;
+SystemProcesses::~SystemProcesses() {
+    letGo();
+}
+
+qint64 SystemProcesses::start(const ProgramStart &start) {
+    QProcess process;
+    process.setProgram(start.program);
+    process.setArguments(start.arguments);
+    process.setStandardInputFile(start.heldBack ? gate() : QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    if (start.heldBack || start.askedFor) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const auto &[said, variable] :
+             {std::pair{start.heldBack, heldBackVariable}, {start.askedFor, askedForVariable}}) {
+            if (said)
+                environment.insert(QLatin1StringView(variable), QStringLiteral("1"));
+        }
+        process.setProcessEnvironment(environment);
+    }
+    // Whoever started us may wait for the end of what we have inherited.
+    for (const int descriptor : openDescriptors())
+        fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+    qint64 identifier = 0;
+    if (!process.startDetached(&identifier))
+        failNotStarted(start.program);
+    return identifier;
+}
+
+QString SystemProcesses::gate() {
+    if (std::array<int, 2> pipe{-1, -1}; m_gateIn < 0 && pipe2(pipe.data(), O_CLOEXEC) == 0) {
+        m_gateOut = pipe[0];
+        m_gateIn = pipe[1];
+    }
+    return m_gateIn < 0 ? QProcess::nullDevice() : QStringLiteral("/proc/self/fd/%1").arg(m_gateOut);
+}
+
+void SystemProcesses::letGo() {
+    for (int *end : {&m_gateIn, &m_gateOut}) {
+        if (*end >= 0)
+            close(std::exchange(*end, -1));
+    }
 }
 
 void SystemProcesses::waitFor(qint64 process) {
@@ -43,10 +85,11 @@ bool SystemProcesses::open(const QString &) {
     return false;
 }
 
-qint64 RecordingProcesses::start(const QString &program, const QStringList &arguments, WindowMode mode) {
+qint64 RecordingProcesses::start(const ProgramStart &start) {
     if (missing)
-        failNotStarted(program);
-    started += Start{program, arguments, mode};
+        failNotStarted(start.program);
+    started += start;
+    heldBack = heldBack || start.heldBack;
     return started.size();
 }
 

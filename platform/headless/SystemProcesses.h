@@ -8,28 +8,40 @@ namespace tolvo {
 /// Real processes. They outlive the program that starts them; window modes are left to the window system.
 class SystemProcesses : public Processes {
   public:
-    qint64 start(const QString &program, const QStringList &arguments, WindowMode mode) override;
+    SystemProcesses() = default;
+    ~SystemProcesses() override;
+    SystemProcesses(const SystemProcesses &) = delete;
+    SystemProcesses &operator=(const SystemProcesses &) = delete;
+
+    using Processes::start;
+    qint64 start(const ProgramStart &start) override;
+    void letGo() override;
     void waitFor(qint64 process) override;
     /// Without a desktop nothing can be opened: false.
     bool open(const QString &address) override;
+
+  private:
+    /// The standard input of what is held back; made when first needed.
+    [[nodiscard]] QString gate();
+
+    int m_gateOut = -1; ///< the end of the gate that the others read
+    int m_gateIn = -1;  ///< ours; they wait until it is closed
 };
 
 /// Starts nothing and keeps what was asked for.
 class RecordingProcesses final : public Processes {
   public:
-    qint64 start(const QString &program, const QStringList &arguments, WindowMode mode) override;
+    using Processes::start;
+    qint64 start(const ProgramStart &start) override;
+    void letGo() override { heldBack = false; }
     void waitFor(qint64 process) override { waitedFor += process; }
     bool open(const QString &address) override {
         opened += address;
         return true;
     }
 
-    struct Start {
-        QString program;
-        QStringList arguments;
-        WindowMode mode;
-    };
-    QList<Start> started;
+    QList<ProgramStart> started;
+    bool heldBack = false; ///< something was started held back and not let go yet
     QList<qint64> waitedFor;
     QStringList opened;
     bool missing = false; ///< every start fails, as for a program that is not there

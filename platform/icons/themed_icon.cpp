@@ -37,7 +37,9 @@ QColor accent(const QPalette &palette) {
     return isDark(palette) ? QColor(104, 200, 140) : QColor(1, 99, 49);
 }
 
-void makeHintsReadable() {
+void dressApplication() {
+    QGuiApplication::setWindowIcon(themedIcon(QStringLiteral("tolvo"))); // a file's would load two plugins
+    QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));
     QPalette hints; // all other colours go on following the theme
     hints.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
     QGuiApplication::setPalette(hints);

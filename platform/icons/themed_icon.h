@@ -17,9 +17,9 @@ namespace tolvo {
 /// The dark green of the tools (red 1, green 99, blue 49) on a light ground, a lighter green on a dark one.
 [[nodiscard]] QColor accent(const QPalette &palette);
 
-/// Gives the hints of empty fields a grey that can be read on any ground: some dark themes leave them black.
-/// To be called once, when the application stands.
-void makeHintsReadable();
+/// Gives all windows of the program its icon, and the hints of empty fields a grey that can be read on any
+/// ground: some dark themes leave them black. To be called once, when the application stands.
+void dressApplication();
 
 /// True if the palette's windows are dark.
 [[nodiscard]] bool isDark(const QPalette &palette);

@@ -14,6 +14,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
@@ -55,7 +57,6 @@ MainWindow::MainWindow(QWidget *parent)
     QAccessible::installFactory(describeMainWindow);
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(applicationTitle() + u' ' + applicationVersion());
-    setWindowIcon(themedIcon(QStringLiteral("tolvo"))); // from a file it would load two plugins at start
 
     auto *right = new QVBoxLayout;
     right->setSpacing(6);
@@ -77,7 +78,8 @@ MainWindow::MainWindow(QWidget *parent)
     offerUndoInTextBoxes();
     showUndoRedo(false, false);
     showTextBox(false);
-    resize(startSize);
+    const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    resize(startSize.boundedTo(screen()->availableSize() - titleBar));
 }
 
 QToolButton *MainWindow::imageButton(const char *name, const char *icon, const QString &tip,

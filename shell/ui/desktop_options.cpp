@@ -26,7 +26,8 @@ bool DesktopOptions::isSystemExtension(const QString &extension) const {
 }
 
 void DesktopOptions::checkNow() {
-    runCheckForUpdates(m_services.processes, m_services.boxes, m_services.programFolder, true, false, true);
+    runCheckForUpdates(m_services.processes, m_services.boxes, m_services.programFolder, true, false, true,
+                       true);
 }
 
 void DesktopOptions::viewStatistics() {

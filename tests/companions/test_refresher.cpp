@@ -117,7 +117,7 @@ struct RefresherProgram : testing::Test {
 };
 
 TEST_F(RefresherProgram, SendsTheCountersAndBeginsAPeriod) {
-    HttpServer server(httpReply("200 OK", R"({"version": "99.0"})"));
+    HttpServer server(httpReply("200 OK", R"({"version": "0.1"})"));
     const auto [code, output] = run({u"/update"_s, u"/stats"_s, u"/quiet"_s}, server.url("/t"));
     EXPECT_EQ(code, 0);
     EXPECT_EQ(output, QByteArray()) << "quiet is quiet";
@@ -131,6 +131,22 @@ TEST_F(RefresherProgram, SendsTheCountersAndBeginsAPeriod) {
     EXPECT_EQ(sent.value(u"tools"_s).toObject().value(u"foTRA"_s).toInt(), 3);
     const SettingsStore store(settings);
     EXPECT_EQ(store.GetSetting(stats, u"Usage"_s, u"foTRA"_s, 0), u"0"_s);
+}
+
+TEST_F(RefresherProgram, TwoAtOnceSendTheCountersOnce) {
+    const QStringList switches{u"/stats"_s, u"/quiet"_s};
+    QByteArray address;
+    int codeOfSecond = -1;
+    HttpServer server([&](QTcpSocket &socket) {
+        if (codeOfSecond < 0)
+            codeOfSecond = run(switches, address).first; // while the first waits for the answer
+        socket.write(httpReply("200 OK"));
+        socket.disconnectFromHost();
+    });
+    address = server.url("/t");
+    EXPECT_EQ(run(switches, address).first, 0);
+    EXPECT_EQ(codeOfSecond, 0);
+    EXPECT_EQ(server.requests.size(), 1);
 }
 
 TEST_F(RefresherProgram, ChangesNothingWithoutAnAddress) {

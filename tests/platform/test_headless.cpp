@@ -6,10 +6,22 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThread>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace tolvo {
+
+namespace {
+
+QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
 
 TEST(ClipboardLineEnds, TextWithoutCrComesInWithCrLfAndGoesOutWithLf) {
     // What comes in, what is taken, what goes out after an edit that appended "\r\n!".
@@ -51,9 +63,44 @@ TEST(Processes, AStartedProgramCanBeWaitedFor) {
     processes.waitFor(process);
     EXPECT_TRUE(QFile::exists(mark));
     processes.waitFor(process); // long gone: returns
+    EXPECT_EQ(contentOf(mark), "done\n");
     const QString missing = u"/nowhere/Advisor.exe"_s;
     expectFailure(
         failureNumber::fileNotFound, [&] { processes.start(missing, {}, WindowMode::Normal); }, missing);
+}
+
+TEST(Processes, AStartedProgramInheritsNothing) {
+    QTemporaryDir folder;
+    const QString mark = folder.filePath(u"mark"_s);
+    const int inherited = ::dup(STDERR_FILENO);
+    SystemProcesses processes;
+    processes.waitFor(processes.start(
+        u"/bin/sh"_s,
+        {u"-c"_s, u"{ ls /proc/$$/fd; for fd in 0 1 2; do readlink /proc/$$/fd/$fd; done; } | cat >\"$0\""_s,
+         mark},
+        WindowMode::Normal));
+    ::close(inherited);
+    EXPECT_EQ(contentOf(mark), "0\n1\n2\n/dev/null\n/dev/null\n/dev/null\n");
+}
+
+TEST(Processes, WhatIsHeldBackWaitsUntilItIsLetGo) {
+    for (const bool byItsEnd : {false, true}) {
+        QTemporaryDir folder;
+        const QString mark = folder.filePath(u"mark"_s);
+        auto processes = std::make_unique<SystemProcesses>();
+        const qint64 process = processes->start(
+            {.program = u"/bin/sh"_s,
+             .arguments = {u"-c"_s, u"cat; echo $TOLVO_HELD_BACK$TOLVO_ASKED_FOR >\"$0\""_s, mark},
+             .heldBack = true});
+        QThread::msleep(200);
+        EXPECT_FALSE(QFile::exists(mark));
+        if (byItsEnd)
+            processes.reset();
+        else
+            processes->letGo();
+        SystemProcesses().waitFor(process);
+        EXPECT_EQ(contentOf(mark), "1\n");
+    }
 }
 
 } // namespace tolvo

@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTextDocumentFragment>
 
@@ -101,6 +102,15 @@ TEST_F(MainWindowStory, aCategoryOpensAndItsToolRuns) {
     EXPECT_EQ(pasted(), QStringLiteral("ONE\nTWO"));
     EXPECT_EQ(sound.waves.size(), 1); // scrbar.wav as the rows slid out
     EXPECT_EQ(sound.beeps, 1);
+}
+
+TEST_F(MainWindowStory, theWindowFitsOnTheScreen) {
+    run(QString(), [] {
+        const QSize screen = window()->screen()->availableSize();
+        EXPECT_LE(window()->width(), screen.width());
+        EXPECT_LT(window()->height(), screen.height());
+        click(*window(), "cmdClose");
+    });
 }
 
 TEST_F(MainWindowStory, keysReachTheTextInBothBoxes) {
