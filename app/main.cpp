@@ -62,6 +62,8 @@ int runOnce() {
     Clock clock;
     FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
     EscapeWatch escape;
+    clipboard.guardInput = [&escape] { return escape.guard(); };
+    clipboard.cancelled = [&escape] { return escape.escapePressed(); };
     OnDemandHttpClient http(folder);
     http.guardInput = [&escape] { return escape.guard(); };
     http.cancelled = [&escape] { return escape.escapePressed(); };

@@ -133,7 +133,7 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
 
     frmMain &session = headless.session;
     headless.clipboard.text = request.clipboard;
-    session.txtCurrent().setText(request.text);
+    session.takeText(request.text, request.text.size() > request.capacity);
     select(session.txtCurrent(), request.selStart, request.selLength);
     session.beginWithText();
     // Every step says by itself whether it brings settings.

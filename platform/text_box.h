@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
 #include <functional>
 
 namespace tolvo {
@@ -26,7 +27,8 @@ class TextBox {
     virtual ~TextBox() = default;
 
     [[nodiscard]] virtual QString Text() const = 0;
-    /// Keeps the first capacity() units. Puts the caret at 0 and clears the selection. Writing the text that
+    /// Keeps the first capacity() units, less one where that would keep half a line end or half a surrogate
+    /// pair. Puts the caret at 0 and clears the selection. Writing the text that
     /// is there already fires no change.
     virtual void setText(const QString &text) = 0;
 
@@ -39,8 +41,8 @@ class TextBox {
 
     [[nodiscard]] virtual QString SelText() const = 0;
     /// Replaces the selection. The caret then stands behind the new text, and nothing is selected. Text that
-    /// would pass the capacity is cut from what is inserted, never from what stands behind it. Replacing by
-    /// the same text fires no change.
+    /// would pass the capacity is cut from what is inserted, as setText cuts, never from what stands behind
+    /// it. Replacing by the same text fires no change.
     virtual void setSelText(const QString &text) = 0;
 
     /// Length of Text() in UTF-16 units, without making a copy where that can be avoided.
@@ -56,12 +58,31 @@ class TextBox {
 
     /// Called after every change that the user made, before onChange.
     std::function<void(const UserEdit &edit)> onUserEdit;
+    /// Who wrote the text that did not find room.
+    enum class Writer { Code, User };
+    /// Called when text was cut to the capacity, with the length in UTF-16 units that the whole text would
+    /// have had: for code at once, for what the user typed, pasted or dropped once that event is over.
+    /// Keys that find the text full are told once, until the text changes.
+    std::function<void(qint64 length, Writer writer)> onCut;
+
+  protected:
+    void reportCut(qint64 length, Writer writer) const {
+        if (onCut)
+            onCut(length, writer);
+    }
 };
 
 /// Selects `length` units from `start`.
 inline void select(TextBox &box, int start, int length) {
     box.setSelStart(start);
     box.setSelLength(length);
+}
+
+/// Replaces the selection and selects what has taken its place; less than `text` if there is no room for all.
+inline void replaceAndSelect(TextBox &box, const QString &text) {
+    const int start = box.SelStart();
+    box.setSelText(text);
+    select(box, start, std::min(static_cast<int>(text.size()), box.SelStart() - start));
 }
 
 } // namespace tolvo

@@ -26,9 +26,13 @@ namespace tolvo {
     return splitsLineEnd(text, inside) ? inside + 1 : inside;
 }
 
-/// What of `inserted` finds room in a box that keeps `kept` units beside it.
+/// What of `inserted` finds room in a box that keeps `kept` units beside it. The cut takes no line end and no
+/// surrogate pair apart.
 [[nodiscard]] inline QStringView cutToRoom(QStringView inserted, qint64 capacity, qint64 kept) {
-    return inserted.left(std::max<qint64>(capacity - kept, 0));
+    const qint64 room = std::clamp<qint64>(capacity - kept, 0, inserted.size());
+    const bool splitsPair = room > 0 && room < inserted.size() && inserted[room - 1].isHighSurrogate() &&
+                            inserted[room].isLowSurrogate();
+    return inserted.first(splitsPair || splitsLineEnd(inserted, room) ? room - 1 : room);
 }
 
 } // namespace tolvo

@@ -157,7 +157,7 @@ int CSearch::replaceEach(QString &text, QStringView find, const QString &replace
         return true;
     });
     result += rest.sliced(done);
-    result.truncate(capacity);
+    result += QStringView(text).sliced(rest.size()); // unsearched: the text box cuts it off again, and tells
     text = result;
     return count;
 }

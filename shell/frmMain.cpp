@@ -11,21 +11,24 @@ frmMain::frmMain(const SessionServices &services, TextBox &txtText1, TextBox &tx
                        return extensions.IsRegisteredExtension(extension);
                    }),
       oUndo(undoHooks()), m_services(services), m_history(oUndo, services.clock), m_txtText1(txtText1),
-      m_txtTextWW(txtTextWW), m_txtCurrent(&txtText1), m_results(results), m_toolSettings(services.store) {
-    watch(m_txtText1);
-    watch(m_txtTextWW);
+      m_txtTextWW(txtTextWW), m_txtCurrent(&txtText1), m_results(results), m_toolSettings(services.store),
+      m_cuts(services.boxes) {
+    listenTo(m_txtText1);
+    listenTo(m_txtTextWW);
 }
 
 frmMain::~frmMain() {
     for (TextBox *box : {&m_txtText1, &m_txtTextWW}) {
         box->onChange = nullptr;
         box->onUserEdit = nullptr;
+        box->onCut = nullptr;
     }
 }
 
-void frmMain::watch(TextBox &box) {
+void frmMain::listenTo(TextBox &box) {
     box.onChange = [this] { m_dirty = true; };
     box.onUserEdit = [this](const UserEdit &edit) { m_history.noteUserEdit(edit, textState()); };
+    box.onCut = [this, &box](qint64 length, TextBox::Writer writer) { m_cuts.note(box, length, writer); };
 }
 
 cUndo::Hooks frmMain::undoHooks() {

@@ -16,6 +16,7 @@
 #include "preferences/settings_store.h"
 #include "search/CSearch.h"
 #include "shell/cUndo.h"
+#include "shell/cut_notice.h"
 #include "shell/session_windows.h"
 #include "shell/text_history.h"
 #include "shell/tool_settings_memory.h"
@@ -27,6 +28,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tolvo {
 
@@ -106,8 +108,13 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     /// Takes over what the Options store for the text tools: top level domains and file extensions.
     void readTextPreferences();
     /// Takes the clipboard's text into the text box, with its message if it is too long; `bDirty` and undo
-    /// are left to the caller.
+    /// are left to the caller. If the clipboard doesn't answer, the text stays and the status line says so.
     void takeClipboard();
+    /// Takes a text into the text box; with `tellOfCut` says first that the clipboard holds too much.
+    void takeText(const QString &text, bool tellOfCut);
+    /// What would be pasted, with `selection` by the middle mouse button; nothing if the clipboard doesn't
+    /// answer, which the status line then says.
+    [[nodiscard]] std::optional<QString> clipboardText(bool selection = false);
     /// Clipboard intake as the start does it: the text, the bottom state of undo, nothing dirty.
     void beginWithClipboard();
     /// The present text becomes the bottom state of undo, with nothing dirty.
@@ -186,7 +193,6 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void keepingText(Action &&action);
     void beep();
     [[nodiscard]] CloseAnswer askAboutChanges();
-    void watch(TextBox &box);
     void showOtherState(bool (TextHistory::*walk)(TextState &));
     void swapFonts();
     void hideWindow();
@@ -203,6 +209,8 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void endingCycles(Action &&action);
     void runWithSettings(const CAction &action);
     void reportTroubleOfStore();
+    void listenTo(TextBox &box);
+    [[nodiscard]] std::optional<QString> answered(std::optional<QString> text);
 
     SessionServices m_services;
     TextHistory m_history;
@@ -213,6 +221,7 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     std::unique_ptr<CSearch> m_search;
     ToolSettingsMemory m_toolSettings;
     QString m_status;
+    CutNotice m_cuts;
     QList<int> m_runningButtons; ///< indices of the PowerButtons that run now, outermost first
     int m_warnings = 0;
     bool m_dirty = false;
@@ -222,8 +231,10 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
 
 template <class Action>
 void frmMain::guarded(const char16_t *procedure, Action &&action) {
+    m_cuts.commandBegins();
     reportFailures(m_services.boxes, QStringLiteral("frmMain"), QString::fromUtf16(procedure),
                    std::forward<Action>(action));
+    m_cuts.commandEnds();
     reportTroubleOfStore();
 }
 
@@ -231,11 +242,13 @@ template <class Action>
 void frmMain::keepingText(Action &&action) {
     const TextState before = textState();
     const bool dirty = m_dirty;
+    const qint64 cut = m_cuts.pending();
     try {
         action();
     } catch (...) {
         restore(before);
         m_dirty = dirty;
+        m_cuts.setPending(cut);
         throw;
     }
 }

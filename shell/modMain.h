@@ -54,12 +54,12 @@ class SessionWindow {
     virtual void attach(frmMain &session, cToolbox &toolbox) = 0;
     /// Paints the icons of the eight PowerButtons.
     virtual void initIcons() = 0;
-    /// True if the platform gives the clipboard's text only to a window that has the focus. The window then
-    /// calls frmMain::beginWithClipboard() itself once it is active, before the user can type.
-    [[nodiscard]] virtual bool takesClipboardLater() const { return false; }
-    /// Shows the main window; returns when the session is over (frmMain::bSessionOver), whether the window
-    /// was hidden or closed.
-    virtual void showModal() = 0;
+    /// True if the clipboard's text is to be taken once the window is shown: the platform gives it only to a
+    /// window that has the focus, or its owner lets us wait.
+    [[nodiscard]] virtual bool takesClipboardLater() { return false; }
+    /// Shows the main window and calls `onceShown` before the user can type; returns when the session is over
+    /// (frmMain::bSessionOver), whether the window was hidden or closed.
+    virtual void showModal(const std::function<void()> &onceShown) = 0;
     /// Unloads every form that is still loaded; each saves its own section of the store.
     virtual void unloadForms() = 0;
 };
@@ -89,7 +89,8 @@ class modMain {
     void showTips();
     void readFonts();
     void countStart();
-    void takeText();
+    /// What is left of the start once the main window is shown.
+    void windowShown();
     void showTroubleOfStore();
     void finish();
     void sendStatistics();
@@ -100,6 +101,7 @@ class modMain {
     SessionWindowFactory m_makeWindow;
     std::unique_ptr<SessionWindow> m_window;
     std::unique_ptr<frmMain> m_session;
+    bool m_clipboardLater = false; ///< its text comes once the window is shown
 };
 
 } // namespace tolvo

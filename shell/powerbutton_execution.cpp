@@ -36,7 +36,8 @@ class Listed {
 template <class Action>
 void frmMain::endingCycles(Action &&action) {
     const auto takeBack = [this, text = textState(), undo = oUndo, history = m_history, status = m_status,
-                           dirty = m_dirty, undoEnabled = m_undoEnabled, redoEnabled = m_redoEnabled] {
+                           dirty = m_dirty, undoEnabled = m_undoEnabled, redoEnabled = m_redoEnabled,
+                           cut = m_cuts.pending()] {
         restore(text);
         oUndo = undo;
         m_history = history;
@@ -45,6 +46,7 @@ void frmMain::endingCycles(Action &&action) {
         m_services.view.undoRedoChanged(undoEnabled, redoEnabled);
         setStatus(status);
         m_dirty = dirty;
+        m_cuts.setPending(cut);
     };
     try {
         action();

@@ -30,7 +30,7 @@ int modMain::Main() {
     const bool complete =
         reportFailures(m_services.boxes, QStringLiteral("modMain"), QStringLiteral("Main"), [this] {
             start();
-            m_window->showModal();
+            m_window->showModal([this] { windowShown(); });
             finish();
         });
     return complete ? 0 : 1;
@@ -47,13 +47,19 @@ void modMain::start() {
     m_session->readTextPreferences();
     m_session->bSounds = preferenceIsOne(u"Sounds");
     countStart();
-    const bool later = m_window->takesClipboardLater();
-    if (!later)
+    m_clipboardLater = m_window->takesClipboardLater();
+    if (!m_clipboardLater)
         m_session->takeClipboard();
     m_window->initIcons();
-    if (!later)
+    if (!m_clipboardLater)
         m_session->beginWithText();
     showTroubleOfStore();
+}
+
+void modMain::windowShown() {
+    if (m_clipboardLater)
+        m_session->guarded(u"beginWithClipboard", [this] { m_session->beginWithClipboard(); });
+    m_services.processes.letGo();
 }
 
 void modMain::createSession() {
@@ -93,8 +99,11 @@ void modMain::loadPowerButtons() {
 
 void modMain::showTips() {
     if (preferenceIsOne(u"Show Tips at Startup"))
-        m_services.processes.start(sAppPath(m_services.programFolder) + QStringLiteral("Advisor.exe"), {},
-                                   WindowMode::NormalWithoutFocus);
+        // It stands beside the window and over nothing: what the start has to say comes first.
+        m_services.processes.start(
+            {.program = sAppPath(m_services.programFolder) + QStringLiteral("Advisor.exe"),
+             .mode = WindowMode::NormalWithoutFocus,
+             .heldBack = true});
 }
 
 void modMain::readFonts() {

@@ -84,10 +84,8 @@ void deleteSelection(frmMain &session) {
 
 void pasteAndSelect(frmMain &session) {
     TextBox &box = session.txtCurrent();
-    const QString text = session.services().clipboard.readText();
-    const int start = box.SelStart();
-    box.setSelText(text);
-    select(box, start, static_cast<int>(text.size()));
+    if (const std::optional<QString> text = session.clipboardText())
+        replaceAndSelect(box, *text);
     box.setFocus();
 }
 

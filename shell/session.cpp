@@ -6,10 +6,20 @@
 #include "base/conversions.h"
 #include "base/numbers.h"
 #include "base/strings.h"
+#include "platform/text_positions.h"
 #include "preferences/settings_table.h"
 #include "text/top_level_domains.h"
 
 namespace tolvo {
+
+namespace {
+
+/// A text of exactly the limit fits, and still counts as too long.
+bool tooLong(const QString &text) {
+    return text.size() >= textLimit;
+}
+
+} // namespace
 
 void frmMain::readTextPreferences() {
     const bool full = readSetting(m_services.store, u"Preferences", u"TLD_Full") == flagWord(true);
@@ -27,9 +37,24 @@ void frmMain::useTextBox(bool wrapped) {
 }
 
 void frmMain::takeClipboard() {
-    const QString text = m_services.clipboard.takeText();
-    if (text.size() >= textLimit) {
-        // A text of exactly the limit fits, and still counts as too long.
+    if (const std::optional<QString> text = answered(m_services.clipboard.takeText()))
+        takeText(*text, tooLong(*text));
+}
+
+std::optional<QString> frmMain::clipboardText(bool selection) {
+    Clipboard &clipboard = m_services.clipboard;
+    return answered(selection ? clipboard.readSelection() : clipboard.readText());
+}
+
+/// Says in the status line if the clipboard didn't answer.
+std::optional<QString> frmMain::answered(std::optional<QString> text) {
+    if (!text)
+        setStatus(QStringLiteral("The clipboard did not answer"));
+    return text;
+}
+
+void frmMain::takeText(const QString &text, bool tellOfCut) {
+    if (tellOfCut) {
         say(FillTemplate(
                 QStringLiteral("The text on the Clipboard exceeds the number of characters that Tolvo\r\n"
                                "can process (%0). There are %1 characters.\r\n"
@@ -37,7 +62,7 @@ void frmMain::takeClipboard() {
                 {groupedNumber(textLimit), groupedNumber(text.size())}),
             BoxIcon::Exclamation);
     }
-    txtCurrent().setText(text);
+    txtCurrent().setText(cutToRoom(text, txtCurrent().capacity(), 0).toString()); // as the box would cut it
 }
 
 void frmMain::beginWithClipboard() {
@@ -52,8 +77,11 @@ void frmMain::beginWithText() {
 
 void frmMain::cmdRefresh_Click() {
     guarded(u"cmdRefresh_Click", [this] {
+        const std::optional<QString> text = answered(m_services.clipboard.takeText());
+        if (!text)
+            return;
         pushUndo();
-        takeClipboard();
+        takeText(*text, tooLong(*text));
         noteText();
         m_dirty = false;
         setStatus(QStringLiteral("Text retrieved from clipboard"));
@@ -61,8 +89,11 @@ void frmMain::cmdRefresh_Click() {
 }
 
 bool frmMain::mayPaste() {
+    const std::optional<QString> text = clipboardText();
+    if (!text)
+        return false;
     const qint64 present = txtCurrent().length();
-    const qint64 coming = m_services.clipboard.readText().size();
+    const qint64 coming = text->size();
     // The selection that the paste would replace is not subtracted.
     if (present + coming < textLimit)
         return true;

@@ -53,11 +53,13 @@ void writeResult(TextBox &box, const ToolInput &input, const QString &result, Se
         box.setText(result);
         return;
     }
+    if (length == SelectionRule::NewLength) {
+        replaceAndSelect(box, result);
+        return;
+    }
     box.setSelText(result);
     if (length == SelectionRule::OldLength)
         select(box, input.start, static_cast<int>(input.text.size()));
-    else if (length == SelectionRule::NewLength)
-        select(box, input.start, static_cast<int>(result.size()));
 }
 
 /// A sort can't work on the text, which stays.

@@ -2,9 +2,11 @@
 #include "platform/desktop/DesktopClipboard.h"
 
 #include "platform/desktop/x11_selection.h"
+#include "platform/desktop/x11_text_transfer.h"
 
 #include <QClipboard>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -15,9 +17,9 @@ namespace tolvo {
 
 namespace {
 
-constexpr int offerMilliseconds = 500;    // how long the first offer after the window's show may take
-constexpr int settleMilliseconds = 100;   // how long it may take once the window has the focus
-constexpr int patienceMilliseconds = 300; // how long an owner may take before we say that we wait
+constexpr int offerMilliseconds = 500;  // how long the first offer after the window's show may take
+constexpr int settleMilliseconds = 100; // how long it may take once the window has the focus
+constexpr int stepMilliseconds = 20;    // how long the windows may go without care in a wait
 
 /// Whether what is on the clipboard is shown only to the program that has the focus. X11 programs under a
 /// Wayland compositor are in the same place.
@@ -27,6 +29,8 @@ bool clipboardFollowsFocus() {
 }
 
 bool clipboardOffers() {
+    if (isX11())
+        return x11ClipboardHasOwner();
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();
     return data && !data->formats().isEmpty();
 }
@@ -52,35 +56,64 @@ void waitForFirstOffer() {
         loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-/// Whether the clipboard's owner answers. Reading from one that doesn't would stand still for a quarter of a
-/// minute, so X11 owners are first asked what they have. Wayland's reads end by themselves after a second.
-bool ownerAnswers(int ownerMilliseconds, const std::function<void(bool)> &onWaiting) {
-    if (!isX11() || QGuiApplication::clipboard()->ownsClipboard())
-        return true;
-    X11SelectionProbe probe;
-    if (probe.waitForAnswer(patienceMilliseconds))
-        return true;
-    if (onWaiting)
-        onWaiting(true);
-    bool answered = false;
-    for (const QDeadlineTimer end(ownerMilliseconds); !answered && !end.hasExpired();) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        answered = probe.waitForAnswer(20);
-    }
-    if (onWaiting)
-        onWaiting(false);
-    return answered;
+/// Text of the clipboard in the way of the toolkit, which on Wayland gives up by itself after a second. A
+/// text that is offered and doesn't come by then is no answer.
+std::optional<QString> textOfToolkit(QClipboard::Mode mode) {
+    constexpr int givesUpAfter = 900; // milliseconds
+    QElapsedTimer timer;
+    timer.start();
+    const QString text = QGuiApplication::clipboard()->text(mode);
+    if (text.isEmpty() && timer.elapsed() > givesUpAfter)
+        return std::nullopt;
+    return text;
+}
+
+using Selection = X11TextTransfer::Selection;
+
+/// A transfer from another program's selection; none where the toolkit reads by itself.
+std::unique_ptr<X11TextTransfer> transferOf(Selection selection) {
+    const QClipboard &clipboard = *QGuiApplication::clipboard();
+    if (!isX11() ||
+        (selection == Selection::Clipboard ? clipboard.ownsClipboard() : clipboard.ownsSelection()))
+        return nullptr;
+    return std::make_unique<X11TextTransfer>(selection);
 }
 
 } // namespace
 
-QString DesktopClipboard::takeText() {
-    waitForFirstOffer();
-    return m_lineEnds.takeIn(fetch());
+DesktopClipboard::DesktopClipboard() = default;
+DesktopClipboard::~DesktopClipboard() = default;
+
+bool DesktopClipboard::comesAtOnce() {
+    if (clipboardFollowsFocus())
+        return false;
+    m_begun = transferOf(Selection::Clipboard);
+    return !m_begun || m_begun->advance(shortPatience);
 }
 
-QString DesktopClipboard::readText() {
-    return ClipboardLineEnds::comeIn(fetch());
+std::optional<QString> DesktopClipboard::takeText() {
+    waitForFirstOffer();
+    std::optional<QString> text =
+        m_begun ? fetch(std::move(m_begun), 0) : fetch(transferOf(Selection::Clipboard));
+    if (text)
+        text = m_lineEnds.takeIn(*std::move(text));
+    return text;
+}
+
+std::optional<QString> DesktopClipboard::readText() {
+    std::optional<QString> text = fetch(transferOf(Selection::Clipboard));
+    if (text)
+        text = ClipboardLineEnds::comeIn(*std::move(text));
+    return text;
+}
+
+std::optional<QString> DesktopClipboard::readSelection() {
+    auto transfer = transferOf(Selection::Primary);
+    std::optional<QString> text =
+        transfer ? fetch(std::move(transfer)) : textOfToolkit(QClipboard::Selection);
+    if (text)
+        text = ClipboardLineEnds::comeIn(*std::move(text));
+    return text;
 }
 
 void DesktopClipboard::writeText(const QString &text) {
@@ -92,8 +125,37 @@ void DesktopClipboard::writeText(const QString &text) {
         QGuiApplication::clipboard()->setText(m_lineEnds.goOut(text));
 }
 
-QString DesktopClipboard::fetch() {
-    return ownerAnswers(ownerMilliseconds, onWaiting) ? QGuiApplication::clipboard()->text() : QString();
+/// The text that a transfer brings; without one, what the toolkit finds on the clipboard. `patience`
+/// milliseconds pass before we say that we wait.
+std::optional<QString> DesktopClipboard::fetch(std::unique_ptr<X11TextTransfer> transfer, int patience) {
+    if (!transfer)
+        return textOfToolkit(QClipboard::Clipboard);
+    if (!transfer->advance(patience)) {
+        if (onWaiting)
+            onWaiting(true);
+        const bool came = waitFor(*transfer);
+        if (onWaiting)
+            onWaiting(false);
+        if (!came) {
+            m_unanswered.push_back(std::move(transfer));
+            return std::nullopt;
+        }
+    }
+    return transfer->text();
+}
+
+/// Waits with the windows painted; false if the owner gives no sign of life or the user ends the wait.
+bool DesktopClipboard::waitFor(X11TextTransfer &transfer) const {
+    const std::shared_ptr<void> guard = guardInput ? guardInput() : nullptr;
+    QDeadlineTimer end(ownerMilliseconds);
+    while (!transfer.advance(stepMilliseconds)) {
+        QCoreApplication::processEvents(guard ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
+        if (transfer.ownerHasMoved())
+            end.setRemainingTime(ownerMilliseconds);
+        if (end.hasExpired() || (guard && cancelled && cancelled()))
+            return false;
+    }
+    return true;
 }
 
 } // namespace tolvo

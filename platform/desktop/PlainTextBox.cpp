@@ -4,7 +4,9 @@
 #include "platform/text_positions.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -22,6 +24,8 @@ constexpr qsizetype longestUnbrokenRun = 2000;
 
 /// Lines above this length keep their glyphs between two paints: making them anew takes longer than a frame.
 constexpr qsizetype longestCheapLine = 2000;
+
+constexpr int tabColumns = 8; // of the width of a blank
 
 struct Extent {
     qsizetype longestRun = 0; ///< without a blank, in units
@@ -60,6 +64,15 @@ QString typedText(const QKeyEvent &event) {
     return shows ? text : QString();
 }
 
+const QMimeData *mimeDataOf(QClipboard::Mode mode) {
+    return QGuiApplication::clipboard()->mimeData(mode);
+}
+
+/// Whether what comes in is pasted, not dropped.
+bool isPasted(const QMimeData *source) {
+    return source == mimeDataOf(QClipboard::Clipboard) || source == mimeDataOf(QClipboard::Selection);
+}
+
 } // namespace
 
 PlainTextBox::PlainTextBox(Lines lines, QWidget *parent) : QPlainTextEdit(parent), m_lines(lines) {
@@ -68,6 +81,7 @@ PlainTextBox::PlainTextBox(Lines lines, QWidget *parent) : QPlainTextEdit(parent
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setUndoRedoEnabled(false);
     chooseLayout({});
+    placeTabStops();
     connect(document(), &QTextDocument::contentsChange, this, [this](int from, int, int added) {
         m_editStart = from;
         m_editEnd = from + added;
@@ -81,14 +95,16 @@ PlainTextBox::PlainTextBox(Lines lines, QWidget *parent) : QPlainTextEdit(parent
 // Text and selection
 
 void PlainTextBox::setText(const QString &text) {
-    const QString kept = text.left(m_capacity);
+    const QString kept = cutToRoom(text, m_capacity, 0).toString();
     if (kept == m_text) {
         setSelStart(0);
-        return;
+    } else {
+        load(kept);
+        if (rereadText())
+            reportChange();
     }
-    load(kept);
-    if (rereadText())
-        reportChange();
+    if (kept.size() < text.size())
+        reportCut(text.size(), Writer::Code);
 }
 
 int PlainTextBox::SelStart() const {
@@ -119,7 +135,8 @@ QString PlainTextBox::SelText() const {
 }
 
 void PlainTextBox::setSelText(const QString &text) {
-    const QString inserted = text.left(room());
+    const QString inserted = fitting(text);
+    const qint64 wanted = m_text.size() - SelLength() + text.size();
     const int start = SelStart();
     if (inserted != SelText()) {
         prepareFor(inserted);
@@ -131,6 +148,8 @@ void PlainTextBox::setSelText(const QString &text) {
     setSelStart(static_cast<int>(snapBehind(m_text, start + inserted.size())));
     if (changed)
         reportChange();
+    if (inserted.size() < text.size())
+        reportCut(wanted, Writer::Code);
 }
 
 // Positions: a line end is one unit in the document and two in the text.
@@ -151,19 +170,46 @@ int PlainTextBox::toDocument(qint64 textPosition) const {
     return static_cast<int>(textPosition) - line;
 }
 
+void PlainTextBox::changeEvent(QEvent *event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        placeTabStops();
+}
+
+void PlainTextBox::placeTabStops() {
+    setTabStopDistance(tabColumns * QFontMetricsF(font()).horizontalAdvance(u' '));
+}
+
 // What the user types, pastes and drops
 
-int PlainTextBox::room() const {
-    return std::max(m_capacity - (length() - SelLength()), 0);
+QString PlainTextBox::fitting(const QString &text, int replaced) const {
+    return cutToRoom(text, m_capacity, length() - SelLength() - replaced).toString();
+}
+
+/// What the user brings in, as far as there is room for it; the rest is reported once the event is over,
+/// since a box in the middle of it would hold up who drops. Repeated keys into a full text are reported once.
+QString PlainTextBox::fittingOfUser(const QString &text, int replaced, bool typed) {
+    const QString kept = fitting(text, replaced);
+    if (kept.size() == text.size() || (typed && m_fullIsTold))
+        return kept;
+    m_fullIsTold = true;
+    reportCutLater(length() - SelLength() - replaced + text.size());
+    return kept;
+}
+
+void PlainTextBox::reportCutLater(qint64 wanted) {
+    QMetaObject::invokeMethod(
+        this, [this, wanted] { reportCut(wanted, Writer::User); }, Qt::QueuedConnection);
 }
 
 void PlainTextBox::keyPressEvent(QKeyEvent *event) {
+    const QScopedValueRollback inKey(m_inKey, true);
     const QString typed = typedText(*event);
     if (typed.isEmpty() || isReadOnly()) {
         QPlainTextEdit::keyPressEvent(event);
         return;
     }
-    if (typed.size() > room()) {
+    if (fittingOfUser(typed, 0, true) != typed) {
         event->accept();
         return;
     }
@@ -179,7 +225,7 @@ void PlainTextBox::keyPressEvent(QKeyEvent *event) {
 }
 
 void PlainTextBox::inputMethodEvent(QInputMethodEvent *event) {
-    const QString committed = event->commitString().left(room() + event->replacementLength());
+    const QString committed = fittingOfUser(event->commitString(), event->replacementLength(), true);
     prepareFor(committed);
     QInputMethodEvent fitting(event->preeditString(), event->attributes());
     fitting.setCommitString(m_standIns.encode(committed), event->replacementStart(),
@@ -188,10 +234,33 @@ void PlainTextBox::inputMethodEvent(QInputMethodEvent *event) {
     event->setAccepted(fitting.isAccepted());
 }
 
+/// What other programs own is not asked for what it is before it is pasted: its owner may hang.
+bool PlainTextBox::canInsertFromMimeData(const QMimeData *source) const {
+    return (readForPaste && isPasted(source)) || QPlainTextEdit::canInsertFromMimeData(source);
+}
+
 void PlainTextBox::insertFromMimeData(const QMimeData *source) {
-    const QScopedValueRollback atOnce(m_userEdit.atOnce, true);
-    if (!isReadOnly() && source && source->hasText())
+    if (isReadOnly() || !source)
+        return;
+    if (readForPaste && isPasted(source)) {
+        const bool selection = source == mimeDataOf(QClipboard::Selection);
+        // Events go on while the clipboard is read: a menu that closes would be deleted under its own feet.
+        if (m_inKey)
+            pasteFromReader(selection);
+        else
+            QMetaObject::invokeMethod(
+                this, [this, selection] { pasteFromReader(selection); }, Qt::QueuedConnection);
+    } else if (source->hasText()) {
+        const QScopedValueRollback atOnce(m_userEdit.atOnce, true);
         insertAsTyped(ClipboardLineEnds::comeIn(source->text()));
+    }
+}
+
+void PlainTextBox::pasteFromReader(bool selection) {
+    if (const auto text = readForPaste(selection)) {
+        const QScopedValueRollback atOnce(m_userEdit.atOnce, true);
+        insertAsTyped(*text);
+    }
 }
 
 void PlainTextBox::dropEvent(QDropEvent *event) {
@@ -223,10 +292,10 @@ QMimeData *PlainTextBox::createMimeDataFromSelection() const {
 }
 
 void PlainTextBox::insertAsTyped(const QString &text) {
-    const QString fitting = text.left(room());
-    prepareFor(fitting);
+    const QString inserted = fittingOfUser(text, 0, false);
+    prepareFor(inserted);
     QTextCursor cursor = textCursor();
-    cursor.insertText(m_standIns.encode(fitting));
+    cursor.insertText(m_standIns.encode(inserted));
     setTextCursor(cursor);
     ensureCursorVisible();
 }
@@ -285,6 +354,7 @@ void PlainTextBox::cutToCapacity() {
     const auto excess = [this] { return document()->characterCount() - 1 + blockCount() - 1 - m_capacity; };
     if (excess() <= 0 || m_editEnd <= m_editStart)
         return;
+    reportCutLater(m_capacity + excess());
     const QScopedValueRollback own(m_ownEdit, true);
     const int start = m_editStart; // moves with our own edits
     QTextCursor cursor(document());
@@ -317,6 +387,7 @@ bool PlainTextBox::rereadText() {
     if (text == m_text)
         return false;
     m_text = std::move(text);
+    m_fullIsTold = false;
     const QScopedValueRollback own(m_ownEdit, true);
     chooseLayout(m_text);
     return true;

@@ -9,6 +9,7 @@
 #include <QList>
 #include <QPlainTextEdit>
 #include <memory>
+#include <optional>
 
 class QAction;
 class QMenu;
@@ -53,19 +54,30 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     /// ends go out as LF.
     void setLineEnds(const ClipboardLineEnds &rule) { m_lineEnds = &rule; }
 
+    /// Reads what is pasted: the clipboard's text, or with `selection` that of the middle mouse button, with
+    /// CR LF line ends; nothing if its owner doesn't answer. Without it the toolkit reads, which waits for as
+    /// long as the owner likes.
+    std::function<std::optional<QString>(bool selection)> readForPaste;
+
   protected:
+    void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
     [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
 
   private:
     [[nodiscard]] int toText(int documentPosition) const;
     [[nodiscard]] int toDocument(qint64 textPosition) const;
-    [[nodiscard]] int room() const;
+    [[nodiscard]] QString fitting(const QString &text, int replaced = 0) const;
+    [[nodiscard]] QString fittingOfUser(const QString &text, int replaced, bool typed);
+    void reportCutLater(qint64 wanted);
+    void pasteFromReader(bool selection);
     void insertAsTyped(const QString &text);
+    void placeTabStops();
     void prepareFor(const QString &inserted);
     void load(const QString &text);
     void noteSelection();
@@ -83,9 +95,11 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     const ClipboardLineEnds *m_lineEnds = nullptr;
     int m_editStart = 0; ///< where the document was changed last, in its own positions
     int m_editEnd = 0;
-    bool m_ownEdit = false; ///< an edit by code is under way; its end reports the change
-    bool m_editing = false; ///< the document is being changed; the selection is not yet what it will be
-    UserEdit m_userEdit;    ///< what there is to report of the next edit of the user
+    bool m_inKey = false;      ///< what happens is what a key does
+    bool m_fullIsTold = false; ///< the user knows that there is no room for what was typed last
+    bool m_ownEdit = false;    ///< an edit by code is under way; its end reports the change
+    bool m_editing = false;    ///< the document is being changed; the selection is not yet what it will be
+    UserEdit m_userEdit;       ///< what there is to report of the next edit of the user
     QList<QAction *> m_undoActions;
 };
 

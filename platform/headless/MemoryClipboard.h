@@ -11,14 +11,17 @@ class MemoryClipboard final : public Clipboard {
   public:
     explicit MemoryClipboard(QString content = {}) : text(std::move(content)) {}
 
-    [[nodiscard]] QString takeText() override { return text; }
-    [[nodiscard]] QString readText() override { return text; }
+    [[nodiscard]] std::optional<QString> takeText() override { return readText(); }
+    [[nodiscard]] std::optional<QString> readText() override {
+        return answers ? std::optional(text) : std::nullopt;
+    }
     void writeText(const QString &written) override {
         text = written;
         ++writes;
     }
 
-    QString text;   ///< what lies on the clipboard
+    QString text; ///< what lies on the clipboard
+    bool answers = true;
     int writes = 0; ///< how often it was written
 };
 

@@ -8,12 +8,14 @@ namespace tolvo {
 void MemoryTextBox::setText(const QString &text) {
     m_start = 0;
     m_length = 0;
-    const QString kept = text.size() > m_capacity ? text.left(m_capacity) : text;
-    if (kept == m_text)
-        return;
-    m_text = kept;
-    if (onChange)
-        onChange();
+    const QString kept = text.size() > m_capacity ? cutToRoom(text, m_capacity, 0).toString() : text;
+    if (kept != m_text) {
+        m_text = kept;
+        if (onChange)
+            onChange();
+    }
+    if (text.size() > m_capacity)
+        reportCut(text.size(), Writer::Code);
 }
 
 void MemoryTextBox::setSelStart(int start) {
@@ -27,14 +29,20 @@ void MemoryTextBox::setSelLength(int length) {
 }
 
 void MemoryTextBox::setSelText(const QString &text) {
+    const qint64 wanted = wantedLength(text);
     if (replaceSelection(text) && onChange)
         onChange();
+    if (length() < wanted)
+        reportCut(wanted, Writer::Code);
 }
 
 void MemoryTextBox::type(const QString &text, bool atOnce) {
     const UserEdit edit{m_text, m_start, m_length, atOnce};
+    const qint64 wanted = wantedLength(text);
     if (replaceSelection(text))
         report(edit);
+    if (length() < wanted)
+        reportCut(wanted, Writer::User);
 }
 
 void MemoryTextBox::erase(int start, int length) {
@@ -49,6 +57,11 @@ void MemoryTextBox::report(const UserEdit &edit) {
         onUserEdit(edit);
     if (onChange)
         onChange();
+}
+
+/// How long the text would be with `text` in place of the selection, were there room for all of it.
+qint64 MemoryTextBox::wantedLength(QStringView text) const {
+    return m_text.size() - m_length + text.size();
 }
 
 /// Whether the text is another one now.

@@ -36,6 +36,7 @@ class MemoryTextBox final : public TextBox {
   private:
     void report(const UserEdit &edit);
     bool replaceSelection(const QString &text);
+    [[nodiscard]] qint64 wantedLength(QStringView text) const;
 
     QString m_text;
     int m_start = 0;

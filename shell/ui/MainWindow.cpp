@@ -84,11 +84,8 @@ void MainWindow::closeEvent(QCloseEvent *event) {
 }
 
 bool MainWindow::event(QEvent *event) {
-    if (event->type() == QEvent::WindowActivate) {
+    if (event->type() == QEvent::WindowActivate)
         shownTextBox().setFocus();
-        if (onActivated)
-            onActivated();
-    }
     return QWidget::event(event);
 }
 

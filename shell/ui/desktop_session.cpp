@@ -8,33 +8,27 @@
 #include "shell/ui/dlgConfirmClose.h"
 
 #include <QApplication>
-#include <QGuiApplication>
 #include <QTimer>
 #include <utility>
 
 namespace tolvo {
 
-namespace {
-
-/// On Wayland the clipboard reads empty until the window has the focus.
-constexpr int longestWaitForFocus = 500; // milliseconds
-
-} // namespace
-
 DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &clipboard, EscapeWatch &escape)
-    : m_services(services), m_escape(escape), m_window(std::make_unique<MainWindow>()),
-      m_dialogs(services, *m_window) {
-    for (PlainTextBox *box : {&m_window->txtText1(), &m_window->txtTextWW()})
+    : m_services(services), m_clipboard(clipboard), m_escape(escape),
+      m_window(std::make_unique<MainWindow>()), m_dialogs(services, *m_window) {
+    for (PlainTextBox *box : {&m_window->txtText1(), &m_window->txtTextWW()}) {
         box->setLineEnds(clipboard.lineEnds());
+        box->readForPaste = [this](bool selection) {
+            return m_session ? m_session->clipboardText(selection) : std::nullopt;
+        };
+    }
     clipboard.onWaiting = [this](bool waiting) {
         if (m_session)
-            m_session->setStatus(waiting ? MainWindow::tr("Waiting for the clipboard...") : QString());
+            m_session->setStatus(waiting ? MainWindow::tr("Waiting for the clipboard... Esc ends the wait")
+                                         : QString());
     };
     m_window->onClosed = [this] { m_loop.quit(); };
-    m_window->onActivated = [this] {
-        takeClipboardOnceActive();
-        takeOverPowerButtons();
-    };
+    m_window->onActivated = [this] { takeOverPowerButtons(); };
 }
 
 DesktopSession::~DesktopSession() = default;
@@ -65,15 +59,8 @@ void DesktopSession::initIcons() {
         powerButtonChanged(i);
 }
 
-bool DesktopSession::takesClipboardLater() const {
-    return QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"));
-}
-
-void DesktopSession::takeClipboardOnceActive() {
-    if (!m_clipboardPending)
-        return;
-    m_clipboardPending = false;
-    m_session->guarded(u"beginWithClipboard", [this] { m_session->beginWithClipboard(); });
+bool DesktopSession::takesClipboardLater() {
+    return !m_clipboard.comesAtOnce();
 }
 
 /// PowerButtons that another run defines show at once.
@@ -97,13 +84,11 @@ void DesktopSession::takeOverPowerButtons() {
     });
 }
 
-void DesktopSession::showModal() {
-    m_clipboardPending = takesClipboardLater();
+void DesktopSession::showModal(const std::function<void()> &onceShown) {
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
-    if (m_clipboardPending)
-        QTimer::singleShot(longestWaitForFocus, m_window.get(), [this] { takeClipboardOnceActive(); });
+    onceShown();
     QTimer::singleShot(0, m_window.get(), [this] { watchStore(); });
     if (!m_session->bSessionOver)
         m_loop.exec();

@@ -33,8 +33,8 @@ class DesktopSession : public SessionWindow, private SessionView, private Sessio
     [[nodiscard]] LanguageChooser &languages() override { return m_dialogs.languages(); }
     void attach(frmMain &session, cToolbox &toolbox) override;
     void initIcons() override;
-    [[nodiscard]] bool takesClipboardLater() const override;
-    void showModal() override;
+    [[nodiscard]] bool takesClipboardLater() override;
+    void showModal(const std::function<void()> &onceShown) override;
     void unloadForms() override;
 
   private:
@@ -61,17 +61,16 @@ class DesktopSession : public SessionWindow, private SessionView, private Sessio
     [[nodiscard]] SearchWindow &search() override { return m_dialogs.search(); }
     [[nodiscard]] ToolDialogs &toolDialogs() override { return m_dialogs; }
 
-    void takeClipboardOnceActive();
     void watchStore();
     void takeOverPowerButtons();
 
     RunServices m_services;
+    DesktopClipboard &m_clipboard;
     EscapeWatch &m_escape;
     std::unique_ptr<MainWindow> m_window;
     DesktopDialogs m_dialogs;
     frmMain *m_session = nullptr;
     QEventLoop m_loop;
-    bool m_clipboardPending = false;
     QFileSystemWatcher m_storeWatch;
     qint64 m_seenChanges = 0; ///< of the store by others, as of the last look at the PowerButtons
 };

@@ -355,6 +355,8 @@ class Story(unittest.TestCase):
         self.settings.close()
 
     def start(self, clipboard, wait=True, **environment):
-        set_clipboard(clipboard)
+        """A run that takes this text, or with None what is on the clipboard."""
+        if clipboard is not None:
+            set_clipboard(clipboard)
         self.runs.append(Tolvo(self.settings, wait, **environment))
         return self.runs[-1]

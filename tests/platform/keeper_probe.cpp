@@ -39,7 +39,7 @@ int session(tolvo::KeeperSession &keeper, int argc, char **argv) {
     if (what == u"leave"_s)
         return exitCode;
     if (what == u"take"_s)
-        std::printf("[%s]\n", clipboard.takeText().toUtf8().constData());
+        std::printf("[%s]\n", clipboard.takeText().value_or(u"no answer"_s).toUtf8().constData());
     if (what == u"write"_s)
         clipboard.writeText(arguments.value(4));
     if (what == u"fill"_s)

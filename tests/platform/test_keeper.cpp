@@ -33,8 +33,8 @@ class Keeper : public testing::Test {
             if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
                 GTEST_SKIP() << tool << " is not installed";
         }
-        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s, u"0"_s,
-                                 u"640x480x24"_s});
+        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s,
+                                 u"-screen"_s, u"0"_s, u"640x480x24"_s});
         ASSERT_TRUE(waitUntil(20'000, [&] { return server.waitForReadyRead(10) || server.canReadLine(); }));
         environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"DISPLAY"_s,
@@ -85,10 +85,13 @@ class Keeper : public testing::Test {
         return text;
     }
     /// Another program takes the clipboard; it ends with the server.
-    void otherProgramCopies(QProcess &other, const QByteArray &text) const {
-        start(other, u"xclip"_s, {u"-quiet"_s, u"-i"_s, u"-selection"_s, u"clipboard"_s});
+    void otherProgramCopies(QProcess &other, const QByteArray &text,
+                            const QString &target = u"UTF8_STRING"_s) const {
+        start(other, u"xclip"_s,
+              {u"-quiet"_s, u"-i"_s, u"-selection"_s, u"clipboard"_s, u"-target"_s, target});
         other.write(text);
-        EXPECT_TRUE(other.waitForBytesWritten());
+        while (other.bytesToWrite() > 0)
+            ASSERT_TRUE(other.waitForBytesWritten());
         other.closeWriteChannel();
     }
 
@@ -164,7 +167,32 @@ TEST_F(Keeper, EndsAsTheSessionEnds) {
     }
 }
 
-TEST_F(Keeper, AnOwnerThatHangsIsAnEmptyClipboardAndIsSaid) {
+TEST_F(Keeper, TakesTextOfEveryForm) {
+    const std::tuple<const char *, QByteArray, QByteArray> rows[] = {
+        {"UTF8_STRING", "caf\xC3\xA9\n", "caf\xC3\xA9\r\n"},
+        {"STRING", "caf\xE9", "caf\xC3\xA9"},
+        {"text/plain", "caf\xC3\xA9", "caf\xC3\xA9"},
+        {"text/uri-list", "file:///a%20b\r\n", "file:///a b"},
+        {"text/uri-list", "file:///a\r\nfile:///b\r\n", "file:///a\r\nfile:///b\r\n"},
+        {"image/png", "picture", ""},
+        {"UTF8_STRING", QByteArray(3'000'000, 'x'), QByteArray(3'000'000, 'x')}, // comes in pieces
+    };
+    for (const auto &[target, text, taken] : rows) {
+        QProcess other;
+        otherProgramCopies(other, text, QString::fromLatin1(target));
+        QByteArray output;
+        EXPECT_TRUE(waitUntil(5000,
+                              [&] {
+                                  EXPECT_EQ(probe(0, {u"take"_s}, &output), 0);
+                                  return output == '[' + taken + "]\n";
+                              }))
+            << target << output.left(100).toStdString();
+        other.kill();
+        other.waitForFinished();
+    }
+}
+
+TEST_F(Keeper, AnOwnerThatHangsIsNoAnswerAndIsSaid) {
     QProcess other;
     otherProgramCopies(other, "a\nb");
     EXPECT_TRUE(waitUntil(5000, [&] { return pasted() == "a\nb"; }));
@@ -175,7 +203,7 @@ TEST_F(Keeper, AnOwnerThatHangsIsAnEmptyClipboardAndIsSaid) {
     QElapsedTimer timer;
     timer.start();
     EXPECT_EQ(probe(0, {u"take"_s}, &output), 0);
-    EXPECT_EQ(output, "waiting\nwaited\n[]\n");
+    EXPECT_EQ(output, "waiting\nwaited\n[no answer]\n");
     EXPECT_LT(timer.elapsed(), 10'000);
     other.kill();
     other.waitForFinished();

@@ -137,6 +137,68 @@ TEST_F(User, GetsOfPasteDropAndInputMethodWhatFits) {
     EXPECT_EQ(box.Text(), u"a\r\n12"_s);
 }
 
+TEST_F(User, IsToldOnceOfWhatDidNotFitAndNoPairIsCut) {
+    QList<qint64> told;
+    box.onCut = [&](qint64 length, TextBox::Writer writer) {
+        EXPECT_EQ(writer, TextBox::Writer::User);
+        told += length;
+    };
+    box.setCapacity(5);
+    const std::tuple<std::function<void()>, QString, QList<qint64>> rows[] = {
+        {[&] { types(u"xyz"_s); }, u"xyz12"_s, {}},
+        {[&] { types(u"vwxyz"_s); }, u"vwx12"_s, {6}}, // once for two keys
+        {[&] { pastes(u"xy\n"_s); }, u"xy12"_s, {6}},
+        {[&] { pastes(u"xyz"_s), pastes(u"a"_s), pastes(u"b"_s); }, u"xyz12"_s, {6, 6}},
+        {[&] { drops(u"xy\U0001F600"_s); }, u"xy12"_s, {6}},
+        {[&] { commits(u"xy\U0001F600"_s); }, u"xy12"_s, {6}},
+        {[&] { types(u"xyz"_s), commits(u"a"_s), commits(u"b"_s); }, u"xyz12"_s, {6}},
+        {[&] { box.textCursor().insertText(u"xy\U0001F600"_s); }, u"xy12"_s, {6}},
+    };
+    for (const auto &[brings, kept, lengths] : rows) {
+        box.setText(u"12"_s);
+        told.clear();
+        brings();
+        EXPECT_TRUE(told.isEmpty()) << "in the middle of the event";
+        QCoreApplication::processEvents();
+        EXPECT_EQ(box.Text().size(), kept.size()) << box.Text().toStdString();
+        EXPECT_EQ(told, lengths) << kept.toStdString();
+    }
+}
+
+TEST_F(User, PastesWhatTheReaderBringsAndAsksTheClipboardNothing) {
+    QApplication::clipboard()->setText(u"foreign"_s);
+    std::optional<QString> answer = u"read\r\n"_s;
+    box.readForPaste = [&](bool selection) {
+        EXPECT_FALSE(selection);
+        return answer;
+    };
+    presses(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"read\r\n"_s);
+    answer = u"menu"_s;
+    box.paste();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box.Text(), u"read\r\nmenu"_s);
+    box.setText(u"read\r\n"_s);
+    answer.reset();
+    presses(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"read\r\n"_s);
+    QApplication::clipboard()->setMimeData(new QMimeData);
+    EXPECT_TRUE(box.canPaste()) << "what it holds is seen when it is pasted";
+    drops(u"x"_s);
+    EXPECT_EQ(box.length(), 7);
+}
+
+TEST(TabStops, AreEightColumnsOfTheFontInUse) {
+    for (const auto lines : {PlainTextBox::Lines::AsTheyAre, PlainTextBox::Lines::Wrapped}) {
+        PlainTextBox box(lines);
+        for (const int size : {0, 9, 30}) {
+            if (size > 0)
+                box.setFont(QFont(u"Monospace"_s, size));
+            EXPECT_EQ(box.tabStopDistance(), 8 * QFontMetricsF(box.font()).horizontalAdvance(u' ')) << size;
+        }
+    }
+}
+
 TEST_F(User, CopiesAndCutsTheRealText) {
     const QString text = u"a\u00A0b\r\nc\rd\u2029\uFDD2\uFDD0"_s;
     box.setText(text);

@@ -55,6 +55,7 @@ class TextBoxContract : public testing::TestWithParam<TextBoxKind> {
 
     std::unique_ptr<TextBox> box;
     int changes = 0;
+    QList<qint64> cuts; ///< lengths of what was cut
 };
 
 std::string kindName(const testing::TestParamInfo<TextBoxKind> &info) {
@@ -137,8 +138,8 @@ TEST_P(TextBoxContract, CutsAtItsCapacity) {
     box->setText(QString(70000, u'x'));
     EXPECT_EQ(box->length(), textLimit);
     box->setCapacity(6);
-    box->setText(u"12345\r\n8"_s);
-    EXPECT_EQ(box->Text(), u"12345\r"_s);
+    box->setText(u"123456\r\n8"_s);
+    EXPECT_EQ(box->Text(), u"123456"_s);
     box->setText(u"1234"_s);
     select(*box, 1, 2);
     box->setSelText(u"abcdefgh"_s);
@@ -154,6 +155,41 @@ TEST_P(TextBoxContract, CutsAtItsCapacity) {
     select(*box, 0, 5);
     box->setSelText(u"xyz"_s);
     EXPECT_EQ(box->Text(), u"xy4"_s);
+}
+
+TEST_P(TextBoxContract, TellsWhatItCutsAndTakesNoPairApart) {
+    box->onCut = [this](qint64 length, TextBox::Writer writer) {
+        EXPECT_EQ(writer, TextBox::Writer::Code);
+        cuts += length;
+    };
+    box->setCapacity(6);
+    const std::tuple<QString, QString, QList<qint64>> wholes[] = {
+        {u"123456"_s, u"123456"_s, {}},          {u"12345\r\n8"_s, u"12345"_s, {8}},
+        {u"12345\U0001F600"_s, u"12345"_s, {7}}, {u"1234\U0001F600\U0001F600"_s, u"1234\U0001F600"_s, {8}},
+        {u"1234\r\n\n"_s, u"1234\r\n"_s, {7}},
+    };
+    for (const auto &[text, kept, told] : wholes) {
+        cuts.clear();
+        box->setText(text);
+        EXPECT_EQ(box->Text(), kept);
+        EXPECT_EQ(cuts, told);
+    }
+    // The same in place of a selection, where the cut is in the middle.
+    const std::tuple<QString, QString, QList<qint64>> parts[] = {
+        {u"abcd"_s, u"1[]abcd4"_s, {}},
+        {u"abc\r\nd"_s, u"1[]abc4"_s, {8}},
+        {u"abc\U0001F600"_s, u"1[]abc4"_s, {7}},
+    };
+    for (const auto &[text, shown, told] : parts) {
+        cuts.clear();
+        box->setText(u"1234"_s);
+        select(*box, 1, 2);
+        replaceAndSelect(*box, text);
+        EXPECT_EQ(box->SelText(), shown.sliced(3).chopped(1));
+        box->setSelStart(1);
+        EXPECT_EQ(picture(), shown);
+        EXPECT_EQ(cuts, told);
+    }
 }
 
 TEST_P(TextBoxContract, ChangeHandlersMayEdit) {

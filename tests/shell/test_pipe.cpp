@@ -122,6 +122,26 @@ TEST_F(Pipe, batchAnswersEachLineAndGoesOn) {
     EXPECT_TRUE(lines.at(3).startsWith("{\"text\":\"b\""));
 }
 
+TEST_F(Pipe, batchSaysWhatIsCutOfRequestAndResult) {
+    const struct {
+        int length;
+        const char *steps;
+        QStringList says;
+    } cases[] = {{65535, "", {}},
+                 {65535, "\"foIND:RadioButton=1, Spaces=1\"", {"It had 65,536 characters."}},
+                 {65536, "\"ccUPP\"", {"There are 65,536 characters."}}};
+    for (const auto &row : cases) {
+        const QByteArray request =
+            "{\"text\":\"" + QByteArray(row.length, 'x') + "\",\"steps\":[" + row.steps + "]}";
+        const QJsonObject reply = QJsonDocument::fromJson(run({"--batch"}, request).out).object();
+        EXPECT_EQ(reply.value("text").toString().size(), 65535);
+        const QJsonArray messages = reply.value("messages").toArray();
+        ASSERT_EQ(messages.size(), row.says.size());
+        for (qsizetype i = 0; i < messages.size(); ++i)
+            EXPECT_TRUE(messages.at(i).toObject().value("text").toString().contains(row.says.at(i)));
+    }
+}
+
 /// What a session with a PowerButton of the same Actions comes to, in the words of a reply.
 QJsonObject replyOfSession(const QString &picture, const QStringList &steps) {
     User user;

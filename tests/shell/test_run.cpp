@@ -41,11 +41,11 @@ class Runs : public ::testing::Test {
         void initIcons() override {
             m_machine.log += QString("icons of \"%1\"").arg(m_session->txtCurrent().Text());
         }
-        bool takesClipboardLater() const override { return m_machine.clipboardLater; }
-        void showModal() override {
-            m_machine.log += "show";
-            if (m_machine.clipboardLater)
-                m_session->beginWithClipboard();
+        bool takesClipboardLater() override { return m_machine.clipboardLater; }
+        void showModal(const std::function<void()> &onceShown) override {
+            m_machine.log += m_machine.processes.heldBack ? "show, tips held back" : "show";
+            onceShown();
+            EXPECT_FALSE(m_machine.processes.heldBack);
             m_machine.during(*m_session, *m_toolbox);
         }
         void unloadForms() override { m_machine.log += "unload"; }
@@ -116,7 +116,7 @@ TEST_F(Runs, theFirstOfAll) {
                   EXPECT_EQ(session.labStatus(), "Reached end of Undo buffer");
               }),
               0);
-    EXPECT_EQ(log.join(u'|'), "attach|icons of \"text\"|show|unload");
+    EXPECT_EQ(log.join(u'|'), "attach|icons of \"text\"|show, tips held back|unload");
     EXPECT_EQ(startedPrograms(), QStringList("Advisor.exe"));
     EXPECT_EQ(processes.started.first().mode, WindowMode::NormalWithoutFocus);
     EXPECT_EQ(usage("StartDate"), "2030-05-01 12:00:00");
@@ -174,7 +174,7 @@ TEST_F(Runs, endAfterAFailureAtTheStart) {
 TEST_F(Runs, aStartDateThatIsNoneIsAFailureOfTheEnd) {
     store.SaveSetting("Tolvo-Stats", "Usage", "StartDate", "yesterday");
     EXPECT_EQ(run(), 1);
-    EXPECT_EQ(log.last(), "show");
+    EXPECT_EQ(log.last(), "show, tips held back");
     EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
@@ -192,7 +192,7 @@ TEST_F(Runs, aMissingUpdateCompanionIsReportedAndTheRunGoesOn) {
 TEST_F(Runs, theClipboardMayComeAfterTheWindow) {
     clipboardLater = true;
     run([&](frmMain &session, cToolbox &) {
-        EXPECT_EQ(log.join(u'|'), "attach|icons of \"\"|show");
+        EXPECT_EQ(log.join(u'|'), "attach|icons of \"\"|show, tips held back");
         EXPECT_EQ(session.txtCurrent().Text(), "text");
         EXPECT_FALSE(session.bDirty());
     });

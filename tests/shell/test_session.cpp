@@ -72,6 +72,74 @@ TEST(Session, saysWhenTheClipboardHoldsTooMuch) {
     }
 }
 
+QString cutMessage(int length) {
+    return QString("The result exceeds the number of characters that Tolvo\r\n"
+                   "can process (12). It had %1 characters.\r\n"
+                   "Tolvo has truncated the text. Some characters have been lost.\r\n"
+                   "Undo takes this back.")
+        .arg(length);
+}
+
+TEST(Session, saysOnceWhatAToolLostToTheCapacity) {
+    const QString spaces = "RadioButton=1, Spaces=3";
+    const QString nest = "PowerButton=2";
+    const QString all = "Mode=1, Find=a, Replace=bbbb, ReplaceAll=1";
+    const struct {
+        const char *what;
+        const char16_t *before;
+        QList<std::shared_ptr<CAction>> actions;
+        const char16_t *after;
+        int length;
+    } cases[] = {
+        {"fits", u"a|b", {User::action("foIND", Custom, spaces)}, u"«»   a|   b", 0},
+        {"indent", u"ab|cd", {User::action("foIND", Custom, spaces)}, u"«»   ab|   cd", 0},
+        {"whole", u"abc|cd|e", {User::action("foIND", Custom, spaces)}, u"«»   abc|   c", 19},
+        {"tabs", u"a\tb|\tcd", {User::action("foT2S")}, u"«»a       b| ", 21},
+        {"middle", u"«a|b»|123456", {User::action("foIND", Custom, spaces)}, u"«   a»|123456", 18},
+        {"paste", u"12«3»45678", {User::action("pbPST")}, u"12«pastE»45678", 0},
+        {"paste cut", u"12«3»4567890", {User::action("pbPST")}, u"12«pas»4567890", 14},
+        {"replace all", u"aaaaxEND", {User::action("edREP", Custom, all)}, u"«»bbbbbbbbbbbb", 17},
+        {"run",
+         u"abc|cd|e",
+         {User::action("foIND", Custom, spaces), User::action("pbPBT", Custom, nest), User::action("ccUPP")},
+         u"«»      ABC| ",
+         19},
+    };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.what);
+        User user(QString::fromUtf16(row.before));
+        user.headless.clipboard.text = "pastE";
+        user.headless.txtText1.setCapacity(12);
+        user.defines(1, row.actions);
+        user.defines(2, {User::action("foIND", Custom, spaces)});
+        user.session.imgPower_Click(0);
+        user.sees(QString::fromUtf16(row.after));
+        if (row.length > 0)
+            user.isTold(cutMessage(row.length));
+        EXPECT_EQ(user.boxes.shown.size(), row.length > 0 ? 1U : 0U);
+        user.boxes.shown.clear();
+    }
+}
+
+TEST(Session, leavesAllAsItIsWhenTheClipboardDoesNotAnswer) {
+    User user("ol|d «te»xt");
+    user.types("x");
+    user.headless.clipboard.answers = false;
+    for (const auto &tries : std::initializer_list<std::function<void()>>{
+             [&] { user.session.cmdRefresh_Click(); }, [&] { user.runs("pbPST"); },
+             [&] { EXPECT_FALSE(user.session.mayPaste()); }}) {
+        user.session.setStatus({});
+        tries();
+        user.sees("ol|d x«»xt", "The clipboard did not answer");
+        EXPECT_TRUE(user.session.bDirty());
+    }
+    User late("");
+    late.headless.clipboard.answers = false;
+    late.session.beginWithClipboard();
+    late.sees("«»", "The clipboard did not answer");
+    EXPECT_FALSE(late.session.bDirty());
+}
+
 TEST(Session, pasteIsRefusedAtTheLimit) {
     User user(u'«' + QString(60000, u'x') + u'»');
     user.headless.clipboard.text = QString(5534, u'y');

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// The text of a selection, fetched in small steps, so that an owner that hangs can't hold up the program.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+
+struct xcb_connection_t;
+
+namespace tolvo {
+
+/// One transfer, over a connection of its own: asks the owner of a selection what it has, then for its text,
+/// which may come in pieces. Only for selections that other programs own.
+class X11TextTransfer {
+  public:
+    enum class Selection { Clipboard, Primary };
+
+    explicit X11TextTransfer(Selection selection);
+    ~X11TextTransfer();
+    X11TextTransfer(const X11TextTransfer &) = delete;
+    X11TextTransfer &operator=(const X11TextTransfer &) = delete;
+
+    /// Goes on with the transfer for at most so long. True once it is over.
+    bool advance(int milliseconds);
+
+    /// Whether the owner has done something since this was asked last.
+    [[nodiscard]] bool ownerHasMoved();
+
+    /// What came, once the transfer is over; empty if the selection has no owner or no text.
+    [[nodiscard]] QString text() const;
+
+  private:
+    enum class Step { Targets, Text, Pieces, Over };
+    struct Target {
+        const char *name;
+        uint32_t atom;
+    };
+
+    void ask(uint32_t target);
+    void answered(bool refused);
+    void pieceCame();
+    void chooseTarget(const QByteArray &targets);
+    /// The contents of the property that the owner has written, which is deleted; `incremental` is set if it
+    /// only announces pieces.
+    QByteArray takeProperty(bool *incremental = nullptr);
+
+    xcb_connection_t *m_connection = nullptr;
+    uint32_t m_window = 0;
+    uint32_t m_selection = 0;
+    uint32_t m_property = 0;
+    uint32_t m_incremental = 0;
+    std::array<Target, 7> m_targets; ///< in the order of choice
+    Target m_chosen{"", 0};
+    Step m_step = Step::Over;
+    bool m_moved = false;
+    QByteArray m_data;
+};
+
+} // namespace tolvo
