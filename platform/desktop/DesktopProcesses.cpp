@@ -1,14 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/DesktopProcesses.h"
 
+#include "base/failure.h"
+
 #include <QDesktopServices>
 #include <QDir>
+#include <QStandardPaths>
 #include <QUrl>
 
 namespace tolvo {
 
 bool DesktopProcesses::open(const QString &address) {
-    return QDesktopServices::openUrl(QUrl::fromUserInput(address, QDir::currentPath()));
+    const QUrl url = QUrl::fromUserInput(address, QDir::currentPath());
+    // The toolkit would hand on our standard streams to a browser that outlives us.
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (opener.isEmpty())
+        return QDesktopServices::openUrl(url);
+    try {
+        start(opener, {url.toString(QUrl::FullyEncoded)}, WindowMode::Normal);
+        return true;
+    } catch (const Failure &) {
+        return false;
+    }
 }
 
 } // namespace tolvo
