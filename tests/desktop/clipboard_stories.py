@@ -49,6 +49,8 @@ class ClipboardStories(Story):
         return owner
 
     def test_an_owner_that_hangs_holds_up_no_start_and_no_paste(self):
+        self.settings.write("Tolvo", r"PowerButtons\Button 1", "Name", "Paste")
+        self.settings.write("Tolvo", r"PowerButtons\Button 1\1", "Token", "pbPST")
         owner = self.owner("foreign")
         owner.hang()
         run = self.start(None)
@@ -60,7 +62,7 @@ class ClipboardStories(Story):
         run.text_becomes("typed")
         # Every way of asking for the clipboard: the wait is told, Esc ends it, and all is as it was.
         ways = {"Refresh": lambda: keys("alt+f"), "Ctrl-V": lambda: keys("ctrl+v"), "Shift-Insert": lambda: keys("shift+Insert"),
-                "the menu": lambda: (run.click_on(run.text_node(), 3), keys("p"))}
+                "the menu": lambda: (run.click_on(run.text_node(), 3), keys("p")), "a PowerButton": lambda: keys("ctrl+1")}
         for way, ask in ways.items():
             with self.subTest(way):
                 ask()
