@@ -43,7 +43,7 @@ class Translator {
             fail(u"a group is not closed");
         if (!m_error.isEmpty())
             return {.pattern = {}, .error = m_error, .groups = m_groups};
-        return {.pattern = m_out, .error = {}, .groups = m_groups};
+        return {.pattern = m_out, .error = {}, .groups = m_groups, .lookAhead = m_lookAhead};
     }
 
   private:
@@ -73,6 +73,7 @@ class Translator {
     QString m_out;
     QString m_error;
     Term m_last = Term::None;
+    bool m_lookAhead = false;
     QList<bool> m_open; ///< for each open group, whether it is a look-ahead
 };
 
@@ -115,6 +116,7 @@ void Translator::openGroup() {
         write(u"(", Term::None);
     } else if (at(u"?:") || at(u"?=") || at(u"?!")) {
         m_open += !at(u"?:");
+        m_lookAhead = m_lookAhead || m_open.last();
         m_out += u'(';
         write(m_in.sliced(m_at, 2), Term::None);
         m_at += 2;

@@ -10,9 +10,10 @@
 namespace tolvo {
 
 struct TranslatedPattern {
-    QString pattern; ///< for PCRE2; empty if there is an error
-    QString error;   ///< what is wrong with the pattern, for the user; empty if nothing is
-    int groups = 0;  ///< number of capturing groups
+    QString pattern;        ///< for PCRE2; empty if there is an error
+    QString error;          ///< what is wrong with the pattern, for the user; empty if nothing is
+    int groups = 0;         ///< number of capturing groups
+    bool lookAhead = false; ///< holds (?= or (?!
 };
 
 /// Refused: look-behind and every other group that begins with "(?", apart from "(?:", "(?=" and "(?!"; a

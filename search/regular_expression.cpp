@@ -58,7 +58,7 @@ struct RegularExpression::Compiled {
     pcre2_match_data_16 *match = nullptr;
     pcre2_match_context_16 *context = nullptr;
     bool startsAtLines = false;  ///< the engine only tries positions behind a line end
-    char16_t firstUnits[2] = {}; ///< what a match must begin with, in both cases
+    char16_t firstUnits[2] = {}; ///< what a match begins with, in both cases
     bool hasFirstUnit = false;
 
     Compiled() = default;
@@ -85,13 +85,12 @@ void RegularExpression::Compiled::prepare(bool matchCase) {
     pcre2_pattern_info_16(code, PCRE2_INFO_FIRSTCODETYPE, &kind);
     pcre2_pattern_info_16(code, PCRE2_INFO_FIRSTCODEUNIT, &unit);
     startsAtLines = kind == 2;
-    // k and s have a third form without regard to case.
+    // The engine may mean the unit without regard to case whatever the options: "The|the" begins with a "T"
+    // of either case. Without regard to case k and s have a third form.
     const char16_t lower = toLower(static_cast<char16_t>(unit));
-    hasFirstUnit = kind == 1 && (matchCase || (unit < 0x80 && lower != u'k' && lower != u's'));
-    firstUnits[0] = static_cast<char16_t>(unit);
-    firstUnits[1] = matchCase || toUpper(lower) == lower ? firstUnits[0]
-                    : lower == firstUnits[0]             ? toUpper(lower)
-                                                         : lower;
+    hasFirstUnit = kind == 1 && unit < 0x80 && (matchCase || (lower != u'k' && lower != u's'));
+    firstUnits[0] = lower;
+    firstUnits[1] = toUpper(lower);
 }
 
 QStringView RegularExpressionMatch::group(int number) const {
@@ -106,24 +105,28 @@ RegularExpression::RegularExpression(QStringView pattern, bool matchCase) {
     const TranslatedPattern translated = translateEcmaScript(pattern, matchCase);
     m_groups = translated.groups;
     if (translated.error.isEmpty()) {
-        // What is repeated no times is there for the engine's eyes: a pattern that names a line end may begin
-        // to match between CR and LF.
-        compile(QStringLiteral("(?:") + translated.pattern + QStringLiteral(")\\n{0}"), matchCase);
+        // What a look-ahead at the start begins with and what a match must hold, the engine adds up to
+        // positions that it wrongly passes by: "(?=[Bb])B". Patterns with one do without its looking ahead
+        // for a start. What is repeated no times is there for the engine's eyes: a pattern that names a line
+        // end may begin to match between CR and LF.
+        compile(QStringLiteral("(?:") + translated.pattern + QStringLiteral(")\\n{0}"),
+                translated.lookAhead ? PCRE2_NO_START_OPTIMIZE : 0U, matchCase);
     } else {
         m_state = PatternState::Invalid;
         m_error = translated.error;
     }
 }
 
-void RegularExpression::compile(const QString &pattern, bool matchCase) {
+void RegularExpression::compile(const QString &pattern, std::uint32_t options, bool matchCase) {
     const std::unique_ptr<pcre2_compile_context_16, decltype(&pcre2_compile_context_free_16)> context(
         pcre2_compile_context_create_16(nullptr), pcre2_compile_context_free_16);
     if (context == nullptr)
         throw std::bad_alloc();
     pcre2_set_newline_16(context.get(), PCRE2_NEWLINE_ANYCRLF);
     pcre2_set_parens_nest_limit_16(context.get(), deepestNesting);
-    const std::uint32_t options = PCRE2_UCP | PCRE2_MATCH_UNSET_BACKREF | PCRE2_USE_OFFSET_LIMIT |
-                                  (matchCase ? 0U : static_cast<std::uint32_t>(PCRE2_CASELESS));
+    options |= PCRE2_UCP | PCRE2_MATCH_UNSET_BACKREF | PCRE2_USE_OFFSET_LIMIT;
+    if (!matchCase)
+        options |= PCRE2_CASELESS;
     m_compiled = std::make_shared<Compiled>();
     int code = 0;
     PCRE2_SIZE offset = 0;
@@ -158,8 +161,8 @@ RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from
         qsizetype last = std::min(text.size(), start + pace.positions - 1);
         if (m_compiled->startsAtLines) {
             // The engine would pass by the place between CR and LF; a step that begins there looks at it.
-            const qsizetype lineEnd = text.sliced(start, last - start).indexOf(u"\r\n");
-            last = lineEnd < 0 ? last : start + lineEnd;
+            const qsizetype lineEnd = text.first(std::min(last + 1, text.size())).indexOf(u"\r\n", start);
+            last = lineEnd < 0 ? last : lineEnd;
         }
         pcre2_set_offset_limit_16(m_compiled->context, static_cast<PCRE2_SIZE>(last));
         const int result =

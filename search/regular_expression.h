@@ -71,7 +71,7 @@ class RegularExpression {
     struct Compiled;
     enum class Step { Found, NoMatch, LimitReached };
 
-    void compile(const QString &pattern, bool matchCase);
+    void compile(const QString &pattern, std::uint32_t options, bool matchCase);
     /// How many start positions are tried between two looks at the budget, and where the next look is due.
     struct Pace;
 
