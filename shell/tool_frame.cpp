@@ -78,12 +78,12 @@ void runTextOperation(frmMain &session, const ToolRow &row, const TextOperation 
     const int lengthBefore = box.length();
     const int warningsBefore = session.warnings();
     const ToolInput input = toolInput(session, row);
-    const QString result = operation(input);
-    if (row.refusal.message && result == sortError) {
+    const std::optional<QString> result = operation(input);
+    if (!result) {
         refuse(session, row, input.selected);
         return;
     }
-    writeResult(box, input, result, row.rule.length);
+    writeResult(box, input, *result, row.rule.length);
     if (row.status.kind != ToolStatus::None)
         session.setStatus(
             statusText(row.status, lengthBefore, box.length(), session.warnings() > warningsBefore));

@@ -82,7 +82,7 @@ QString checkPunctuation(const ToolInput &in) {
 // What fills the column Operation of the table
 
 /// An operation of the text engine that takes nothing but the text.
-template <QString (cTextMethods::*operation)(QStringView) const>
+template <auto operation>
 constexpr ToolOperation engine() {
     return {.prepare = [](frmMain &, const CAction *) -> std::optional<TextOperation> {
         return [](const ToolInput &in) { return (in.session.oTextMethods.*operation)(in.text); };
@@ -197,10 +197,10 @@ constexpr ToolRow table[] = {
     {u"ccSEN",  engine<&T::SentenceCase>(),                       O,       noDialog,           length(u" characters: sentence case")},
     {u"ccCAP",  text<capitalise>(),                               O,       noDialog,           length(u" characters: sentence case")}, // the same words as ccSEN
 
-    {u"soKEY",  engine<&T::KeywordSort>(),                        lines_O, noDialog,           says(u"Sorted"), sixteenBit, noKeywords},
-    {u"soALP",  engine<&T::Sort>(),                               lines_O, noDialog,           says(u"Lines sorted"), sixteenBit, noLines},
-    {u"soNUM",  engine<&T::Numsort>(),                            lines_O, noDialog,           says(u"Lines sorted"), sixteenBit, noLines},
-    {u"soREV",  engine<&T::SortReverse>(),                        lines_O, noDialog,           says(u"Line order reversed"), false, oneLine},
+    {u"soKEY",  engine<&T::sortedKeywords>(),                     lines_O, noDialog,           says(u"Sorted"), sixteenBit, noKeywords},
+    {u"soALP",  engine<&T::sortedLines>(),                        lines_O, noDialog,           says(u"Lines sorted"), sixteenBit, noLines},
+    {u"soNUM",  engine<&T::sortedByNumber>(),                     lines_O, noDialog,           says(u"Lines sorted"), sixteenBit, noLines},
+    {u"soREV",  engine<&T::reversedLines>(),                      lines_O, noDialog,           says(u"Line order reversed"), false, oneLine},
     {u"soNUP",  handler<&frmMain::moveLinesUp>(),                 own},
     {u"soNUD",  handler<&frmMain::moveLinesDown>(),               own},
 

@@ -22,8 +22,8 @@ struct ToolInput {
     bool selected = false;
 };
 
-/// A text tool with its settings, ready to run.
-using TextOperation = std::function<QString(const ToolInput &)>;
+/// A text tool with its settings, ready to run. Nothing if it can't work on the text.
+using TextOperation = std::function<std::optional<QString>(const ToolInput &)>;
 
 /// How a tool is run: either as a text operation under the selection rule, or by a procedure of its own.
 struct ToolOperation {

@@ -10,10 +10,11 @@
 
 #include <QString>
 #include <QStringView>
+#include <optional>
 
 namespace tolvo {
 
-/// The answer of the sorts for a text that they can't work on. Callers compare against it.
+/// The answer of the sorts for a text that they can't work on.
 inline constexpr QStringView sortError = u"<ERROR>";
 
 /// Stateless between calls, apart from the list of top level domains in use.
@@ -71,12 +72,17 @@ class cTextMethods {
     [[nodiscard]] QString Tab2space(QStringView text, int startColumn, int tabWidth) const;
     [[nodiscard]] QString Spaces2tab(QStringView text) const;
 
-    // Sorting (sorting.cpp); each may answer sortError
+    // Sorting (sorting.cpp). The first four answer sortError for a text that they can't work on, the others
+    // nothing: a sorted text may read like sortError.
 
     [[nodiscard]] QString Sort(QStringView text) const;
     [[nodiscard]] QString Numsort(QStringView text) const;
     [[nodiscard]] QString SortReverse(QStringView text) const;
     [[nodiscard]] QString KeywordSort(QStringView text) const;
+    [[nodiscard]] std::optional<QString> sortedLines(QStringView text) const;
+    [[nodiscard]] std::optional<QString> sortedByNumber(QStringView text) const;
+    [[nodiscard]] std::optional<QString> reversedLines(QStringView text) const;
+    [[nodiscard]] std::optional<QString> sortedKeywords(QStringView text) const;
 
     // Word wrap (word_wrap.cpp)
 

@@ -100,11 +100,31 @@ void KeywordSortLine(QString &result, QStringView line, QStringView upper) {
     appendJoined(result, items, sortedOrder(keysOf(items, line, upper, keepAll)), u", ");
 }
 
+QString inBand(const std::optional<QString> &sorted) {
+    return sorted ? *sorted : sortError.toString();
+}
+
 } // namespace
 
 QString cTextMethods::Sort(QStringView text) const {
+    return inBand(sortedLines(text));
+}
+
+QString cTextMethods::Numsort(QStringView text) const {
+    return inBand(sortedByNumber(text));
+}
+
+QString cTextMethods::SortReverse(QStringView text) const {
+    return inBand(reversedLines(text));
+}
+
+QString cTextMethods::KeywordSort(QStringView text) const {
+    return inBand(sortedKeywords(text));
+}
+
+std::optional<QString> cTextMethods::sortedLines(QStringView text) const {
     if (isOneLine(text))
-        return sortError.toString();
+        return std::nullopt;
     const QString upper = toUpper(text);
     const QList<QStringView> lines = splitLines(text);
     QString result;
@@ -113,9 +133,9 @@ QString cTextMethods::Sort(QStringView text) const {
     return result;
 }
 
-QString cTextMethods::Numsort(QStringView text) const {
+std::optional<QString> cTextMethods::sortedByNumber(QStringView text) const {
     if (isOneLine(text))
-        return sortError.toString();
+        return std::nullopt;
     QList<QStringView> lines = splitLines(text);
     std::vector<NumberKey> keys;
     keys.reserve(static_cast<std::size_t>(lines.size()));
@@ -129,9 +149,9 @@ QString cTextMethods::Numsort(QStringView text) const {
     return result;
 }
 
-QString cTextMethods::SortReverse(QStringView text) const {
+std::optional<QString> cTextMethods::reversedLines(QStringView text) const {
     if (isOneLine(text))
-        return sortError.toString();
+        return std::nullopt;
     QString result;
     result.reserve(text.size());
     const QList<QStringView> lines = splitLines(text);
@@ -143,9 +163,9 @@ QString cTextMethods::SortReverse(QStringView text) const {
     return result;
 }
 
-QString cTextMethods::KeywordSort(QStringView text) const {
+std::optional<QString> cTextMethods::sortedKeywords(QStringView text) const {
     if (trimBlanks(text).isEmpty() || !text.contains(u','))
-        return sortError.toString();
+        return std::nullopt;
     const QString upper = toUpper(text);
     return changeLines(text, [&](QStringView line, QString &result) {
         KeywordSortLine(result, line, QStringView(upper).sliced(line.data() - text.data(), line.size()));

@@ -59,6 +59,8 @@ TEST(Tools, workOnTheSelectionOrOnTheWholeText) {
                   u""}, // a selection that ends at the start of a line moves that line too
                  {"soNUD", u"a|«b»", u"a|«b»", u"Already at the bottom"},
                  {"soNUD", u"", u"«»", u"Already at the bottom"},
+                 {"soALP", u"|«»<ERROR>", u"«»<ERROR>", u"Lines sorted"},
+                 {"soKEY", u",<ERROR>«»", u"«»<ERROR>", u"Sorted"},
                  {"soALP", u"one", u"«»one", u"", noLines},
                  {"soALP", u"a|o«n»e|b", u"a|«one»|b", u"Lines sorted"},
                  {"soNUM", u"one", u"«»one", u"", noLines},
