@@ -3,6 +3,7 @@
 
 #include "base/code_page.h"
 #include "base/failure.h"
+#include "base/numbers.h"
 
 #include <QStringDecoder>
 #include <QtEndian>
@@ -11,7 +12,7 @@ namespace tolvo {
 
 void failInLine(int line, const QString &what) {
     throw Failure(failureNumber::invalidArgument,
-                  line > 0 ? QStringLiteral("Line %1: %2").arg(line).arg(what) : what);
+                  line > 0 ? QStringLiteral("Line %1: %2").arg(groupedNumber(line), what) : what);
 }
 
 namespace {

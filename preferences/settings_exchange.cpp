@@ -3,6 +3,7 @@
 
 #include "base/application.h"
 #include "base/failure.h"
+#include "base/numbers.h"
 #include "preferences/reg_file.h"
 #include "preferences/reg_text.h"
 #include "preferences/settings_store.h"
@@ -35,19 +36,19 @@ bool isOurTree(const QString &name) {
 void checkLengths(const RegKey &key) {
     const QList<QStringView> levels = QStringView(key.path).split(u'\\');
     if (levels.size() > deepestLevel)
-        failInLine(key.line, QStringLiteral("the key has more than %1 levels").arg(deepestLevel));
+        failInLine(key.line,
+                   QStringLiteral("the key has more than %1 levels").arg(groupedNumber(deepestLevel)));
     for (const QStringView level : levels) {
         if (level.isEmpty() || level.size() > longestKeyName) {
             failInLine(key.line,
                        QStringLiteral("the key has an empty name in it, or one of more than %1 characters")
-                           .arg(longestKeyName));
+                           .arg(groupedNumber(longestKeyName)));
         }
     }
     for (const RegValue &value : key.values) {
         if (value.entry.name.size() > longestValueName) {
-            failInLine(
-                value.line,
-                QStringLiteral("the name of the value has more than %1 characters").arg(longestValueName));
+            failInLine(value.line, QStringLiteral("the name of the value has more than %1 characters")
+                                       .arg(groupedNumber(longestValueName)));
         }
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/CSearch.h"
 
+#include "base/numbers.h"
 #include "base/strings.h"
 #include "platform/report_error.h"
 
@@ -31,7 +32,7 @@ void CSearch::inform(const QString &text) {
 
 void CSearch::tellReplacements(int count) {
     inform(count == 1 ? QStringLiteral("1 string replaced")
-                      : FillTemplate(QStringLiteral("%0 strings replaced"), {QString::number(count)}));
+                      : FillTemplate(QStringLiteral("%0 strings replaced"), {groupedNumber(count)}));
 }
 
 } // namespace tolvo

@@ -5,6 +5,7 @@
 
 #include "base/character_sets.h"
 #include "base/code_page.h"
+#include "base/numbers.h"
 #include "base/strings.h"
 #include "text/Tokens.h"
 
@@ -201,7 +202,7 @@ QString PunctuationCheck::messages() const {
         AddMessage(list, FillCountedTemplate(
                              QStringLiteral("There is %1 unmatched %2 %3 bracket"),
                              QStringLiteral("There are %1 unmatched %2 %3 brackets"), qAbs(count) == 1,
-                             {QString::number(qAbs(count)),
+                             {groupedNumber(qAbs(count)),
                               count > 0 ? QStringLiteral("opening") : QStringLiteral("closing"),
                               QString(brackets[static_cast<qsizetype>(kind)])}));
     }

@@ -124,6 +124,10 @@ TEST_F(SimpleSearch, ReplacesAllInOneChange) {
         EXPECT_TRUE(said().startsWith(row.said));
         EXPECT_LE(changes, 1);
     }
+    box.setCapacity(65535);
+    box.setText(QString(16384, u'a'));
+    search.SimpleReplaceAll("a", "b", false, true, false, false, false);
+    EXPECT_EQ(said(), "16,384 strings replaced");
 }
 
 TEST_F(SimpleSearch, ListsAllMatches) {
