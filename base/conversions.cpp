@@ -47,6 +47,10 @@ bool toFlag(const QString &text) {
     return toNumber(text) != 0;
 }
 
+bool saysYes(const QString &text) {
+    return text.trimmed().compare(QLatin1StringView("True"), Qt::CaseInsensitive) == 0 || ValueOf(text) != 0;
+}
+
 QString flagWord(bool flag) {
     return flag ? QStringLiteral("True") : QStringLiteral("False");
 }

@@ -21,6 +21,9 @@ namespace tolvo {
 /// "True" or "False" in any case, or a number other than 0 or equal to it. Fails with a type mismatch.
 [[nodiscard]] bool toFlag(const QString &text);
 
+/// The lenient twin: a text that is no flag says no.
+[[nodiscard]] bool saysYes(const QString &text);
+
 /// The word "True" or "False".
 [[nodiscard]] QString flagWord(bool flag);
 

@@ -15,10 +15,6 @@ namespace {
 constexpr QStringView preferences = u"Preferences";
 const QString userExtensions = QStringLiteral("Preferences\\UserFileExtensions");
 
-bool readCheck(const SettingsStore &store, QStringView key) {
-    return ValueOf(readSetting(store, preferences, key)) != 0;
-}
-
 void writeFont(SettingsStore &store, const QString &prefix, const Font &font) {
     writeSetting(store, preferences, prefix + QStringLiteral("_FontName"), font.name);
     writeSetting(store, preferences, prefix + QStringLiteral("_FontBold"), flagWord(font.bold));
@@ -38,11 +34,11 @@ ProgramOptions loadOptions(const SettingsStore &store, const std::array<Font, 2>
         if (!isSystemExtension(extension))
             options.extensions += extension;
     }
-    options.fullDomainList = toFlag(readSetting(store, preferences, u"TLD_Full"));
-    options.showTips = readCheck(store, u"Show Tips at Startup");
-    options.sounds = readCheck(store, u"Sounds");
-    options.checkUpdates = readCheck(store, u"CheckUpdates");
-    options.allowStats = readCheck(store, u"AllowStats");
+    options.fullDomainList = readFlag(store, preferences, u"TLD_Full");
+    options.showTips = readFlag(store, preferences, u"Show Tips at Startup");
+    options.sounds = readFlag(store, preferences, u"Sounds");
+    options.checkUpdates = readFlag(store, preferences, u"CheckUpdates");
+    options.allowStats = readFlag(store, preferences, u"AllowStats");
     options.provider = toIntegerOr(readSetting(store, u"Spelling", u"Provider"), options.provider);
     return options;
 }
@@ -73,7 +69,7 @@ QString lastCheckText(const QString &startDate, const QDateTime &now) {
     if (!start)
         return QStringLiteral("You have never checked for updates");
     const qint64 days = start->secsTo(now) / (24LL * 60 * 60);
-    return FillTemplate(QStringLiteral("You last checked for updates %0 days ago"), {QString::number(days)});
+    return FillTemplate(QStringLiteral("You last checked for updates %0 days ago"), {groupedNumber(days)});
 }
 
 } // namespace tolvo

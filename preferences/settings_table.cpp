@@ -2,6 +2,7 @@
 #include "preferences/settings_table.h"
 
 #include "base/application.h"
+#include "base/conversions.h"
 #include "base/failure.h"
 #include "preferences/settings_store.h"
 
@@ -126,6 +127,10 @@ QString settingsDefault(QStringView section, QStringView key) {
 QString readSetting(const SettingsStore &store, QStringView section, QStringView key) {
     return store.GetSetting(applicationTitle(), section.toString(), key.toString(),
                             settingsDefault(section, key));
+}
+
+bool readFlag(const SettingsStore &store, QStringView section, QStringView key) {
+    return saysYes(readSetting(store, section, key));
 }
 
 void writeSetting(SettingsStore &store, QStringView section, QStringView key, const QString &value) {

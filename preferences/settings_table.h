@@ -33,6 +33,8 @@ inline constexpr QStringView hunLangListOfLanguageDialog = u"en-gb|English (UK)|
 
 /// GetSetting with the table's default, in the settings tree.
 [[nodiscard]] QString readSetting(const SettingsStore &store, QStringView section, QStringView key);
+/// A flag, in whatever form it stands there: a word or a number. What is neither is off.
+[[nodiscard]] bool readFlag(const SettingsStore &store, QStringView section, QStringView key);
 void writeSetting(SettingsStore &store, QStringView section, QStringView key, const QString &value);
 
 /// GetPreference: `Preferences`/key; a value that is missing or empty gives the fallback. It serves the font

@@ -30,10 +30,6 @@ constexpr std::array<DirectionName, 3> directions = {{{SearchDirection::Down, u"
                                                       {SearchDirection::Up, u"Up", u"U"},
                                                       {SearchDirection::FromStart, u"Start", u"S"}}};
 
-bool isOn(const QString &text) {
-    return ValueOf(text) != 0 || text.compare(QStringLiteral("True"), Qt::CaseInsensitive) == 0;
-}
-
 int numberIn(const QString &text, int low, int high, int otherwise) {
     const double number = ValueOf(text);
     return number >= low && number <= high ? static_cast<int>(number) : otherwise;
@@ -66,16 +62,16 @@ void putInFront(QStringList &list, const QString &text) {
 
 void SearchForm::load(const SettingsStore &store) {
     const auto read = [&](QStringView key) { return readSetting(store, section, key); };
-    wholeWords = isOn(read(u"WholeWords"));
-    matchCase = isOn(read(u"MatchCase"));
-    smartReplace = isOn(read(u"SmartReplace"));
-    specialChars = isOn(read(u"AllowSpecial"));
+    wholeWords = readFlag(store, section, u"WholeWords");
+    matchCase = readFlag(store, section, u"MatchCase");
+    smartReplace = readFlag(store, section, u"SmartReplace");
+    specialChars = readFlag(store, section, u"AllowSpecial");
     const QString stored = read(u"Direction");
     for (const DirectionName &name : directions) {
         if (stored == name.stored)
             direction = name.direction;
     }
-    expanded = specialChars || isOn(read(u"More"));
+    expanded = specialChars || readFlag(store, section, u"More");
     anchor = numberIn(read(u"Anchor"), 0, anywhere, anywhere);
     decimalSep = read(u"DecimalSep");
     groupingSep = read(u"GroupingSep");
@@ -121,7 +117,7 @@ void SearchForm::readRequest(const QString &request, bool bReplace) {
         take(key, [&](const QString &stored) { value = stored; });
     };
     const auto flag = [&](const QString &key, bool &value) {
-        take(key, [&](const QString &stored) { value = isOn(stored); });
+        take(key, [&](const QString &stored) { value = saysYes(stored); });
     };
     mode = modeOf(params.arg(QStringLiteral("Mode")));
     text(QStringLiteral("Find"), find);

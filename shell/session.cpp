@@ -22,7 +22,7 @@ bool tooLong(const QString &text) {
 } // namespace
 
 void frmMain::readTextPreferences() {
-    const bool full = readSetting(m_services.store, u"Preferences", u"TLD_Full") == flagWord(true);
+    const bool full = readFlag(m_services.store, u"Preferences", u"TLD_Full");
     oTextMethods.setTopLevelDomains(full ? longTopLevelDomains() : shortTopLevelDomains());
     m_services.extensions.setUserExtensions(
         readList(m_services.store, QStringLiteral("Preferences\\UserFileExtensions")));

@@ -146,7 +146,7 @@ TEST_F(Runs, takePreferencesAndKeepToolSettings) {
                                      {"Fixed_FontName", "Mono"},
                                      {"Fixed_FontBold", "True"},
                                      {"Fixed_FontSize", "12pt"},
-                                     {"TLD_Full", "True"}})
+                                     {"TLD_Full", "true"}})
         prefers(key, value);
     run([](frmMain &session, cToolbox &) {
         EXPECT_TRUE(session.bWordWrap);
