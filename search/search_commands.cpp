@@ -25,51 +25,58 @@ void runSearch(const SearchForm &form, CSearch &search, SearchHost &host) {
 
 namespace {
 
-void replaceOne(const SearchForm &form, CSearch &search) {
+void replaceOne(const SearchForm &form, CSearch &search, bool replaceAfterFind) {
     switch (form.mode) {
     case SearchMode::Simple:
         search.SimpleReplace(form.find, form.replace, form.specialChars, form.up(), form.down(),
-                             form.fromStart(), form.matchCase, form.wholeWords, form.smartReplace, false);
+                             form.fromStart(), form.matchCase, form.wholeWords, form.smartReplace,
+                             replaceAfterFind);
         break;
     case SearchMode::Wildcard:
         search.WildcardReplace(form.find, form.replace, form.specialChars, form.up(), form.fromStart(),
-                               form.matchCase, form.smartReplace, form.wildcardOptions(), false);
+                               form.matchCase, form.smartReplace, form.wildcardOptions(), replaceAfterFind);
         break;
     case SearchMode::RegularExpression:
         search.RegExpReplace(form.find, form.replace, form.up(), form.fromStart(), form.matchCase,
-                             form.smartReplace, false);
+                             form.smartReplace, replaceAfterFind);
         break;
     }
 }
 
-void replaceAll(const SearchForm &form, CSearch &search) {
+void replaceAll(const SearchForm &form, CSearch &search, bool silent) {
     switch (form.mode) {
     case SearchMode::Simple:
         search.SimpleReplaceAll(form.find, form.replace, form.specialChars, form.matchCase, form.wholeWords,
-                                form.smartReplace, false);
+                                form.smartReplace, silent);
         break;
     case SearchMode::Wildcard:
         search.WildcardReplaceAll(form.find, form.replace, form.specialChars, form.matchCase,
-                                  form.smartReplace, form.wildcardOptions(), false);
+                                  form.smartReplace, form.wildcardOptions(), silent);
         break;
     case SearchMode::RegularExpression:
-        search.RegExpReplaceAll(form.find, form.replace, form.matchCase, form.smartReplace, false);
+        search.RegExpReplaceAll(form.find, form.replace, form.matchCase, form.smartReplace, silent);
         break;
     }
+}
+
+/// A step of a PowerButton is bracketed by whoever runs it.
+template <class Replace>
+void asUndoStep(SearchHost &host, SearchedBy by, Replace replace) {
+    if (by == SearchedBy::PowerButton)
+        return replace();
+    host.pushUndo();
+    replace();
+    host.pushUndo();
 }
 
 } // namespace
 
-void runReplace(const SearchForm &form, CSearch &search, SearchHost &host) {
-    host.pushUndo();
-    replaceOne(form, search);
-    host.pushUndo();
+void runReplace(const SearchForm &form, CSearch &search, SearchHost &host, SearchedBy by) {
+    asUndoStep(host, by, [&] { replaceOne(form, search, by == SearchedBy::PowerButton); });
 }
 
-void runReplaceAll(const SearchForm &form, CSearch &search, SearchHost &host) {
-    host.pushUndo();
-    replaceAll(form, search);
-    host.pushUndo();
+void runReplaceAll(const SearchForm &form, CSearch &search, SearchHost &host, SearchedBy by) {
+    asUndoStep(host, by, [&] { replaceAll(form, search, by == SearchedBy::PowerButton); });
 }
 
 void runFindAll(const SearchForm &form, CSearch &search, SearchHost &host) {

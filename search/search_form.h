@@ -60,6 +60,12 @@ struct SearchForm {
     void chooseAnchor(int index);
     void checkWholeWords(bool on);
 
+    /// Something is on that only the larger layout shows.
+    [[nodiscard]] bool isOnUnseen() const {
+        return matchCase || (wholeWords && wholeWordsEnabled()) || (specialChars && specialCharsShown()) ||
+               (anchor != anywhere && wildcardsShown());
+    }
+
     [[nodiscard]] bool wholeWordsEnabled() const { return mode != SearchMode::RegularExpression; }
     [[nodiscard]] bool specialCharsShown() const { return mode != SearchMode::RegularExpression; }
     [[nodiscard]] bool wildcardsShown() const { return mode == SearchMode::Wildcard; }

@@ -156,6 +156,9 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void OpenSearchDialog(bool bReplace);
     void FindAgain();
     void RunSearchAction(bool bReplace, const CAction &action);
+    /// A step of a PowerButton that takes the search window's present settings, without showing it.
+    void runLastSearch(bool bReplace);
+    [[nodiscard]] bool runsPowerButton() const { return !m_runningButtons.isEmpty(); }
 
     // PowerButtons (powerbutton_execution.cpp)
 

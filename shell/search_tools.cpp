@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // How the session reaches search and replace: the search window, and the searches of PowerButtons.
+#include "base/conversions.h"
 #include "base/failure.h"
 #include "base/numbers.h"
+#include "search/escaped_text.h"
+#include "search/search_commands.h"
 #include "shell/frmMain.h"
 
 namespace tolvo {
@@ -9,33 +12,6 @@ namespace tolvo {
 namespace {
 
 constexpr int longestSeed = 24; ///< a longer selection is text to work on, not text to look for
-
-struct Seed {
-    QString text;
-    bool specialChars = false;
-};
-
-/// A selection as the search box shows it: control characters as escapes.
-Seed seedFor(QStringView selection) {
-    Seed seed;
-    for (qsizetype i = 0; i < selection.size(); ++i) {
-        const char16_t unit = selection[i].unicode();
-        if (unit >= 32) {
-            seed.text += QChar(unit);
-            continue;
-        }
-        seed.specialChars = true;
-        if (unit == u'\t') {
-            seed.text += QLatin1StringView("\\t");
-        } else if (selection.sliced(i).startsWith(u"\r\n")) {
-            seed.text += QLatin1StringView("\\n");
-            ++i;
-        } else {
-            seed.text += QStringLiteral("\\x%1").arg(QString::number(unit, 16).toUpper(), 2, u'0');
-        }
-    }
-    return seed;
-}
 
 /// The settings of a search as an Action stores them.
 struct SearchRequest {
@@ -55,8 +31,7 @@ struct SearchRequest {
 };
 
 bool flagOf(const CAction &action, const QString &key) {
-    const QString value = action.Param(key);
-    return value.compare(QLatin1StringView("True"), Qt::CaseInsensitive) == 0 || ValueOf(value) != 0;
+    return saysYes(action.Param(key));
 }
 
 SearchRequest::SearchRequest(const CAction &action)
@@ -138,7 +113,7 @@ void frmMain::OpenSearchDialog(bool bReplace) {
     SearchWindow &window = m_services.windows.search();
     const int length = txtCurrent().SelLength();
     if (length >= 1 && length <= longestSeed) {
-        const Seed seed = seedFor(txtCurrent().SelText());
+        const EscapedText seed = escapedControls(txtCurrent().SelText());
         window.setSearchText(seed.text);
         if (seed.specialChars)
             window.setSpecialChars(true);
@@ -156,6 +131,16 @@ void frmMain::FindAgain() {
         else
             window.cmdSearch_Click();
     });
+}
+
+void frmMain::runLastSearch(bool bReplace) {
+    const SearchForm form = m_services.windows.search().form();
+    if (!bReplace)
+        runSearch(form, oSearch(), searchHost());
+    else if (form.replaceAll)
+        runReplaceAll(form, oSearch(), searchHost(), SearchedBy::PowerButton);
+    else
+        runReplace(form, oSearch(), searchHost(), SearchedBy::PowerButton);
 }
 
 void frmMain::RunSearchAction(bool bReplace, const CAction &action) {

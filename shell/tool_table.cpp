@@ -130,7 +130,12 @@ constexpr ToolOperation onSelection() {
 template <bool replace>
 constexpr ToolOperation searching() {
     return {.procedure = [](frmMain &session, const CAction *action) {
-        action ? session.RunSearchAction(replace, *action) : session.OpenSearchDialog(replace);
+        if (action)
+            session.RunSearchAction(replace, *action);
+        else if (session.bRightButton && session.runsPowerButton())
+            session.runLastSearch(replace);
+        else
+            session.OpenSearchDialog(replace);
     }};
 }
 

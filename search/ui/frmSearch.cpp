@@ -43,8 +43,13 @@ void frmSearch::connectControls() {
         m_form.mode = static_cast<SearchMode>(index);
         applyRules();
     });
-    for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText})
+    for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText}) {
         connect(list, &SearchListEdit::used, this, [this, list] { m_lastList = list; });
+        connect(list, &SearchListEdit::escaped, this, [this] {
+            if (m_form.specialCharsShown())
+                setSpecialChars(true);
+        });
+    }
     connect(c.cmdSearch, &QPushButton::clicked, this, &frmSearch::cmdSearch_Click);
     connect(c.cmdReplace, &QPushButton::clicked, this, &frmSearch::cmdReplace_Click);
     connect(c.cmdReplaceAll, &QPushButton::clicked, this, &frmSearch::cmdReplaceAll_Click);
@@ -67,6 +72,15 @@ void frmSearch::connectControls() {
     const auto turn = [tabs = c.TabStrip1](int step) {
         tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
     };
+    const auto unlessCollecting = [this](auto action) {
+        return [this, action] {
+            if (!m_collecting)
+                action();
+        };
+    };
+    shortcut(Qt::CTRL | Qt::Key_F, unlessCollecting([this] { showDialog(false); }));
+    shortcut(Qt::CTRL | Qt::Key_H, unlessCollecting([this] { showDialog(true); }));
+    shortcut(Qt::Key_F3, unlessCollecting([this] { cmdSearch_Click(); }));
     shortcut(Qt::CTRL | Qt::Key_PageDown, [turn] { turn(1); });
     shortcut(Qt::CTRL | Qt::Key_PageUp, [turn] { turn(-1); });
 }
@@ -220,11 +234,15 @@ bool frmSearch::getSettings(QString &settings, bool bReplace) {
     readTexts();
     m_form.readRequest(settings, bReplace);
     m_collecting = true;
+    // What is on has to be seen. The user's own choice of the layout comes back afterwards.
+    const bool wasExpanded = m_form.expanded;
+    m_form.expanded = wasExpanded || m_form.isOnUnseen();
     useMode(bReplace);
     showForm();
     m_controls.cmbSearchText->begin();
     const bool confirmed = exec() == QDialog::Accepted;
     m_collecting = false;
+    m_form.expanded = wasExpanded;
     useMode(bReplace);
     readTexts();
     if (confirmed)
@@ -304,6 +322,11 @@ void frmSearch::ConvertToRegExp() {
         m_form.mode = SearchMode::RegularExpression;
         applyRules();
     });
+}
+
+SearchForm frmSearch::form() {
+    readTexts();
+    return m_form;
 }
 
 void frmSearch::saveState() {

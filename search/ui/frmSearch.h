@@ -35,6 +35,8 @@ class frmSearch final : public QDialog {
     /// they were, if the user cancelled.
     bool getSettings(QString &settings, bool bReplace);
     void cmdSearch_Click();
+    /// What the controls hold.
+    [[nodiscard]] SearchForm form();
 
     /// Writes the state and the lists to the store.
     void saveState();

@@ -4,10 +4,12 @@
 #include "search/result_lines.h"
 
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QStringListModel>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace tolvo {
 
@@ -31,17 +33,42 @@ frmSearchResults::frmSearchResults(const QFont &textFont, std::function<TextBox 
     const QSize letter = fontMetrics().size(0, QStringLiteral("x"));
     resize(letter.width() * 80, letter.height() * 20);
 
-    connect(lstResults->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex &now) { selectHit(now.row()); });
+    // The focus makes the first line the current one; only what the user does chooses a line.
+    lstResults->installEventFilter(this);
+    connect(lstResults->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection &now) {
+                if (!now.isEmpty())
+                    selectHit(now.indexes().first().row());
+            });
     // A second click on the line where the list stands brings its hit back.
     connect(lstResults, &QListView::clicked, this,
             [this](const QModelIndex &index) { selectHit(index.row()); });
 }
 
 void frmSearchResults::setHits(const QStringList &lines, const QList<qint32> &locations) {
-    m_locations = {};
     m_lines->setStringList(lines);
     m_locations = locations;
+}
+
+void frmSearchResults::setOldHits(const QStringList &lines) {
+    setHits(lines, {});
+    lstResults->setEnabled(lines.isEmpty());
+    if (!lines.isEmpty())
+        labResults->setText(tr("These lines are from an earlier search:"));
+}
+
+/// The first arrow key chooses the line where the list stands.
+bool frmSearchResults::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == lstResults && event->type() == QEvent::KeyPress &&
+        !lstResults->selectionModel()->hasSelection() && lstResults->currentIndex().isValid()) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Home) {
+            lstResults->selectionModel()->select(lstResults->currentIndex(),
+                                                 QItemSelectionModel::ClearAndSelect);
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void frmSearchResults::selectHit(int row) {
@@ -59,6 +86,7 @@ SearchResultsWindow::SearchResultsWindow(std::function<QFont()> textFont,
 void SearchResultsWindow::clear() {
     m_lines.clear();
     m_locations.clear();
+    m_isOld = false;
 }
 
 void SearchResultsWindow::add(const QString &line, qint32 location) {
@@ -69,7 +97,10 @@ void SearchResultsWindow::add(const QString &line, qint32 location) {
 void SearchResultsWindow::show() {
     frmSearchResults window(m_textFont(), m_txtCurrent, m_parent);
     window.setWindowTitle(m_caption);
-    window.setHits(m_lines, m_locations);
+    if (std::exchange(m_isOld, true))
+        window.setOldHits(m_lines);
+    else
+        window.setHits(m_lines, m_locations);
     window.exec();
 }
 

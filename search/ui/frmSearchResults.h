@@ -22,6 +22,11 @@ class frmSearchResults final : public QDialog {
 
     /// One line and one packed location for each hit.
     void setHits(const QStringList &lines, const QList<qint32> &locations);
+    /// The lines of another search: they can be read, but lead nowhere.
+    void setOldHits(const QStringList &lines);
+
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
     void selectHit(int row);
@@ -52,6 +57,7 @@ class SearchResultsWindow final : public SearchResults {
     QStringList m_lines;
     QList<qint32> m_locations;
     QString m_caption;
+    bool m_isOld = true; ///< nothing has been listed since the list was last shown
 };
 
 } // namespace tolvo

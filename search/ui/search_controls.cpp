@@ -111,6 +111,8 @@ QWidget *SearchControls::directionRow() {
     for (QRadioButton *option : {optSrchDown, optSrchUp, optSrchFromStart})
         row->addWidget(option);
     row->addStretch(1);
+    chkReplaceAll = make<QCheckBox>("chkReplaceAll", QStringLiteral("Replace A&ll"), part);
+    row->addWidget(chkReplaceAll);
     return part;
 }
 
@@ -120,13 +122,11 @@ void SearchControls::makeOptions() {
     chkSmart = make<QCheckBox>("chkSmart", QStringLiteral("&Smart Replace"), fraOptions);
     chkSmart->setToolTip(QStringLiteral("The replacement takes the capitals of the text that it replaces"));
     chkWholeWord = make<QCheckBox>("chkWholeWord", QStringLiteral("&Whole words"), fraOptions);
-    chkReplaceAll = make<QCheckBox>("chkReplaceAll", QStringLiteral("Replace A&ll"), fraOptions);
     auto *grid = new QGridLayout(fraOptions);
     grid->setContentsMargins({});
     grid->addWidget(chkMatchCase, 0, 0);
     grid->addWidget(chkSmart, 0, 1);
     grid->addWidget(chkWholeWord, 1, 0);
-    grid->addWidget(chkReplaceAll, 1, 1);
     grid->setColumnStretch(1, 1);
 }
 

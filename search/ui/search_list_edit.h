@@ -5,7 +5,8 @@
 
 namespace tolvo {
 
-/// An editable list of remembered texts that knows where its caret was when it lost the focus.
+/// An editable list of remembered texts that knows where its caret was when it lost the focus. A line end
+/// that comes in by paste or drop becomes "\n".
 class SearchListEdit final : public QComboBox {
     Q_OBJECT
 
@@ -14,7 +15,7 @@ class SearchListEdit final : public QComboBox {
 
     /// Shows a list and a text.
     void show(const QStringList &entries, const QString &text);
-    /// Takes the focus with caret and selection as they last were.
+    /// Takes the focus, if it doesn't have it, with caret and selection as the user left them.
     void resume();
     /// Takes the focus with all of its text selected, for a new one to be typed over it.
     void begin();
@@ -24,15 +25,21 @@ class SearchListEdit final : public QComboBox {
   signals:
     /// This is the list that the user was last in.
     void used();
-
-  protected:
-    void focusOutEvent(QFocusEvent *event) override;
+    /// A text with line ends came in: escapes stand in their place.
+    void escaped();
 
   private:
-    void remember();
+    /// Caret and selection, from 0.
+    struct Place {
+        int start = 0;
+        int length = 0;
+    };
 
-    int m_selStart = 0;
-    int m_selLength = 0;
+    void remember();
+    void goTo(Place place);
+    void escapeLineEnds(const QString &text);
+
+    Place m_place; ///< as long as the list has the focus, what the line edit says
 };
 
 } // namespace tolvo

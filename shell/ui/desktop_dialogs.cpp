@@ -162,6 +162,10 @@ void DesktopDialogs::cmdSearch_Click() {
     searchForm().cmdSearch_Click();
 }
 
+SearchForm DesktopDialogs::form() {
+    return searchForm().form();
+}
+
 void DesktopDialogs::setDirection(SearchDirection direction) {
     // A PowerButton's search needs no window: what it says about the next direction then reaches nobody.
     if (m_search)

@@ -71,6 +71,7 @@ class User : public HeadlessWindows {
     void expandDialog() override { opened += "more"; }
     void showDialog(bool replace) override { opened += replace ? "replace" : "search"; }
     void cmdSearch_Click() override { opened += "next"; }
+    SearchForm form() override { return searchForm; }
     bool CheckSpelling(ProofingHost &, QString &text, int language, bool grammar) override;
     int GetLangID(int, bool) override { return chosenLanguage; }
 
@@ -83,6 +84,7 @@ class User : public HeadlessWindows {
     int chosenLanguage = 2057;
     QString corrected; ///< what the walk makes of a text; null: it ends without a correction
     QString searchBox;
+    SearchForm searchForm;
     bool special = false;
 
   private:

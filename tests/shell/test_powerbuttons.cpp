@@ -62,6 +62,30 @@ TEST(PowerButtons, settingsLastUsedHoldForTheActionsBehind) {
     EXPECT_EQ(user.opened.last(), "editor 0");
 }
 
+TEST(PowerButtons, searchWithTheSettingsLastUsedWithoutTheWindow) {
+    User user("one, two One");
+    user.searchForm.find = "one, two"; // a settings string would cut it at the comma
+    user.searchForm.replace = "three";
+    user.searchForm.direction = SearchDirection::FromStart;
+    user.defines(1, {User::action("edSRC", Current)});
+    user.defines(2, {User::action("edREP", Current)});
+    user.session.imgPower_Click(0);
+    user.sees("«one, two» One");
+    user.session.bRightButton = false;
+    user.session.imgPower_Click(1);
+    user.sees("«three» One");
+    user.searchForm.find = "e";
+    user.searchForm.replaceAll = true;
+    user.session.bRightButton = false;
+    user.session.imgPower_Click(1);
+    EXPECT_EQ(user.session.txtCurrent().Text(), "thrthreethree Onthree");
+    EXPECT_TRUE(user.boxes.shown.empty());
+    EXPECT_EQ(user.opened, QStringList());
+    // A direct command opens the window, whatever a step has left behind.
+    user.runs("edSRC");
+    EXPECT_EQ(user.opened, QStringList("search"));
+}
+
 TEST(PowerButtons, goOnAfterAnActionThatFailed) {
     User user("a");
     user.defines(1, {User::action("foIND", Custom, "RadioButton=x"),

@@ -8,6 +8,7 @@
 #include "tests/ui/user.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -77,6 +78,62 @@ TEST_F(SearchWindow, FindsAndReplacesByKeysAlone) {
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(SearchWindow, GivesTheBoxItsSelectionBack) {
+    open(true);
+    type("one");
+    alt(Qt::Key_D);
+    QLineEdit &edit = *find<QComboBox>("cmbSearchText").lineEdit();
+    for (const auto key : {Qt::Key_Return, Qt::Key_F3, Qt::Key_N, Qt::Key_R, Qt::Key_A}) {
+        edit.setSelection(1, 2);
+        press(key, key == Qt::Key_Return || key == Qt::Key_F3 ? Qt::NoModifier : Qt::AltModifier);
+        EXPECT_EQ(edit.selectedText(), "ne") << key;
+        EXPECT_TRUE(find<QComboBox>("cmbSearchText").hasFocus()) << key;
+        // A click takes the focus, and with it the selection, for as long as it lasts.
+        edit.setSelection(0, 2);
+        QTest::mouseClick(&find<QWidget>("chkMatchCase"), Qt::LeftButton, {}, QPoint(8, 8));
+        click("optSrchDown");
+        EXPECT_EQ(edit.selectedText(), "on") << key;
+    }
+    said();
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_FALSE(visible("cmdReplace"));
+    EXPECT_EQ(edit.selectedText(), "one");
+    press(Qt::Key_H, Qt::ControlModifier);
+    EXPECT_TRUE(visible("cmdReplace"));
+    EXPECT_EQ(edit.selectedText(), "one");
+}
+
+TEST_F(SearchWindow, TakesLineEndsAsEscapes) {
+    const struct {
+        int tab;
+        const char *text;
+        const char *pasted;
+        const char *shown;
+        int caret;
+        bool specialChars;
+    } rows[] = {
+        {0, "", "a\nb", "a\\nb", 4, true},
+        {0, "xy", "a\r\n\tb\r\n", "xa\\n\\tb\\ny", 9, true},
+        {0, "xy", "\ta", "x\tay", 3, false},
+        {2, "xy", "\n", "x\\ny", 3, false},
+    };
+    open(true);
+    QLineEdit &edit = *find<QComboBox>("cmbSearchText").lineEdit();
+    for (const auto &row : rows) {
+        window->setSpecialChars(false);
+        find<QTabBar>("TabStrip1").setCurrentIndex(row.tab);
+        edit.setText(row.text);
+        edit.setCursorPosition(1);
+        QApplication::clipboard()->setText(row.pasted);
+        press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(edit.text(), QString(row.shown));
+        EXPECT_EQ(edit.cursorPosition(), row.caret);
+        EXPECT_EQ(window->specialChars(), row.specialChars);
+    }
+    edit.undo();
+    EXPECT_EQ(edit.text(), "xy");
+}
+
 TEST_F(SearchWindow, MouseAndOptions) {
     open(false);
     for (const char *name : {"cmdReplace", "imgSwop", "cmdOK", "cmdCancel", "chkMatchCase", "picMoreArrowUp"})
@@ -136,6 +193,10 @@ TEST_F(SearchWindow, ListsHitsAndJumpsToThem) {
         EXPECT_EQ(shown.windowTitle(), "2 results found for one");
         auto &listed = child<QListView>(shown, "lstResults");
         const QModelIndex second = listed.model()->index(1, 0);
+        EXPECT_TRUE(listed.hasFocus());
+        EXPECT_EQ(picture(), "^one two One"); // nobody has chosen a line
+        QTest::keyClick(&listed, Qt::Key_Down);
+        EXPECT_EQ(picture(), "[one] two One");
         EXPECT_EQ(second.data().toString(), "Line 1: one two One");
         QTest::mouseClick(listed.viewport(), Qt::LeftButton, {}, listed.visualRect(second).center());
         EXPECT_EQ(picture(), "one two [One]");
@@ -143,6 +204,19 @@ TEST_F(SearchWindow, ListsHitsAndJumpsToThem) {
         EXPECT_EQ(picture(), "[one] two One");
     });
     click("cmdReplaceAll");
+    // Without a match the lines of the last search stay, and lead nowhere.
+    window->setSearchText("nowhere");
+    show("^short");
+    withModal<QDialog>([this](QDialog &shown) {
+        EXPECT_EQ(shown.windowTitle(), "0 results found for nowhere");
+        auto &listed = child<QListView>(shown, "lstResults");
+        EXPECT_EQ(listed.model()->rowCount(), 2);
+        QTest::mouseClick(listed.viewport(), Qt::LeftButton, {},
+                          listed.visualRect(listed.model()->index(1, 0)).center());
+        QTest::keyClick(&listed, Qt::Key_Down);
+    });
+    click("cmdReplaceAll");
+    EXPECT_EQ(picture(), "^short");
     EXPECT_EQ(said(), "");
 }
 
@@ -177,6 +251,12 @@ TEST_F(SearchWindow, CollectsSettings) {
     QTimer::singleShot(0, window.get(), [this] {
         EXPECT_EQ(window->searchText(), "a=b");
         EXPECT_TRUE(visible("cmdOK") && !visible("cmdSearch") && window->isModal());
+        // "Replace All" is there, and so is what else is on.
+        EXPECT_TRUE(visible("chkReplaceAll") && find<QCheckBox>("chkReplaceAll").isChecked());
+        EXPECT_TRUE(visible("chkMatchCase"));
+        press(Qt::Key_H, Qt::ControlModifier);
+        press(Qt::Key_F3);
+        EXPECT_TRUE(visible("cmdOK") && !visible("cmdSearch"));
         press(Qt::Key_Escape);
     });
     EXPECT_FALSE(window->getSettings(settings, true));
@@ -195,6 +275,7 @@ TEST_F(SearchWindow, CollectsSettings) {
     EXPECT_EQ(settings, "Mode=1, Find=q, MatchCase=1, Direction=U, WholeWords=0, SpecialChars=0");
     open(false);
     EXPECT_TRUE(visible("cmdSearch") && !visible("cmdOK") && !window->isModal());
+    EXPECT_FALSE(visible("chkReplaceAll") || visible("chkMatchCase"));
 }
 
 TEST_F(SearchWindow, SaysWhatSettingsCannotHold) {
