@@ -40,6 +40,10 @@ class SearchStories(Story):
         run.main_is_active()
         keys("ctrl+Home", "F3")
         run.picture_becomes("«cat» cot cat")
+        keys("ctrl+h")
+        run.active("Tolvo Search & Replace")
+        keys("F3")
+        run.picture_becomes("cat cot «cat»")
 
     def test_find_replace_and_replace_all_by_keys(self):
         for name, tab, find, replace in MODES:
@@ -78,8 +82,10 @@ class SearchStories(Story):
                 self.settings.write("Tolvo", "Search", "Tab", "1")
                 run = self.start(TEXT)
                 self.open(run, "ctrl+f", tab, find)
+                before = run.picture()
                 keys("alt+a")
                 run.active("3 results found for")
+                self.assertEqual(run.picture(), before)  # nobody has chosen a line
                 run.click(lambda: run.rows()[1])
                 run.picture_becomes("cat one, «cat» two\ncat three")
                 keys("Escape")
