@@ -103,6 +103,15 @@ class LayoutStories(Story):
 
         self.on_every_layout("(ab(", story)
 
+    def test_altgr_and_dead_keys_type(self):
+        for layout, strokes, typed in ("de", f"{ALTGR}+24 {ALTGR}+16", "@{"), ("fr", "34 26", "ê"):
+            with self.subTest(layout=layout):
+                subprocess.run(["setxkbmap", layout], check=True)
+                run = self.start("x")
+                run.main_is_active()
+                keys("ctrl+End", *strokes.split())
+                run.text_becomes("x" + typed)
+
 
 if __name__ == "__main__":
     unittest.main()
