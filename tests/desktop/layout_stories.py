@@ -96,10 +96,17 @@ class LayoutStories(Story):
             run.picture_becomes("(ab«(»")
             keys("Escape")
             run.main_is_active()
-            press(ALT, "f")  # Refresh: the text is clean again
+            press(ALT, "f")
             run.status_becomes("Text retrieved from clipboard")
+            press(CTRL, "a")
+            press(CTRL, "u")
             press(ALT, "q")
+            run.box_says("Changes have been made to the text")
+            keys("Escape")
+            run.main_is_active()
+            press(ALT, "d")
             run.ends()
+            clipboard_becomes("(AB(")
 
         self.on_every_layout("(ab(", story)
 
