@@ -84,8 +84,11 @@ void MainWindow::closeEvent(QCloseEvent *event) {
 }
 
 bool MainWindow::event(QEvent *event) {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate) {
         shownTextBox().setFocus();
+        if (onActivated)
+            onActivated();
+    }
     return QWidget::event(event);
 }
 

@@ -43,7 +43,8 @@ class MainWindow : public QWidget {
     /// Waits while window events go on (the panel's animation).
     static void delay(int milliseconds);
 
-    std::function<void()> onClosed; ///< the close box was used and the session agreed
+    std::function<void()> onActivated; ///< each time the window becomes active
+    std::function<void()> onClosed;    ///< the close box was used and the session agreed
 
   protected:
     void closeEvent(QCloseEvent *event) override;

@@ -74,42 +74,44 @@ TEST(DesktopMessageBoxes, AreNoLargerThanTheScreen) {
         });
         DesktopMessageBoxes().show({.text = text + end});
     }
-    TEST(DesktopProcesses, OpenAnAddressWithoutHandingOnTheOutput) {
-        const QTemporaryDir folder;
-        const QString mark = folder.filePath(u"mark"_s);
-        QFile opener(folder.filePath(u"xdg-open"_s));
-        ASSERT_TRUE(opener.open(QIODevice::WriteOnly));
-        opener.write("#!/bin/sh\necho \"$1\" \"$(readlink /proc/$$/fd/2)\" >" + mark.toLocal8Bit() +
-                     ".new\n" + "mv " + mark.toLocal8Bit() + ".new " + mark.toLocal8Bit() + '\n');
-        opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-        opener.close();
-        const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", folder.path().toLocal8Bit() + ':' + path);
-        EXPECT_TRUE(DesktopProcesses().open(u"https://tolvo.example/a b"_s));
-        qputenv("PATH", path);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(mark); }));
-        QFile told(mark);
-        ASSERT_TRUE(told.open(QIODevice::ReadOnly));
-        EXPECT_EQ(told.readAll(), "https://tolvo.example/a%20b /dev/null\n");
-    }
+}
 
-    TEST(EscapeWatch, KeepsInputAwayAndNotesEsc) {
-        QLineEdit field;
-        field.show();
-        EscapeWatch watch;
-        {
-            const auto guard = watch.guard();
-            QTest::keyClicks(&field, u"abc"_s);
-            EXPECT_FALSE(watch.escapePressed());
-            QTest::keyClick(&field, Qt::Key_Escape);
-            EXPECT_TRUE(watch.escapePressed());
-            EXPECT_FALSE(field.close());
-        }
+TEST(DesktopProcesses, OpenAnAddressWithoutHandingOnTheOutput) {
+    const QTemporaryDir folder;
+    const QString mark = folder.filePath(u"mark"_s);
+    QFile opener(folder.filePath(u"xdg-open"_s));
+    ASSERT_TRUE(opener.open(QIODevice::WriteOnly));
+    opener.write("#!/bin/sh\necho \"$1\" \"$(readlink /proc/$$/fd/2)\" >" + mark.toLocal8Bit() + ".new\n" +
+                 "mv " + mark.toLocal8Bit() + ".new " + mark.toLocal8Bit() + '\n');
+    opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    opener.close();
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", folder.path().toLocal8Bit() + ':' + path);
+    EXPECT_TRUE(DesktopProcesses().open(u"https://tolvo.example/a b"_s));
+    qputenv("PATH", path);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(mark); }));
+    QFile told(mark);
+    ASSERT_TRUE(told.open(QIODevice::ReadOnly));
+    EXPECT_EQ(told.readAll(), "https://tolvo.example/a%20b /dev/null\n");
+}
+
+TEST(EscapeWatch, KeepsInputAwayAndNotesEsc) {
+    QLineEdit field;
+    field.show();
+    EscapeWatch watch;
+    {
+        const auto guard = watch.guard();
         QTest::keyClicks(&field, u"abc"_s);
-        EXPECT_EQ(field.text(), u"abc"_s);
-        const auto again = watch.guard();
         EXPECT_FALSE(watch.escapePressed());
+        QTest::keyClick(&field, Qt::Key_Escape);
+        EXPECT_TRUE(watch.escapePressed());
+        EXPECT_FALSE(field.close());
     }
+    QTest::keyClicks(&field, u"abc"_s);
+    EXPECT_EQ(field.text(), u"abc"_s);
+    const auto again = watch.guard();
+    EXPECT_FALSE(watch.escapePressed());
+}
 
 } // namespace
 } // namespace tolvo
