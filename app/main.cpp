@@ -10,13 +10,13 @@
 #include "platform/desktop/DesktopSound.h"
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/clipboard_keeper.h"
-#include "platform/icons/themed_icon.h"
 #include "platform/network/OnDemandHttpClient.h"
 #include "platform/report_error.h"
 #include "preferences/settings_store.h"
 #include "shell/modMain.h"
 #include "shell/ui/desktop_session.h"
 #include "spelling/word_automation.h"
+#include "widgets/themed_icon.h"
 
 #include <QApplication>
 #include <QProxyStyle>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/box_text.h"
 
-#include "base/line_ends.h"
+#include "platform/line_ends.h"
 
 #include <QStringList>
 

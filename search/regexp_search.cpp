@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/CSearch.h"
 
-#include "base/line_ends.h"
+#include "platform/line_ends.h"
 #include "platform/report_error.h"
 #include "search/joined.h"
 #include "search/replacement_template.h"

@@ -12,7 +12,6 @@
 #include "platform/text_box.h"
 #include "powerbuttons/CPowerButton.h"
 #include "powerbuttons/catalogue.h"
-#include "preferences/file_extensions.h"
 #include "preferences/settings_store.h"
 #include "search/CSearch.h"
 #include "shell/cUndo.h"
@@ -22,6 +21,7 @@
 #include "shell/tool_settings_memory.h"
 #include "spelling/Proofing.h"
 #include "text/cTextMethods.h"
+#include "text/file_extensions.h"
 
 #include <QList>
 #include <QString>

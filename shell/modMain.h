@@ -11,10 +11,10 @@
 #include "powerbuttons/CPowerButton.h"
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/catalogue.h"
-#include "preferences/file_extensions.h"
 #include "shell/cSound.h"
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
+#include "text/file_extensions.h"
 
 #include <QString>
 #include <functional>

@@ -2,7 +2,7 @@
 #include "companions/ui/AdvisorWindow.h"
 
 #include "base/application.h"
-#include "platform/icons/themed_icon.h"
+#include "widgets/themed_icon.h"
 
 #include <QCheckBox>
 #include <QFrame>

@@ -2,7 +2,7 @@
 #include "companions/ui/BarChart.h"
 
 #include "base/numbers.h"
-#include "platform/icons/themed_icon.h"
+#include "widgets/themed_icon.h"
 
 #include <QPainter>
 #include <algorithm>

@@ -3,7 +3,7 @@
 
 #include "base/application.h"
 #include "platform/box_text.h"
-#include "platform/icons/themed_icon.h"
+#include "widgets/themed_icon.h"
 
 #include <QDesktopServices>
 #include <QHBoxLayout>

@@ -2,9 +2,9 @@
 // Advisor.exe: tips, one at a time. A second one that is started while the first is open ends at once. One
 // that is held back shows its window when whoever started it lets go.
 #include "companions/ui/AdvisorWindow.h"
-#include "platform/icons/themed_icon.h"
 #include "platform/processes.h"
 #include "preferences/settings_store.h"
+#include "widgets/themed_icon.h"
 
 #include <QApplication>
 #include <QLockFile>

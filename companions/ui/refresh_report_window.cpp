@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "companions/refresh_report.h"
 #include "companions/ui/RefreshWindow.h"
-#include "platform/icons/themed_icon.h"
 #include "platform/network/NetworkHttpClient.h"
+#include "widgets/themed_icon.h"
 
 #include <QApplication>
 #include <QTimer>

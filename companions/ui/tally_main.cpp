@@ -5,9 +5,9 @@
 #include "base/paths.h"
 #include "companions/ui/TallyWindow.h"
 #include "companions/ui/single_window.h"
-#include "platform/icons/themed_icon.h"
 #include "powerbuttons/catalogue.h"
 #include "preferences/settings_store.h"
+#include "widgets/themed_icon.h"
 
 #include <QApplication>
 

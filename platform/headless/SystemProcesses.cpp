@@ -85,12 +85,4 @@ bool SystemProcesses::open(const QString &) {
     return false;
 }
 
-qint64 RecordingProcesses::start(const ProgramStart &start) {
-    if (missing)
-        failNotStarted(start.program);
-    started += start;
-    heldBack = heldBack || start.heldBack;
-    return started.size();
-}
-
 } // namespace tolvo

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/headless/clipboard_line_ends.h"
 
-#include "base/line_ends.h"
+#include "platform/line_ends.h"
 
 namespace tolvo {
 

@@ -2,10 +2,10 @@
 #include "powerbuttons/ui/dlgEditIcon.h"
 
 #include "platform/desktop/FontDialog.h"
-#include "platform/icons/themed_icon.h"
 #include "powerbuttons/ui/dlgPickCharacter.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "powerbuttons/ui/icon_preview.h"
+#include "widgets/themed_icon.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

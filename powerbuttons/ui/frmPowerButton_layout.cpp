@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The controls of the PowerButton editor.
 #include "platform/desktop/plain_tool_tip.h"
-#include "platform/icons/themed_icon.h"
 #include "powerbuttons/example_buttons.h"
 #include "powerbuttons/icon_geometry.h"
 #include "powerbuttons/ui/frmPowerButton.h"
 #include "powerbuttons/ui/icon_painter.h"
+#include "widgets/themed_icon.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/ui/icon_painter.h"
 
-#include "platform/icons/painted_icon.h"
+#include "widgets/painted_icon.h"
 
 #include <QFontMetricsF>
 #include <algorithm>

@@ -6,7 +6,7 @@
 #include "platform/desktop/FontDialog.h"
 #include "platform/desktop/enter_key.h"
 #include "platform/message_box.h"
-#include "preferences/special_folders.h"
+#include "platform/special_folders.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

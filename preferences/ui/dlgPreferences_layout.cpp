@@ -2,8 +2,8 @@
 // The pages of the ProgramOptions dialog, and its controls' state.
 #include "preferences/ui/dlgPreferences.h"
 
-#include "platform/icons/themed_icon.h"
 #include "platform/message_box.h"
+#include "widgets/themed_icon.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -2,10 +2,10 @@
 #include "preferences/ui/frmAbout.h"
 
 #include "base/application.h"
-#include "platform/icons/themed_icon.h"
 #include "platform/message_box.h"
 #include "platform/processes.h"
-#include "preferences/system_information.h"
+#include "platform/system_information.h"
+#include "widgets/themed_icon.h"
 
 #include <QHBoxLayout>
 #include <QIcon>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "search/ui/search_controls.h"
 
-#include "platform/icons/themed_icon.h"
 #include "search/wildcard_translation.h"
+#include "widgets/themed_icon.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

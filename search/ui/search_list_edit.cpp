@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/ui/search_list_edit.h"
 
-#include "base/line_ends.h"
+#include "platform/line_ends.h"
 #include "search/escaped_text.h"
 
 #include <QLineEdit>

@@ -2,12 +2,12 @@
 // The controls of the main window and where they stand.
 #include "base/application.h"
 #include "platform/desktop/font_conversion.h"
-#include "platform/icons/themed_icon.h"
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/any_click.h"
 #include "shell/ui/window_size.h"
+#include "widgets/themed_icon.h"
 
 #include <QAccessibleWidget>
 #include <QAction>

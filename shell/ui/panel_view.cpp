@@ -2,8 +2,8 @@
 #include "shell/ui/panel_view.h"
 
 #include "platform/desktop/plain_tool_tip.h"
-#include "platform/icons/themed_icon.h"
 #include "shell/ui/any_click.h"
+#include "widgets/themed_icon.h"
 
 #include <QKeyEvent>
 #include <QPainter>

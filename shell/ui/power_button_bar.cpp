@@ -2,9 +2,9 @@
 #include "shell/ui/power_button_bar.h"
 
 #include "platform/desktop/plain_tool_tip.h"
-#include "platform/icons/themed_icon.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "shell/ui/any_click.h"
+#include "widgets/themed_icon.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/window_size.h"
 
-#include "platform/icons/themed_icon.h"
+#include "widgets/themed_icon.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -4,12 +4,12 @@
 #include "base/CParams.h"
 #include "base/conversions.h"
 #include "platform/desktop/enter_key.h"
-#include "platform/icons/themed_icon.h"
 #include "platform/report_error.h"
 #include "spelling/locales.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
+#include "widgets/themed_icon.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "platform/special_folders.h"
 #include "preferences/CRegistryTool.h"
 #include "preferences/settings_store.h"
-#include "preferences/special_folders.h"
 
 #include <QDir>
 #include <gtest/gtest.h>

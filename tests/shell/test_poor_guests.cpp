@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Texts that nobody would write visit every tool: nothing fails, and undo gives the text back.
 #include "shell/tool_table.h"
-#include "tests/shell/User.h"
+#include "tests/support/User.h"
 
 using namespace tolvo;
 using namespace tolvo::test;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/shell/User.h"
+#include "tests/support/User.h"
 
 using namespace tolvo;
 using namespace tolvo::test;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Whole runs, from the start to the end, with a scripted window.
 #include "base/conversions.h"
-#include "platform/headless/SystemProcesses.h"
 #include "shell/modMain.h"
-#include "tests/shell/User.h"
+#include "tests/support/User.h"
+#include "tests/support/recording_processes.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -88,7 +88,7 @@ class Runs : public ::testing::Test {
     MemoryClipboard clipboard{"text"};
     RecordingBoxes boxes;
     SilentSound sound;
-    RecordingProcesses processes;
+    test::RecordingProcesses processes;
     FixedClock clock;
     FileExtensions extensions;
     NoNetwork network;

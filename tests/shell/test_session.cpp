@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A session from the clipboard to the clipboard.
-#include "tests/shell/User.h"
+#include "tests/support/User.h"
 
 using namespace tolvo;
 using namespace tolvo::test;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The panel of tools, and clicks on its rows.
 #include "shell/cToolbox.h"
-#include "tests/shell/User.h"
+#include "tests/support/User.h"
 
 using namespace tolvo;
 using namespace tolvo::test;

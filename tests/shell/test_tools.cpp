@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The tool frame: what each tool sees of the text, what is selected afterwards, what the status line says.
 #include "shell/tool_table.h"
-#include "tests/shell/User.h"
+#include "tests/support/User.h"
 
 #include <QSet>
 

@@ -3,7 +3,7 @@
 
 #include "base/character_sets.h"
 #include "text/cTextMethods.h"
-#include "text/ui/NumberBox.h"
+#include "widgets/NumberBox.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

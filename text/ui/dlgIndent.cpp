@@ -3,7 +3,7 @@
 
 #include "base/strings.h"
 #include "text/numbering.h"
-#include "text/ui/NumberBox.h"
+#include "widgets/NumberBox.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

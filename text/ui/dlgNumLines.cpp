@@ -2,7 +2,7 @@
 #include "text/ui/dlgNumLines.h"
 
 #include "text/cTextMethods.h"
-#include "text/ui/NumberBox.h"
+#include "widgets/NumberBox.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

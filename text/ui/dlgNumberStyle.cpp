@@ -3,7 +3,7 @@
 
 #include "text/cTextMethods.h"
 #include "text/numbering.h"
-#include "text/ui/NumberBox.h"
+#include "widgets/NumberBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -3,7 +3,7 @@
 
 #include "base/strings.h"
 #include "platform/message_box.h"
-#include "text/ui/NumberBox.h"
+#include "widgets/NumberBox.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

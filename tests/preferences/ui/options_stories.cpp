@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A user in the Options.
 #include "platform/desktop/FontDialog.h"
-#include "platform/headless/SystemProcesses.h"
 #include "preferences/settings_store.h"
 #include "preferences/settings_table.h"
 #include "preferences/ui/dlgPreferences.h"
 #include "preferences/ui/frmAbout.h"
 #include "tests/support/boxes.h"
+#include "tests/support/recording_processes.h"
 #include "tests/ui/user.h"
 
 #include <QCheckBox>
@@ -240,7 +240,7 @@ TEST(Options, theLastCheckIsToldInWholeDays) {
 }
 
 TEST(About, tellsVersionDateAndOpensTheAddress) {
-    RecordingProcesses processes;
+    test::RecordingProcesses processes;
     RecordingBoxes boxes;
     frmAbout about(processes, boxes, QDate(2026, 5, 4));
     EXPECT_TRUE(child<QLabel>(about, "lblVersion").text().startsWith(u"Version 1.0 Build 0 ("));

@@ -5,12 +5,12 @@
 #include "platform/desktop/PlainTextBox.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/SilentSound.h"
-#include "platform/headless/SystemProcesses.h"
 #include "platform/network/NetworkHttpClient.h"
 #include "preferences/settings_table.h"
 #include "shell/ui/desktop_session.h"
 #include "shell/ui/window_size.h"
 #include "spelling/word_automation.h"
+#include "tests/support/recording_processes.h"
 #include "tests/ui/user.h"
 
 #include <QAction>
@@ -81,7 +81,7 @@ class MainWindowStory : public testing::Test {
     DesktopClipboard clipboard;
     RecordingBoxes boxes;
     SilentSound sound;
-    RecordingProcesses processes;
+    test::RecordingProcesses processes;
     Clock clock;
     FileExtensions extensions;
     EscapeWatch escape;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "base/line_ends.h"
+#include "platform/line_ends.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "companions/pipe_session.h"
+#include "pipe/session.h"
 
-#include "companions/pipe_text.h"
+#include "pipe/text.h"
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/circular_check.h"
 #include "shell/headless/HeadlessSession.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "companions/pipe_batch.h"
+#include "pipe/batch.h"
 
-#include "companions/pipe_text.h"
+#include "pipe/text.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "companions/pipe_text.h"
+#include "pipe/text.h"
 
 #include <QStringDecoder>
 #include <algorithm>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "preferences/file_extensions.h"
+#include "text/file_extensions.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/icons/painted_icon.h"
+#include "widgets/painted_icon.h"
 
 #include <QIconEngine>
 #include <QPainter>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "preferences/system_information.h"
+#include "platform/system_information.h"
 
 #include "base/failure.h"
 #include "platform/processes.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "companions/pipe_session.h"
+#include "pipe/session.h"
 
 #include <QByteArray>
 

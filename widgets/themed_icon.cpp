@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/icons/themed_icon.h"
+#include "widgets/themed_icon.h"
 
-#include "platform/icons/painted_icon.h"
+#include "widgets/painted_icon.h"
 
 #include <QFile>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "companions/large_texts.h"
+#include "pipe/large_texts.h"
 
 #include <QtGlobal>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/ui/NumberBox.h"
+#include "widgets/NumberBox.h"
 
 #include "base/numbers.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "companions/pipe_arguments.h"
+#include "pipe/arguments.h"
 
 #include <functional>
 

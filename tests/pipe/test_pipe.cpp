@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // tolvo-pipe as the shell runs it, and beside a session with the same Actions.
 #include "powerbuttons/CPowerButtonMethods.h"
-#include "tests/shell/User.h"
+#include "tests/support/User.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -6,7 +6,7 @@
 #include "platform/headless/ConsoleBoxes.h"
 #include "powerbuttons/CAction.h"
 #include "powerbuttons/catalogue.h"
-#include "preferences/file_extensions.h"
+#include "text/file_extensions.h"
 #include "text/statistics.h"
 
 #include <QList>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "companions/pipe_streams.h"
+#include "pipe/streams.h"
 
 #include "base/failure.h"
-#include "companions/pipe_session.h"
-#include "companions/pipe_text.h"
+#include "pipe/session.h"
+#include "pipe/text.h"
 
 #include <algorithm>
 #include <cstdio>
