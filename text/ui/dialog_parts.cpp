@@ -52,12 +52,13 @@ void Options::setEnabled(bool enabled) {
         button->setEnabled(enabled);
 }
 
-TextDialog::TextDialog(const QString &listName, QWidget *parent)
-    : QDialog(parent), m_text(new QComboBox(this)) {
+QComboBox &TextDialog::makeText(const QString &listName) {
+    m_text = new QComboBox(this);
     m_text->setObjectName(listName);
     m_text->setEditable(true);
     m_text->setInsertPolicy(QComboBox::NoInsert);
     m_text->setCompleter(nullptr); // it would put letters into a text that the user didn't type
+    return *m_text;
 }
 
 void TextDialog::accept() {

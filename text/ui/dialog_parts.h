@@ -60,13 +60,15 @@ class TextDialog : public QDialog {
     void accept() override;
 
   protected:
-    TextDialog(const QString &listName, QWidget *parent);
-    [[nodiscard]] QComboBox &text() const { return *m_text; }
+    using QDialog::QDialog;
+    /// Makes the list when its turn comes: the TAB key goes through the controls in the order of their
+    /// making.
+    QComboBox &makeText(const QString &listName);
     /// Whether the tool uses the text as things stand.
     [[nodiscard]] virtual bool usesText() const { return true; }
 
   private:
-    QComboBox *m_text;
+    QComboBox *m_text = nullptr;
     MessageBoxes *m_boxes = nullptr;
 };
 

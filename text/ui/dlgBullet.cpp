@@ -12,13 +12,13 @@
 namespace tolvo {
 
 dlgBullet::dlgBullet(const cTextMethods &engine, const BulletSettings &settings, QWidget *parent)
-    : TextDialog(QStringLiteral("cmbBulletChar"), parent), m_engine(engine),
+    : TextDialog(parent), m_engine(engine), m_bullet(makeText(QStringLiteral("cmbBulletChar"))),
       m_tab(QStringLiteral("optTab"), {tr("&Tab"), tr("&Spaces")}, this),
       m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Follow by spaces"),
                              {0, BulletSettings::mostTypedSpaces}, this)),
       m_sample(new SampleBox(4, this)) {
     for (const QChar bullet : bulletMarks)
-        text().addItem(bullet);
+        m_bullet.addItem(bullet);
     m_sample->setLineWrapMode(QPlainTextEdit::NoWrap);
 
     auto *follow = new QHBoxLayout;
@@ -27,8 +27,8 @@ dlgBullet::dlgBullet(const cTextMethods &engine, const BulletSettings &settings,
     follow->addWidget(m_spaces);
     follow->addStretch();
     auto *grid = new QGridLayout;
-    grid->addWidget(labelFor(&text(), tr("Bullet character:")), 0, 0);
-    grid->addWidget(&text(), 0, 1);
+    grid->addWidget(labelFor(&m_bullet, tr("Bullet character:")), 0, 0);
+    grid->addWidget(&m_bullet, 0, 1);
     grid->addWidget(new QLabel(tr("Follow by:"), this), 1, 0);
     grid->addLayout(follow, 1, 1);
     grid->addWidget(labelFor(m_sample, tr("Sample:")), 2, 0, 1, 2);
@@ -38,23 +38,23 @@ dlgBullet::dlgBullet(const cTextMethods &engine, const BulletSettings &settings,
     finishDialog(*this, QStringLiteral("dlgBullet"), tr("Bullet List Style"), grid);
     setSettings(settings);
 
-    connect(&text(), &QComboBox::editTextChanged, this, &dlgBullet::refreshSample);
+    connect(&m_bullet, &QComboBox::editTextChanged, this, &dlgBullet::refreshSample);
     connect(m_tab.group(), &QButtonGroup::idToggled, this, &dlgBullet::refreshSample);
     connect(m_spaces, &NumberBox::changed, this, &dlgBullet::refreshSample);
     connect(m_spaces, &NumberBox::edited, this, [this] { m_tab.choose(1); });
 }
 
 BulletSettings dlgBullet::settings() const {
-    return {text().currentText(), m_tab.choice() == 0, m_spaces->value()};
+    return {m_bullet.currentText(), m_tab.choice() == 0, m_spaces->value()};
 }
 
 void dlgBullet::setSettings(const BulletSettings &settings) {
-    text().setCurrentText(settings.bullet);
+    m_bullet.setCurrentText(settings.bullet);
     m_tab.choose(settings.tab ? 0 : 1);
     m_spaces->setValue(settings.spaces);
     refreshSample();
-    text().setFocus();
-    text().lineEdit()->selectAll();
+    m_bullet.setFocus();
+    m_bullet.lineEdit()->selectAll();
 }
 
 void dlgBullet::refreshSample() {

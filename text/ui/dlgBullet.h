@@ -24,6 +24,7 @@ class dlgBullet : public TextDialog {
     void refreshSample();
 
     const cTextMethods &m_engine;
+    QComboBox &m_bullet;
     Options m_tab;
     NumberBox *m_spaces;
     SampleBox *m_sample;

@@ -29,6 +29,7 @@ class dlgIndent : public TextDialog {
 
     Options m_option;
     NumberBox *m_spaces;
+    QComboBox &m_text;
 };
 
 } // namespace tolvo

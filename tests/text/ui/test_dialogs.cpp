@@ -129,6 +129,13 @@ TEST_F(Dialogs, indentRemembersItsTexts) {
     QStringList many;
     for (int i = 0; i < IndentSettings::mostRecentTexts; ++i)
         many.append(QString::number(i));
+    text.lineEdit()->selectAll();
+    user.clicks("optTab_2");
+    user.control<QRadioButton>("optTab_2").setFocus();
+    user.presses(Qt::Key_Tab);
+    QTest::keyClicks(dialog.focusWidget(), u"-"_s);
+    EXPECT_EQ(text.currentText(), u"-") << "the text comes after its option";
+
     dlgIndent full({IndentSettings::WithText, 4, u"new"_s, many});
     User begin(full);
     EXPECT_EQ(full.focusWidget()->objectName(), u"optTab_2"_s);
