@@ -26,6 +26,10 @@ function(tolvo_precompiled kind)
 endfunction()
 
 function(tolvo_reuse_precompiled target has_windows)
+    # A precompiled header serves only those that generate code as it does: programs as libraries.
+    if(TARGET tolvo_precompiled_core)
+        target_compile_options(${target} PRIVATE -fPIC)
+    endif()
     if(TARGET tolvo_precompiled_widgets AND ${has_windows})
         target_precompile_headers(${target} REUSE_FROM tolvo_precompiled_widgets)
     elseif(TARGET tolvo_precompiled_core)
