@@ -64,9 +64,9 @@ bool isOneMatch(const RegularExpression &expression, QStringView text, MatchBudg
     return count == 1 && whole;
 }
 
-QString replaced(const RegularExpression &expression, QStringView text,
+QString replaced(const RegularExpression &expression, RegularExpression::MatchState &state, QStringView text,
                  const ReplacementTemplate &replacement, qsizetype longest, MatchBudget &budget) {
-    std::optional<QString> result = replaceMatches(expression, text, replacement, longest, budget);
+    std::optional<QString> result = replaceMatches(expression, state, text, replacement, longest, budget);
     if (!result)
         failLimit(budget.reason());
     return *std::move(result);
@@ -185,8 +185,9 @@ void CSearch::RegExpReplace(const QString &pattern, QString replace, bool up, bo
             selStart = box.SelStart();
         }
         // Out of its context: anchors see the edges of the selection as the edges of the text.
-        QString result = replaced(expression, selected, ReplacementTemplate(replace, expression.groups()),
-                                  box.capacity(), budget);
+        RegularExpression::MatchState state(expression);
+        QString result = replaced(expression, state, selected,
+                                  ReplacementTemplate(replace, expression.groups()), box.capacity(), budget);
         if (smartReplace)
             result = m_text.smartMatch(selected, result);
         result = lfToCrLf(std::move(result));
@@ -221,6 +222,7 @@ int CSearch::replaceMatchByMatch(const RegularExpression &expression, QString &t
         return true;
     });
     const ReplacementTemplate replacement(replace, expression.groups());
+    RegularExpression::MatchState state(expression);
     const qsizetype capacity = m_host.txtCurrent().capacity();
     QHash<QStringView, QString> known;
     QString result;
@@ -233,7 +235,7 @@ int CSearch::replaceMatchByMatch(const RegularExpression &expression, QString &t
         const QStringView matched = QStringView(text).sliced(start, length);
         auto entry = known.constFind(matched);
         if (entry == known.constEnd()) {
-            QString made = replaced(expression, matched, replacement, capacity, budget);
+            QString made = replaced(expression, state, matched, replacement, capacity, budget);
             entry = known.insert(matched, smartReplace ? m_text.smartMatch(matched, made) : made);
         }
         result += *entry;

@@ -55,8 +55,6 @@ struct RegularExpression::Pace {
 
 struct RegularExpression::Compiled {
     pcre2_code_16 *code = nullptr;
-    pcre2_match_data_16 *match = nullptr;
-    pcre2_match_context_16 *context = nullptr;
     bool startsAtLines = false;  ///< the engine only tries positions behind a line end
     char16_t firstUnits[2] = {}; ///< what a match begins with, in both cases
     bool hasFirstUnit = false;
@@ -64,22 +62,40 @@ struct RegularExpression::Compiled {
     Compiled() = default;
     Compiled(const Compiled &) = delete;
     Compiled &operator=(const Compiled &) = delete;
-    ~Compiled() {
-        pcre2_match_context_free_16(context);
-        pcre2_match_data_free_16(match);
-        pcre2_code_free_16(code);
-    }
+    ~Compiled() { pcre2_code_free_16(code); }
 
-    void prepare(bool matchCase);
+    void readStart(bool matchCase);
 };
 
-void RegularExpression::Compiled::prepare(bool matchCase) {
-    match = pcre2_match_data_create_from_pattern_16(code, nullptr);
-    context = pcre2_match_context_create_16(nullptr);
-    if (match == nullptr || context == nullptr)
+struct RegularExpression::MatchState::Memory {
+    pcre2_match_data_16 *match = nullptr;
+    pcre2_match_context_16 *context = nullptr;
+
+    Memory() = default;
+    Memory(const Memory &) = delete;
+    Memory &operator=(const Memory &) = delete;
+    ~Memory() {
+        pcre2_match_context_free_16(context);
+        pcre2_match_data_free_16(match);
+    }
+};
+
+RegularExpression::MatchState::MatchState(const RegularExpression &expression)
+    : m_memory(std::make_unique<Memory>()) {
+    if (!expression.isValid())
+        return;
+    m_memory->match = pcre2_match_data_create_from_pattern_16(expression.m_compiled->code, nullptr);
+    m_memory->context = pcre2_match_context_create_16(nullptr);
+    if (m_memory->match == nullptr || m_memory->context == nullptr)
         throw std::bad_alloc();
-    pcre2_set_match_limit_16(context, matchLimit);
-    pcre2_set_heap_limit_16(context, heapLimitKiB);
+    pcre2_set_match_limit_16(m_memory->context, matchLimit);
+    pcre2_set_heap_limit_16(m_memory->context, heapLimitKiB);
+}
+
+RegularExpression::MatchState::~MatchState() = default;
+
+/// What the engine says about how a match begins.
+void RegularExpression::Compiled::readStart(bool matchCase) {
     std::uint32_t kind = 0;
     std::uint32_t unit = 0;
     pcre2_pattern_info_16(code, PCRE2_INFO_FIRSTCODETYPE, &kind);
@@ -127,13 +143,16 @@ void RegularExpression::compile(const QString &pattern, std::uint32_t options, b
     options |= PCRE2_UCP | PCRE2_MATCH_UNSET_BACKREF | PCRE2_USE_OFFSET_LIMIT;
     if (!matchCase)
         options |= PCRE2_CASELESS;
-    m_compiled = std::make_shared<Compiled>();
+    const auto compiled = std::make_shared<Compiled>();
     int code = 0;
     PCRE2_SIZE offset = 0;
-    m_compiled->code = pcre2_compile_16(units(pattern), static_cast<PCRE2_SIZE>(pattern.size()), options,
-                                        &code, &offset, context.get());
-    if (m_compiled->code != nullptr)
-        return m_compiled->prepare(matchCase);
+    compiled->code = pcre2_compile_16(units(pattern), static_cast<PCRE2_SIZE>(pattern.size()), options, &code,
+                                      &offset, context.get());
+    if (compiled->code != nullptr) {
+        compiled->readStart(matchCase);
+        m_compiled = compiled;
+        return;
+    }
     m_state = isSizeError(code) ? PatternState::TooLarge : PatternState::Invalid;
     m_error = engineMessage(code);
 }
@@ -150,8 +169,8 @@ qsizetype RegularExpression::nextCandidate(QStringView text, qsizetype from) con
     return found == end ? text.size() + 1 : found - text.utf16();
 }
 
-RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from, Pace &pace,
-                                                MatchBudget &budget) const {
+RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from, MatchState::Memory &memory,
+                                                Pace &pace, MatchBudget &budget) const {
     for (qsizetype start = nextCandidate(text, from); start <= text.size();) {
         if (start >= pace.nextLook) {
             if (budget.spent())
@@ -164,10 +183,9 @@ RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from
             const qsizetype lineEnd = text.first(std::min(last + 1, text.size())).indexOf(u"\r\n", start);
             last = lineEnd < 0 ? last : lineEnd;
         }
-        pcre2_set_offset_limit_16(m_compiled->context, static_cast<PCRE2_SIZE>(last));
-        const int result =
-            pcre2_match_16(m_compiled->code, units(text), static_cast<PCRE2_SIZE>(text.size()),
-                           static_cast<PCRE2_SIZE>(start), 0, m_compiled->match, m_compiled->context);
+        pcre2_set_offset_limit_16(memory.context, static_cast<PCRE2_SIZE>(last));
+        const int result = pcre2_match_16(m_compiled->code, units(text), static_cast<PCRE2_SIZE>(text.size()),
+                                          static_cast<PCRE2_SIZE>(start), 0, memory.match, memory.context);
         if (result > 0)
             return Step::Found;
         if (result != PCRE2_ERROR_NOMATCH) {
@@ -182,16 +200,22 @@ RegularExpression::Step RegularExpression::step(QStringView text, qsizetype from
 
 RegularExpression::Outcome RegularExpression::forEachMatch(QStringView text, MatchBudget &budget,
                                                            const Visitor &visit) const {
+    MatchState state(*this);
+    return forEachMatch(text, state, budget, visit);
+}
+
+RegularExpression::Outcome RegularExpression::forEachMatch(QStringView text, MatchState &state,
+                                                           MatchBudget &budget, const Visitor &visit) const {
     if (!isValid())
         return Outcome::Completed;
+    MatchState::Memory &memory = *state.m_memory;
     Pace pace;
     for (qsizetype from = 0; from <= text.size();) {
-        const Step result = step(text, from, pace, budget);
+        const Step result = step(text, from, memory, pace, budget);
         if (result != Step::Found)
             return result == Step::NoMatch ? Outcome::Completed : Outcome::LimitReached;
-        const RegularExpressionMatch match(text,
-                                           {pcre2_get_ovector_pointer_16(m_compiled->match),
-                                            std::size_t{2} * pcre2_get_ovector_count_16(m_compiled->match)});
+        const RegularExpressionMatch match(text, {pcre2_get_ovector_pointer_16(memory.match),
+                                                  std::size_t{2} * pcre2_get_ovector_count_16(memory.match)});
         from = match.start() + match.length() + (match.length() == 0 ? 1 : 0);
         if (!visit(match))
             return Outcome::Completed;

@@ -37,9 +37,25 @@ class RegularExpressionMatch {
     std::span<const std::size_t> m_bounds;
 };
 
-/// A compiled pattern. Copies share it.
+/// A compiled pattern. It never changes: copies share it, and any number of walks, in any thread, may go on
+/// with it at the same time.
 class RegularExpression {
   public:
+    /// The working memory of a walk. Who makes many walks one after another keeps one for all of them; a walk
+    /// within a walk has its own.
+    class MatchState {
+      public:
+        explicit MatchState(const RegularExpression &expression);
+        MatchState(const MatchState &) = delete;
+        MatchState &operator=(const MatchState &) = delete;
+        ~MatchState();
+
+      private:
+        friend class RegularExpression;
+        struct Memory;
+        std::unique_ptr<Memory> m_memory;
+    };
+
     /// What looks at the matches: false ends the walk.
     using Visitor = std::function<bool(const RegularExpressionMatch &)>;
 
@@ -56,9 +72,13 @@ class RegularExpression {
     [[nodiscard]] int groups() const { return m_groups; }
 
     /// Visits all matches from the start of the text, none overlapping another. After an empty match the walk
-    /// goes on one unit further. A pattern that isn't valid has no matches. The visitor must not match with
-    /// this expression again before it has done with its match.
+    /// goes on one unit further. A pattern that isn't valid has no matches. The visitor may match with this
+    /// expression.
+    ///   RegularExpression(u"b*", true) in "abb" visits "" at 0, "bb" at 1 and "" at 3.
     Outcome forEachMatch(QStringView text, MatchBudget &budget, const Visitor &visit) const;
+    /// The same with a working memory, made for this expression, that no other walk is using.
+    Outcome forEachMatch(QStringView text, MatchState &state, MatchBudget &budget,
+                         const Visitor &visit) const;
 
     struct Span {
         qsizetype start;
@@ -75,14 +95,15 @@ class RegularExpression {
     /// How many start positions are tried between two looks at the budget, and where the next look is due.
     struct Pace;
 
-    /// The next match.
-    Step step(QStringView text, qsizetype from, Pace &pace, MatchBudget &budget) const;
+    /// The next match; where it lies is left in the state.
+    Step step(QStringView text, qsizetype from, MatchState::Memory &memory, Pace &pace,
+              MatchBudget &budget) const;
     [[nodiscard]] qsizetype nextCandidate(QStringView text, qsizetype from) const;
 
     PatternState m_state = PatternState::Valid;
     QString m_error;
     int m_groups = 0;
-    std::shared_ptr<Compiled> m_compiled;
+    std::shared_ptr<const Compiled> m_compiled;
 };
 
 } // namespace tolvo

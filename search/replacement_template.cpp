@@ -34,17 +34,19 @@ void ReplacementTemplate::expand(const RegularExpressionMatch &match, QString &o
     }
 }
 
-std::optional<QString> replaceMatches(const RegularExpression &expression, QStringView text,
+std::optional<QString> replaceMatches(const RegularExpression &expression,
+                                      RegularExpression::MatchState &state, QStringView text,
                                       const ReplacementTemplate &replacement, qsizetype longest,
                                       MatchBudget &budget) {
     QString result;
     qsizetype done = 0;
-    const auto outcome = expression.forEachMatch(text, budget, [&](const RegularExpressionMatch &match) {
-        result += text.sliced(done, match.start() - done);
-        replacement.expand(match, result);
-        done = match.start() + match.length();
-        return result.size() < longest;
-    });
+    const auto outcome =
+        expression.forEachMatch(text, state, budget, [&](const RegularExpressionMatch &match) {
+            result += text.sliced(done, match.start() - done);
+            replacement.expand(match, result);
+            done = match.start() + match.length();
+            return result.size() < longest;
+        });
     if (outcome == RegularExpression::Outcome::LimitReached)
         return std::nullopt;
     result += text.sliced(done);

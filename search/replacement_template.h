@@ -29,7 +29,8 @@ class ReplacementTemplate {
 
 /// The text with every match replaced, no more than `longest` units of it: nobody has room for more.
 /// Nothing if the budget is spent.
-[[nodiscard]] std::optional<QString> replaceMatches(const RegularExpression &expression, QStringView text,
+[[nodiscard]] std::optional<QString> replaceMatches(const RegularExpression &expression,
+                                                    RegularExpression::MatchState &state, QStringView text,
                                                     const ReplacementTemplate &replacement, qsizetype longest,
                                                     MatchBudget &budget);
 

@@ -140,6 +140,22 @@ TEST_F(RegExpSearch, ListsAllMatches) {
     EXPECT_TRUE(said().contains("(error 5018)\r\n in CSearch::RegExpReplaceAll"));
 }
 
+/// A visitor that looks at each match with the same expression again.
+TEST_F(RegExpSearch, AWalkMayBeNested) {
+    const RegularExpression expression(u"([a-z])(\\d)?", true);
+    MatchBudget budget;
+    QStringList seen;
+    expression.forEachMatch(u"a1b--c", budget, [&](const RegularExpressionMatch &outer) {
+        expression.forEachMatch(u"x y2", budget, [&](const RegularExpressionMatch &inner) {
+            seen += outer.group(0).toString() + inner.group(0).toString();
+            return true;
+        });
+        seen += QStringLiteral("%1 %2,%3").arg(outer.start()).arg(outer.group(1), outer.group(2));
+        return true;
+    });
+    EXPECT_EQ(seen.join(u'|'), "a1x|a1y2|0 a,1|bx|by2|2 b,|cx|cy2|5 c,");
+}
+
 TEST_F(RegExpSearch, EndlessSearchesEndWithAReport) {
     const QString text = QString(60000, u'a') + u'b';
     const struct {

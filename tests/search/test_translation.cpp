@@ -115,14 +115,15 @@ TEST_F(Translation, SpecialCharacters) {
 
 TEST_F(Translation, Templates) {
     const RegularExpression expression(u"(b)(x)?(c)", true);
+    RegularExpression::MatchState state(expression);
     const std::pair<const char *, const char *> rows[] = {
         {"<$&>", "a<bc>d"}, {"$1$3$2.", "abc.d"}, {"$0$4$", "a$0$4$d"},
         {"$$1", "a$1d"},    {"$10", "ab0d"},      {"\\", "a\\d"},
     };
     for (const auto &[text, expected] : rows) {
         MatchBudget budget;
-        EXPECT_EQ(replaceMatches(expression, u"abcd", ReplacementTemplate(QString(text), expression.groups()),
-                                 99, budget),
+        EXPECT_EQ(replaceMatches(expression, state, u"abcd",
+                                 ReplacementTemplate(QString(text), expression.groups()), 99, budget),
                   QString(expected))
             << text;
     }
