@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QToolButton>
@@ -26,6 +25,7 @@ frmSearch::frmSearch(CSearch &oSearch, SearchHost &host, SettingsStore &store, M
     setObjectName(QStringLiteral("frmSearch"));
     m_form.load(store);
     connectControls();
+    connectKeys();
     connectOptions();
     useMode(false);
     showForm();
@@ -35,83 +35,6 @@ frmSearch::~frmSearch() {
     // The lists lose the focus as they go, when there is no window left that could remember it.
     for (SearchListEdit *list : {m_controls.cmbSearchText, m_controls.cmbReplaceText})
         list->disconnect(this);
-}
-
-void frmSearch::connectControls() {
-    SearchControls &c = m_controls;
-    connect(c.TabStrip1, &QTabBar::currentChanged, this, [this](int index) {
-        m_form.mode = static_cast<SearchMode>(index);
-        applyRules();
-    });
-    for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText}) {
-        connect(list, &SearchListEdit::used, this, [this, list] { m_lastList = list; });
-        connect(list, &SearchListEdit::escaped, this, [this] {
-            if (m_form.specialCharsShown())
-                setSpecialChars(true);
-        });
-    }
-    connect(c.cmdSearch, &QPushButton::clicked, this, &frmSearch::cmdSearch_Click);
-    connect(c.cmdReplace, &QPushButton::clicked, this, &frmSearch::cmdReplace_Click);
-    connect(c.cmdReplaceAll, &QPushButton::clicked, this, &frmSearch::cmdReplaceAll_Click);
-    connect(c.cmdOK, &QPushButton::clicked, this, &frmSearch::accept);
-    connect(c.cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(c.imgSwop, &QToolButton::clicked, this, &frmSearch::swop);
-    connect(c.cmdMore, &QPushButton::clicked, this, &frmSearch::toggleMore);
-    connect(c.picMoreArrowDown, &QToolButton::clicked, this, &frmSearch::toggleMore);
-    connect(c.picMoreArrowUp, &QToolButton::clicked, this, &frmSearch::toggleMore);
-    connect(c.cmdSearchHelp, &QPushButton::clicked, this,
-            [this] { m_boxes.show({.text = QStringLiteral("Help is not implemented yet")}); });
-    for (const auto &[button, text] : c.insertButtons)
-        connect(button, &QPushButton::clicked, this,
-                [this, inserted = text] { m_lastList->insertText(inserted); });
-
-    const auto shortcut = [this](const QKeySequence &keys, auto action) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
-    };
-    shortcut(Qt::CTRL | Qt::SHIFT | Qt::ALT | Qt::Key_R, [this] { ConvertToRegExp(); });
-    const auto turn = [tabs = c.TabStrip1](int step) {
-        tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
-    };
-    const auto unlessCollecting = [this](auto action) {
-        return [this, action] {
-            if (!m_collecting)
-                action();
-        };
-    };
-    shortcut(Qt::CTRL | Qt::Key_F, unlessCollecting([this] { showDialog(false); }));
-    shortcut(Qt::CTRL | Qt::Key_H, unlessCollecting([this] { showDialog(true); }));
-    shortcut(Qt::Key_F3, unlessCollecting([this] { cmdSearch_Click(); }));
-    shortcut(Qt::CTRL | Qt::Key_PageDown, [turn] { turn(1); });
-    shortcut(Qt::CTRL | Qt::Key_PageUp, [turn] { turn(-1); });
-}
-
-/// A click on any of these returns the focus to the list that had it.
-void frmSearch::connectOptions() {
-    SearchControls &c = m_controls;
-    const auto onClick = [this](QAbstractButton *button, auto action) {
-        connect(button, &QAbstractButton::clicked, this, [this, action](bool on) {
-            action(on);
-            applyRules();
-            resumeList();
-        });
-    };
-    onClick(c.optSrchDown, [this](bool) { m_form.direction = SearchDirection::Down; });
-    onClick(c.optSrchUp, [this](bool) { m_form.direction = SearchDirection::Up; });
-    onClick(c.optSrchFromStart, [this](bool) { m_form.direction = SearchDirection::FromStart; });
-    onClick(c.chkMatchCase, [this](bool on) { m_form.matchCase = on; });
-    onClick(c.chkSmart, [this](bool on) { m_form.smartReplace = on; });
-    onClick(c.chkWholeWord, [this](bool on) { m_form.checkWholeWords(on); });
-    onClick(c.chkReplaceAll, [this](bool on) { m_form.replaceAll = on; });
-    onClick(c.chkSpecialChars, [this](bool on) { m_form.specialChars = on; });
-    for (int i = 0; i < static_cast<int>(c.optWildcardOptions.size()); ++i)
-        onClick(c.optWildcardOptions[static_cast<std::size_t>(i)],
-                [this, i](bool) { m_form.chooseAnchor(i); });
-    connect(c.cmbDecimalSep, &QComboBox::editTextChanged, this,
-            [this](const QString &text) { m_form.decimalSep = text; });
-    connect(c.cmbThousandsSep, &QComboBox::editTextChanged, this,
-            [this](const QString &text) { m_form.groupingSep = text; });
-    for (QComboBox *list : {c.cmbDecimalSep, c.cmbThousandsSep})
-        connect(list, &QComboBox::activated, this, [this] { resumeList(); });
 }
 
 void frmSearch::setSearchText(const QString &text) {

@@ -46,6 +46,7 @@ class frmSearch final : public QDialog {
 
   private:
     void connectControls();
+    void connectKeys();
     void connectOptions();
     void useMode(bool bReplace);
     void showForm();
