@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "base/strings.h"
 #include "platform/report_error.h"
+#include "search/result_lines.h"
 
 namespace tolvo {
 
@@ -11,8 +12,68 @@ CSearch::CSearch(SearchHost &host, MessageBoxes &boxes, const cTextMethods &text
     : m_host(host), m_boxes(boxes), m_text(textMethods) {
 }
 
+namespace {
+
+/// A step of a PowerButton is bracketed by whoever runs it.
+template <class Replace>
+void asUndoStep(SearchHost &host, SearchedBy by, Replace replace) {
+    if (by == SearchedBy::Window)
+        host.pushUndo();
+    replace();
+    if (by == SearchedBy::Window)
+        host.pushUndo();
+}
+
+} // namespace
+
+void CSearch::run(SearchVerb verb, const SearchRequest &request, SearchedBy by) {
+    const bool inOneStep = by == SearchedBy::PowerButton;
+    switch (verb) {
+    case SearchVerb::Search:
+        if (request.mode == SearchMode::Simple)
+            findLiteral(request);
+        else
+            findExpression(m_host.txtCurrent().Text(), request);
+        break;
+    case SearchVerb::FindAll:
+        findAll(request);
+        break;
+    case SearchVerb::Replace:
+        asUndoStep(m_host, by, [&] { replaceOne(request, inOneStep); });
+        break;
+    case SearchVerb::ReplaceAll:
+        asUndoStep(m_host, by, [&] { replaceAll(request, inOneStep); });
+        break;
+    }
+}
+
+void CSearch::findAll(const SearchRequest &request) {
+    if (request.mode == SearchMode::Simple)
+        return listLiterals(request);
+    if (request.find.isEmpty())
+        return;
+    QString text = m_host.txtCurrent().Text();
+    const int count = listExpressions(text, request);
+    m_host.results().setCaption(resultsCaption(count, request.find));
+    m_host.results().show();
+}
+
+void CSearch::replaceOne(const SearchRequest &request, bool replaceAfterFind) {
+    if (request.mode == SearchMode::Simple)
+        replaceLiteral(request, replaceAfterFind);
+    else
+        replaceExpression(request, replaceAfterFind);
+}
+
+void CSearch::replaceAll(const SearchRequest &request, bool silent) {
+    if (request.mode == SearchMode::Simple)
+        replaceLiterals(request, silent);
+    else
+        replaceExpressions(request, silent);
+}
+
 bool CSearch::guarded(const char *operation, const std::function<void()> &action) {
-    return reportFailures(m_boxes, QStringLiteral("CSearch"), QString::fromLatin1(operation), [&] {
+    return reported(operation, [&] {
         try {
             action();
         } catch (const Failure &failure) {
@@ -24,6 +85,10 @@ bool CSearch::guarded(const char *operation, const std::function<void()> &action
                  .icon = BoxIcon::Exclamation});
         }
     });
+}
+
+bool CSearch::reported(const char *operation, const std::function<void()> &action) {
+    return reportFailures(m_boxes, QStringLiteral("CSearch"), QString::fromLatin1(operation), action);
 }
 
 void CSearch::inform(const QString &text) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Find and replace in three modes: literal text, wildcards, regular expressions. The class keeps no state
-// between calls; where the last search ended is the selection of the text box.
+// Find and replace in the text box in use: literal text, wildcards, regular expressions. The class keeps no
+// state between calls; where the last search ended is the selection of the text box.
 #pragma once
 
 #include "platform/message_box.h"
-#include "search/regular_expression.h"
+#include "search/expression_search.h"
 #include "search/search_host.h"
-#include "search/wildcard_translation.h"
+#include "search/search_request.h"
 #include "text/cTextMethods.h"
 
 #include <QString>
@@ -15,6 +15,11 @@
 
 namespace tolvo {
 
+enum class SearchedBy {
+    Window,     ///< the first press of Replace only selects, and Replace All tells how many
+    PowerButton ///< one step finds and replaces, in silence
+};
+
 class CSearch {
   public:
     CSearch(SearchHost &host, MessageBoxes &boxes, const cTextMethods &textMethods);
@@ -22,7 +27,11 @@ class CSearch {
     /// How long one command may look for matches of an expression; then it is given up with failure 5020.
     void setTimeLimit(MatchBudget::Clock::duration limit) { m_timeLimit = limit; }
 
-    // Literal text (simple_search.cpp)
+    /// Carries out a request in its mode. From the window each replacement is an undo step of its own, and a
+    /// Find All shows its list. Nothing for an empty search text.
+    void run(SearchVerb verb, const SearchRequest &request, SearchedBy by = SearchedBy::Window);
+
+    // The operations by their names (search_operations.cpp). Each is one request.
 
     /// True if a match is now selected. `fromStart` is set on a failed search.
     bool SimpleSearch(QString find, bool specialChars, bool up, bool down, bool &fromStart, bool matchCase,
@@ -35,8 +44,6 @@ class CSearch {
     void SimpleReplaceAll(QString find, QString replace, bool specialChars, bool matchCase, bool wholeWords,
                           bool smartReplace, bool silent);
 
-    // Wildcards (wildcard_search.cpp)
-
     void WildcardSearch(const QString &find, bool specialChars, bool up, bool fromStart, bool matchCase,
                         const WildcardOptions &options);
     int WildcardFindAll(const QString &find, bool specialChars, bool matchCase,
@@ -46,12 +53,6 @@ class CSearch {
                          bool replaceAfterFind);
     void WildcardReplaceAll(const QString &find, const QString &replace, bool specialChars, bool matchCase,
                             bool smartReplace, const WildcardOptions &options, bool silent);
-    /// The regular expression for a wildcard pattern, as shown to the user; empty after an error, which has
-    /// been shown.
-    [[nodiscard]] QString translateWildcardsToRegExp(const QString &pattern, bool specialChars,
-                                                     const WildcardOptions &options);
-
-    // Regular expressions (regexp_search.cpp)
 
     /// Selects a match. `text` is that of the text box, and "\n" in the pattern (backslash, n) is its CR LF.
     void RegExpSearch(const QString &text, QString pattern, bool up, bool fromStart, bool matchCase);
@@ -63,38 +64,53 @@ class CSearch {
     void RegExpReplaceAll(const QString &pattern, QString replace, bool matchCase, bool smartReplace,
                           bool silent);
 
-    // Escapes (special_chars.cpp)
-
-    /// "\n" (as CR LF or as LF), "\t", "\xHH", "\uHHHH" and "\\"; the result also stands in `text`. An escape
-    /// without hexadecimal digits is reported and empties the text.
+    /// The regular expression for a wildcard pattern, as shown to the user; empty after an error, which has
+    /// been shown.
+    [[nodiscard]] QString translateWildcardsToRegExp(const QString &pattern, bool specialChars,
+                                                     const WildcardOptions &options);
+    /// The text that its escapes stand for (escaped_text.h), which also stands in `text`. An escape without
+    /// hexadecimal digits is reported and empties the text.
     QString translateSpecialChars(QString &text, bool crlf);
     QString replaceHex(QString &text, QStringView prefix, int digits);
 
   private:
+    enum class Found { Yes, No, NotSearched };
+
+    void findAll(const SearchRequest &request);
+    void replaceOne(const SearchRequest &request, bool replaceAfterFind);
+    void replaceAll(const SearchRequest &request, bool silent);
+
+    // Literal text (simple_search.cpp)
+    Found findLiteral(SearchRequest request);
+    void listLiterals(SearchRequest request);
+    void replaceLiteral(SearchRequest request, bool replaceAfterFind);
+    void replaceLiterals(SearchRequest request, bool silent);
+    [[nodiscard]] LiteralPattern literalOf(const SearchRequest &request) const;
+
+    // Wildcards and regular expressions (regexp_search.cpp)
+    void findExpression(const QString &text, const SearchRequest &request);
+    /// The number of results; `text` comes back with LF as its line end.
+    int listExpressions(QString &text, const SearchRequest &request);
+    void replaceExpression(const SearchRequest &request, bool replaceAfterFind);
+    void replaceExpressions(const SearchRequest &request, bool silent);
+    /// Calls `action` with the regular expression of the request, if it looks for anything; translating
+    /// wildcards belongs to an operation of its own name.
+    void withExpression(const SearchRequest &request, const char *wildcardOperation,
+                        const std::function<void(const QString &)> &action);
+    /// Translates wildcards, and says so if a bracket is missing.
+    [[nodiscard]] WildcardTranslation translated(const SearchRequest &request);
+    [[nodiscard]] MatchBudget newBudget();
+    /// Selects the next match of a valid pattern, or says that there is none.
+    void selectMatch(const RegularExpression &expression, const QString &text, const SearchRequest &request,
+                     MatchBudget &budget);
+    int listMatches(const RegularExpression &expression, const QString &text);
+
     /// Runs an operation; a failure is told under its name, a bad escape with a hint. False after a failure.
     bool guarded(const char *operation, const std::function<void()> &action);
     /// The same without the hint.
     bool reported(const char *operation, const std::function<void()> &action);
-    /// Translates a pattern, and says so if a bracket is missing in it.
-    [[nodiscard]] WildcardTranslation translated(const QString &pattern, bool specialChars,
-                                                 const WildcardOptions &options);
-    /// The whole-word rule for a match at a position from 1.
-    [[nodiscard]] bool standsAsWord(QStringView text, qsizetype position, QStringView find) const;
-    void listSimpleHits(const QString &find, bool matchCase, bool wholeWords);
-    /// One replacement after another, in a copy; the number of them.
-    int replaceEach(QString &text, QStringView find, const QString &replace, bool matchCase, bool wholeWords,
-                    bool smartReplace) const;
     void tellReplacements(int count);
     void inform(const QString &text);
-
-    [[nodiscard]] MatchBudget newBudget();
-    /// Selects the next match of a valid pattern, or says that there is none.
-    void selectMatch(const RegularExpression &expression, const QString &text, bool up, bool fromStart,
-                     MatchBudget &budget);
-    int listMatches(const RegularExpression &expression, const QString &text);
-    /// Each match replaced by itself, out of its context; the number of them.
-    int replaceMatchByMatch(const RegularExpression &expression, QString &text, const QString &replace,
-                            bool smartReplace);
 
     SearchHost &m_host;
     MessageBoxes &m_boxes;

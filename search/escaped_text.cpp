@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "search/escaped_text.h"
 
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "search/joined.h"
+
+#include <algorithm>
+
 namespace tolvo {
 
 EscapedText escapedControls(QStringView text) {
@@ -22,6 +28,36 @@ EscapedText escapedControls(QStringView text) {
         }
     }
     return escaped;
+}
+
+QString unescaped(QString text, bool crlf) {
+    // Keeps an escaped backslash from the other escapes. Nobody can type its first character.
+    const QString guard = QStringLiteral("%1__").arg(QChar(u'\0'));
+    text.replace(QStringLiteral("\\\\"), guard);
+    text.replace(QStringLiteral("\\n"), crlf ? QStringLiteral("\r\n") : QStringLiteral("\n"));
+    text.replace(QStringLiteral("\\t"), QStringLiteral("\t"));
+    text = withHexEscapes(withHexEscapes(text, u"\\x", 2), u"\\u", 4);
+    return text.replace(guard, QStringLiteral("\\"));
+}
+
+/// The search goes on after each character that is put in: what it begins is not looked at again.
+QString withHexEscapes(QStringView text, QStringView prefix, qsizetype digits) {
+    QString result;
+    qsizetype done = 0;
+    for (;;) {
+        const qsizetype at = text.indexOf(prefix, done, Qt::CaseInsensitive);
+        if (at < 0)
+            break;
+        const QStringView rest = text.sliced(at + prefix.size());
+        QString hex = rest.first(std::min(digits, rest.size())).toString();
+        if (!IsHex(hex))
+            throw Failure(failureNumber::badHexadecimalEscape, joined({u"Invalid hex in ", prefix, hex}));
+        result += text.sliced(done, at - done);
+        done = at + prefix.size() + hex.size();
+        result += QChar(static_cast<char16_t>(HexToNumber(hex)));
+    }
+    result += text.sliced(done);
+    return result;
 }
 
 } // namespace tolvo

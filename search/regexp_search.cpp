@@ -2,97 +2,55 @@
 #include "search/CSearch.h"
 
 #include "platform/line_ends.h"
-#include "platform/report_error.h"
+#include "search/expression_search.h"
 #include "search/joined.h"
-#include "search/replacement_template.h"
 #include "search/result_lines.h"
 
-#include <QHash>
 #include <optional>
 
 namespace tolvo {
-
-namespace {
-
-[[noreturn]] void failLimit(const QString &reason) {
-    throw Failure(failureNumber::patternLimit, reason);
-}
-
-/// Fails for a pattern that is too large; an invalid one is the caller's business.
-RegularExpression compiled(const QString &pattern, bool matchCase) {
-    RegularExpression expression(pattern, matchCase);
-    if (expression.state() == PatternState::TooLarge)
-        failLimit(QStringLiteral("The regular expression is too large: ") + expression.error());
-    return expression;
-}
-
-void requireValid(const RegularExpression &expression) {
-    if (!expression.isValid())
-        throw Failure(failureNumber::invalidPattern,
-                      QStringLiteral("Syntax error in regular expression: ") + expression.error());
-}
-
-void walk(const RegularExpression &expression, QStringView text, MatchBudget &budget,
-          const RegularExpression::Visitor &visit) {
-    if (expression.forEachMatch(text, budget, visit) == RegularExpression::Outcome::LimitReached)
-        failLimit(budget.reason());
-}
-
-/// A search works on the text of the box with its CR LF, and widens the pattern. An escaped backslash before
-/// the n is widened as well.
-QString widened(QString pattern) {
-    return pattern.replace(QStringLiteral("\\n"), QStringLiteral("\\r\\n"));
-}
-
-bool hasMatch(const RegularExpression &expression, QStringView text, MatchBudget &budget) {
-    bool found = false;
-    walk(expression, text, budget, [&](const RegularExpressionMatch &) {
-        found = true;
-        return false;
-    });
-    return found;
-}
-
-/// True if the text, as a whole, is the one match in it.
-bool isOneMatch(const RegularExpression &expression, QStringView text, MatchBudget &budget) {
-    int count = 0;
-    bool whole = false;
-    walk(expression, text, budget, [&](const RegularExpressionMatch &match) {
-        whole = match.length() == text.size();
-        return ++count < 2;
-    });
-    return count == 1 && whole;
-}
-
-QString replaced(const RegularExpression &expression, RegularExpression::MatchState &state, QStringView text,
-                 const ReplacementTemplate &replacement, qsizetype longest, MatchBudget &budget) {
-    std::optional<QString> result = replaceMatches(expression, state, text, replacement, longest, budget);
-    if (!result)
-        failLimit(budget.reason());
-    return *std::move(result);
-}
-
-} // namespace
 
 MatchBudget CSearch::newBudget() {
     return MatchBudget([this] { return m_host.interrupted(); }, m_timeLimit);
 }
 
-bool CSearch::reported(const char *operation, const std::function<void()> &action) {
-    return reportFailures(m_boxes, QStringLiteral("CSearch"), QString::fromLatin1(operation), action);
+WildcardTranslation CSearch::translated(const SearchRequest &request) {
+    WildcardTranslation translation;
+    reported("translateWildcardsToRegExp", [&] { translation = expressionOf(request); });
+    if (translation.bracketMissing) {
+        m_boxes.show(
+            {.text = QStringLiteral("Closing square bracket ] missing.\r\n\r\nIf you want to match a "
+                                    "literal [\r\nprecede it with a backslash - \\["),
+             .icon = BoxIcon::Exclamation});
+    }
+    return translation;
 }
 
-void CSearch::RegExpSearch(const QString &text, QString pattern, bool up, bool fromStart, bool matchCase) {
-    if (pattern.isEmpty())
-        return;
-    reported("RegExpSearch", [&] {
-        MatchBudget budget = newBudget();
-        selectMatch(compiled(widened(pattern), matchCase), text, up, fromStart, budget);
+void CSearch::withExpression(const SearchRequest &request, const char *wildcardOperation,
+                             const std::function<void(const QString &)> &action) {
+    const auto run = [&](const QString &pattern) {
+        if (!pattern.isEmpty())
+            action(pattern);
+    };
+    if (request.mode == SearchMode::RegularExpression)
+        return run(request.find);
+    if (!request.find.isEmpty())
+        guarded(wildcardOperation, [&] { run(translated(request).compiled); });
+}
+
+void CSearch::findExpression(const QString &text, const SearchRequest &request) {
+    withExpression(request, "WildcardSearch", [&](const QString &pattern) {
+        reported("RegExpSearch", [&] {
+            MatchBudget budget = newBudget();
+            selectMatch(compiled(widened(pattern), request.matchCase), text, request, budget);
+        });
     });
 }
 
-void CSearch::selectMatch(const RegularExpression &expression, const QString &text, bool up, bool fromStart,
-                          MatchBudget &budget) {
+void CSearch::selectMatch(const RegularExpression &expression, const QString &text,
+                          const SearchRequest &request, MatchBudget &budget) {
+    const bool up = request.direction == SearchDirection::Up;
+    const bool fromStart = request.direction == SearchDirection::FromStart;
     TextBox &box = m_host.txtCurrent();
     const int caret = box.SelStart();
     const qsizetype from = fromStart ? 0 : caret + (box.SelLength() > 0 ? 1 : 0);
@@ -100,7 +58,7 @@ void CSearch::selectMatch(const RegularExpression &expression, const QString &te
     bool any = false;
     if (!expression.isValid())
         inform(QStringLiteral("Error in regular expression"));
-    walk(expression, text, budget, [&](const RegularExpressionMatch &match) {
+    walkMatches(expression, text, budget, [&](const RegularExpressionMatch &match) {
         any = true;
         if (up && match.start() >= caret)
             return false;
@@ -110,7 +68,7 @@ void CSearch::selectMatch(const RegularExpression &expression, const QString &te
     });
     if (!any)
         return inform(QStringLiteral("Text not found anywhere in the document"));
-    if (!up && fromStart)
+    if (fromStart)
         m_host.directionChanged(SearchDirection::Down);
     if (hit) {
         tolvo::select(box, static_cast<int>(hit->start), static_cast<int>(hit->length));
@@ -120,15 +78,15 @@ void CSearch::selectMatch(const RegularExpression &expression, const QString &te
     }
 }
 
-int CSearch::RegExpFindAll(QString &text, const QString &pattern, bool matchCase) {
+int CSearch::listExpressions(QString &text, const SearchRequest &request) {
     int count = 0;
-    if (pattern.isEmpty())
-        return count;
-    reported("RegExpFindAll", [&] {
-        text = crLfToLf(text);
-        const RegularExpression expression = compiled(pattern, matchCase);
-        requireValid(expression);
-        count = listMatches(expression, text);
+    withExpression(request, "WildcardFindAll", [&](const QString &pattern) {
+        reported("RegExpFindAll", [&] {
+            text = crLfToLf(text);
+            const RegularExpression expression = compiled(pattern, request.matchCase);
+            requireValid(expression);
+            count = listMatches(expression, text);
+        });
     });
     return count;
 }
@@ -136,11 +94,7 @@ int CSearch::RegExpFindAll(QString &text, const QString &pattern, bool matchCase
 /// Without any match the list stays as it was; a match without length is none for the list.
 int CSearch::listMatches(const RegularExpression &expression, const QString &text) {
     MatchBudget budget = newBudget();
-    QList<RegularExpression::Span> matches;
-    walk(expression, text, budget, [&](const RegularExpressionMatch &match) {
-        matches += {match.start(), match.length()};
-        return true;
-    });
+    const QList<RegularExpression::Span> matches = matchesOf(expression, text, budget);
     if (matches.isEmpty())
         return 0;
     SearchResults &results = m_host.results();
@@ -159,22 +113,20 @@ int CSearch::listMatches(const RegularExpression &expression, const QString &tex
     return count;
 }
 
-void CSearch::RegExpReplace(const QString &pattern, QString replace, bool up, bool fromStart, bool matchCase,
-                            bool smartReplace, bool replaceAfterFind) {
-    if (pattern.isEmpty())
-        return;
-    reported("RegExpReplace", [&] {
+void CSearch::replaceExpression(const SearchRequest &request, bool replaceAfterFind) {
+    const auto replaceOrSelect = [&](const QString &pattern) {
         TextBox &box = m_host.txtCurrent();
         int selStart = box.SelStart();
+        QString replace = request.replace;
         translateSpecialChars(replace, false);
-        const RegularExpression expression = compiled(pattern, matchCase);
+        const RegularExpression expression = compiled(pattern, request.matchCase);
         if (!expression.isValid())
             return inform(QStringLiteral("Error in regular expression"));
         MatchBudget budget = newBudget();
         QString selected = crLfToLf(box.SelText());
         if (!isOneMatch(expression, selected, budget)) {
             const QString wide = widened(pattern);
-            selectMatch(wide == pattern ? expression : compiled(wide, matchCase), box.Text(), up, fromStart,
+            selectMatch(wide == pattern ? expression : compiled(wide, request.matchCase), box.Text(), request,
                         budget);
             if (!replaceAfterFind)
                 return;
@@ -184,66 +136,35 @@ void CSearch::RegExpReplace(const QString &pattern, QString replace, bool up, bo
                 return;
             selStart = box.SelStart();
         }
-        // Out of its context: anchors see the edges of the selection as the edges of the text.
-        RegularExpression::MatchState state(expression);
-        QString result = replaced(expression, state, selected,
-                                  ReplacementTemplate(replace, expression.groups()), box.capacity(), budget);
-        if (smartReplace)
-            result = m_text.smartMatch(selected, result);
-        result = lfToCrLf(std::move(result));
+        const QString result = lfToCrLf(replacedByItself(
+            expression, selected, {replace, request.smartReplace, box.capacity(), m_text}, budget));
         box.setSelText(result);
         tolvo::select(box, selStart, static_cast<int>(result.size()));
+    };
+    withExpression(request, "WildcardReplace", [&](const QString &pattern) {
+        reported("RegExpReplace", [&] { replaceOrSelect(pattern); });
     });
 }
 
-void CSearch::RegExpReplaceAll(const QString &pattern, QString replace, bool matchCase, bool smartReplace,
-                               bool silent) {
-    if (pattern.isEmpty())
-        return;
-    reported("RegExpReplaceAll", [&] {
+void CSearch::replaceExpressions(const SearchRequest &request, bool silent) {
+    const auto replaceMatches = [&](const QString &pattern) {
+        TextBox &box = m_host.txtCurrent();
+        QString replace = request.replace;
         translateSpecialChars(replace, false);
-        const RegularExpression expression = compiled(pattern, matchCase);
+        const RegularExpression expression = compiled(pattern, request.matchCase);
         requireValid(expression);
-        QString text = crLfToLf(m_host.txtCurrent().Text());
-        const int count = replaceMatchByMatch(expression, text, replace, smartReplace);
+        MatchBudget budget = newBudget();
+        ReplacedText replaced =
+            replaceMatchByMatch(expression, crLfToLf(box.Text()),
+                                {replace, request.smartReplace, box.capacity(), m_text}, budget);
         // The box is written even if nothing was replaced: a lone LF becomes CR LF.
-        m_host.txtCurrent().setText(lfToCrLf(std::move(text)));
+        box.setText(lfToCrLf(std::move(replaced.text)));
         if (!silent)
-            tellReplacements(count);
+            tellReplacements(replaced.count);
+    };
+    withExpression(request, "WildcardReplaceAll", [&](const QString &pattern) {
+        reported("RegExpReplaceAll", [&] { replaceMatches(pattern); });
     });
-}
-
-int CSearch::replaceMatchByMatch(const RegularExpression &expression, QString &text, const QString &replace,
-                                 bool smartReplace) {
-    MatchBudget budget = newBudget();
-    QList<RegularExpression::Span> matches;
-    walk(expression, text, budget, [&](const RegularExpressionMatch &match) {
-        matches += {match.start(), match.length()};
-        return true;
-    });
-    const ReplacementTemplate replacement(replace, expression.groups());
-    RegularExpression::MatchState state(expression);
-    const qsizetype capacity = m_host.txtCurrent().capacity();
-    QHash<QStringView, QString> known;
-    QString result;
-    qsizetype done = 0;
-    for (const auto &[start, length] : matches) {
-        result += QStringView(text).sliced(done, start - done);
-        done = start + length;
-        if (result.size() >= capacity)
-            break;
-        const QStringView matched = QStringView(text).sliced(start, length);
-        auto entry = known.constFind(matched);
-        if (entry == known.constEnd()) {
-            QString made = replaced(expression, state, matched, replacement, capacity, budget);
-            entry = known.insert(matched, smartReplace ? m_text.smartMatch(matched, made) : made);
-        }
-        result += *entry;
-    }
-    result += QStringView(text).sliced(done);
-    result.truncate(capacity);
-    text = result;
-    return static_cast<int>(matches.size());
 }
 
 } // namespace tolvo

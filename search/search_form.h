@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The search window without its widgets: what its controls hold, how they depend on each other, what is
-// remembered, and the settings string of a search.
+// The search window without its widgets: what its controls hold, how they depend on each other, and what is
+// remembered.
 #pragma once
 
-#include "search/search_host.h"
-#include "search/wildcard_translation.h"
+#include "search/search_request.h"
 
 #include <QString>
 #include <QStringList>
@@ -12,27 +11,10 @@
 
 namespace tolvo {
 
-class SettingsStore;
-
-enum class SearchMode { Simple, Wildcard, RegularExpression };
-
 struct SearchForm {
-    static constexpr int anywhere = 4;
-
-    SearchMode mode = SearchMode::Simple;
-    QString find;
-    QString replace;
+    SearchRequest request;
     QStringList recentFinds; ///< the newest first
     QStringList recentReplaces;
-    std::optional<SearchDirection> direction;
-    bool matchCase = false;
-    bool wholeWords = false;
-    bool smartReplace = true;
-    bool specialChars = false;
-    bool replaceAll = false;
-    int anchor = anywhere;
-    QString decimalSep = QStringLiteral(".");
-    QString groupingSep = QStringLiteral(",");
     bool expanded = false; ///< the button says "Less"
 
     /// The section `Search`. Values that make no sense give the default. With special characters on, the form
@@ -41,17 +23,15 @@ struct SearchForm {
     /// Writes the section; of each list no more than 20 entries.
     void save(SettingsStore &store) const;
 
-    /// Takes over a settings string. An empty one, and keys that are missing, leave the form as it is; only a
-    /// missing mode means simple search.
-    void readRequest(const QString &request, bool bReplace);
-    [[nodiscard]] QString request(bool bReplace) const;
-    /// The first of its texts that request() would write and a settings string can't hold.
+    /// Takes over a settings string. An empty one changes nothing.
+    void readSettings(const QString &settings, bool replacing);
+    /// The first of its texts that its settings string can't hold.
     struct Unkept {
-        QString SearchForm::*text;
+        QString SearchRequest::*text;
         bool needsSpecialChars; ///< the text can be written otherwise, but not with special characters off
         QString message;        ///< tells the user, with the other way to write it if there is one
     };
-    [[nodiscard]] std::optional<Unkept> unkeptText(bool bReplace) const;
+    [[nodiscard]] std::optional<Unkept> unkeptText(bool replacing) const;
 
     /// Puts both texts in front of their lists. Nothing for an empty search text.
     void rememberTexts();
@@ -62,18 +42,14 @@ struct SearchForm {
 
     /// Something is on that only the larger layout shows.
     [[nodiscard]] bool isOnUnseen() const {
-        return matchCase || (wholeWords && wholeWordsEnabled()) || (specialChars && specialCharsShown()) ||
-               (anchor != anywhere && wildcardsShown());
+        return request.matchCase || (request.wholeWords && wholeWordsEnabled()) ||
+               (request.specialChars && specialCharsShown()) ||
+               (request.anchor != SearchRequest::anywhere && wildcardsShown());
     }
 
-    [[nodiscard]] bool wholeWordsEnabled() const { return mode != SearchMode::RegularExpression; }
-    [[nodiscard]] bool specialCharsShown() const { return mode != SearchMode::RegularExpression; }
-    [[nodiscard]] bool wildcardsShown() const { return mode == SearchMode::Wildcard; }
-
-    [[nodiscard]] bool up() const { return direction == SearchDirection::Up; }
-    [[nodiscard]] bool down() const { return direction == SearchDirection::Down; }
-    [[nodiscard]] bool fromStart() const { return direction == SearchDirection::FromStart; }
-    [[nodiscard]] WildcardOptions wildcardOptions() const;
+    [[nodiscard]] bool wholeWordsEnabled() const { return request.mode != SearchMode::RegularExpression; }
+    [[nodiscard]] bool specialCharsShown() const { return request.mode != SearchMode::RegularExpression; }
+    [[nodiscard]] bool wildcardsShown() const { return request.mode == SearchMode::Wildcard; }
 };
 
 } // namespace tolvo

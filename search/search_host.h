@@ -3,13 +3,11 @@
 #pragma once
 
 #include "platform/text_box.h"
+#include "search/search_request.h"
 
 #include <QString>
-#include <functional>
 
 namespace tolvo {
-
-enum class SearchDirection { Down, Up, FromStart };
 
 /// The list of a Find All, one line per hit with a number: position from 0 times 10000 plus the length.
 class SearchResults {

@@ -85,7 +85,6 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     cUndo oUndo;
     /// Made when first needed.
     [[nodiscard]] CSearch &oSearch();
-    [[nodiscard]] SearchHost &searchHost() { return *this; }
     [[nodiscard]] const SessionServices &services() const { return m_services; }
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
     /// How often a tool has warned of something or refused its text so far.

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/font.h"
-#include "search/search_form.h"
+#include "search/search_request.h"
 #include "text/statistics.h"
 #include "text/tool_settings.h"
 
@@ -36,7 +36,7 @@ class SearchWindow {
     virtual void showDialog(bool bReplace) = 0;
     virtual void cmdSearch_Click() = 0;
     /// What its controls hold, as last used.
-    [[nodiscard]] virtual SearchForm form() = 0;
+    [[nodiscard]] virtual SearchRequest request() = 0;
     /// A search changed the direction that the next one takes: the option buttons follow.
     virtual void setDirection(SearchDirection direction) = 0;
 };

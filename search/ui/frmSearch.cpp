@@ -3,7 +3,6 @@
 
 #include "base/application.h"
 #include "platform/report_error.h"
-#include "search/search_commands.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -18,9 +17,8 @@
 
 namespace tolvo {
 
-frmSearch::frmSearch(CSearch &oSearch, SearchHost &host, SettingsStore &store, MessageBoxes &boxes,
-                     QWidget *parent)
-    : QDialog(parent), m_search(oSearch), m_host(host), m_store(store), m_boxes(boxes), m_controls(*this),
+frmSearch::frmSearch(CSearch &oSearch, SettingsStore &store, MessageBoxes &boxes, QWidget *parent)
+    : QDialog(parent), m_search(oSearch), m_store(store), m_boxes(boxes), m_controls(*this),
       m_lastList(m_controls.cmbSearchText) {
     setObjectName(QStringLiteral("frmSearch"));
     m_form.load(store);
@@ -46,12 +44,12 @@ QString frmSearch::searchText() const {
 }
 
 void frmSearch::setSpecialChars(bool on) {
-    m_form.specialChars = on;
+    m_form.request.specialChars = on;
     applyRules();
 }
 
 void frmSearch::setDirection(SearchDirection direction) {
-    m_form.direction = direction;
+    m_form.request.direction = direction;
     applyRules();
 }
 
@@ -94,16 +92,16 @@ void frmSearch::useMode(bool bReplace) {
 /// Brings all controls to what the form says.
 void frmSearch::showForm() {
     SearchControls &c = m_controls;
-    c.cmbSearchText->show(m_form.recentFinds, m_form.find);
-    c.cmbReplaceText->show(m_form.recentReplaces, m_form.replace);
-    c.cmbDecimalSep->setEditText(m_form.decimalSep);
-    c.cmbThousandsSep->setEditText(m_form.groupingSep);
+    c.cmbSearchText->show(m_form.recentFinds, m_form.request.find);
+    c.cmbReplaceText->show(m_form.recentReplaces, m_form.request.replace);
+    c.cmbDecimalSep->setEditText(m_form.request.decimalSep);
+    c.cmbThousandsSep->setEditText(m_form.request.groupingSep);
     applyRules();
 }
 
 void frmSearch::readTexts() {
-    m_form.find = m_controls.cmbSearchText->currentText();
-    m_form.replace = m_controls.cmbReplaceText->currentText();
+    m_form.request.find = m_controls.cmbSearchText->currentText();
+    m_form.request.replace = m_controls.cmbReplaceText->currentText();
 }
 
 /// Options, what is enabled and what is shown, from the form.
@@ -111,20 +109,20 @@ void frmSearch::applyRules() {
     SearchControls &c = m_controls;
     {
         const QSignalBlocker quiet(c.TabStrip1);
-        c.TabStrip1->setCurrentIndex(static_cast<int>(m_form.mode));
+        c.TabStrip1->setCurrentIndex(static_cast<int>(m_form.request.mode));
     }
-    c.optSrchDown->setChecked(m_form.down());
-    c.optSrchUp->setChecked(m_form.up());
-    c.optSrchFromStart->setChecked(m_form.fromStart());
-    c.chkMatchCase->setChecked(m_form.matchCase);
-    c.chkSmart->setChecked(m_form.smartReplace);
-    c.chkWholeWord->setChecked(m_form.wholeWords);
+    c.optSrchDown->setChecked(m_form.request.direction == SearchDirection::Down);
+    c.optSrchUp->setChecked(m_form.request.direction == SearchDirection::Up);
+    c.optSrchFromStart->setChecked(m_form.request.direction == SearchDirection::FromStart);
+    c.chkMatchCase->setChecked(m_form.request.matchCase);
+    c.chkSmart->setChecked(m_form.request.smartReplace);
+    c.chkWholeWord->setChecked(m_form.request.wholeWords);
     c.chkWholeWord->setEnabled(m_form.wholeWordsEnabled());
-    c.chkReplaceAll->setChecked(m_form.replaceAll);
-    c.chkSpecialChars->setChecked(m_form.specialChars);
+    c.chkReplaceAll->setChecked(m_form.request.replaceAll);
+    c.chkSpecialChars->setChecked(m_form.request.specialChars);
     for (const auto &[button, text] : c.insertButtons)
-        button->setEnabled(m_form.specialChars);
-    c.optWildcardOptions[static_cast<std::size_t>(m_form.anchor)]->setChecked(true);
+        button->setEnabled(m_form.request.specialChars);
+    c.optWildcardOptions[static_cast<std::size_t>(m_form.request.anchor)]->setChecked(true);
     c.fraOptions->setVisible(m_form.expanded);
     c.fraSpecialChars->setVisible(m_form.expanded && m_form.specialCharsShown());
     c.fraWildcards->setVisible(m_form.expanded && m_form.wildcardsShown());
@@ -155,7 +153,7 @@ void frmSearch::showDialog(bool bReplace) {
 bool frmSearch::getSettings(QString &settings, bool bReplace) {
     hide();
     readTexts();
-    m_form.readRequest(settings, bReplace);
+    m_form.readSettings(settings, bReplace);
     m_collecting = true;
     // What is on has to be seen. The user's own choice of the layout comes back afterwards.
     const bool wasExpanded = m_form.expanded;
@@ -169,16 +167,16 @@ bool frmSearch::getSettings(QString &settings, bool bReplace) {
     useMode(bReplace);
     readTexts();
     if (confirmed)
-        settings = m_form.request(bReplace);
+        settings = settingsString(m_form.request, bReplace);
     return confirmed;
 }
 
-QComboBox &frmSearch::listOf(QString SearchForm::*text) const {
-    if (text == &SearchForm::find)
+QComboBox &frmSearch::listOf(QString SearchRequest::*text) const {
+    if (text == &SearchRequest::find)
         return *m_controls.cmbSearchText;
-    if (text == &SearchForm::replace)
+    if (text == &SearchRequest::replace)
         return *m_controls.cmbReplaceText;
-    return text == &SearchForm::decimalSep ? *m_controls.cmbDecimalSep : *m_controls.cmbThousandsSep;
+    return text == &SearchRequest::decimalSep ? *m_controls.cmbDecimalSep : *m_controls.cmbThousandsSep;
 }
 
 void frmSearch::accept() {
@@ -199,10 +197,10 @@ void frmSearch::accept() {
 /// Every command first remembers the texts, and gives the focus back to the list that had it.
 void frmSearch::run(const std::function<void()> &command) {
     readTexts();
-    if (!m_form.find.isEmpty()) {
+    if (!m_form.request.find.isEmpty()) {
         m_form.rememberTexts();
-        m_controls.cmbReplaceText->show(m_form.recentReplaces, m_form.replace);
-        m_controls.cmbSearchText->show(m_form.recentFinds, m_form.find);
+        m_controls.cmbReplaceText->show(m_form.recentReplaces, m_form.request.replace);
+        m_controls.cmbSearchText->show(m_form.recentFinds, m_form.request.find);
     }
     const bool wasActive = isActiveWindow();
     command();
@@ -213,20 +211,15 @@ void frmSearch::run(const std::function<void()> &command) {
 }
 
 void frmSearch::cmdSearch_Click() {
-    run([this] { runSearch(m_form, m_search, m_host); });
+    run([this] { m_search.run(SearchVerb::Search, m_form.request); });
 }
 
 void frmSearch::cmdReplace_Click() {
-    run([this] { runReplace(m_form, m_search, m_host); });
+    run([this] { m_search.run(SearchVerb::Replace, m_form.request); });
 }
 
 void frmSearch::cmdReplaceAll_Click() {
-    run([this] {
-        if (m_replacing)
-            runReplaceAll(m_form, m_search, m_host);
-        else
-            runFindAll(m_form, m_search, m_host);
-    });
+    run([this] { m_search.run(m_replacing ? SearchVerb::ReplaceAll : SearchVerb::FindAll, m_form.request); });
 }
 
 void frmSearch::swop() {
@@ -237,19 +230,19 @@ void frmSearch::swop() {
 }
 
 void frmSearch::ConvertToRegExp() {
-    if (m_form.mode != SearchMode::Wildcard)
+    if (m_form.request.mode != SearchMode::Wildcard)
         return;
     reportFailures(m_boxes, QStringLiteral("frmSearch"), QStringLiteral("ConvertToRegExp"), [this] {
-        setSearchText(
-            m_search.translateWildcardsToRegExp(searchText(), m_form.specialChars, m_form.wildcardOptions()));
-        m_form.mode = SearchMode::RegularExpression;
+        setSearchText(m_search.translateWildcardsToRegExp(searchText(), m_form.request.specialChars,
+                                                          m_form.request.wildcardOptions()));
+        m_form.request.mode = SearchMode::RegularExpression;
         applyRules();
     });
 }
 
-SearchForm frmSearch::form() {
+SearchRequest frmSearch::request() {
     readTexts();
-    return m_form;
+    return m_form.request;
 }
 
 void frmSearch::saveState() {

@@ -18,13 +18,13 @@ class frmSearch final : public QDialog {
     Q_OBJECT
 
   public:
-    frmSearch(CSearch &oSearch, SearchHost &host, SettingsStore &store, MessageBoxes &boxes, QWidget *parent);
+    frmSearch(CSearch &oSearch, SettingsStore &store, MessageBoxes &boxes, QWidget *parent);
     ~frmSearch() override;
 
     void setSearchText(const QString &text);
     [[nodiscard]] QString searchText() const;
     void setSpecialChars(bool on);
-    [[nodiscard]] bool specialChars() const { return m_form.specialChars; }
+    [[nodiscard]] bool specialChars() const { return m_form.request.specialChars; }
     void setDirection(SearchDirection direction);
 
     /// Makes the larger layout if it isn't there.
@@ -36,7 +36,7 @@ class frmSearch final : public QDialog {
     bool getSettings(QString &settings, bool bReplace);
     void cmdSearch_Click();
     /// What the controls hold.
-    [[nodiscard]] SearchForm form();
+    [[nodiscard]] SearchRequest request();
 
     /// Writes the state and the lists to the store.
     void saveState();
@@ -51,7 +51,7 @@ class frmSearch final : public QDialog {
     void useMode(bool bReplace);
     void showForm();
     void readTexts();
-    [[nodiscard]] QComboBox &listOf(QString SearchForm::*text) const;
+    [[nodiscard]] QComboBox &listOf(QString SearchRequest::*text) const;
     void applyRules();
     void fitSize();
     void run(const std::function<void()> &command);
@@ -63,7 +63,6 @@ class frmSearch final : public QDialog {
     void ConvertToRegExp();
 
     CSearch &m_search;
-    SearchHost &m_host;
     SettingsStore &m_store;
     MessageBoxes &m_boxes;
     SearchForm m_form;

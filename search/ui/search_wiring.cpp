@@ -14,7 +14,7 @@ namespace tolvo {
 void frmSearch::connectControls() {
     SearchControls &c = m_controls;
     connect(c.TabStrip1, &QTabBar::currentChanged, this, [this](int index) {
-        m_form.mode = static_cast<SearchMode>(index);
+        m_form.request.mode = static_cast<SearchMode>(index);
         applyRules();
     });
     for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText}) {
@@ -71,21 +71,21 @@ void frmSearch::connectOptions() {
             resumeList();
         });
     };
-    onClick(c.optSrchDown, [this](bool) { m_form.direction = SearchDirection::Down; });
-    onClick(c.optSrchUp, [this](bool) { m_form.direction = SearchDirection::Up; });
-    onClick(c.optSrchFromStart, [this](bool) { m_form.direction = SearchDirection::FromStart; });
-    onClick(c.chkMatchCase, [this](bool on) { m_form.matchCase = on; });
-    onClick(c.chkSmart, [this](bool on) { m_form.smartReplace = on; });
+    onClick(c.optSrchDown, [this](bool) { m_form.request.direction = SearchDirection::Down; });
+    onClick(c.optSrchUp, [this](bool) { m_form.request.direction = SearchDirection::Up; });
+    onClick(c.optSrchFromStart, [this](bool) { m_form.request.direction = SearchDirection::FromStart; });
+    onClick(c.chkMatchCase, [this](bool on) { m_form.request.matchCase = on; });
+    onClick(c.chkSmart, [this](bool on) { m_form.request.smartReplace = on; });
     onClick(c.chkWholeWord, [this](bool on) { m_form.checkWholeWords(on); });
-    onClick(c.chkReplaceAll, [this](bool on) { m_form.replaceAll = on; });
-    onClick(c.chkSpecialChars, [this](bool on) { m_form.specialChars = on; });
+    onClick(c.chkReplaceAll, [this](bool on) { m_form.request.replaceAll = on; });
+    onClick(c.chkSpecialChars, [this](bool on) { m_form.request.specialChars = on; });
     for (int i = 0; i < static_cast<int>(c.optWildcardOptions.size()); ++i)
         onClick(c.optWildcardOptions[static_cast<std::size_t>(i)],
                 [this, i](bool) { m_form.chooseAnchor(i); });
     connect(c.cmbDecimalSep, &QComboBox::editTextChanged, this,
-            [this](const QString &text) { m_form.decimalSep = text; });
+            [this](const QString &text) { m_form.request.decimalSep = text; });
     connect(c.cmbThousandsSep, &QComboBox::editTextChanged, this,
-            [this](const QString &text) { m_form.groupingSep = text; });
+            [this](const QString &text) { m_form.request.groupingSep = text; });
     for (QComboBox *list : {c.cmbDecimalSep, c.cmbThousandsSep})
         connect(list, &QComboBox::activated, this, [this] { resumeList(); });
 }

@@ -57,7 +57,7 @@ class HeadlessWindows : public SessionWindows,
     void expandDialog() override {}
     void showDialog(bool) override {}
     void cmdSearch_Click() override {}
-    SearchForm form() override { return {}; }
+    SearchRequest request() override { return {}; }
     void setDirection(SearchDirection) override {}
     void clear() override {}
     void add(const QString &, qint32) override {}

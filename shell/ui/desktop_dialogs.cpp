@@ -51,8 +51,8 @@ SearchResults &DesktopDialogs::searchResults() {
 
 frmSearch &DesktopDialogs::searchForm() {
     if (!m_search)
-        m_search = std::make_unique<frmSearch>(m_session->oSearch(), m_session->searchHost(),
-                                               m_services.store, m_services.boxes, &m_parent);
+        m_search =
+            std::make_unique<frmSearch>(m_session->oSearch(), m_services.store, m_services.boxes, &m_parent);
     return *m_search;
 }
 
@@ -162,8 +162,8 @@ void DesktopDialogs::cmdSearch_Click() {
     searchForm().cmdSearch_Click();
 }
 
-SearchForm DesktopDialogs::form() {
-    return searchForm().form();
+SearchRequest DesktopDialogs::request() {
+    return searchForm().request();
 }
 
 void DesktopDialogs::setDirection(SearchDirection direction) {

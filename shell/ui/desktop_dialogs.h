@@ -58,7 +58,7 @@ class DesktopDialogs : public ToolDialogs, private SearchWindow, private ActionS
     void expandDialog() override;
     void showDialog(bool bReplace) override;
     void cmdSearch_Click() override;
-    SearchForm form() override;
+    SearchRequest request() override;
     void setDirection(SearchDirection direction) override;
 
     // ActionSettings

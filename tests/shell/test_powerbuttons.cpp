@@ -64,9 +64,9 @@ TEST(PowerButtons, settingsLastUsedHoldForTheActionsBehind) {
 
 TEST(PowerButtons, searchWithTheSettingsLastUsedWithoutTheWindow) {
     User user("one, two One");
-    user.searchForm.find = "one, two"; // a settings string would cut it at the comma
-    user.searchForm.replace = "three";
-    user.searchForm.direction = SearchDirection::FromStart;
+    user.searchRequest.find = "one, two"; // a settings string would cut it at the comma
+    user.searchRequest.replace = "three";
+    user.searchRequest.direction = SearchDirection::FromStart;
     user.defines(1, {User::action("edSRC", Current)});
     user.defines(2, {User::action("edREP", Current)});
     user.session.imgPower_Click(0);
@@ -74,8 +74,8 @@ TEST(PowerButtons, searchWithTheSettingsLastUsedWithoutTheWindow) {
     user.session.bRightButton = false;
     user.session.imgPower_Click(1);
     user.sees("«three» One");
-    user.searchForm.find = "e";
-    user.searchForm.replaceAll = true;
+    user.searchRequest.find = "e";
+    user.searchRequest.replaceAll = true;
     user.session.bRightButton = false;
     user.session.imgPower_Click(1);
     EXPECT_EQ(user.session.txtCurrent().Text(), "thrthreethree Onthree");
@@ -156,6 +156,9 @@ TEST(PowerButtons, searchWithStoredSettings) {
         {u"Mode=1, Find=b, MatchCase=0, Direction=S", false, u"a«»b", u"a«b»"},
         {u"Mode=1, Find=b, Direction=D, Replace=xx", true, u"«»ab b", u"axx b"},
         {u"Mode=1, Find=b, Replace=xx, ReplaceAll=1", true, u"ab b", u"axx xx"},
+        // A missing mode is simple search, and what is missing otherwise is off: SmartReplace too.
+        {u"Find=., Direction=S", false, u"a.«»b", u"a«.»b"},
+        {u"Mode=1, Find=B, Direction=S, Replace=x", true, u"aB", u"ax"},
         {u"Mode=2, Find=b, Direction=S, Replace=x", true, u"b a«»", u"x a"},
         // Only here D begins at the top and S goes on from the caret.
         {u"Mode=3, Find=b, Direction=D, Replace=x", true, u"b «»b", u"x b"},
@@ -174,6 +177,10 @@ TEST(PowerButtons, searchWithStoredSettings) {
         else
             EXPECT_EQ(user.session.txtCurrent().Text(), picture);
     }
+    User user("ab");
+    user.session.PowerButtonDespatcher(*User::action("edSRC", Custom, "Mode=4, Find=b, Direction=S"));
+    user.sees("«»ab");
+    EXPECT_TRUE(user.boxes.shown.back().text.contains("There is no search mode 4"));
 }
 
 } // namespace

@@ -71,7 +71,7 @@ class User : public HeadlessWindows {
     void expandDialog() override { opened += "more"; }
     void showDialog(bool replace) override { opened += replace ? "replace" : "search"; }
     void cmdSearch_Click() override { opened += "next"; }
-    SearchForm form() override { return searchForm; }
+    SearchRequest request() override { return searchRequest; }
     bool CheckSpelling(ProofingHost &, QString &text, int language, bool grammar) override;
     int GetLangID(int, bool) override { return chosenLanguage; }
 
@@ -84,7 +84,7 @@ class User : public HeadlessWindows {
     int chosenLanguage = 2057;
     QString corrected; ///< what the walk makes of a text; null: it ends without a correction
     QString searchBox;
-    SearchForm searchForm;
+    SearchRequest searchRequest;
     bool special = false;
 
   private:

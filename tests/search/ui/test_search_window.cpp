@@ -29,7 +29,7 @@ class SearchWindow : public SearchWorld {
         reopen();
         show("^one two One");
     }
-    void reopen() { window = std::make_unique<frmSearch>(search, *this, store, boxes, nullptr); }
+    void reopen() { window = std::make_unique<frmSearch>(search, store, boxes, nullptr); }
     template <class Control>
     Control &find(const char *name) {
         return child<Control>(*window, name);
