@@ -219,6 +219,7 @@ QVBoxLayout *SearchControls::buttonColumn() {
     cmdOK = make<QPushButton>("cmdOK", QStringLiteral("OK"), &m_window);
     cmdCancel = make<QPushButton>("cmdCancel", QStringLiteral("Cancel"), &m_window);
     cmdMore = make<QPushButton>("cmdMore", QStringLiteral("&More     "), &m_window);
+    cmdMore->setToolTip(QStringLiteral("Show more or less (Alt-V)"));
     cmdSearchHelp = make<QPushButton>("cmdSearchHelp", QStringLiteral("&Help"), &m_window);
     picMoreArrowDown = makePicture("picMoreArrowDown", QStringLiteral("Show more"), &m_window);
     picMoreArrowDown->setArrowType(Qt::DownArrow);

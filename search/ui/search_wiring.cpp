@@ -44,6 +44,8 @@ void frmSearch::connectKeys() {
     const auto shortcut = [this](const QKeySequence &keys, auto action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
     };
+    // The letter of "More" is gone while "Less" is shown, and belongs to Match Case there.
+    shortcut(Qt::ALT | Qt::Key_V, [this] { toggleMore(); });
     shortcut(Qt::CTRL | Qt::SHIFT | Qt::ALT | Qt::Key_R, [this] { ConvertToRegExp(); });
     const auto turn = [tabs = m_controls.TabStrip1](int step) {
         tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());

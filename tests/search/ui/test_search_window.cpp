@@ -139,6 +139,17 @@ TEST_F(SearchWindow, MouseAndOptions) {
     for (const char *name : {"cmdReplace", "imgSwop", "cmdOK", "cmdCancel", "chkMatchCase", "picMoreArrowUp"})
         EXPECT_FALSE(visible(name)) << name;
     EXPECT_FALSE(find<QWidget>("cmbReplaceText").isEnabled());
+    // One key for both layouts; Alt-M opens the larger one and is the key of Match Case in it.
+    alt(Qt::Key_V);
+    EXPECT_TRUE(visible("chkMatchCase"));
+    alt(Qt::Key_V);
+    EXPECT_FALSE(visible("chkMatchCase"));
+    for (const bool checked : {false, true}) {
+        alt(Qt::Key_M);
+        EXPECT_TRUE(visible("chkMatchCase"));
+        EXPECT_EQ(find<QCheckBox>("chkMatchCase").isChecked(), checked);
+    }
+    alt(Qt::Key_V);
     click("picMoreArrowDown");
     EXPECT_TRUE(visible("picMoreArrowUp") && visible("cmdTab") && !visible("fraWildcards"));
     EXPECT_FALSE(find<QWidget>("cmdTab").isEnabled());
