@@ -37,9 +37,14 @@ function(tolvo_reuse_precompiled target has_windows)
     endif()
 endfunction()
 
-# tolvo_library(name [WIDGETS] SOURCES ... LINK ...): one folder's library. WIDGETS runs moc on it.
+# tolvo_library(name [WIDGETS] [FOLDERS ...] [SOURCES ...] LINK ...): the library of a folder: its sources and those of
+# the folders named, found by themselves. Only a folder with several targets lists its SOURCES. WIDGETS runs moc on it.
 function(tolvo_library name)
-    cmake_parse_arguments(ARG "WIDGETS" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "WIDGETS" "" "FOLDERS;SOURCES;LINK" ${ARGN})
+    if(NOT ARG_SOURCES)
+        list(TRANSFORM ARG_FOLDERS APPEND /*.cpp)
+        file(GLOB ARG_SOURCES CONFIGURE_DEPENDS *.cpp ${ARG_FOLDERS})
+    endif()
     add_library(${name} STATIC ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_WIDGETS})
     tolvo_settings(${name})
