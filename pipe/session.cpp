@@ -5,6 +5,7 @@
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/circular_check.h"
 #include "shell/headless/HeadlessSession.h"
+#include "shell/tool_table.h"
 
 #include <QSet>
 
@@ -51,15 +52,23 @@ class WindowCheck {
         if (!tool)
             return;
         const QString &token = tool->Token();
-        const bool spelling = token == QLatin1StringView("chSPE") || token == QLatin1StringView("chGRA");
-        const bool search = token == QLatin1StringView("edSRC") || token == QLatin1StringView("edREP");
-        if (spelling)
+        const ToolRow *row = toolRow(token);
+        switch (row ? row->operation.window : SettingsWindow::None) {
+        case SettingsWindow::Language:
             throw BadRequest(QStringLiteral("%1 (%2) needs a window").arg(token, tool->Name()));
-        if (search && action.DlgOption() != Custom)
-            throw BadRequest(QStringLiteral("%1 (%2) needs a window, or settings: '%1:Mode=1, Find=...'")
-                                 .arg(token, tool->Name()));
-        if (token == powerButtonToken && action.DlgOption() == Custom)
-            checkButton(targetOf(action).value_or(0));
+        case SettingsWindow::Search:
+        case SettingsWindow::Replace:
+            if (action.DlgOption() != Custom)
+                throw BadRequest(QStringLiteral("%1 (%2) needs a window, or settings: '%1:Mode=1, Find=...'")
+                                     .arg(token, tool->Name()));
+            break;
+        case SettingsWindow::PowerButton:
+            if (action.DlgOption() == Custom)
+                checkButton(targetOf(action).value_or(0));
+            break;
+        default:
+            break;
+        }
     }
 
   private:

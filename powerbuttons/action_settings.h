@@ -11,9 +11,9 @@ class ActionSettings {
   public:
     virtual ~ActionSettings() = default;
 
-    /// Shows the dialog of the tool `token` (edSRC, edREP, foIND, foUNI, foWRP, foREM, liBUL, liNUM, liREN,
-    /// chSPE, chGRA) filled from the settings string `details`. Gives the new settings string, or nothing if
-    /// the user cancelled or the tool has no such dialog. What the tool itself uses next stays as it was.
+    /// Shows the window of the tool `token` that gives its settings, filled from the settings string
+    /// `details`. Gives the new settings string, or nothing if the user cancelled or the tool has no such
+    /// window. What the tool itself uses next stays as it was.
     virtual std::optional<QString> getSettings(const QString &token, const QString &details) = 0;
 };
 

@@ -54,38 +54,6 @@ constexpr SettingsRow rows[] = {
     {u"Search\\SearchMRU", u"", u""},  // list
     {u"Search\\ReplaceMRU", u"", u""}, // list
 
-    {u"Indent", u"Spaces", u"4"},
-    {u"Indent", u"Text", u""},
-    {u"Indent", u"Option", u"Tab"},
-    {u"Indent\\TextMRU", u"", u""}, // list
-
-    {u"NumList", u"Style", u"0"},
-    {u"NumList", u"StartNumber", u"1"},
-    {u"NumList", u"Renumber", u"0"},
-    {u"NumList", u"FollowChar", u"0"},
-    {u"NumList", u"Tab", u"True"},
-    {u"NumList", u"PadChars", u"4"},
-
-    {u"NumLines", u"Start", u"1"},
-    {u"NumLines", u"Step", u"1"},
-    {u"NumLines", u"Every", u"1"},
-    {u"NumLines", u"Renumber", u"True"},
-    {u"NumLines", u"IgnoreBlanks", u"True"},
-    {u"NumLines", u"Pad", u"True"},
-    {u"NumLines", u"RangeRight", u"False"},
-
-    {u"BulletList", u"Character", u"\u2022"},
-    {u"BulletList", u"Tab", u"True"},
-    {u"BulletList", u"PadChars", u"2"},
-
-    {u"RemLines", u"Single", u"0"},
-    {u"RemLines", u"Multiple", u"1"},
-
-    {u"Wordwrap", u"Justify", u"0"},
-    {u"Wordwrap", u"Hanging", u"0"},
-    {u"Wordwrap", u"Tab", u"True"},
-    {u"Wordwrap", u"Width", u"50"},
-
     {u"PowerButtons\\Button n", u"Name", u"<Enter a name>"}, // n counts from 1
     {u"PowerButtons\\Button n", u"FontName", u""},
     {u"PowerButtons\\Button n", u"FontSize", u"16"},

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Every section and key of the two trees, with its default: the one authority for names, defaults and written
-// forms.
+// The sections and keys of the two trees with their defaults: the one authority for them. The settings of the
+// tools stand with their structs (text/tool_settings.h).
 #pragma once
 
 #include <QString>

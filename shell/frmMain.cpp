@@ -2,6 +2,8 @@
 // The session as an object: what it is built on, its status line, what the layers below ask of it.
 #include "shell/frmMain.h"
 
+#include "shell/tool_table.h"
+
 namespace tolvo {
 
 frmMain::frmMain(const SessionServices &services, TextBox &txtText1, TextBox &txtTextWW,
@@ -82,6 +84,10 @@ void frmMain::restore(const TextState &state) {
     if (box.Text() != state.text)
         box.setText(state.text);
     select(txtCurrent(), state.selStart, state.selLength);
+}
+
+ToolContext frmMain::toolContext() {
+    return {oTextMethods, txtCurrent(), *this};
 }
 
 CSearch &frmMain::oSearch() {

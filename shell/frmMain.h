@@ -33,6 +33,7 @@
 namespace tolvo {
 
 class cToolbox;
+struct ToolContext;
 
 /// What a session is built on. All outlive it.
 struct SessionServices {
@@ -87,6 +88,7 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     [[nodiscard]] CSearch &oSearch();
     [[nodiscard]] const SessionServices &services() const { return m_services; }
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
+    [[nodiscard]] ToolContext toolContext();
     /// How often a tool has warned of something or refused its text so far.
     [[nodiscard]] int warnings() const { return m_warnings; }
     void noteWarning() { ++m_warnings; }

@@ -3,6 +3,7 @@
 
 #include "base/numbers.h"
 #include "shell/frmMain.h"
+#include "shell/tool_table.h"
 
 namespace tolvo {
 
@@ -34,27 +35,26 @@ void showStatistics(frmMain &session) {
     session.services().windows.showStatistics(session.oTextMethods.statistics(box.Text(), box.SelText()));
 }
 
-void clearSelection(frmMain &session) {
-    session.txtCurrent().setSelLength(0);
-    session.txtCurrent().setFocus();
+void clearSelection(const ToolContext &context) {
+    context.box.setSelLength(0);
+    context.box.setFocus();
 }
 
-void selectAll(frmMain &session) {
-    select(session.txtCurrent(), 0, session.txtCurrent().length());
+void selectAll(const ToolContext &context) {
+    select(context.box, 0, context.box.length());
 }
 
-void selectBetweenTags(frmMain &session) {
-    TextBox &box = session.txtCurrent();
-    const QString text = box.Text();
+void selectBetweenTags(const ToolContext &context) {
+    const QString text = context.box.Text();
     const qsizetype opening = text.indexOf(QLatin1StringView("\\["));
     const qsizetype closing = opening < 0 ? -1 : text.indexOf(QLatin1StringView("\\]"), opening);
     if (closing < 0) {
-        session.setStatus(QStringLiteral("The tags \\[ and \\] are missing"));
+        context.host.setStatus(QStringLiteral("The tags \\[ and \\] are missing"));
         return;
     }
     const auto length = static_cast<int>(closing - opening - 2);
-    select(box, static_cast<int>(opening) + 2, length);
-    session.setStatus(groupedNumber(length) + QStringLiteral(" characters selected"));
+    select(context.box, static_cast<int>(opening) + 2, length);
+    context.host.setStatus(groupedNumber(length) + QStringLiteral(" characters selected"));
 }
 
 namespace {

@@ -7,16 +7,18 @@
 namespace tolvo {
 
 class frmMain;
+struct ToolContext;
 
 /// Where the line begins (ends, its CR LF not counted) that holds a position. All positions from 0.
 [[nodiscard]] int startOfLine(QStringView text, int position);
 [[nodiscard]] int endOfLine(QStringView text, int position);
 
-void showStatistics(frmMain &session);
-void clearSelection(frmMain &session);
-void selectAll(frmMain &session);
+void clearSelection(const ToolContext &context);
+void selectAll(const ToolContext &context);
 /// Selects what stands between the first \[ and the next \].
-void selectBetweenTags(frmMain &session);
+void selectBetweenTags(const ToolContext &context);
+
+void showStatistics(frmMain &session);
 void copySelection(frmMain &session);
 void cutSelection(frmMain &session);
 void deleteSelection(frmMain &session);

@@ -12,16 +12,12 @@
 
 namespace tolvo {
 
-/// The six dialogs of tool settings: false if the user cancelled; otherwise the settings are the user's.
+/// The dialogs of tool settings.
 class ToolDialogs {
   public:
     virtual ~ToolDialogs() = default;
-    virtual bool ask(IndentSettings &settings) = 0;
-    virtual bool ask(WordWrapSettings &settings) = 0;
-    virtual bool ask(RemoveLinesSettings &settings) = 0;
-    virtual bool ask(BulletSettings &settings) = 0;
-    virtual bool ask(NumberListSettings &settings) = 0;
-    virtual bool ask(LineNumberSettings &settings) = 0;
+    /// False if the user cancelled; otherwise the settings are the user's.
+    virtual bool ask(ToolSettings &settings) = 0;
 };
 
 /// frmSearch, as the session uses it.

@@ -37,15 +37,16 @@ QString statusText(const ToolStatus &status, int lengthBefore, int lengthAfter, 
     return {};
 }
 
-ToolInput toolInput(frmMain &session, const ToolRow &row) {
-    TextBox &box = session.txtCurrent();
+ToolInput toolInput(frmMain &session, const ToolContext &context, const ToolRow &row,
+                    const ToolSettings *settings) {
+    TextBox &box = context.box;
     if (box.SelLength() == 0)
-        return {session, box.Text(), 0, false};
+        return {context, box.Text(), 0, false, settings};
     if (row.rule.reach == SelectionRule::WholeLines)
         session.ExtendSelectionToLines();
     if (row.sixteenBit && box.SelLength() > longestSixteenBit)
         failOverflow();
-    return {session, box.SelText(), box.SelStart(), true};
+    return {context, box.SelText(), box.SelStart(), true, settings};
 }
 
 void writeResult(TextBox &box, const ToolInput &input, const QString &result, SelectionRule::Length length) {
@@ -73,12 +74,13 @@ void refuse(frmMain &session, const ToolRow &row, bool selected) {
     }
 }
 
-void runTextOperation(frmMain &session, const ToolRow &row, const TextOperation &operation) {
-    TextBox &box = session.txtCurrent();
+void runTextOperation(frmMain &session, const ToolRow &row, const ToolSettings *settings) {
+    const ToolContext context = session.toolContext();
+    TextBox &box = context.box;
     const int lengthBefore = box.length();
     const int warningsBefore = session.warnings();
-    const ToolInput input = toolInput(session, row);
-    const std::optional<QString> result = operation(input);
+    const ToolInput input = toolInput(session, context, row, settings);
+    const std::optional<QString> result = row.operation.run(input);
     if (!result) {
         refuse(session, row, input.selected);
         return;
@@ -89,16 +91,31 @@ void runTextOperation(frmMain &session, const ToolRow &row, const TextOperation 
             statusText(row.status, lengthBefore, box.length(), session.warnings() > warningsBefore));
 }
 
+/// The settings of an Action, else those last used, which the user may change first unless the right button
+/// called the tool. Nothing if the user cancelled.
+std::optional<ToolSettings> settingsFor(frmMain &session, const ToolSettings &defaults,
+                                        const CAction *action) {
+    if (action)
+        return settingsFromAction(defaults, action->params());
+    ToolSettings &settings = session.toolSettings().get(defaults);
+    if (!session.bRightButton && !session.services().windows.toolDialogs().ask(settings))
+        return std::nullopt;
+    return settings;
+}
+
 } // namespace
 
 void runToolRow(frmMain &session, const ToolRow &row, const CAction *action) {
-    if (row.operation.procedure) {
-        row.operation.procedure(session, action);
-        return;
+    const ToolOperation &operation = row.operation;
+    if (operation.procedure) {
+        operation.procedure(session, action);
+    } else if (operation.edit) {
+        operation.edit(session.toolContext());
+    } else if (!operation.settings) {
+        runTextOperation(session, row, nullptr);
+    } else if (const auto settings = settingsFor(session, operation.settings(), action)) {
+        runTextOperation(session, row, &*settings);
     }
-    const std::optional<TextOperation> operation = row.operation.prepare(session, action);
-    if (operation)
-        runTextOperation(session, row, *operation);
 }
 
 void frmMain::ToolDespatcher(const QString &token) {
@@ -111,7 +128,7 @@ void frmMain::runTool(const QString &token) {
     setStatus({});
     sLastTool = token;
     const ToolRow *row = toolRow(token);
-    if (row && !row->powerButtonOnly) {
+    if (row && !row->operation.powerButtonOnly) {
         keepingText([&] { runToolRow(*this, *row, nullptr); });
     } else {
         say(QStringLiteral("This tool is not implemented yet"));

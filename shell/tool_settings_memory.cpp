@@ -3,16 +3,18 @@
 
 namespace tolvo {
 
+ToolSettings &ToolSettingsMemory::get(const ToolSettings &settings) {
+    auto &slot = m_slots.at(settings.index());
+    if (!slot)
+        slot = loadSettings(settings, m_store);
+    return *slot;
+}
+
 void ToolSettingsMemory::unload() {
-    std::apply(
-        [this](const auto &...slot) {
-            const auto save = [this](const auto &settings) {
-                if (settings)
-                    saveSettings(m_store, *settings);
-            };
-            (save(slot), ...);
-        },
-        m_slots);
+    for (const auto &slot : m_slots) {
+        if (slot)
+            saveSettings(m_store, *slot);
+    }
 }
 
 } // namespace tolvo

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The settings of the tool dialogs for one run: loaded at first use, kept while hidden, saved at the end of
-// the run.
+// The settings of the tools for one run: loaded at first use, kept while their dialogs are hidden, saved at
+// the end of the run.
 #pragma once
 
 #include "text/tool_settings.h"
 
+#include <array>
 #include <optional>
-#include <tuple>
+#include <variant>
 
 namespace tolvo {
 
@@ -16,13 +17,12 @@ class ToolSettingsMemory {
   public:
     explicit ToolSettingsMemory(SettingsStore &store) : m_store(store) {}
 
-    /// The settings as last used; read from the store at the first call.
+    /// The settings as last used; read from the store at the first call. `settings` says of which struct, its
+    /// values don't count.
+    ToolSettings &get(const ToolSettings &settings);
     template <class Settings>
     Settings &get() {
-        auto &slot = std::get<std::optional<Settings>>(m_slots);
-        if (!slot)
-            slot = loadSettings<Settings>(m_store);
-        return *slot;
+        return std::get<Settings>(get(Settings()));
     }
 
     /// Saves what was loaded, as the dialogs do when they unload.
@@ -30,10 +30,7 @@ class ToolSettingsMemory {
 
   private:
     SettingsStore &m_store;
-    std::tuple<std::optional<IndentSettings>, std::optional<WordWrapSettings>,
-               std::optional<RemoveLinesSettings>, std::optional<BulletSettings>,
-               std::optional<NumberListSettings>, std::optional<LineNumberSettings>>
-        m_slots;
+    std::array<std::optional<ToolSettings>, std::variant_size_v<ToolSettings>> m_slots;
 };
 
 } // namespace tolvo

@@ -1,36 +1,63 @@
 // SPDX-License-Identifier: MIT
-// The tools of the session as one table: token, operation, selection rule, dialog, status. Adding a tool is
-// one row here, one function that does it, and one line in data/Tools.dat.
+// The tools as one table: token, operation with its settings, selection rule, status. Adding a tool is one
+// row here, one function that does it, and one line in data/Tools.dat.
 #pragma once
+
+#include "text/tool_settings.h"
 
 #include <QString>
 #include <QStringView>
-#include <functional>
 #include <optional>
 #include <span>
 
 namespace tolvo {
 
 class CAction;
+class TextBox;
+class TextHost;
+class cTextMethods;
 class frmMain;
 
-/// What a text tool sees: the selection, or the whole text if there is none.
+/// What a tool of the text works on: the engine, the text in use, and who hears its status.
+struct ToolContext {
+    const cTextMethods &engine;
+    TextBox &box;
+    TextHost &host;
+};
+
+/// What a text operation sees: the selection, or the whole text if there is none.
 struct ToolInput {
-    frmMain &session;
+    const ToolContext &context;
     QString text;
     int start = 0; ///< where it begins in the whole text, from 0
     bool selected = false;
+    const ToolSettings *settings = nullptr; ///< those of the row's kind, null for a tool without settings
+
+    [[nodiscard]] QString wholeText() const;
 };
 
-/// A text tool with its settings, ready to run. Nothing if it can't work on the text.
-using TextOperation = std::function<std::optional<QString>(const ToolInput &)>;
+/// The window in which the user edits the settings string of an Action.
+enum class SettingsWindow {
+    None,
+    Dialog, ///< the one of the row's settings (text/ui/tool_dialogs.h)
+    Search,
+    Replace,
+    Language,
+    PowerButton,
+    Missing ///< settings that no window gives yet
+};
 
-/// How a tool is run: either as a text operation under the selection rule, or by a procedure of its own.
+/// How a tool is run: either as a text operation under the selection rule, or by a procedure.
 struct ToolOperation {
-    /// The operation with its settings: those of the Action, or without one those of the dialog. Nothing if
-    /// the user cancelled the dialog.
-    std::optional<TextOperation> (*prepare)(frmMain &, const CAction *) = nullptr;
-    /// Does everything itself.
+    /// The new text; nothing if it can't work on the text.
+    std::optional<QString> (*run)(const ToolInput &) = nullptr;
+    /// Settings with their defaults, which also say which struct it is; null for a tool without.
+    ToolSettings (*settings)() = nullptr;
+    SettingsWindow window = SettingsWindow::None;
+    bool powerButtonOnly = false; ///< ToolDespatcher doesn't know it
+    /// Does everything on the text in use.
+    void (*edit)(const ToolContext &) = nullptr;
+    /// Does everything; gets the Action that runs it, null for a command of the user.
     void (*procedure)(frmMain &, const CAction *) = nullptr;
 };
 
@@ -67,14 +94,12 @@ struct ToolRow {
     const char16_t *token;
     ToolOperation operation;
     SelectionRule rule = {};
-    const char16_t *dialog = u""; ///< name of the window that gives the settings; empty: none
     ToolStatus status = {};
     bool sixteenBit = false; ///< fails on a selection of 32768 units or more
     SortRefusal refusal = {};
-    bool powerButtonOnly = false; ///< ToolDespatcher doesn't know it
 
     /// A PowerButton may store settings for it.
-    [[nodiscard]] bool gotDialog() const { return *dialog != u'\0'; }
+    [[nodiscard]] bool gotDialog() const { return operation.window != SettingsWindow::None; }
 };
 
 [[nodiscard]] std::span<const ToolRow> toolTable();

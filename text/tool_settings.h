@@ -1,64 +1,88 @@
 // SPDX-License-Identifier: MIT
-// The settings of the six tools that have any. Each struct declares its fields once (tool_settings.cpp): the
-// key in the settings store, the key in a settings string, the written form, the limits. Loading, saving,
-// settings strings and dialogs all read that list. A struct is its dialog's state: loaded at first use, kept
-// for the run, saved at its end.
+// The settings of the tools that have any. Each struct lists its fields beside its members, in the order of
+// the settings string; loading, saving, settings strings and what an Action stores all read that list. A
+// struct is its dialog's state: loaded at first use, kept for the run, saved at its end.
 #pragma once
 
 #include "base/CParams.h"
+#include "text/numbering.h"
+#include "text/settings_fields.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+#include <tuple>
+#include <utility>
+#include <variant>
 
 namespace tolvo {
 
 class SettingsStore;
 
-/// Section "Indent", tools foIND and foUNI.
 struct IndentSettings {
     enum Choice { WithTab = 0, WithSpaces = 1, WithText = 2 };
     static constexpr int mostRecentTexts = 20;
     int choice = WithTab;
     int spaces = 4;
     QString text;
-    QStringList recentTexts; ///< newest first; only in the store
+    QStringList recentTexts; ///< newest first
 
-    /// What the tool puts before a line.
+    static constexpr const char16_t *choices[] = {u"Tab", u"Spaces", u"Text"};
+    static constexpr QStringView section = u"Indent";
+    static constexpr std::tuple fields{
+        Field{&IndentSettings::spaces, u"Spaces", forms::Number{0, mostSpaces}},
+        Field{&IndentSettings::text, u"Text", forms::anyText},
+        Field{&IndentSettings::choice, u"Option", u"RadioButton", forms::Choice(choices)},
+        ListField{&IndentSettings::recentTexts, u"Indent\\TextMRU"}};
+
+    /// What the tool puts before a line: a TAB, blanks or the text.
     [[nodiscard]] QString prefix() const;
     bool operator==(const IndentSettings &) const = default;
 };
 
-/// Section "Wordwrap", tool foWRP.
 struct WordWrapSettings {
     static constexpr int narrowest = 12;
     static constexpr int widest = 255;
-    int width = 50;
+    int width = 50; ///< its limits are the dialog's alone: an Action may wrap at any
     bool justify = false;
     bool hanging = false;
     bool tab = true;
+
+    static constexpr QStringView section = u"Wordwrap";
+    static constexpr std::tuple fields{Field{&WordWrapSettings::width, u"Width", forms::anyNumber},
+                                       Field{&WordWrapSettings::justify, u"Justify", forms::check},
+                                       Field{&WordWrapSettings::hanging, u"Hanging", forms::check},
+                                       Field{&WordWrapSettings::tab, u"Tab", forms::flag}};
     bool operator==(const WordWrapSettings &) const = default;
 };
 
-/// Section "RemLines", tool foREM.
 struct RemoveLinesSettings {
     bool single = false;
     bool multiple = true;
+
+    static constexpr QStringView section = u"RemLines";
+    static constexpr std::tuple fields{Field{&RemoveLinesSettings::single, u"Single", forms::checkIfOne},
+                                       Field{&RemoveLinesSettings::multiple, u"Multiple", forms::checkIfOne}};
     bool operator==(const RemoveLinesSettings &) const = default;
 };
 
-/// Section "BulletList", tool liBUL.
 struct BulletSettings {
     static constexpr int mostTypedSpaces = 12; ///< what the dialog takes
     QString bullet = QStringLiteral(u"\u2022");
     bool tab = true;
     int spaces = 2;
 
+    static constexpr QStringView section = u"BulletList";
+    static constexpr std::tuple fields{
+        Field{&BulletSettings::bullet, u"Character", u"Bullet", forms::anyText},
+        Field{&BulletSettings::tab, u"Tab", forms::flag},
+        Field{&BulletSettings::spaces, u"PadChars", u"Spaces", forms::Number{0, mostSpaces}}};
+
     /// The bullet followed by a TAB or blanks.
     [[nodiscard]] QString prefix() const;
     bool operator==(const BulletSettings &) const = default;
 };
 
-/// Section "NumList", tool liNUM.
 struct NumberListSettings {
     static constexpr int highestTypedStart = 999; ///< what the dialog takes
     static constexpr int mostTypedSpaces = 12;    ///< the same
@@ -68,10 +92,18 @@ struct NumberListSettings {
     int followChar = 0; ///< 0 to 3
     bool tab = true;
     int spaces = 4;
+
+    static constexpr QStringView section = u"NumList";
+    static constexpr std::tuple fields{
+        Field{&NumberListSettings::style, u"Style", forms::Number{0, lastListStyle}},
+        Field{&NumberListSettings::start, u"StartNumber", u"Start", forms::anyNumber},
+        Field{&NumberListSettings::renumber, u"Renumber", forms::check},
+        Field{&NumberListSettings::followChar, u"FollowChar", forms::Number{0, lastFollowChar}},
+        Field{&NumberListSettings::tab, u"Tab", forms::flag},
+        Field{&NumberListSettings::spaces, u"PadChars", u"Spaces", forms::Number{1, mostSpaces}}};
     bool operator==(const NumberListSettings &) const = default;
 };
 
-/// Section "NumLines", tool liREN.
 struct LineNumberSettings {
     int start = 1;
     int step = 1;
@@ -80,31 +112,59 @@ struct LineNumberSettings {
     bool ignoreBlanks = true;
     bool pad = true;
     bool rangeRight = false;
+
+    static constexpr QStringView section = u"NumLines";
+    static constexpr std::tuple fields{
+        Field{&LineNumberSettings::start, u"Start", forms::anyNumber},
+        Field{&LineNumberSettings::step, u"Step", forms::positiveNumber},
+        Field{&LineNumberSettings::every, u"Every", forms::positiveNumber},
+        Field{&LineNumberSettings::ignoreBlanks, u"IgnoreBlanks", forms::flagUnlessZero},
+        Field{&LineNumberSettings::renumber, u"Renumber", forms::comparedFlag},
+        Field{&LineNumberSettings::pad, u"Pad", forms::comparedFlag},
+        Field{&LineNumberSettings::rangeRight, u"RangeRight", forms::flag}};
     bool operator==(const LineNumberSettings &) const = default;
 };
 
-// Each of the functions below exists for the six structs.
+/// The settings of any tool. What is derived from the list of structs: the dialogs (text/ui/tool_dialogs.h),
+/// the memory of a run, and all functions below.
+using ToolSettings = std::variant<IndentSettings, WordWrapSettings, RemoveLinesSettings, BulletSettings,
+                                  NumberListSettings, LineNumberSettings>;
 
-/// The values last used, from the store. A stored number that can't be read counts as 0, and as the nearest
-/// value that is allowed.
-template <class Settings>
-[[nodiscard]] Settings loadSettings(const SettingsStore &store);
+/// Calls visit(Settings()) for each of the structs.
+template <class Visit>
+void forEachToolSettings(Visit visit) {
+    [&visit]<std::size_t... index>(std::index_sequence<index...>) {
+        (visit(std::variant_alternative_t<index, ToolSettings>()), ...);
+    }
+    (std::make_index_sequence<std::variant_size_v<ToolSettings>>());
+}
 
-template <class Settings>
-void saveSettings(SettingsStore &store, const Settings &settings);
+/// The values last used, from the store; `settings` says of which struct, its values don't count. A stored
+/// number that can't be read counts as 0, and as the nearest value that is allowed.
+[[nodiscard]] ToolSettings loadSettings(ToolSettings settings, const SettingsStore &store);
 
-/// The settings string, keys and order as every PowerButton stores them. A text that it can't hold is left
-/// out: the dialogs refuse one that the tool would use.
-template <class Settings>
-[[nodiscard]] QString settingsString(const Settings &settings);
+void saveSettings(SettingsStore &store, const ToolSettings &settings);
 
-/// For a dialog: takes over the keys that are there and leaves the others alone; a text that is no number
+/// The settings string, keys and order as every PowerButton stores them: "Single=1, Multiple=0". A text that
+/// it can't hold is left out.
+[[nodiscard]] QString settingsString(const ToolSettings &settings);
+
+/// For a dialog: takes over the keys that are there and leaves the others alone; a text that is not a number
 /// counts as 0.
-template <class Settings>
-void applySettings(Settings &settings, const CParams &params);
+void applySettings(ToolSettings &settings, const CParams &params);
 
 /// For the execution of an Action: every key is converted strictly, a missing or wrong one is a Failure.
-template <class Settings>
-[[nodiscard]] Settings settingsFromAction(const CParams &params);
+/// `settings` says which struct, its values don't count.
+[[nodiscard]] ToolSettings settingsFromAction(ToolSettings settings, const CParams &params);
+
+/// A value that the tools keep in the store.
+struct StoredToolSetting {
+    QStringView section;
+    QStringView key;      ///< empty for a list, which has the section to itself
+    QString defaultValue; ///< as the store would have it
+};
+
+/// All that the structs above keep in the store.
+[[nodiscard]] QList<StoredToolSetting> storedToolSettings();
 
 } // namespace tolvo

@@ -42,12 +42,7 @@ class HeadlessWindows : public SessionWindows,
     void powerButtonChanged(int) override {}
 
     // ToolDialogs
-    bool ask(IndentSettings &) override { return true; }
-    bool ask(WordWrapSettings &) override { return true; }
-    bool ask(RemoveLinesSettings &) override { return true; }
-    bool ask(BulletSettings &) override { return true; }
-    bool ask(NumberListSettings &) override { return true; }
-    bool ask(LineNumberSettings &) override { return true; }
+    bool ask(ToolSettings &) override { return true; }
 
     // SearchWindow and SearchResults
     void setSearchText(const QString &) override {}

@@ -6,7 +6,6 @@
 #include "shell/modMain.h"
 #include "shell/ui/desktop_options.h"
 
-#include <QHash>
 #include <memory>
 #include <optional>
 
@@ -18,6 +17,7 @@ class dlgPreferences;
 class dlgSpelling;
 class frmPowerButton;
 class frmSearch;
+struct ToolDialogContext;
 class SearchResultsWindow;
 
 class DesktopDialogs : public ToolDialogs, private SearchWindow, private ActionSettings {
@@ -31,12 +31,7 @@ class DesktopDialogs : public ToolDialogs, private SearchWindow, private ActionS
 
     // ToolDialogs
 
-    bool ask(IndentSettings &settings) override;
-    bool ask(WordWrapSettings &settings) override;
-    bool ask(RemoveLinesSettings &settings) override;
-    bool ask(BulletSettings &settings) override;
-    bool ask(NumberListSettings &settings) override;
-    bool ask(LineNumberSettings &settings) override;
+    bool ask(ToolSettings &settings) override;
 
     [[nodiscard]] SearchWindow &search() { return *this; }
     [[nodiscard]] SearchResults &searchResults();
@@ -64,16 +59,8 @@ class DesktopDialogs : public ToolDialogs, private SearchWindow, private ActionS
     // ActionSettings
 
     std::optional<QString> getSettings(const QString &token, const QString &details) override;
-    /// Makes a dialog that shows the settings and hands it to `use`.
-    template <class Dialog, class Settings, class Use>
-    auto withDialog(const Settings &settings, Use use);
-    template <class Dialog, class Settings>
-    bool askInDialog(Settings &settings);
-    /// The settings of a tool dialog as a string, edited by the user.
-    template <class Dialog>
-    std::optional<QString> editSettings(const QString &details);
-    std::optional<QString> editSearch(const QString &details);
-    std::optional<QString> editReplace(const QString &details);
+    [[nodiscard]] ToolDialogContext toolDialogContext();
+    std::optional<QString> editSearch(const QString &details, bool replace);
     std::optional<QString> editLanguage(const QString &details);
 
     void prepareOptions();

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Texts that nobody would write visit every tool: nothing fails, and undo gives the text back.
-#include "shell/tool_table.h"
 #include "tests/support/User.h"
+#include "tests/support/operations.h"
+#include "tests/support/poor_guests.h"
 
 using namespace tolvo;
 using namespace tolvo::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -28,6 +30,18 @@ TEST_P(PoorGuests, comeOutOfEveryTool) {
         EXPECT_EQ(user.session.txtCurrent().Text(), guest.text);
     }
     user.boxes.shown.clear();
+}
+
+TEST(PoorGuestsAtLength, comeOutOfEveryTextOperation) {
+    SilentHost host;
+    const cTextMethods engine(host, [](const QString &extension) { return extension == "txt"_L1; });
+    const std::vector<Operation> all = operations();
+    for (const QString &text : guests()) {
+        for (const Operation &operation : all) {
+            SCOPED_TRACE(shown(text.left(10)) + " in " + operation.name);
+            EXPECT_LE(operation.run(engine, text).size(), 60 * text.size() + 60);
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Shell, PoorGuests,

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The tool frame: what each tool sees of the text, what is selected afterwards, what the status line says.
+#include "shell/cToolbox.h"
 #include "shell/tool_table.h"
 #include "tests/support/User.h"
 
@@ -114,18 +115,28 @@ TEST(Tools, sevenOfThemFailOnALongSelectionAndChangeNothing) {
 
 TEST(Tools, ofTheTableAreThoseOfTheCatalogue) {
     QSet<QString> known;
+    QSet<std::size_t> withSettings;
     for (const ToolRow &row : toolTable()) {
         SCOPED_TRACE(QString::fromUtf16(row.token).toStdString());
         const ToolPtr tool = realCatalogue().tool(QString::fromUtf16(row.token));
         ASSERT_TRUE(tool);
         EXPECT_EQ(tool->gotDialog(), row.gotDialog());
-        EXPECT_TRUE((row.operation.prepare != nullptr) != (row.operation.procedure != nullptr));
+        const ToolOperation &operation = row.operation;
+        EXPECT_EQ((operation.run ? 1 : 0) + (operation.edit ? 1 : 0) + (operation.procedure ? 1 : 0), 1);
+        EXPECT_EQ(operation.settings != nullptr, operation.window == SettingsWindow::Dialog);
+        if (operation.settings)
+            withSettings += operation.settings().index();
         EXPECT_FALSE(known.contains(tool->Token()));
         known += tool->Token();
     }
     for (const ToolPtr &tool : realCatalogue().tools())
         EXPECT_TRUE(tool->isHeading() || tool->Token() == "toolNULL" || known.contains(tool->Token()))
             << tool->Token().toStdString();
+    EXPECT_EQ(withSettings.size(), std::variant_size_v<ToolSettings>) << "settings of no tool";
+    for (const Favourite &favourite : favourites) {
+        const QString tag = QString::fromUtf16(favourite.tag);
+        EXPECT_TRUE(tag == "foBOTH" || known.contains(tag)) << tag.toStdString();
+    }
 }
 
 TEST(Tools, aDialogAsksOnceAndARightClickNever) {

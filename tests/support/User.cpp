@@ -121,10 +121,12 @@ CloseAnswer User::confirmClose(const QString &prompt) {
     return closeAnswer;
 }
 
-bool User::ask(IndentSettings &settings) {
-    opened += "Indent";
-    settings.choice = IndentSettings::WithText;
-    settings.text = "> ";
+bool User::ask(ToolSettings &settings) {
+    if (auto *indent = std::get_if<IndentSettings>(&settings)) {
+        opened += "Indent";
+        indent->choice = IndentSettings::WithText;
+        indent->text = "> ";
+    }
     return !cancelsDialogs;
 }
 

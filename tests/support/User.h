@@ -63,7 +63,7 @@ class User : public HeadlessWindows {
     void editPowerButton(int index) override { opened += QString("editor %1").arg(index); }
     void powerButtonChanged(int index) override { repainted += index; }
     void hide() override { opened += "(hidden)"; }
-    bool ask(IndentSettings &settings) override;
+    bool ask(ToolSettings &settings) override;
     void setSearchText(const QString &text) override { searchBox = text; }
     QString searchText() override { return searchBox; }
     void setSpecialChars(bool on) override { special = on; }

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/settings_store.h"
 #include "preferences/settings_table.h"
+#include "tests/support/other_settings.h"
 #include "tests/text/engine.h"
 #include "text/tool_settings.h"
 
+#include <QSet>
 #include <limits>
 
 using namespace tolvo;
+using namespace tolvo::test;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -19,34 +22,60 @@ const NumberListSettings numberList{5, 12, true, 3, false, 6};
 const LineNumberSettings lineNumbers{10, 5, 2, false, true, false, true};
 
 template <class Settings>
-void comesBackFromStore(const Settings &settings) {
-    SettingsStore store(u":memory:"_s);
-    EXPECT_EQ(loadSettings<Settings>(store), Settings()) << "the defaults of store and struct differ";
-    saveSettings(store, settings);
-    EXPECT_EQ(loadSettings<Settings>(store), settings);
-}
-
-template <class Settings>
 void comesBackFromString(const Settings &settings, const char *text) {
     const CParams params(QString::fromLatin1(text));
     EXPECT_EQ(settingsString(settings), QLatin1StringView(text));
-    EXPECT_EQ(settingsFromAction<Settings>(params), settings);
-    Settings applied;
+    EXPECT_EQ(settingsFromAction(Settings(), params), ToolSettings(settings));
+    ToolSettings applied = Settings();
     applySettings(applied, params);
-    EXPECT_EQ(applied, settings);
+    EXPECT_EQ(applied, ToolSettings(settings));
     applySettings(applied, CParams(u"Colour=1"_s));
-    EXPECT_EQ(applied, settings) << "a key that isn't there changes a control";
+    EXPECT_EQ(applied, ToolSettings(settings)) << "a key that isn't there changes a control";
 }
 
-TEST(ToolSettings, comeBackFromTheStore) {
-    std::apply([](const auto &...settings) { (comesBackFromStore(settings), ...); },
-               std::tuple(indent, wrap, removeLines, bullet, numberList, lineNumbers));
-    IndentSettings recent = indent;
-    recent.recentTexts = {u"> "_s, u"# "_s};
-    comesBackFromStore(recent);
+TEST(ToolSettings, comeBackFromTheStoreAndFromTheirString) {
+    forEachToolSettings([](const auto &defaults) {
+        using Settings = std::remove_cvref_t<decltype(defaults)>;
+        static_assert(memberCount<Settings>() == std::tuple_size_v<decltype(Settings::fields)>,
+                      "a member is missing from the field list");
+        const ToolSettings other = otherSettings<Settings>();
+        SettingsStore store(u":memory:"_s);
+        EXPECT_EQ(loadSettings(other, store), ToolSettings(defaults));
+        saveSettings(store, other);
+        EXPECT_EQ(loadSettings(defaults, store), other) << settingsString(other).toStdString();
+
+        ToolSettings read = settingsFromAction(other, CParams(settingsString(defaults)));
+        EXPECT_EQ(read, ToolSettings(defaults));
+        applySettings(read, CParams(settingsString(other)));
+        EXPECT_EQ(settingsString(read), settingsString(other));
+    });
 }
 
-TEST(ToolSettings, comeBackFromTheirString) {
+TEST(ToolSettings, haveTheirPlacesAndDefaults) {
+    QStringList table;
+    QSet<QString> places;
+    for (const SettingsRow &row : settingsTable())
+        places += (QString::fromUtf16(row.section) + u'|' + QString::fromUtf16(row.key)).toCaseFolded();
+    for (const StoredToolSetting &setting : storedToolSettings()) {
+        const QString place = setting.section.toString() + u"|"_s + setting.key.toString();
+        EXPECT_FALSE(places.contains(place.toCaseFolded())) << place.toStdString();
+        places += place.toCaseFolded();
+        table += place + u'=' + setting.defaultValue;
+    }
+    const QString all = u' ' + table.join(u' ') + u' ';
+    for (const char16_t *section :
+         {u"Indent|Spaces=4 Indent|Text= Indent|Option=Tab Indent\\TextMRU|=",
+          u"Wordwrap|Width=50 Wordwrap|Justify=0 Wordwrap|Hanging=0 Wordwrap|Tab=True",
+          u"RemLines|Single=0 RemLines|Multiple=1",
+          u"BulletList|Character=\u2022 BulletList|Tab=True BulletList|PadChars=2",
+          u"NumList|Style=0 NumList|StartNumber=1 NumList|Renumber=0 NumList|FollowChar=0 NumList|Tab=True "
+          "NumList|PadChars=4",
+          u"NumLines|Start=1 NumLines|Step=1 NumLines|Every=1 NumLines|IgnoreBlanks=True "
+          "NumLines|Renumber=True NumLines|Pad=True NumLines|RangeRight=False"})
+        EXPECT_TRUE(all.contains(u' ' + QString::fromUtf16(section) + u' ')) << shown(all);
+}
+
+TEST(ToolSettings, areWrittenAsSettingsStrings) {
     comesBackFromString(indent, "Spaces=7, Text=> , RadioButton=2");
     comesBackFromString(wrap, "Width=72, Justify=1, Hanging=1, Tab=False");
     comesBackFromString(removeLines, "Single=1, Multiple=0");
@@ -56,29 +85,24 @@ TEST(ToolSettings, comeBackFromTheirString) {
                                      "Pad=False, RangeRight=True");
 }
 
-TEST(ToolSettings, areWrittenAsTheStoreHasThem) {
+TEST(ToolSettings, areReadLenientlyFromTheStore) {
     SettingsStore store(u":memory:"_s);
-    saveSettings(store, wrap);
-    saveSettings(store, lineNumbers);
-    EXPECT_EQ(readSetting(store, u"Wordwrap", u"Justify"), u"1");
-    EXPECT_EQ(readSetting(store, u"Wordwrap", u"Tab"), u"False");
-    EXPECT_EQ(readSetting(store, u"NumLines", u"IgnoreBlanks"), u"True");
-
     writeSetting(store, u"Indent", u"Option", u"else"_s);
-    EXPECT_EQ(loadSettings<IndentSettings>(store).choice, IndentSettings::WithText);
+    EXPECT_EQ(std::get<IndentSettings>(loadSettings(indent, store)).choice, IndentSettings::WithText);
     writeSetting(store, u"NumLines", u"Pad", u"1"_s);
-    EXPECT_FALSE(loadSettings<LineNumberSettings>(store).pad) << "it is compared with \"True\"";
+    EXPECT_FALSE(std::get<LineNumberSettings>(loadSettings(lineNumbers, store)).pad)
+        << "it is compared with \"True\"";
     writeSetting(store, u"NumList", u"PadChars", u"wide"_s);
     writeSetting(store, u"NumList", u"StartNumber", u"1e99"_s);
     writeSetting(store, u"NumList", u"Tab", u"?"_s);
-    EXPECT_EQ(loadSettings<NumberListSettings>(store),
-              (NumberListSettings{0, std::numeric_limits<int>::max(), false, 0, false, 1}))
-        << "0 for what is no number, and then the nearest that is allowed";
+    EXPECT_EQ(loadSettings(numberList, store),
+              ToolSettings(NumberListSettings{0, std::numeric_limits<int>::max(), false, 0, false, 1}))
+        << "0 for what is not a number, and then the nearest that is allowed";
 }
 
 template <class Settings>
 Settings fromAction(const char *text) {
-    return settingsFromAction<Settings>(CParams(QString::fromLatin1(text)));
+    return std::get<Settings>(settingsFromAction(Settings(), CParams(QString::fromLatin1(text))));
 }
 
 TEST(ToolSettings, ofAnActionAreTakenStrictly) {
@@ -109,9 +133,9 @@ TEST(ToolSettings, ofAnActionAreTakenStrictly) {
 }
 
 TEST(ToolSettings, ofADialogAreTakenLeniently) {
-    NumberListSettings settings{3, 5, true, 1, false, 7};
+    ToolSettings settings = NumberListSettings{3, 5, true, 1, false, 7};
     applySettings(settings, CParams(u"Style=x, Start=, Renumber=False, Tab=true, Spaces=1e99"_s));
-    EXPECT_EQ(settings, (NumberListSettings{0, 0, false, 1, false, 255}));
+    EXPECT_EQ(settings, ToolSettings(NumberListSettings{0, 0, false, 1, false, 255}));
 }
 
 TEST(ToolSettings, makeThePrefix) {

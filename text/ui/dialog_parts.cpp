@@ -2,10 +2,8 @@
 #include "text/ui/dialog_parts.h"
 
 #include "platform/desktop/font_conversion.h"
-#include "platform/message_box.h"
 
 #include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -50,25 +48,6 @@ QRadioButton *Options::button(int index) const {
 void Options::setEnabled(bool enabled) {
     for (QAbstractButton *button : m_group->buttons())
         button->setEnabled(enabled);
-}
-
-QComboBox &TextDialog::makeText(const QString &listName) {
-    m_text = new QComboBox(this);
-    m_text->setObjectName(listName);
-    m_text->setEditable(true);
-    m_text->setInsertPolicy(QComboBox::NoInsert);
-    m_text->setCompleter(nullptr); // it would put letters into a text that the user didn't type
-    return *m_text;
-}
-
-void TextDialog::accept() {
-    if (m_boxes == nullptr || !usesText() || CParams::canHold(m_text->currentText())) {
-        QDialog::accept();
-        return;
-    }
-    m_boxes->show({CParams::refusal(tr("Please enter another text")), BoxIcon::Information});
-    m_text->setFocus();
-    m_text->lineEdit()->selectAll();
 }
 
 QLabel *labelFor(QWidget *control, const QString &caption) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/ui/dlgBullet.h"
+#include "text/ui/tool_dialogs.h"
 
 #include "base/character_sets.h"
 #include "text/cTextMethods.h"
@@ -11,14 +11,34 @@
 
 namespace tolvo {
 
-dlgBullet::dlgBullet(const cTextMethods &engine, const BulletSettings &settings, QWidget *parent)
-    : TextDialog(parent), m_engine(engine), m_bullet(makeText(QStringLiteral("cmbBulletChar"))),
+namespace {
+
+class dlgBullet : public SettingsDialog<BulletSettings> {
+    Q_DECLARE_TR_FUNCTIONS(dlgBullet)
+
+  public:
+    dlgBullet(const BulletSettings &settings, const ToolDialogContext &context);
+
+    [[nodiscard]] BulletSettings settings() const override;
+    void setSettings(const BulletSettings &settings) override;
+
+  private:
+    void refreshSample();
+
+    QComboBox *m_text;
+    Options m_tab;
+    NumberBox *m_spaces;
+    SampleBox *m_sample;
+};
+
+dlgBullet::dlgBullet(const BulletSettings &settings, const ToolDialogContext &context)
+    : SettingsDialog(context), m_text(makeTextList(QStringLiteral("cmbBulletChar"))),
       m_tab(QStringLiteral("optTab"), {tr("&Tab"), tr("&Spaces")}, this),
       m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Follow by spaces"),
                              {0, BulletSettings::mostTypedSpaces}, this)),
-      m_sample(new SampleBox(4, this)) {
+      m_sample(makeSample(4)) {
     for (const QChar bullet : bulletMarks)
-        m_bullet.addItem(bullet);
+        m_text->addItem(bullet);
     m_sample->setLineWrapMode(QPlainTextEdit::NoWrap);
 
     auto *follow = new QHBoxLayout;
@@ -27,8 +47,8 @@ dlgBullet::dlgBullet(const cTextMethods &engine, const BulletSettings &settings,
     follow->addWidget(m_spaces);
     follow->addStretch();
     auto *grid = new QGridLayout;
-    grid->addWidget(labelFor(&m_bullet, tr("Bullet character:")), 0, 0);
-    grid->addWidget(&m_bullet, 0, 1);
+    grid->addWidget(labelFor(m_text, tr("Bullet character:")), 0, 0);
+    grid->addWidget(m_text, 0, 1);
     grid->addWidget(new QLabel(tr("Follow by:"), this), 1, 0);
     grid->addLayout(follow, 1, 1);
     grid->addWidget(labelFor(m_sample, tr("Sample:")), 2, 0, 1, 2);
@@ -38,28 +58,35 @@ dlgBullet::dlgBullet(const cTextMethods &engine, const BulletSettings &settings,
     finishDialog(*this, QStringLiteral("dlgBullet"), tr("Bullet List Style"), grid);
     setSettings(settings);
 
-    connect(&m_bullet, &QComboBox::editTextChanged, this, &dlgBullet::refreshSample);
+    connect(m_text, &QComboBox::editTextChanged, this, &dlgBullet::refreshSample);
     connect(m_tab.group(), &QButtonGroup::idToggled, this, &dlgBullet::refreshSample);
     connect(m_spaces, &NumberBox::changed, this, &dlgBullet::refreshSample);
     connect(m_spaces, &NumberBox::edited, this, [this] { m_tab.choose(1); });
 }
 
 BulletSettings dlgBullet::settings() const {
-    return {m_bullet.currentText(), m_tab.choice() == 0, m_spaces->value()};
+    return {m_text->currentText(), m_tab.choice() == 0, m_spaces->value()};
 }
 
 void dlgBullet::setSettings(const BulletSettings &settings) {
-    m_bullet.setCurrentText(settings.bullet);
+    m_text->setCurrentText(settings.bullet);
     m_tab.choose(settings.tab ? 0 : 1);
     m_spaces->setValue(settings.spaces);
     refreshSample();
-    m_bullet.setFocus();
-    m_bullet.lineEdit()->selectAll();
+    m_text->setFocus();
+    m_text->lineEdit()->selectAll();
 }
 
 void dlgBullet::refreshSample() {
     m_sample->setSample(
-        m_engine.Indent(tr("First list item\r\nSecond list item\r\nThird list item"), settings().prefix()));
+        engine().Indent(tr("First list item\r\nSecond list item\r\nThird list item"), settings().prefix()));
+}
+
+} // namespace
+
+SettingsDialogPtr<BulletSettings> makeToolDialog(const BulletSettings &settings,
+                                                 const ToolDialogContext &context) {
+    return std::make_unique<dlgBullet>(settings, context);
 }
 
 } // namespace tolvo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/ui/dlgNumLines.h"
+#include "text/ui/tool_dialogs.h"
 
 #include "text/cTextMethods.h"
 #include "widgets/NumberBox.h"
@@ -21,17 +21,38 @@ constexpr const char *filler =
 
 constexpr NumberBox::Limits lineNumber{.lowest = 1, .takesMinus = true};
 
-} // namespace
+class dlgNumLines : public SettingsDialog<LineNumberSettings> {
+    Q_DECLARE_TR_FUNCTIONS(dlgNumLines)
 
-dlgNumLines::dlgNumLines(const cTextMethods &engine, const LineNumberSettings &settings, QWidget *parent)
-    : QDialog(parent), m_engine(engine),
+  public:
+    dlgNumLines(const LineNumberSettings &settings, const ToolDialogContext &context);
+
+    [[nodiscard]] LineNumberSettings settings() const override;
+    void setSettings(const LineNumberSettings &settings) override;
+
+  private:
+    void arrange();
+    void refresh();
+
+    NumberBox *m_start;
+    NumberBox *m_step;
+    NumberBox *m_every;
+    QCheckBox *m_ignoreBlanks;
+    QCheckBox *m_renumber;
+    QCheckBox *m_pad;
+    Options m_range;
+    SampleBox *m_sample;
+};
+
+dlgNumLines::dlgNumLines(const LineNumberSettings &settings, const ToolDialogContext &context)
+    : SettingsDialog(context),
       m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"), lineNumber, this)),
       m_step(new NumberBox(QStringLiteral("txtStep"), tr("Increment"), lineNumber, this)),
       m_every(new NumberBox(QStringLiteral("txtEvery"), tr("Every how many lines"), lineNumber, this)),
       m_ignoreBlanks(new QCheckBox(tr("Ignore blank lines"), this)),
       m_renumber(new QCheckBox(tr("Renumber"), this)), m_pad(new QCheckBox(tr("Pad with spaces"), this)),
       m_range(QStringLiteral("optRange"), {tr("Range &left"), tr("Range &right")}, this),
-      m_sample(new SampleBox(9, this)) {
+      m_sample(makeSample(9)) {
     m_ignoreBlanks->setObjectName(QStringLiteral("chkIgnoreBlanks"));
     m_renumber->setObjectName(QStringLiteral("chkRenumber"));
     m_pad->setObjectName(QStringLiteral("chkPad"));
@@ -107,8 +128,15 @@ void dlgNumLines::setSettings(const LineNumberSettings &settings) {
 void dlgNumLines::refresh() {
     m_range.setEnabled(m_pad->isChecked());
     const LineNumberSettings now = settings();
-    m_sample->setSample(m_engine.LineNumber(QString::fromLatin1(filler), now.start, now.step, now.every,
+    m_sample->setSample(engine().LineNumber(QString::fromLatin1(filler), now.start, now.step, now.every,
                                             !now.ignoreBlanks, now.pad, now.rangeRight));
+}
+
+} // namespace
+
+SettingsDialogPtr<LineNumberSettings> makeToolDialog(const LineNumberSettings &settings,
+                                                     const ToolDialogContext &context) {
+    return std::make_unique<dlgNumLines>(settings, context);
 }
 
 } // namespace tolvo

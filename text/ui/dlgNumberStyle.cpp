@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/ui/dlgNumberStyle.h"
+#include "text/ui/tool_dialogs.h"
 
 #include "text/cTextMethods.h"
 #include "text/numbering.h"
@@ -17,11 +17,33 @@ namespace {
 
 constexpr int fewestOutlineSpaces = 4;
 
-} // namespace
+class dlgNumberStyle : public SettingsDialog<NumberListSettings> {
+    Q_DECLARE_TR_FUNCTIONS(dlgNumberStyle)
 
-dlgNumberStyle::dlgNumberStyle(const cTextMethods &engine, const NumberListSettings &settings,
-                               QWidget *parent)
-    : QDialog(parent), m_engine(engine), m_style(new QComboBox(this)),
+  public:
+    dlgNumberStyle(const NumberListSettings &settings, const ToolDialogContext &context);
+
+    [[nodiscard]] NumberListSettings settings() const override;
+    void setSettings(const NumberListSettings &settings) override;
+
+  private:
+    void arrange();
+    void styleChosen();
+    void refreshSample();
+    [[nodiscard]] QString sampleText() const;
+
+    QComboBox *m_style;
+    NumberBox *m_start;
+    QCheckBox *m_renumber;
+    QComboBox *m_followChar;
+    QLabel *m_followCharLabel;
+    Options m_tab;
+    NumberBox *m_spaces;
+    SampleBox *m_sample;
+};
+
+dlgNumberStyle::dlgNumberStyle(const NumberListSettings &settings, const ToolDialogContext &context)
+    : SettingsDialog(context), m_style(new QComboBox(this)),
       m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"),
                             {1, NumberListSettings::highestTypedStart}, this)),
       m_renumber(new QCheckBox(tr("Renumber"), this)), m_followChar(new QComboBox(this)),
@@ -29,7 +51,7 @@ dlgNumberStyle::dlgNumberStyle(const cTextMethods &engine, const NumberListSetti
       m_tab(QStringLiteral("optTab"), {tr("&Tab after"), tr("&Pad to")}, this),
       m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Pad to spaces"),
                              {0, NumberListSettings::mostTypedSpaces}, this)),
-      m_sample(new SampleBox(7, this)) {
+      m_sample(makeSample(7)) {
     m_style->setObjectName(QStringLiteral("cmbStyle"));
     for (const QStringView name : listStyleNames)
         m_style->addItem(name.toString());
@@ -124,7 +146,14 @@ QString dlgNumberStyle::sampleText() const {
 void dlgNumberStyle::refreshSample() {
     const NumberListSettings now = settings();
     m_sample->setSample(
-        m_engine.number(sampleText(), now.start, now.style, now.followChar, now.tab, now.spaces));
+        engine().number(sampleText(), now.start, now.style, now.followChar, now.tab, now.spaces));
+}
+
+} // namespace
+
+SettingsDialogPtr<NumberListSettings> makeToolDialog(const NumberListSettings &settings,
+                                                     const ToolDialogContext &context) {
+    return std::make_unique<dlgNumberStyle>(settings, context);
 }
 
 } // namespace tolvo

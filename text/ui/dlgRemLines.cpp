@@ -1,13 +1,29 @@
 // SPDX-License-Identifier: MIT
-#include "text/ui/dlgRemLines.h"
+#include "text/ui/tool_dialogs.h"
 
 #include <QCheckBox>
 #include <QVBoxLayout>
 
 namespace tolvo {
 
-dlgRemLines::dlgRemLines(const RemoveLinesSettings &settings, QWidget *parent)
-    : QDialog(parent), m_single(new QCheckBox(tr("Remove single blank lines"), this)),
+namespace {
+
+class dlgRemLines : public SettingsDialog<RemoveLinesSettings> {
+    Q_DECLARE_TR_FUNCTIONS(dlgRemLines)
+
+  public:
+    dlgRemLines(const RemoveLinesSettings &settings, const ToolDialogContext &context);
+
+    [[nodiscard]] RemoveLinesSettings settings() const override;
+    void setSettings(const RemoveLinesSettings &settings) override;
+
+  private:
+    QCheckBox *m_single;
+    QCheckBox *m_multiple;
+};
+
+dlgRemLines::dlgRemLines(const RemoveLinesSettings &settings, const ToolDialogContext &context)
+    : SettingsDialog(context), m_single(new QCheckBox(tr("Remove single blank lines"), this)),
       m_multiple(new QCheckBox(tr("Reduce multiple blank lines to a single one"), this)) {
     m_single->setObjectName(QStringLiteral("chkSingle"));
     m_multiple->setObjectName(QStringLiteral("chkMultiple"));
@@ -33,6 +49,13 @@ RemoveLinesSettings dlgRemLines::settings() const {
 void dlgRemLines::setSettings(const RemoveLinesSettings &settings) {
     m_single->setChecked(settings.single);
     m_multiple->setChecked(settings.multiple);
+}
+
+} // namespace
+
+SettingsDialogPtr<RemoveLinesSettings> makeToolDialog(const RemoveLinesSettings &settings,
+                                                      const ToolDialogContext &context) {
+    return std::make_unique<dlgRemLines>(settings, context);
 }
 
 } // namespace tolvo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/ui/dlgWordWrap.h"
+#include "text/ui/tool_dialogs.h"
 
 #include "base/strings.h"
 #include "platform/message_box.h"
@@ -12,8 +12,28 @@
 
 namespace tolvo {
 
-dlgWordWrap::dlgWordWrap(MessageBoxes &boxes, const WordWrapSettings &settings, QWidget *parent)
-    : QDialog(parent), m_boxes(boxes),
+namespace {
+
+class dlgWordWrap : public SettingsDialog<WordWrapSettings> {
+    Q_DECLARE_TR_FUNCTIONS(dlgWordWrap)
+
+  public:
+    dlgWordWrap(const WordWrapSettings &settings, const ToolDialogContext &context);
+
+    [[nodiscard]] WordWrapSettings settings() const override;
+    void setSettings(const WordWrapSettings &settings) override;
+    /// Stays open, with a message, for a page width out of its limits.
+    void accept() override;
+
+  private:
+    NumberBox *m_width;
+    QCheckBox *m_justify;
+    QCheckBox *m_hanging;
+    Options m_tab;
+};
+
+dlgWordWrap::dlgWordWrap(const WordWrapSettings &settings, const ToolDialogContext &context)
+    : SettingsDialog(context),
       m_width(new NumberBox(QStringLiteral("txtWidth"), tr("Page width"),
                             {WordWrapSettings::narrowest, WordWrapSettings::widest, true, true}, this)),
       m_justify(new QCheckBox(tr("&Justify (no ragged right margin)"), this)),
@@ -61,14 +81,21 @@ void dlgWordWrap::setSettings(const WordWrapSettings &settings) {
 void dlgWordWrap::accept() {
     const int width = m_width->value();
     if (width >= WordWrapSettings::narrowest && width <= WordWrapSettings::widest) {
-        QDialog::accept();
+        ToolDialog::accept();
         return;
     }
-    m_boxes.show({FillTemplate(tr("Page width must lie between %0 and %1 inclusive"),
+    boxes().show({FillTemplate(tr("Page width must lie between %0 and %1 inclusive"),
                                {QString::number(WordWrapSettings::narrowest),
                                 QString::number(WordWrapSettings::widest)}),
                   BoxIcon::Information});
     m_width->begin();
+}
+
+} // namespace
+
+SettingsDialogPtr<WordWrapSettings> makeToolDialog(const WordWrapSettings &settings,
+                                                   const ToolDialogContext &context) {
+    return std::make_unique<dlgWordWrap>(settings, context);
 }
 
 } // namespace tolvo

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Each dialog as a user meets it: what is typed and pressed, what is shown, what comes back.
 #include "tests/support/boxes.h"
+#include "tests/support/other_settings.h"
 #include "tests/text/engine.h"
 #include "tests/ui/user.h"
-#include "text/ui/dlgBullet.h"
-#include "text/ui/dlgIndent.h"
-#include "text/ui/dlgNumLines.h"
-#include "text/ui/dlgNumberStyle.h"
-#include "text/ui/dlgRemLines.h"
-#include "text/ui/dlgWordWrap.h"
 #include "text/ui/frmStats.h"
+#include "text/ui/tool_dialogs.h"
 
 #include <QComboBox>
 #include <QPlainTextEdit>
@@ -49,12 +45,16 @@ class User {
 
 class Dialogs : public Engine {
   protected:
+    template <class Settings>
+    SettingsDialogPtr<Settings> made(const Settings &settings) {
+        return makeToolDialog(settings, {engine, boxes});
+    }
     RecordingBoxes boxes;
 };
 
 TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
-    dlgNumberStyle dialog(engine, {});
-    User user(dialog);
+    const auto dialog = made(NumberListSettings{});
+    User user(*dialog);
     user.types("txtStart", u"1a2"_s);
     EXPECT_EQ(user.sees("txtStart"), u"12");
     user.pastes("txtStart", u" 3x4-"_s);
@@ -73,13 +73,13 @@ TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
     EXPECT_EQ(user.sees("txtSpaces"), u"11");
     EXPECT_TRUE(user.chosen("optTab_1"));
     user.clicks("OKButton");
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(dialog.settings(), (NumberListSettings{0, 1, false, 0, false, 11}));
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->settings(), (NumberListSettings{0, 1, false, 0, false, 11}));
 }
 
 TEST_F(Dialogs, numberStyleShowsWhatTheToolWillDo) {
-    dlgNumberStyle dialog(engine, {0, 9, false, 1, false, 4});
-    User user(dialog);
+    const auto dialog = made(NumberListSettings{0, 9, false, 1, false, 4});
+    User user(*dialog);
     EXPECT_EQ(user.sample(),
               u"9.  First list item|10. Second list item|11. Third list item|12. Fourth list item");
     user.types("txtSpaces", u"2"_s);
@@ -98,23 +98,23 @@ TEST_F(Dialogs, numberStyleShowsWhatTheToolWillDo) {
 }
 
 TEST_F(Dialogs, bulletTakesAnyText) {
-    dlgBullet dialog(engine, {});
-    User user(dialog);
+    const auto dialog = made(BulletSettings{});
+    User user(*dialog);
     auto &bullet = user.control<QComboBox>("cmbBulletChar");
     EXPECT_EQ(bullet.count(), 4);
-    QTest::keyClicks(dialog.focusWidget(), u"=>"_s);
+    QTest::keyClicks(dialog->focusWidget(), u"=>"_s);
     EXPECT_TRUE(user.sample().startsWith(u"=>\tFirst list item|")) << "what it showed is typed over";
     bullet.setCurrentIndex(2);
     user.presses(Qt::Key_S, Qt::AltModifier);
     EXPECT_EQ(user.sample(), u"*  First list item|*  Second list item|*  Third list item");
     user.presses(Qt::Key_Return);
-    EXPECT_EQ(dialog.settings(), (BulletSettings{u"*"_s, false, 2}));
+    EXPECT_EQ(dialog->settings(), (BulletSettings{u"*"_s, false, 2}));
 }
 
 TEST_F(Dialogs, indentRemembersItsTexts) {
     const QStringList texts = {u"# "_s, u"> "_s};
-    dlgIndent dialog({IndentSettings::WithTab, 4, QString(), texts});
-    User user(dialog);
+    const auto dialog = made(IndentSettings{IndentSettings::WithTab, 4, QString(), texts});
+    User user(*dialog);
     auto &text = user.control<QComboBox>("cmbIndentText");
     QTest::keyClicks(text.lineEdit(), u">"_s);
     EXPECT_TRUE(user.chosen("optTab_2"));
@@ -122,30 +122,29 @@ TEST_F(Dialogs, indentRemembersItsTexts) {
     EXPECT_TRUE(user.chosen("optTab_1"));
     user.clicks("optTab_2");
     user.clicks("OKButton");
-    EXPECT_EQ(dialog.settings().choice, IndentSettings::WithText);
-    EXPECT_EQ(dialog.settings().text, u">");
-    EXPECT_EQ(dialog.settings().recentTexts, QStringList({u">"_s, u"# "_s}));
+    EXPECT_EQ(dialog->settings().choice, IndentSettings::WithText);
+    EXPECT_EQ(dialog->settings().text, u">");
+    EXPECT_EQ(dialog->settings().recentTexts, QStringList({u">"_s, u"# "_s}));
 
     QStringList many;
     for (int i = 0; i < IndentSettings::mostRecentTexts; ++i)
         many.append(QString::number(i));
     text.lineEdit()->selectAll();
-    user.clicks("optTab_2");
     user.control<QRadioButton>("optTab_2").setFocus();
     user.presses(Qt::Key_Tab);
-    QTest::keyClicks(dialog.focusWidget(), u"-"_s);
+    QTest::keyClicks(dialog->focusWidget(), u"-"_s);
     EXPECT_EQ(text.currentText(), u"-") << "the text comes after its option";
 
-    dlgIndent full({IndentSettings::WithText, 4, u"new"_s, many});
-    User begin(full);
-    EXPECT_EQ(full.focusWidget()->objectName(), u"optTab_2"_s);
+    const auto full = made(IndentSettings{IndentSettings::WithText, 4, u"new"_s, many});
+    User begin(*full);
+    EXPECT_EQ(full->focusWidget()->objectName(), u"optTab_2"_s);
     begin.presses(Qt::Key_Return);
-    EXPECT_EQ(full.settings().recentTexts, QStringList(u"new"_s) + many.first(many.size() - 1));
+    EXPECT_EQ(full->settings().recentTexts, QStringList(u"new"_s) + many.first(many.size() - 1));
 }
 
 TEST_F(Dialogs, lineNumberingShowsItsRange) {
-    dlgNumLines dialog(engine, {});
-    User user(dialog);
+    const auto dialog = made(LineNumberSettings{});
+    User user(*dialog);
     EXPECT_TRUE(user.sample().startsWith(u"1 Lorem ipsum"));
     EXPECT_TRUE(user.sample().contains(u"||2 Tincidunt ut"));
     user.clicks("chkIgnoreBlanks");
@@ -162,17 +161,17 @@ TEST_F(Dialogs, lineNumberingShowsItsRange) {
     user.types("txtEvery", u"2"_s);
     EXPECT_TRUE(user.sample().startsWith(u"  Lorem ipsum"));
     user.presses(Qt::Key_Return);
-    EXPECT_EQ(dialog.settings(), (LineNumberSettings{9, 1, 2, true, false, false, true}));
+    EXPECT_EQ(dialog->settings(), (LineNumberSettings{9, 1, 2, true, false, false, true}));
 }
 
 TEST_F(Dialogs, numbersAreShownWholeAndAgreeWithTheSample) {
-    dlgNumLines dialog(engine, {-2147483647, 1, 1, true, true, false, false});
-    User user(dialog);
+    const auto dialog = made(LineNumberSettings{-2147483647, 1, 1, true, true, false, false});
+    User user(*dialog);
     auto &start = user.control<QLineEdit>("txtStart");
     EXPECT_EQ(start.text(), u"-2147483647");
     EXPECT_GT(start.width(), start.fontMetrics().horizontalAdvance(start.text()));
-    EXPECT_EQ(dialog.settings().start, -2147483647) << "nobody has changed it";
-    QTest::keyClicks(dialog.focusWidget(), u"7"_s);
+    EXPECT_EQ(dialog->settings().start, -2147483647) << "nobody has changed it";
+    QTest::keyClicks(dialog->focusWidget(), u"7"_s);
     EXPECT_EQ(user.sees("txtStart"), u"7") << "what it showed is typed over";
     user.types("txtStep", u"99999999999"_s);
     EXPECT_EQ(user.sees("txtStep"), u"2147483647");
@@ -181,13 +180,13 @@ TEST_F(Dialogs, numbersAreShownWholeAndAgreeWithTheSample) {
     const QString sample = user.sample();
     EXPECT_TRUE(sample.startsWith(u"7 Lorem") && sample.contains(u"|8 Tincidunt"));
     user.presses(Qt::Key_Return);
-    EXPECT_EQ(dialog.settings(), (LineNumberSettings{7, 1, 1, true, true, false, false}));
+    EXPECT_EQ(dialog->settings(), (LineNumberSettings{7, 1, 1, true, true, false, false}));
     EXPECT_EQ(user.sample(), sample);
 }
 
 TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
-    dlgWordWrap dialog(boxes, {});
-    User user(dialog);
+    const auto dialog = made(WordWrapSettings{});
+    User user(*dialog);
     user.presses(Qt::Key_H, Qt::AltModifier);
     user.presses(Qt::Key_S, Qt::AltModifier);
     user.presses(Qt::Key_J, Qt::AltModifier);
@@ -195,46 +194,46 @@ TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
     for (const char *width : {"11", "256", "", "99999999999", "-50"}) {
         user.pastes("txtWidth", QString::fromLatin1(width));
         user.clicks("OKButton");
-        EXPECT_TRUE(dialog.isVisible()) << width;
+        EXPECT_TRUE(dialog->isVisible()) << width;
         EXPECT_EQ(takeTexts(boxes), QStringList(refusal)) << width;
     }
-    EXPECT_EQ(dialog.focusWidget(), user.control<QLineEdit>("txtWidth").parentWidget());
+    EXPECT_EQ(dialog->focusWidget(), user.control<QLineEdit>("txtWidth").parentWidget());
     for (const int width : {12, 255}) {
-        dialog.show();
+        dialog->show();
         user.types("txtWidth", QString::number(width));
         user.presses(Qt::Key_Return);
-        EXPECT_FALSE(dialog.isVisible());
-        EXPECT_EQ(dialog.settings(), (WordWrapSettings{width, true, true, false}));
+        EXPECT_FALSE(dialog->isVisible());
+        EXPECT_EQ(dialog->settings(), (WordWrapSettings{width, true, true, false}));
     }
     EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(Dialogs, removeLinesTellsWhetherItWasCancelled) {
-    dlgRemLines dialog({});
-    User user(dialog);
+    const auto dialog = made(RemoveLinesSettings{});
+    User user(*dialog);
     user.clicks("chkSingle");
     user.presses(Qt::Key_Escape);
-    EXPECT_TRUE(dialog.Cancelled());
-    dialog.show();
+    EXPECT_TRUE(dialog->Cancelled());
+    dialog->show();
     user.presses(Qt::Key_Return);
-    EXPECT_FALSE(dialog.Cancelled());
-    EXPECT_EQ(dialog.settings(), (RemoveLinesSettings{true, true}));
+    EXPECT_FALSE(dialog->Cancelled());
+    EXPECT_EQ(dialog->settings(), (RemoveLinesSettings{true, true}));
 }
 
 TEST_F(Dialogs, settingsStringsAreEditedForActions) {
-    const auto edit = [this](auto &dialog, const char *details, const char *button) {
+    const auto edit = [](auto &dialog, const char *details, const char *button) {
         QTimer::singleShot(0, &dialog, [&dialog, button] { User(dialog).clicks(button); });
         QString text = QString::fromLatin1(details);
-        const bool done = getSettings(dialog, text, boxes);
+        const bool done = dialog.getSettings(text);
         EXPECT_EQ(done, QByteArrayView(button) == "OKButton");
         return text;
     };
     const NumberListSettings lastUsed{3, 7, true, 2, true, 9};
-    dlgNumberStyle numbers(engine, lastUsed);
-    EXPECT_EQ(edit(numbers, "Style=1, Spaces=99, Colour=red, Tab=maybe", "OKButton"),
+    const auto numbers = made(lastUsed);
+    EXPECT_EQ(edit(*numbers, "Style=1, Spaces=99, Colour=red, Tab=maybe", "OKButton"),
               u"Style=1, Start=7, Renumber=1, FollowChar=2, Tab=True, Spaces=12");
-    dlgWordWrap wrap(boxes, {});
-    EXPECT_EQ(edit(wrap, "Width=33, Hanging=1, Tab=False", "CancelButton"),
+    const auto wrap = made(WordWrapSettings{});
+    EXPECT_EQ(edit(*wrap, "Width=33, Hanging=1, Tab=False", "CancelButton"),
               u"Width=33, Hanging=1, Tab=False");
 }
 
@@ -255,20 +254,46 @@ TEST_F(Dialogs, textsThatNoActionCanHoldAreRefused) {
             user.clicks("OKButton");
         });
         QString details;
-        EXPECT_TRUE(getSettings(dialog, details, boxes));
+        EXPECT_TRUE(dialog.getSettings(details));
         return details;
     };
-    dlgBullet bullet(engine, {u"a, b"_s, true, 2});
-    EXPECT_EQ(edit(bullet, "cmbBulletChar", nullptr), u"Bullet=a,, Tab=True, Spaces=2");
+    const auto bullet = made(BulletSettings{u"a, b"_s, true, 2});
+    EXPECT_EQ(edit(*bullet, "cmbBulletChar", nullptr), u"Bullet=a,, Tab=True, Spaces=2");
     const IndentSettings lastUsed{IndentSettings::WithText, 4, u", RadioButton=1"_s, {}};
-    dlgIndent typed(lastUsed);
-    EXPECT_EQ(edit(typed, "cmbIndentText", nullptr), u"Spaces=4, Text=a,, RadioButton=2");
-    dlgIndent unused(lastUsed);
-    EXPECT_EQ(edit(unused, "cmbIndentText", "optTab_0"), u"Spaces=4, Text=, RadioButton=0");
-    dlgIndent atOnce(lastUsed); // the tool itself takes any text
-    User(atOnce).presses(Qt::Key_Return);
-    EXPECT_EQ(atOnce.settings().text, lastUsed.text);
+    const auto typed = made(lastUsed);
+    EXPECT_EQ(edit(*typed, "cmbIndentText", nullptr), u"Spaces=4, Text=a,, RadioButton=2");
+    const auto unused = made(lastUsed);
+    EXPECT_EQ(edit(*unused, "cmbIndentText", "optTab_0"), u"Spaces=4, Text=, RadioButton=0");
+    const auto atOnce = made(lastUsed); // the tool itself takes any text
+    User(*atOnce).presses(Qt::Key_Return);
+    EXPECT_EQ(atOnce->settings().text, lastUsed.text);
     EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(Dialogs, showAndGiveBackEveryField) {
+    forEachToolSettings([this](const auto &defaults) {
+        using Settings = std::remove_cvref_t<decltype(defaults)>;
+        const auto other = otherSettings<Settings>();
+        const auto dialog = made(other);
+        SCOPED_TRACE(dialog->objectName().toStdString());
+        EXPECT_EQ(dialog->settings(), other);
+        dialog->setSettings(defaults);
+        EXPECT_EQ(dialog->settings(), defaults);
+
+        const auto clickIn = [](const char *button) {
+            QTimer::singleShot(0, qApp, [button] {
+                click(*qobject_cast<QDialog *>(QApplication::activeModalWidget()), button);
+            });
+        };
+        ToolSettings asked = other;
+        clickIn("CancelButton");
+        EXPECT_FALSE(askInToolDialog(asked, {engine, boxes}));
+        clickIn("OKButton");
+        EXPECT_TRUE(askInToolDialog(asked, {engine, boxes}));
+        EXPECT_EQ(settingsString(asked), settingsString(other));
+        clickIn("OKButton");
+        EXPECT_EQ(editInToolDialog(defaults, settingsString(other), {engine, boxes}), settingsString(other));
+    });
 }
 
 TEST_F(Dialogs, statisticsShowBothColumns) {

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// The dialogs of the tools that have settings: one maker for each settings struct. A struct without a maker
+// doesn't compile.
+#pragma once
+
+#include "text/ui/ToolDialog.h"
+
+namespace tolvo {
+
+// Each maker gives the dialog filled with the settings. Its source is named after the dialog.
+
+/// dlgIndent: what is put before lines or taken off again.
+[[nodiscard]] SettingsDialogPtr<IndentSettings> makeToolDialog(const IndentSettings &settings,
+                                                               const ToolDialogContext &context);
+/// dlgWordWrap: the page width, and how lines fill it.
+[[nodiscard]] SettingsDialogPtr<WordWrapSettings> makeToolDialog(const WordWrapSettings &settings,
+                                                                 const ToolDialogContext &context);
+/// dlgRemLines: which blank lines go.
+[[nodiscard]] SettingsDialogPtr<RemoveLinesSettings> makeToolDialog(const RemoveLinesSettings &settings,
+                                                                    const ToolDialogContext &context);
+/// dlgBullet: which bullet is put before lines, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<BulletSettings> makeToolDialog(const BulletSettings &settings,
+                                                               const ToolDialogContext &context);
+/// dlgNumberStyle: how lines are numbered, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<NumberListSettings> makeToolDialog(const NumberListSettings &settings,
+                                                                   const ToolDialogContext &context);
+/// dlgNumLines: how the lines of a listing are numbered, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<LineNumberSettings> makeToolDialog(const LineNumberSettings &settings,
+                                                                   const ToolDialogContext &context);
+
+/// Shows the dialog of the settings modally. False if the user cancelled; otherwise they are the user's.
+[[nodiscard]] bool askInToolDialog(ToolSettings &settings, const ToolDialogContext &context);
+
+/// Edits the settings string of an Action: what it leaves open is as in `lastUsed`. Nothing if the user
+/// cancelled.
+[[nodiscard]] std::optional<QString> editInToolDialog(const ToolSettings &lastUsed, const QString &details,
+                                                      const ToolDialogContext &context);
+
+} // namespace tolvo
