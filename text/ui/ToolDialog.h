@@ -47,7 +47,8 @@ class ToolDialog : public QDialog {
     [[nodiscard]] MessageBoxes &boxes() const { return m_boxes; }
     /// The sample of the dialog, of so many rows.
     [[nodiscard]] SampleBox *makeSample(int rows);
-    /// The editable list for a text of the user's own.
+    /// The editable list for a text of the user's own. The TAB key goes through the controls in the order of
+    /// their making.
     [[nodiscard]] QComboBox *makeTextList(const QString &name);
     /// Whether the tool uses that text as things stand.
     [[nodiscard]] virtual bool usesText() const { return true; }

@@ -32,15 +32,16 @@ class dlgIndent : public SettingsDialog<IndentSettings> {
   private:
     [[nodiscard]] QStringList recentTexts() const;
 
-    QComboBox *m_text;
     Options m_option;
     NumberBox *m_spaces;
+    QComboBox *m_text;
 };
 
 dlgIndent::dlgIndent(const IndentSettings &settings, const ToolDialogContext &context)
-    : SettingsDialog(context), m_text(makeTextList(QStringLiteral("cmbIndentText"))),
+    : SettingsDialog(context),
       m_option(QStringLiteral("optTab"), {tr("&Tab"), tr("&Spaces"), tr("This te&xt:")}, this),
-      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Spaces"), {0, mostSpaces}, this)) {
+      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Spaces"), {0, mostSpaces}, this)),
+      m_text(makeTextList(QStringLiteral("cmbIndentText"))) {
     m_text->setAccessibleName(tr("Indent text"));
     m_text->setMinimumContentsLength(24);
     m_text->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
