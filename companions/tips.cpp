@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "companions/tips.h"
 
-#include "base/conversions.h"
-#include "base/numbers.h"
-#include "preferences/settings_store.h"
-#include "preferences/settings_table.h"
+#include "preferences/options.h"
 
 namespace tolvo {
 
@@ -121,7 +118,7 @@ std::span<const Tip> tips() {
 }
 
 TipWalk::TipWalk(SettingsStore &store) : m_store(store) {
-    const double last = ValueOf(readSetting(store, u"Advisor", u"LastTip"));
+    const double last = get(store, settingKeys.advisor.lastTip);
     const bool known = last >= 1 && last <= static_cast<double>(tips().size());
     goTo(known ? static_cast<int>(last) : 0);
 }
@@ -129,15 +126,15 @@ TipWalk::TipWalk(SettingsStore &store) : m_store(store) {
 void TipWalk::goTo(int place) {
     const int count = static_cast<int>(tips().size());
     m_place = (place + count) % count;
-    writeSetting(m_store, u"Advisor", u"LastTip", QString::number(m_place + 1));
+    set(m_store, settingKeys.advisor.lastTip, m_place + 1);
 }
 
 bool TipWalk::showAtStartup() const {
-    return ValueOf(readSetting(m_store, u"Preferences", u"Show Tips at Startup")) == 1;
+    return loadOptions(m_store).showTips;
 }
 
 void TipWalk::setShowAtStartup(bool show) {
-    writeSetting(m_store, u"Preferences", u"Show Tips at Startup", flagDigit(show));
+    set(m_store, settingKeys.preferences.showTips, show);
 }
 
 } // namespace tolvo

@@ -1,54 +1,47 @@
 // SPDX-License-Identifier: MIT
 #include "companions/usage_counters.h"
 
-#include "base/application.h"
-#include "base/conversions.h"
-#include "base/numbers.h"
-#include "preferences/settings_store.h"
+#include "preferences/settings_keys.h"
 
 namespace tolvo {
 
 namespace {
 
-const QString usage = QStringLiteral("Usage");
-const QString powerButtonUsage = QStringLiteral("PBUsage");
-const QString startDate = QStringLiteral("StartDate");
-const QString startCount = QStringLiteral("Count");
-
-double countOf(const QString &text) {
-    bool ok = false;
-    const double count = text.toDouble(&ok);
-    return ok && count > 0 ? count : 0;
-}
+constexpr const StatisticsKeys &keys = settingKeys.statistics;
 
 /// The counters of a section by tool.
-QList<std::pair<QString, double>> counters(const SettingsStore &store, const QString &section) {
+QList<std::pair<QString, double>> counters(const SettingsStore &store, const CounterSection &counted) {
     QList<std::pair<QString, double>> list;
-    const auto pairs = store.GetAllSettings(statisticsTree(), section);
-    for (const auto &[key, value] : pairs.value_or(QList<SettingsStore::Pair>())) {
-        if (key != startDate && key != startCount)
-            list.emplaceBack(key, countOf(value));
+    for (const auto &[key, value] : pairsOf(store, counted.section)) {
+        if (key != keys.startDate.name && key != keys.starts.name)
+            list.emplaceBack(key, forms::Count::read(value));
     }
     return list;
 }
 
-QHash<QString, double> counterHash(const SettingsStore &store, const QString &section) {
-    const auto list = counters(store, section);
+QHash<QString, double> counterHash(const SettingsStore &store, const CounterSection &counted) {
+    const auto list = counters(store, counted);
     return QHash<QString, double>(list.begin(), list.end());
 }
 
-void takeOff(SettingsStore &store, const QString &section, const QString &key, double count) {
-    const double left = countOf(store.GetSetting(statisticsTree(), section, key, 0)) - count;
+void takeOff(SettingsStore &store, const Setting<forms::Count> &counter, double count) {
+    const double left = get(store, counter) - count;
     if (left > 0)
-        store.SaveSetting(statisticsTree(), section, key, numberText(left));
+        set(store, counter, left);
     else
-        store.DeleteValue(statisticsTree(), section, key);
+        remove(store, counter);
+}
+
+void takeOff(SettingsStore &store, const CounterSection &counted, const QHash<QString, double> &counts) {
+    for (auto tool = counts.begin(); tool != counts.end(); ++tool)
+        takeOff(store, counted.of(tool.key()), tool.value());
 }
 
 } // namespace
 
 QList<ToolCount> toolCounts(const SettingsStore &store, bool fromPowerButtons) {
-    const QString period = fromPowerButtons ? powerButtonUsage : usage;
+    const CounterSection &period = fromPowerButtons ? keys.powerButtonUses : keys.uses;
+    const CounterSection &total = fromPowerButtons ? keys.totalPowerButtonUses : keys.totalUses;
     QList<ToolCount> tools;
     QHash<QString, qsizetype> places;
     const auto place = [&](const QString &token) -> ToolCount & {
@@ -58,7 +51,7 @@ QList<ToolCount> toolCounts(const SettingsStore &store, bool fromPowerButtons) {
         }
         return tools[places.value(token)];
     };
-    for (const auto &[token, count] : counters(store, QStringLiteral("Tot") + period))
+    for (const auto &[token, count] : counters(store, total))
         place(token).total = count;
     for (const auto &[token, count] : counters(store, period))
         place(token).period = count;
@@ -67,21 +60,19 @@ QList<ToolCount> toolCounts(const SettingsStore &store, bool fromPowerButtons) {
 
 UsagePeriod usagePeriod(const SettingsStore &store) {
     UsagePeriod result;
-    result.since = store.GetSetting(statisticsTree(), usage, startDate, QString());
-    result.starts = countOf(store.GetSetting(statisticsTree(), usage, startCount, 0));
-    result.tools = counterHash(store, usage);
-    result.powerButtonTools = counterHash(store, powerButtonUsage);
+    result.since = textOf(store, keys.startDate);
+    result.starts = get(store, keys.starts);
+    result.tools = counterHash(store, keys.uses);
+    result.powerButtonTools = counterHash(store, keys.powerButtonUses);
     return result;
 }
 
 void beginPeriod(SettingsStore &store, const UsagePeriod &old, const QDateTime &now) {
     SettingsStore::Transaction transaction(store);
-    takeOff(store, usage, startCount, old.starts);
-    for (auto tool = old.tools.begin(); tool != old.tools.end(); ++tool)
-        takeOff(store, usage, tool.key(), tool.value());
-    for (auto tool = old.powerButtonTools.begin(); tool != old.powerButtonTools.end(); ++tool)
-        takeOff(store, powerButtonUsage, tool.key(), tool.value());
-    store.SaveSetting(statisticsTree(), usage, startDate, dateText(now));
+    takeOff(store, keys.starts, old.starts);
+    takeOff(store, keys.uses, old.tools);
+    takeOff(store, keys.powerButtonUses, old.powerButtonTools);
+    set(store, keys.startDate, now);
     transaction.commit();
 }
 

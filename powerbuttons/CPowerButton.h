@@ -3,6 +3,7 @@
 #pragma once
 
 #include "powerbuttons/CAction.h"
+#include "preferences/settings_keys.h"
 
 #include <QList>
 #include <QString>
@@ -15,7 +16,7 @@ namespace tolvo {
 class CPowerButton {
   public:
     /// The name of a button that nobody has defined.
-    [[nodiscard]] static QString undefinedName() { return QStringLiteral("<Enter a name>"); }
+    [[nodiscard]] static QString undefinedName() { return settingKeys.powerButton.name.otherwise(); }
     [[nodiscard]] bool isDefined() const { return Name != undefinedName(); }
 
     QString Name = undefinedName();

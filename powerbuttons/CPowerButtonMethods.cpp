@@ -1,29 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/CPowerButtonMethods.h"
 
-#include "base/application.h"
-#include "base/conversions.h"
-#include "base/numbers.h"
 #include "base/strings.h"
 #include "platform/report_error.h"
-#include "preferences/settings_store.h"
+#include "preferences/settings_keys.h"
 
 namespace tolvo {
 
 namespace {
 
-constexpr double defaultFontSize = 16;
+constexpr const PowerButtonKeys &buttonKeys = settingKeys.powerButton;
+constexpr const ActionKeys &actionKeys = settingKeys.action;
 
 QString className() {
     return QStringLiteral("CPowerButtonMethods");
-}
-
-QString buttonSection(int number) {
-    return QStringLiteral("PowerButtons\\Button %1").arg(number);
-}
-
-QString actionSection(int number, const QString &subsection) {
-    return buttonSection(number) + u'\\' + subsection;
 }
 
 /// Reads one button. What can't be read takes its default and is complained of; nothing is shown here.
@@ -35,8 +25,9 @@ class ButtonReader {
     void read(CPowerButton &button) {
         readProperties(button);
         int position = 0;
-        for (const QString &subsection : m_store.subsections(applicationTitle(), buttonSection(m_number))) {
-            take(actionSection(m_number, subsection));
+        for (const QString &subsection :
+             m_store.subsections(treeName(ButtonSection::tree), ButtonSection::path(m_number))) {
+            take(subsection);
             ToolPtr tool = m_tools.tool(m_token);
             if (!tool) {
                 tool = m_tools.tool(unknownToolToken);
@@ -51,60 +42,53 @@ class ButtonReader {
     int failure = 0;           ///< the number of the first of them
 
   private:
-    /// The value that `text` is converted to, or the default.
+    /// The value that `read` gives, or the one that stands in for a text that can't be converted.
     template <class Value>
-    Value converted(const QString &section, const char *key, const QString &text,
-                    Value (*convert)(const QString &), Value otherwise) {
+    Value converted(const QString &section, QStringView key, Value otherwise, auto read) {
         try {
-            return convert(text);
+            return read();
         } catch (const Failure &bad) {
             if (complaints.isEmpty())
                 failure = bad.number();
-            complaints +=
-                bad.description() + QStringLiteral(" (%2 of %1)").arg(section, QLatin1StringView(key));
+            complaints += bad.description() + QStringLiteral(" (%2 of %1)").arg(section, key);
             return otherwise;
         }
     }
 
+    template <class Form>
+    typename Form::Value value(const Setting<Form, ButtonSection> &key) {
+        return converted(ButtonSection::path(m_number), key.name, key.otherwise(),
+                         [&] { return get(m_store, key, m_number); });
+    }
+
     void readProperties(CPowerButton &button) {
-        const QString section = buttonSection(m_number);
-        const auto value = [&](const char *key, const QString &defaultValue) {
-            return m_store.GetSetting(applicationTitle(), section, QLatin1StringView(key), defaultValue);
-        };
-        const auto number = [&](const char *key, double otherwise) {
-            return converted(section, key, value(key, numberText(otherwise)), toNumber, otherwise);
-        };
-        const auto flag = [&](const char *key) {
-            return converted(section, key, value(key, flagWord(false)), toFlag, false);
-        };
-        button.Name = value("Name", CPowerButton::undefinedName());
-        button.IconFontName = value("FontName", {});
-        button.IconFontSize = number("FontSize", defaultFontSize);
+        button.Name = value(buttonKeys.name);
+        button.IconFontName = value(buttonKeys.fontName);
+        button.IconFontSize = value(buttonKeys.fontSize);
         if (button.IconFontSize == 0)
-            button.IconFontSize = defaultFontSize;
-        button.IconFontBold = flag("Bold");
-        button.IconFontItalic = flag("Italic");
-        button.IconText = value("Text", {});
-        button.IconX = number("X", 0);
-        button.IconY = number("Y", 0);
+            button.IconFontSize = buttonKeys.fontSize.otherwise();
+        button.IconFontBold = value(buttonKeys.bold);
+        button.IconFontItalic = value(buttonKeys.italic);
+        button.IconText = value(buttonKeys.text);
+        button.IconX = value(buttonKeys.x);
+        button.IconY = value(buttonKeys.y);
     }
 
     /// Reads an Action's keys. One that isn't there keeps the value of the Action before: stores with such
     /// gaps have always been read so.
-    void take(const QString &section) {
-        const auto pairs = m_store.GetAllSettings(applicationTitle(), section);
-        if (!pairs)
-            return;
-        const auto is = [](const QString &key, QLatin1StringView name) {
-            return key.compare(name, Qt::CaseInsensitive) == 0;
+    void take(const QString &subsection) {
+        const QString section = ActionSection::path(m_number, subsection);
+        const auto is = [](const QString &key, const auto &setting) {
+            return key.compare(setting.name, Qt::CaseInsensitive) == 0;
         };
-        for (const auto &[key, value] : *pairs) {
-            if (is(key, QLatin1StringView("Token")))
+        for (const auto &[key, value] : pairsOf(m_store, {section, ActionSection::tree})) {
+            if (is(key, actionKeys.token))
                 m_token = value;
-            else if (is(key, QLatin1StringView("Details")))
+            else if (is(key, actionKeys.details))
                 m_details = value;
-            else if (is(key, QLatin1StringView("DlgOption")))
-                m_dlgOption = converted(section, "DlgOption", value, toInteger, static_cast<int>(Prompt));
+            else if (is(key, actionKeys.dlgOption))
+                m_dlgOption = converted(section, actionKeys.dlgOption.name, int{Prompt},
+                                        [&text = value] { return forms::Integer::read(text); });
         }
     }
 
@@ -127,24 +111,23 @@ void CPowerButtonMethods::SavePBSettings(const CPowerButton &button, int number)
         SettingsStore::Transaction transaction(m_store);
         if (!DeletePBSetting(number))
             return;
-        const auto save = [&](const QString &section, const char *key, const QString &value) {
-            m_store.SaveSetting(applicationTitle(), section, QString::fromLatin1(key), value);
+        const auto save = [&](const auto &key, const auto &value, const auto &...where) {
+            set(m_store, key, value, number, where...);
         };
-        const QString section = buttonSection(number);
-        save(section, "Name", button.Name);
-        save(section, "FontName", button.IconFontName);
-        save(section, "FontSize", numberText(button.IconFontSize));
-        save(section, "Bold", flagWord(button.IconFontBold));
-        save(section, "Italic", flagWord(button.IconFontItalic));
-        save(section, "Text", button.IconText);
-        save(section, "X", numberText(button.IconX));
-        save(section, "Y", numberText(button.IconY));
+        save(buttonKeys.name, button.Name);
+        save(buttonKeys.fontName, button.IconFontName);
+        save(buttonKeys.fontSize, button.IconFontSize);
+        save(buttonKeys.bold, button.IconFontBold);
+        save(buttonKeys.italic, button.IconFontItalic);
+        save(buttonKeys.text, button.IconText);
+        save(buttonKeys.x, button.IconX);
+        save(buttonKeys.y, button.IconY);
         for (int position = 1; position <= button.Count(); ++position) {
             const auto action = button.Item(position);
-            const QString place = actionSection(number, QString::number(position));
-            save(place, "Token", action->Tool() ? action->Tool()->Token() : QString());
-            save(place, "Details", action->Details());
-            save(place, "DlgOption", QString::number(action->DlgOption()));
+            const QString place = QString::number(position);
+            save(actionKeys.token, action->Tool() ? action->Tool()->Token() : QString(), place);
+            save(actionKeys.details, action->Details(), place);
+            save(actionKeys.dlgOption, action->DlgOption(), place);
         }
         transaction.commit();
     });
@@ -178,8 +161,9 @@ std::shared_ptr<CPowerButton> CPowerButtonMethods::changedInStore(const CPowerBu
 }
 
 bool CPowerButtonMethods::DeletePBSetting(int number) {
-    return reportFailures(m_boxes, className(), QStringLiteral("DeletePBSetting"),
-                          [&] { m_store.DeleteSetting(applicationTitle(), buttonSection(number)); });
+    return reportFailures(m_boxes, className(), QStringLiteral("DeletePBSetting"), [&] {
+        m_store.DeleteSetting(treeName(ButtonSection::tree), ButtonSection::path(number));
+    });
 }
 
 } // namespace tolvo

@@ -1,60 +1,85 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/options.h"
 
-#include "base/application.h"
 #include "base/conversions.h"
 #include "base/numbers.h"
 #include "base/strings.h"
-#include "preferences/settings_store.h"
-#include "preferences/settings_table.h"
+
+#include <tuple>
 
 namespace tolvo {
 
 namespace {
 
-constexpr QStringView preferences = u"Preferences";
-const QString userExtensions = QStringLiteral("Preferences\\UserFileExtensions");
+constexpr const PreferenceKeys &preferences = settingKeys.preferences;
 
-void writeFont(SettingsStore &store, const QString &prefix, const Font &font) {
-    writeSetting(store, preferences, prefix + QStringLiteral("_FontName"), font.name);
-    writeSetting(store, preferences, prefix + QStringLiteral("_FontBold"), flagWord(font.bold));
-    writeSetting(store, preferences, prefix + QStringLiteral("_FontItalic"), flagWord(font.italic));
-    writeSetting(store, preferences, prefix + QStringLiteral("_FontSize"), numberText(font.size));
+template <class Options, class Value, class Key>
+struct Field {
+    Value Options::*member;
+    Key key;
+};
+
+// In the order in which the store gets them: the fonts first.
+constexpr std::tuple dialogFields{Field{&ProgramOptions::useProportional, preferences.useProportional},
+                                  Field{&ProgramOptions::showTips, preferences.showTips},
+                                  Field{&ProgramOptions::checkUpdates, preferences.checkUpdates},
+                                  Field{&ProgramOptions::allowStats, preferences.allowStats},
+                                  Field{&ProgramOptions::sounds, preferences.sounds},
+                                  Field{&ProgramOptions::provider, settingKeys.spelling.provider}};
+constexpr std::tuple wordFields{Field{&WordOptions::extensions, preferences.userExtensions},
+                                Field{&WordOptions::fullDomainList, preferences.fullDomainList}};
+
+void forEach(const auto &fields, auto visit) {
+    std::apply([&visit](const auto &...field) { (visit(field), ...); }, fields);
+}
+
+Font loadFont(const SettingsStore &store, const FontKeys &keys, const Font &fallback) {
+    const double size = GetPreference(store, keys.size, fallback.size);
+    return {.name = GetPreference(store, keys.name, fallback.name),
+            .size = size > 0 ? size : fallback.size,
+            .bold = GetPreference(store, keys.bold, fallback.bold),
+            .italic = GetPreference(store, keys.italic, fallback.italic)};
+}
+
+void saveFont(SettingsStore &store, const FontKeys &keys, const Font &font) {
+    set(store, keys.name, font.name);
+    set(store, keys.bold, font.bold);
+    set(store, keys.italic, font.italic);
+    set(store, keys.size, font.size);
+}
+
+Font defaultFont(const FontKeys &keys) {
+    return {.name = keys.name.otherwise(),
+            .size = keys.size.otherwise(),
+            .bold = keys.bold.otherwise(),
+            .italic = keys.italic.otherwise()};
 }
 
 } // namespace
 
-ProgramOptions loadOptions(const SettingsStore &store, const std::array<Font, 2> &fonts, bool useProportional,
-                           bool wordWrap, const std::function<bool(const QString &)> &isSystemExtension) {
+WordOptions loadWordOptions(const SettingsStore &store) {
+    WordOptions options;
+    forEach(wordFields, [&](const auto &field) { options.*field.member = get(store, field.key); });
+    return options;
+}
+
+ProgramOptions loadOptions(const SettingsStore &store, const Font &ownFont) {
     ProgramOptions options;
-    options.fonts = fonts;
-    options.useProportional = useProportional;
-    options.wordWrap = wordWrap;
-    for (const QString &extension : readList(store, userExtensions)) {
-        if (!isSystemExtension(extension))
-            options.extensions += extension;
-    }
-    options.fullDomainList = readFlag(store, preferences, u"TLD_Full");
-    options.showTips = readFlag(store, preferences, u"Show Tips at Startup");
-    options.sounds = readFlag(store, preferences, u"Sounds");
-    options.checkUpdates = readFlag(store, preferences, u"CheckUpdates");
-    options.allowStats = readFlag(store, preferences, u"AllowStats");
-    options.provider = toIntegerOr(readSetting(store, u"Spelling", u"Provider"), options.provider);
+    static_cast<WordOptions &>(options) = loadWordOptions(store);
+    options.fonts = {loadFont(store, preferences.proportional, ownFont),
+                     loadFont(store, preferences.fixed, defaultFont(preferences.fixed))};
+    options.wordWrap = get(store, preferences.wordWrap);
+    forEach(dialogFields, [&](const auto &field) { options.*field.member = getOrDefault(store, field.key); });
     return options;
 }
 
 void saveOptions(SettingsStore &store, const ProgramOptions &options) {
     SettingsStore::Transaction all(store);
-    writeFont(store, QStringLiteral("Prop"), options.fonts[0]);
-    writeFont(store, QStringLiteral("Fixed"), options.fonts[1]);
-    writeSetting(store, preferences, u"FontUseProp", flagDigit(options.useProportional));
-    writeSetting(store, preferences, u"Show Tips at Startup", flagDigit(options.showTips));
-    writeSetting(store, preferences, u"CheckUpdates", flagDigit(options.checkUpdates));
-    writeSetting(store, preferences, u"AllowStats", flagDigit(options.allowStats));
-    writeSetting(store, preferences, u"Sounds", flagDigit(options.sounds));
-    writeSetting(store, u"Spelling", u"Provider", QString::number(options.provider));
-    writeList(store, userExtensions, options.extensions);
-    writeSetting(store, preferences, u"TLD_Full", flagWord(options.fullDomainList));
+    saveFont(store, preferences.proportional, options.fonts[0]);
+    saveFont(store, preferences.fixed, options.fonts[1]);
+    const auto save = [&](const auto &field) { set(store, field.key, options.*field.member); };
+    forEach(dialogFields, save);
+    forEach(wordFields, save);
     all.commit();
 }
 

@@ -1,40 +1,45 @@
 // SPDX-License-Identifier: MIT
-// The program-wide settings as one value: what the ProgramOptions dialog takes and gives.
+// The program-wide settings as one value: what the Options dialog takes and gives. Nothing else reads their
+// section of the store.
 #pragma once
 
 #include "platform/font.h"
+#include "preferences/settings_keys.h"
 
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <array>
-#include <functional>
 
 namespace tolvo {
 
-class SettingsStore;
-
-struct ProgramOptions {
-    std::array<Font, 2> fonts; ///< 0 proportional, 1 fixed
-    bool useProportional = true;
-    bool wordWrap = false;
+/// What the text engine takes for a file extension or an Internet address.
+struct WordOptions {
     QStringList extensions; ///< the user's file extensions, without stops
-    bool fullDomainList = false;
-    bool showTips = true;
-    bool sounds = true;
-    bool checkUpdates = true;
-    bool allowStats = true;
-    int provider = 1; ///< spelling provider, 0 to 3; another number ticks no option and is kept
+    bool fullDomainList = settingKeys.preferences.fullDomainList.otherwise();
+
+    bool operator==(const WordOptions &) const = default;
+};
+
+struct ProgramOptions : WordOptions {
+    std::array<Font, 2> fonts; ///< 0 proportional, 1 fixed
+    bool useProportional = settingKeys.preferences.useProportional.otherwise();
+    bool wordWrap = settingKeys.preferences.wordWrap.otherwise();
+    bool showTips = settingKeys.preferences.showTips.otherwise();
+    bool sounds = settingKeys.preferences.sounds.otherwise();
+    bool checkUpdates = settingKeys.preferences.checkUpdates.otherwise();
+    bool allowStats = settingKeys.preferences.allowStats.otherwise();
+    /// Spelling provider, 0 to 3; another number ticks no option and is kept.
+    int provider = settingKeys.spelling.provider.otherwise();
 
     bool operator==(const ProgramOptions &) const = default;
 };
 
-/// Reads what the store keeps; fonts and word wrap are the session's. Extensions that the system knows by now
-/// are left out. A stored check that is no number is not ticked, a provider that is none is the default: what
-/// can't be read must not keep the user from the dialog that would put it right.
-[[nodiscard]] ProgramOptions loadOptions(const SettingsStore &store, const std::array<Font, 2> &fonts,
-                                         bool useProportional, bool wordWrap,
-                                         const std::function<bool(const QString &)> &isSystemExtension);
+/// Reads what the store keeps. `ownFont` is the text area's own font: it stands in for what the store doesn't
+/// say of the proportional one. A provider that can't be read is the default: what can't be read must not
+/// keep the user from the dialog that would put it right.
+[[nodiscard]] ProgramOptions loadOptions(const SettingsStore &store, const Font &ownFont = {});
+[[nodiscard]] WordOptions loadWordOptions(const SettingsStore &store);
 
 /// Writes everything but word wrap, whose toggle writes itself.
 void saveOptions(SettingsStore &store, const ProgramOptions &options);

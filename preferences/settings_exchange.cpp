@@ -6,7 +6,7 @@
 #include "base/numbers.h"
 #include "preferences/reg_file.h"
 #include "preferences/reg_text.h"
-#include "preferences/settings_store.h"
+#include "preferences/settings_keys.h"
 
 #include <QDir>
 #include <QFile>
@@ -103,7 +103,7 @@ RegKey exportedKey(const SettingsStore &store, const QString &section) {
 
 QByteArray exportedSettings(const SettingsStore &store, ExportScope scope) {
     QList<RegKey> keys;
-    QStringList open{scope == ExportScope::PowerButtons ? QStringLiteral("PowerButtons") : QString()};
+    QStringList open{scope == ExportScope::PowerButtons ? ButtonSection::parent.toString() : QString()};
     while (!open.isEmpty()) { // a section, then what lies below it, in the order of the store
         const QString section = open.takeLast();
         keys += exportedKey(store, section);

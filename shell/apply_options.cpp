@@ -6,10 +6,11 @@
 namespace tolvo {
 
 ProgramOptions presentOptions(const frmMain &session) {
-    const FileExtensions &extensions = session.services().extensions;
-    return loadOptions(
-        session.services().store, session.aFonts, session.bFontUseProp, session.bWordWrap,
-        [&extensions](const QString &extension) { return extensions.isSystemExtension(extension); });
+    ProgramOptions options = loadOptions(session.services().store);
+    options.fonts = session.aFonts;
+    options.useProportional = session.bFontUseProp;
+    options.wordWrap = session.bWordWrap;
+    return options;
 }
 
 void applyOptions(frmMain &session, const ProgramOptions &options) {
@@ -20,7 +21,7 @@ void applyOptions(frmMain &session, const ProgramOptions &options) {
         session.imgWordwrap_Click();
     saveOptions(session.services().store, options);
     session.bSounds = options.sounds;
-    session.readTextPreferences();
+    session.useWordOptions(options);
 }
 
 } // namespace tolvo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the ProgramOptions change in a session that runs.
+// What the Options change in a session that runs.
 #pragma once
 
 #include "preferences/options.h"
@@ -8,15 +8,11 @@ namespace tolvo {
 
 class frmMain;
 
-/// The ProgramOptions as the session and the store have them now.
+/// The options as the session and the store have them now.
 [[nodiscard]] ProgramOptions presentOptions(const frmMain &session);
 
 /// Apply: fonts and word wrap of the text, then the store, sounds, the user's file extensions, the list of
 /// top level domains. Word wrap leaves bDirty alone.
 void applyOptions(frmMain &session, const ProgramOptions &options);
-
-/// The part of the ProgramOptions that the text engine reads: user's extensions and top level domains, from
-/// the store.
-void loadWordOptions(frmMain &session);
 
 } // namespace tolvo

@@ -34,6 +34,7 @@ namespace tolvo {
 
 class cToolbox;
 struct ToolContext;
+struct WordOptions;
 
 /// What a session is built on. All outlive it.
 struct SessionServices {
@@ -106,8 +107,8 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
 
     /// Chooses the text box in use without moving any text, as the start does.
     void useTextBox(bool wrapped);
-    /// Takes over what the Options store for the text tools: top level domains and file extensions.
-    void readTextPreferences();
+    /// Takes over what the text tools need of the Options: top level domains and file extensions.
+    void useWordOptions(const WordOptions &options);
     /// Takes the clipboard's text into the text box, with its message if it is too long; `bDirty` and undo
     /// are left to the caller. If the clipboard doesn't answer, the text stays and the status line says so.
     void takeClipboard();

@@ -22,6 +22,8 @@
 
 namespace tolvo {
 
+struct ProgramOptions;
+
 /// What a run needs of its platform. All outlive it.
 struct RunServices {
     SettingsStore &store;
@@ -87,15 +89,13 @@ class modMain {
     void createSession();
     void loadPowerButtons();
     void showTips();
-    void readFonts();
+    void useOptions(const ProgramOptions &options);
     void countStart();
     /// What is left of the start once the main window is shown.
     void windowShown();
     void showTroubleOfStore();
     void finish();
     void sendStatistics();
-    [[nodiscard]] QString preference(const char16_t *key) const;
-    [[nodiscard]] bool preferenceIsOne(const char16_t *key) const;
 
     RunServices m_services;
     SessionWindowFactory m_makeWindow;

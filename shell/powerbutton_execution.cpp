@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Running a PowerButton: its Actions one after another, each on the text as the one before left it.
-#include "base/application.h"
 #include "base/conversions.h"
 #include "base/strings.h"
 #include "powerbuttons/CPowerButtonMethods.h"
@@ -123,8 +122,9 @@ void frmMain::runAction(const CAction &action) {
     const ToolPtr &tool = action.Tool();
     if (!tool)
         return;
-    m_services.store.increment(statisticsTree(), QStringLiteral("PBUsage"), tool->Token());
-    m_services.store.increment(statisticsTree(), QStringLiteral("TotPBUsage"), tool->Token());
+    const QString token = tool->Token();
+    increment(m_services.store, settingKeys.statistics.powerButtonUses.of(token));
+    increment(m_services.store, settingKeys.statistics.totalPowerButtonUses.of(token));
     if (!tool->gotDialog()) {
         runTool(tool->Token());
         return;

@@ -3,12 +3,10 @@
 // panel is filled, the fonts must be read before anything shows them, and the bottom state of undo is the
 // clipboard's text.
 #include "base/application.h"
-#include "base/conversions.h"
-#include "base/numbers.h"
 #include "base/paths.h"
 #include "platform/check_for_updates.h"
 #include "platform/report_error.h"
-#include "preferences/settings_table.h"
+#include "preferences/options.h"
 #include "shell/modMain.h"
 
 namespace tolvo {
@@ -39,13 +37,14 @@ int modMain::Main() {
 void modMain::start() {
     prepareSpelling(m_services.spelling);
     createSession();
+    const ProgramOptions options = loadOptions(m_services.store, m_session->currentFont());
+    m_session->useTextBox(options.wordWrap);
     oTools = Catalogue::read(sAppPath(m_services.programFolder) + QStringLiteral("Tools.dat"));
     oToolbox.init(oTools.panelItems());
     loadPowerButtons();
-    showTips();
-    readFonts();
-    m_session->readTextPreferences();
-    m_session->bSounds = preferenceIsOne(u"Sounds");
+    if (options.showTips)
+        showTips();
+    useOptions(options);
     countStart();
     m_clipboardLater = m_window->takesClipboardLater();
     if (!m_clipboardLater)
@@ -63,7 +62,6 @@ void modMain::windowShown() {
 }
 
 void modMain::createSession() {
-    const bool wrapped = preferenceIsOne(u"Wordwrap");
     m_window = m_makeWindow();
     m_session =
         std::make_unique<frmMain>(SessionServices{.store = m_services.store,
@@ -86,7 +84,6 @@ void modMain::createSession() {
             oSound.PlayWav(sAppPath(m_services.programFolder) + QStringLiteral("scrbar.wav"),
                            cSound::playOnce);
     });
-    m_session->useTextBox(wrapped);
 }
 
 void modMain::loadPowerButtons() {
@@ -98,41 +95,25 @@ void modMain::loadPowerButtons() {
 }
 
 void modMain::showTips() {
-    if (preferenceIsOne(u"Show Tips at Startup"))
-        // It stands beside the window and over nothing: what the start has to say comes first.
-        m_services.processes.start(
-            {.program = sAppPath(m_services.programFolder) + QStringLiteral("Advisor.exe"),
-             .mode = WindowMode::NormalWithoutFocus,
-             .heldBack = true});
+    // It stands beside the window and over nothing: what the start has to say comes first.
+    m_services.processes.start({.program = sAppPath(m_services.programFolder) + QStringLiteral("Advisor.exe"),
+                                .mode = WindowMode::NormalWithoutFocus,
+                                .heldBack = true});
 }
 
-void modMain::readFonts() {
-    const auto read = [this](const QString &prefix, const Font &fallback) {
-        const auto value = [&](const char *key, const QString &otherwise) {
-            return GetPreference(m_services.store, prefix + QLatin1StringView(key), otherwise);
-        };
-        // A stored text that is no flag or number turns the property off: no font is worth a failed start.
-        const auto flag = [&](const char *key, bool otherwise) {
-            return value(key, flagWord(otherwise)).compare(flagWord(true), Qt::CaseInsensitive) == 0;
-        };
-        const double size = ValueOf(value("FontSize", numberText(fallback.size)));
-        return Font{.name = value("FontName", fallback.name),
-                    .size = size > 0 ? size : fallback.size,
-                    .bold = flag("FontBold", fallback.bold),
-                    .italic = flag("FontItalic", fallback.italic)};
-    };
-    m_session->aFonts = {read(QStringLiteral("Prop_"), m_session->currentFont()),
-                         read(QStringLiteral("Fixed_"), {QStringLiteral("Courier New"), 10})};
-    m_session->bFontUseProp = preferenceIsOne(u"FontUseProp");
+void modMain::useOptions(const ProgramOptions &options) {
+    m_session->aFonts = options.fonts;
+    m_session->bFontUseProp = options.useProportional;
     m_session->applyFonts();
+    m_session->useWordOptions(options);
+    m_session->bSounds = options.sounds;
 }
 
 void modMain::countStart() {
-    const QString usage = QStringLiteral("Usage");
-    const QString startDate = QStringLiteral("StartDate");
-    if (m_services.store.GetSetting(statisticsTree(), usage, startDate).isEmpty())
-        m_services.store.SaveSetting(statisticsTree(), usage, startDate, dateText(m_services.clock.now()));
-    m_services.store.increment(statisticsTree(), usage, QStringLiteral("Count"));
+    const StatisticsKeys &statistics = settingKeys.statistics;
+    if (!isSet(m_services.store, statistics.startDate))
+        set(m_services.store, statistics.startDate, m_services.clock.now());
+    increment(m_services.store, statistics.starts);
 }
 
 void modMain::showTroubleOfStore() {
@@ -149,23 +130,14 @@ void modMain::finish() {
 }
 
 void modMain::sendStatistics() {
-    const bool update = preference(u"AllowStats") == QLatin1StringView("1");
+    const bool update = loadOptions(m_services.store).allowStats;
     const bool stats = update; // one preference allows both
     if (!update && !stats)
         return;
-    const QDateTime started = toDate(
-        m_services.store.GetSetting(statisticsTree(), QStringLiteral("Usage"), QStringLiteral("StartDate")));
+    const QDateTime started = get(m_services.store, settingKeys.statistics.startDate);
     if (started.addDays(daysWithoutReport) < m_services.clock.now())
         runCheckForUpdates(m_services.processes, m_services.boxes, m_services.programFolder, update, stats,
                            true);
-}
-
-QString modMain::preference(const char16_t *key) const {
-    return readSetting(m_services.store, u"Preferences", key);
-}
-
-bool modMain::preferenceIsOne(const char16_t *key) const {
-    return ValueOf(preference(key)) == 1;
 }
 
 } // namespace tolvo

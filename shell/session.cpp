@@ -3,11 +3,10 @@
 #include "shell/frmMain.h"
 
 #include "base/application.h"
-#include "base/conversions.h"
 #include "base/numbers.h"
 #include "base/strings.h"
 #include "platform/text_positions.h"
-#include "preferences/settings_table.h"
+#include "preferences/options.h"
 #include "text/top_level_domains.h"
 
 namespace tolvo {
@@ -21,11 +20,9 @@ bool tooLong(const QString &text) {
 
 } // namespace
 
-void frmMain::readTextPreferences() {
-    const bool full = readFlag(m_services.store, u"Preferences", u"TLD_Full");
-    oTextMethods.setTopLevelDomains(full ? longTopLevelDomains() : shortTopLevelDomains());
-    m_services.extensions.setUserExtensions(
-        readList(m_services.store, QStringLiteral("Preferences\\UserFileExtensions")));
+void frmMain::useWordOptions(const WordOptions &options) {
+    oTextMethods.setTopLevelDomains(options.fullDomainList ? longTopLevelDomains() : shortTopLevelDomains());
+    m_services.extensions.setUserExtensions(options.extensions);
 }
 
 // Text from the clipboard
@@ -192,7 +189,7 @@ void frmMain::imgWordwrap_Click() {
 
 void frmMain::toggleWordwrap(bool bOn) {
     bWordWrap = bOn;
-    writeSetting(m_services.store, u"Preferences", u"Wordwrap", flagDigit(bOn));
+    set(m_services.store, settingKeys.preferences.wordWrap, bOn);
     TextBox &target = bOn ? m_txtTextWW : m_txtText1;
     TextBox &source = bOn ? m_txtText1 : m_txtTextWW;
     if (m_txtCurrent != &target) {
@@ -225,7 +222,7 @@ void frmMain::imgOptions_Click() {
 void frmMain::swapFonts() {
     bFontUseProp = !bFontUseProp;
     applyFonts();
-    writeSetting(m_services.store, u"Preferences", u"FontUseProp", flagDigit(bFontUseProp));
+    set(m_services.store, settingKeys.preferences.useProportional, bFontUseProp);
 }
 
 void frmMain::applyFonts() {

@@ -2,7 +2,7 @@
 // Spelling and grammar: the language, the check, and what is said when nothing was wrong.
 #include "base/conversions.h"
 #include "base/strings.h"
-#include "preferences/settings_table.h"
+#include "preferences/settings_keys.h"
 #include "shell/frmMain.h"
 
 namespace tolvo {
@@ -10,7 +10,6 @@ namespace tolvo {
 namespace {
 
 constexpr int languageCancelled = -2; ///< also asks for the stored language
-constexpr int defaultLanguage = -1;
 
 } // namespace
 
@@ -18,7 +17,7 @@ int frmMain::languageOfCheck(const CAction *action) {
     if (action)
         return toInteger(action->Param(QStringLiteral("LangID")));
     if (bRightButton)
-        return toIntegerOr(readSetting(m_services.store, u"Spelling", u"LangID"), defaultLanguage);
+        return getOrDefault(m_services.store, settingKeys.spelling.langID);
     return m_services.languages.GetLangID(languageCancelled, true);
 }
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The frame through which every tool runs: undo, counters, status, and the selection rule.
-#include "base/application.h"
 #include "base/failure.h"
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
@@ -138,8 +137,8 @@ void frmMain::runTool(const QString &token) {
 }
 
 void frmMain::countTool(const QString &token) {
-    m_services.store.increment(statisticsTree(), QStringLiteral("Usage"), token);
-    m_services.store.increment(statisticsTree(), QStringLiteral("TotUsage"), token);
+    increment(m_services.store, settingKeys.statistics.uses.of(token));
+    increment(m_services.store, settingKeys.statistics.totalUses.of(token));
 }
 
 void frmMain::lblToolbox_Click(cToolbox &oToolbox, int row) {

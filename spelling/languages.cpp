@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/languages.h"
 
-#include "base/application.h"
-#include "base/conversions.h"
 #include "base/failure.h"
-#include "preferences/settings_store.h"
+#include "preferences/settings_keys.h"
 #include "spelling/locales.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/word_automation.h"
@@ -15,9 +13,7 @@ namespace tolvo {
 
 namespace {
 
-QString section() {
-    return QStringLiteral("Spelling");
-}
+constexpr const SpellingKeys &keys = settingKeys.spelling;
 
 /// The entries of a list, each with `fields` fields or more.
 QList<QStringList> entries(const QString &list, qsizetype fields) {
@@ -32,18 +28,9 @@ QList<QStringList> entries(const QString &list, qsizetype fields) {
 
 } // namespace
 
-QString LanguageList::value(const QString &key, const QString &otherwise) const {
-    return m_store.GetSetting(applicationTitle(), section(), key, otherwise);
-}
-
-void LanguageList::save(const QString &key, const QString &value) {
-    m_store.SaveSetting(applicationTitle(), section(), key, value);
-}
-
 QList<CSpellLanguage> LanguageList::wordLanguages() const {
     QList<CSpellLanguage> languages;
-    for (const QStringList &fields :
-         entries(value(QStringLiteral("DictionaryList"), QStringLiteral("|<Default>|-1")), 3)) {
+    for (const QStringList &fields : entries(get(m_store, keys.dictionaryList), 3)) {
         bool isNumber = false;
         const int id = fields[2].toInt(&isNumber);
         if (isNumber)
@@ -78,12 +65,10 @@ QList<CSpellLanguage> LanguageList::quickList(int providerType, const Locales &l
 
 QList<CSpellLanguage> LanguageList::quickHunspellLanguages(const Locales &locales) const {
     QList<CSpellLanguage> all;
-    for (const QStringList &fields :
-         entries(value(QStringLiteral("HunLangList"), QStringLiteral("English (GB)|en-gb")), 2))
+    for (const QStringList &fields : entries(get(m_store, keys.hunLangList), 2))
         all += CSpellLanguage::Constructor_Hun(fields[1], fields[1], fields[0], locales.idOf(fields[1], -1));
-    const QString none = QStringLiteral("<none>");
-    const QString chosen = value(QStringLiteral("HunQuickList"), none);
-    if (chosen == none)
+    const QString chosen = get(m_store, keys.hunQuickList);
+    if (chosen == keys.hunQuickList.otherwise())
         return all;
     QList<CSpellLanguage> quick;
     for (const QString &locale : chosen.split(u'|')) {
@@ -99,43 +84,45 @@ QList<CSpellLanguage> LanguageList::quickHunspellLanguages(const Locales &locale
 
 QList<HunspellLanguage> LanguageList::hunspellLanguages() const {
     QList<HunspellLanguage> languages;
-    for (const QStringList &fields :
-         entries(value(QStringLiteral("HunLangList"), QStringLiteral("en-gb|English (UK)|English (UK)")), 2))
+    for (const QStringList &fields : entries(get(m_store, hunLangListForWindow), 2))
         languages += HunspellLanguage{fields[0], fields[1], fields.value(2)};
     return languages;
 }
 
 QStringList LanguageList::wordQuickList() const {
-    return value(QStringLiteral("QuickList"), QStringLiteral("-1")).split(u'|', Qt::SkipEmptyParts);
+    return get(m_store, keys.quickList).split(u'|', Qt::SkipEmptyParts);
 }
 
 void LanguageList::saveWordQuickList(const QStringList &numbers) {
-    save(QStringLiteral("QuickList"), numbers.join(u'|'));
+    set(m_store, keys.quickList, numbers.join(u'|'));
 }
 
 void LanguageList::saveWordLanguages(const QString &list) {
-    save(QStringLiteral("DictionaryList"), list);
+    set(m_store, keys.dictionaryList, list);
 }
 
 bool LanguageList::useWordDialog() const {
-    return value(QStringLiteral("UseWordDialog"), flagWord(true)) == flagWord(true);
+    return get(m_store, keys.useWordDialog);
 }
 
 void LanguageList::saveUseWordDialog(bool use) {
-    save(QStringLiteral("UseWordDialog"), flagWord(use));
+    set(m_store, keys.useWordDialog, use);
 }
 
 int LanguageList::provider() const {
-    return toInteger(value(QStringLiteral("Provider"), QStringLiteral("1")));
+    return get(m_store, keys.provider);
 }
 
 int LanguageList::storedLangID() const {
-    constexpr int none = -1;
-    return toIntegerOr(value(QStringLiteral("LangID"), {}), none);
+    return getOrDefault(m_store, keys.langID);
 }
 
 void LanguageList::saveLangID(int LangID) {
-    save(QStringLiteral("LangID"), QString::number(LangID));
+    set(m_store, keys.langID, LangID);
+}
+
+QString LanguageList::storedLocale() const {
+    return get(m_store, keys.hunLocale);
 }
 
 QString readWordLanguages(WordAutomation &automation, const std::function<bool()> &cancelled) {

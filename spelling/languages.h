@@ -64,10 +64,10 @@ class LanguageList {
     [[nodiscard]] int provider() const;
     [[nodiscard]] int storedLangID() const;
     void saveLangID(int LangID);
+    /// Hunspell's name of the language to start from while no language number has been chosen.
+    [[nodiscard]] QString storedLocale() const;
 
   private:
-    [[nodiscard]] QString value(const QString &key, const QString &otherwise) const;
-    void save(const QString &key, const QString &value);
     [[nodiscard]] QList<CSpellLanguage> quickHunspellLanguages(const Locales &locales) const;
 
     SettingsStore &m_store;

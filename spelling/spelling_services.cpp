@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/spelling_services.h"
 
-#include "base/application.h"
-#include "preferences/settings_store.h"
+#include "preferences/settings_keys.h"
 #include "spelling/dictionaries.h"
 #include "spelling/word_automation.h"
 
@@ -21,13 +20,11 @@ QString SpellingServices::defaultUserFolder() {
 
 void prepareSpelling(const SpellingServices &services) {
     ensurePersonalDictionary(services);
-    const QString section = QStringLiteral("Spelling");
-    const QString key = QStringLiteral("Provider");
+    const auto &provider = settingKeys.spelling.provider;
     // The checking dialog takes a missing provider for Word, all other readers for Hunspell. Where Word can't
     // be, the two must not differ.
-    if (!services.word.isPossible() &&
-        services.store.GetSetting(applicationTitle(), section, key, QString()).isEmpty())
-        services.store.SaveSetting(applicationTitle(), section, key, QStringLiteral("1"));
+    if (!services.word.isPossible() && !isSet(services.store, provider))
+        set(services.store, provider, provider.otherwise());
 }
 
 } // namespace tolvo

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/spelling_walk.h"
 
-#include "base/application.h"
 #include "base/code_page.h"
-#include "base/conversions.h"
-#include "preferences/settings_store.h"
+#include "preferences/settings_keys.h"
 #include "spelling/languages.h"
 #include "text/cTextMethods.h"
 
@@ -39,9 +37,7 @@ bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
     m_host.processEvents();
 
     oSpelling = std::make_unique<CSpelling>(m_services, m_host.textMethods());
-    // Every other reader takes a missing provider for 1.
-    const int provider = toInteger(m_services.store.GetSetting(applicationTitle(), QStringLiteral("Spelling"),
-                                                               QStringLiteral("Provider"), 0));
+    const int provider = get(m_services.store, providerForSpellingDialog);
     // Always empty: a check runs in the default locale, whatever language is chosen.
     QString localeName;
     oSpelling->init(provider, LangID, localeName);

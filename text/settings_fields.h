@@ -14,7 +14,7 @@ namespace tolvo {
 /// (`written`), and how it is read: strictly for an Action (`fromAction`, a wrong text is a Failure),
 /// leniently from the store (`fromStore`) and into a dialog's controls (`take`). A stored value that can't be
 /// read must not keep the user from the dialog that would put it right.
-namespace forms {
+namespace toolForms {
 
 /// A whole number. What is outside the limits counts as the nearest one, a text that is not a number as 0.
 struct Number {
@@ -91,7 +91,7 @@ inline constexpr Check check;
 inline constexpr CheckIfOne checkIfOne;
 inline constexpr Text anyText;
 
-} // namespace forms
+} // namespace toolForms
 
 /// One value of a settings struct.
 template <class Settings, class Value, class Form>

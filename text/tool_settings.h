@@ -30,9 +30,9 @@ struct IndentSettings {
     static constexpr const char16_t *choices[] = {u"Tab", u"Spaces", u"Text"};
     static constexpr QStringView section = u"Indent";
     static constexpr std::tuple fields{
-        Field{&IndentSettings::spaces, u"Spaces", forms::Number{0, mostSpaces}},
-        Field{&IndentSettings::text, u"Text", forms::anyText},
-        Field{&IndentSettings::choice, u"Option", u"RadioButton", forms::Choice(choices)},
+        Field{&IndentSettings::spaces, u"Spaces", toolForms::Number{0, mostSpaces}},
+        Field{&IndentSettings::text, u"Text", toolForms::anyText},
+        Field{&IndentSettings::choice, u"Option", u"RadioButton", toolForms::Choice(choices)},
         ListField{&IndentSettings::recentTexts, u"Indent\\TextMRU"}};
 
     /// What the tool puts before a line: a TAB, blanks or the text.
@@ -49,10 +49,10 @@ struct WordWrapSettings {
     bool tab = true;
 
     static constexpr QStringView section = u"Wordwrap";
-    static constexpr std::tuple fields{Field{&WordWrapSettings::width, u"Width", forms::anyNumber},
-                                       Field{&WordWrapSettings::justify, u"Justify", forms::check},
-                                       Field{&WordWrapSettings::hanging, u"Hanging", forms::check},
-                                       Field{&WordWrapSettings::tab, u"Tab", forms::flag}};
+    static constexpr std::tuple fields{Field{&WordWrapSettings::width, u"Width", toolForms::anyNumber},
+                                       Field{&WordWrapSettings::justify, u"Justify", toolForms::check},
+                                       Field{&WordWrapSettings::hanging, u"Hanging", toolForms::check},
+                                       Field{&WordWrapSettings::tab, u"Tab", toolForms::flag}};
     bool operator==(const WordWrapSettings &) const = default;
 };
 
@@ -61,8 +61,8 @@ struct RemoveLinesSettings {
     bool multiple = true;
 
     static constexpr QStringView section = u"RemLines";
-    static constexpr std::tuple fields{Field{&RemoveLinesSettings::single, u"Single", forms::checkIfOne},
-                                       Field{&RemoveLinesSettings::multiple, u"Multiple", forms::checkIfOne}};
+    static constexpr std::tuple fields{Field{&RemoveLinesSettings::single, u"Single", toolForms::checkIfOne},
+                                       Field{&RemoveLinesSettings::multiple, u"Multiple", toolForms::checkIfOne}};
     bool operator==(const RemoveLinesSettings &) const = default;
 };
 
@@ -74,9 +74,9 @@ struct BulletSettings {
 
     static constexpr QStringView section = u"BulletList";
     static constexpr std::tuple fields{
-        Field{&BulletSettings::bullet, u"Character", u"Bullet", forms::anyText},
-        Field{&BulletSettings::tab, u"Tab", forms::flag},
-        Field{&BulletSettings::spaces, u"PadChars", u"Spaces", forms::Number{0, mostSpaces}}};
+        Field{&BulletSettings::bullet, u"Character", u"Bullet", toolForms::anyText},
+        Field{&BulletSettings::tab, u"Tab", toolForms::flag},
+        Field{&BulletSettings::spaces, u"PadChars", u"Spaces", toolForms::Number{0, mostSpaces}}};
 
     /// The bullet followed by a TAB or blanks.
     [[nodiscard]] QString prefix() const;
@@ -95,12 +95,12 @@ struct NumberListSettings {
 
     static constexpr QStringView section = u"NumList";
     static constexpr std::tuple fields{
-        Field{&NumberListSettings::style, u"Style", forms::Number{0, lastListStyle}},
-        Field{&NumberListSettings::start, u"StartNumber", u"Start", forms::anyNumber},
-        Field{&NumberListSettings::renumber, u"Renumber", forms::check},
-        Field{&NumberListSettings::followChar, u"FollowChar", forms::Number{0, lastFollowChar}},
-        Field{&NumberListSettings::tab, u"Tab", forms::flag},
-        Field{&NumberListSettings::spaces, u"PadChars", u"Spaces", forms::Number{1, mostSpaces}}};
+        Field{&NumberListSettings::style, u"Style", toolForms::Number{0, lastListStyle}},
+        Field{&NumberListSettings::start, u"StartNumber", u"Start", toolForms::anyNumber},
+        Field{&NumberListSettings::renumber, u"Renumber", toolForms::check},
+        Field{&NumberListSettings::followChar, u"FollowChar", toolForms::Number{0, lastFollowChar}},
+        Field{&NumberListSettings::tab, u"Tab", toolForms::flag},
+        Field{&NumberListSettings::spaces, u"PadChars", u"Spaces", toolForms::Number{1, mostSpaces}}};
     bool operator==(const NumberListSettings &) const = default;
 };
 
@@ -115,13 +115,13 @@ struct LineNumberSettings {
 
     static constexpr QStringView section = u"NumLines";
     static constexpr std::tuple fields{
-        Field{&LineNumberSettings::start, u"Start", forms::anyNumber},
-        Field{&LineNumberSettings::step, u"Step", forms::positiveNumber},
-        Field{&LineNumberSettings::every, u"Every", forms::positiveNumber},
-        Field{&LineNumberSettings::ignoreBlanks, u"IgnoreBlanks", forms::flagUnlessZero},
-        Field{&LineNumberSettings::renumber, u"Renumber", forms::comparedFlag},
-        Field{&LineNumberSettings::pad, u"Pad", forms::comparedFlag},
-        Field{&LineNumberSettings::rangeRight, u"RangeRight", forms::flag}};
+        Field{&LineNumberSettings::start, u"Start", toolForms::anyNumber},
+        Field{&LineNumberSettings::step, u"Step", toolForms::positiveNumber},
+        Field{&LineNumberSettings::every, u"Every", toolForms::positiveNumber},
+        Field{&LineNumberSettings::ignoreBlanks, u"IgnoreBlanks", toolForms::flagUnlessZero},
+        Field{&LineNumberSettings::renumber, u"Renumber", toolForms::comparedFlag},
+        Field{&LineNumberSettings::pad, u"Pad", toolForms::comparedFlag},
+        Field{&LineNumberSettings::rangeRight, u"RangeRight", toolForms::flag}};
     bool operator==(const LineNumberSettings &) const = default;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pages of the ProgramOptions dialog, and its controls' state.
+// The pages of the Options dialog, and its controls' state.
 #include "preferences/ui/dlgPreferences.h"
 
 #include "platform/message_box.h"
@@ -264,7 +264,10 @@ void dlgPreferences::init(const ProgramOptions &options, const QString &lastChec
     m_optProp[options.useProportional ? 0 : 1]->setChecked(true);
     m_chkWordwrap->setChecked(options.wordWrap);
     m_lstExtensions->clear();
-    m_lstExtensions->addItems(options.extensions);
+    for (const QString &extension : options.extensions) {
+        if (!m_actions.isSystemExtension(extension))
+            m_lstExtensions->addItem(extension);
+    }
     m_txtExt->clear();
     m_optTLDs[options.fullDomainList ? 0 : 1]->setChecked(true);
     m_chkShowTips->setChecked(options.showTips);

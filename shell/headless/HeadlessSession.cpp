@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/headless/HeadlessSession.h"
 
+#include "preferences/options.h"
+
 namespace tolvo {
 
 HeadlessSession::HeadlessSession(SettingsStore &store, const Catalogue &catalogue,
@@ -29,7 +31,7 @@ HeadlessSession::HeadlessSession(SettingsStore &store, const Catalogue &catalogu
               txtText1, txtTextWW, windows) {
     for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number)
         oPowerButtons.Add(std::make_shared<CPowerButton>(), number);
-    session.readTextPreferences();
+    session.useWordOptions(loadWordOptions(store));
 }
 
 } // namespace tolvo

@@ -3,7 +3,7 @@
 
 #include "platform/desktop/font_conversion.h"
 #include "powerbuttons/ui/frmPowerButton.h"
-#include "preferences/settings_table.h"
+#include "preferences/settings_keys.h"
 #include "preferences/ui/frmAbout.h"
 #include "search/ui/frmSearch.h"
 #include "search/ui/frmSearchResults.h"
@@ -96,8 +96,7 @@ void DesktopDialogs::showOptions() {
 void DesktopDialogs::prepareOptions() {
     if (!m_preferences)
         m_preferences = std::make_unique<dlgPreferences>(m_options, m_services.boxes, &m_parent);
-    const QString startDate =
-        m_services.store.GetSetting(statisticsTree(), QStringLiteral("Usage"), QStringLiteral("StartDate"));
+    const QString startDate = textOf(m_services.store, settingKeys.statistics.startDate);
     m_preferences->init(presentOptions(*m_session), lastCheckText(startDate, m_services.clock.now()));
 }
 

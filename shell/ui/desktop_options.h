@@ -8,7 +8,7 @@
 
 namespace tolvo {
 
-/// Does what the ProgramOptions dialog asks for, on the session and the store.
+/// Does what the Options dialog asks for, on the session and the store.
 class DesktopOptions : public OptionsActions {
   public:
     explicit DesktopOptions(const RunServices &services) : m_services(services) {}

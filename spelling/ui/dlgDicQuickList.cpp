@@ -5,6 +5,7 @@
 #include "base/conversions.h"
 #include "platform/desktop/enter_key.h"
 #include "platform/report_error.h"
+#include "preferences/settings_keys.h"
 #include "spelling/locales.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
@@ -120,10 +121,19 @@ void dlgDicQuickList::FillSpelling() {
 }
 
 void dlgDicQuickList::selectLanguage(int LangID) {
+    const LanguageList lists(m_services.store);
+    const bool noneChosen = LangID == settingKeys.spelling.langID.otherwise();
+    const QString locale = noneChosen ? lists.storedLocale() : QString();
+    int selected = cmbQuickList->currentIndex();
     for (int row = 0; row < m_languages.size(); ++row) {
         if (m_languages[row].ID == LangID)
-            cmbQuickList->setCurrentIndex(row);
+            selected = row;
     }
+    for (int row = 0; row < m_languages.size() && !locale.isEmpty(); ++row) {
+        if (m_languages[row].Locale == locale)
+            selected = row;
+    }
+    cmbQuickList->setCurrentIndex(selected);
 }
 
 int dlgDicQuickList::GetLangID(int LangID, bool save) {

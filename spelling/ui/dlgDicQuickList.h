@@ -37,6 +37,7 @@ class dlgDicQuickList : public QDialog, public LanguageChooser {
     void changeProvider();
     void showProvider();
     void FillSpelling();
+    /// The row of a language number; while none has been chosen, that of Hunspell's stored locale.
     void selectLanguage(int LangID);
     void manageDictionaries();
 

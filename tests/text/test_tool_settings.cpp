@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/settings_store.h"
-#include "preferences/settings_table.h"
 #include "tests/support/other_settings.h"
 #include "tests/text/engine.h"
 #include "text/tool_settings.h"
@@ -54,8 +53,6 @@ TEST(ToolSettings, comeBackFromTheStoreAndFromTheirString) {
 TEST(ToolSettings, haveTheirPlacesAndDefaults) {
     QStringList table;
     QSet<QString> places;
-    for (const SettingsRow &row : settingsTable())
-        places += (QString::fromUtf16(row.section) + u'|' + QString::fromUtf16(row.key)).toCaseFolded();
     for (const StoredToolSetting &setting : storedToolSettings()) {
         const QString place = setting.section.toString() + u"|"_s + setting.key.toString();
         EXPECT_FALSE(places.contains(place.toCaseFolded())) << place.toStdString();

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A user in the Options.
 #include "platform/desktop/FontDialog.h"
-#include "preferences/settings_store.h"
-#include "preferences/settings_table.h"
+#include "preferences/settings_keys.h"
 #include "preferences/ui/dlgPreferences.h"
 #include "preferences/ui/frmAbout.h"
 #include "tests/support/boxes.h"
@@ -45,8 +44,9 @@ class OptionsStory : public testing::Test {
   protected:
     void open() { dialog.init(load(), lastCheckText({}, QDateTime::currentDateTime())); }
     ProgramOptions load() {
-        return loadOptions(store, fonts, true, false,
-                           [this](const QString &e) { return actions.isSystemExtension(e); });
+        ProgramOptions options = loadOptions(store);
+        options.fonts = fonts;
+        return options;
     }
     template <class Control>
     Control &control(const char *name) {
@@ -179,13 +179,16 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     control<QPushButton>("cmdApply").click();
     ASSERT_EQ(actions.applied.size(), 1);
     saveOptions(store, actions.applied[0]);
-    EXPECT_EQ(readSetting(store, u"Preferences", u"Sounds"), QStringLiteral("0"));
+    EXPECT_EQ(textOf(store, settingKeys.preferences.sounds), QStringLiteral("0"));
     EXPECT_EQ(store.GetSetting(QStringLiteral("Tolvo"), QStringLiteral("Preferences\\UserFileExtensions"),
                                QStringLiteral("{")),
               QStringLiteral("extaz"));
     ProgramOptions again = load();
     again.useProportional = false;
     EXPECT_EQ(again, actions.applied[0]);
+    again.extensions = {QStringLiteral("TXT"), QStringLiteral("mine")};
+    dialog.init(again, {});
+    EXPECT_EQ(extensions(), QStringList{QStringLiteral("mine")}) << "the system knows the other one by now";
 }
 
 TEST_F(OptionsStory, cancelAppliesNothingAndTheNextOpeningShowsTheOldState) {
@@ -200,9 +203,11 @@ TEST_F(OptionsStory, cancelAppliesNothingAndTheNextOpeningShowsTheOldState) {
 }
 
 TEST_F(OptionsStory, openOnWhatCantBeRead) {
-    for (const char16_t *key : {u"Show Tips at Startup", u"Sounds", u"CheckUpdates", u"AllowStats"})
-        writeSetting(store, u"Preferences", key, QStringLiteral("yes please"));
-    writeSetting(store, u"Spelling", u"Provider", QStringLiteral("none"));
+    for (const QString &key : {QStringLiteral("Show Tips at Startup"), QStringLiteral("Sounds"),
+                               QStringLiteral("CheckUpdates"), QStringLiteral("AllowStats")})
+        store.SaveSetting(QStringLiteral("Tolvo"), QStringLiteral("Preferences"), key, QStringLiteral("yes"));
+    store.SaveSetting(QStringLiteral("Tolvo"), QStringLiteral("Spelling"), QStringLiteral("Provider"),
+                      QStringLiteral("none"));
     dialog.init(load(), lastCheckText(QStringLiteral("yesterday"), QDateTime::currentDateTime()));
     EXPECT_FALSE(control<QCheckBox>("chkSounds").isChecked());
     EXPECT_TRUE(control<QRadioButton>("optSpellingProvider_1").isChecked());
@@ -228,7 +233,7 @@ TEST_F(OptionsStory, theExportProposesAFolderThatIsThere) {
 }
 
 TEST_F(OptionsStory, aProviderOutsideTheListIsKept) {
-    writeSetting(store, u"Spelling", u"Provider", QStringLiteral("7"));
+    set(store, settingKeys.spelling.provider, 7);
     open();
     EXPECT_EQ(dialog.options().provider, 7);
 }

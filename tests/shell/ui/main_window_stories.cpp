@@ -6,6 +6,7 @@
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/SilentSound.h"
 #include "platform/network/NetworkHttpClient.h"
+#include "preferences/settings_keys.h"
 #include "preferences/settings_table.h"
 #include "shell/ui/desktop_session.h"
 #include "shell/ui/window_size.h"
@@ -45,7 +46,7 @@ class MainWindowStory : public testing::Test {
   protected:
     void run(const QString &clipboardText, const std::function<void()> &user) {
         QGuiApplication::setQuitOnLastWindowClosed(false);
-        writeSetting(store, u"Preferences", u"Show Tips at Startup", QStringLiteral("0"));
+        set(store, settingKeys.preferences.showTips, false);
         QApplication::clipboard()->setText(clipboardText);
         const RunServices services{store, clipboard,  boxes,    sound,   processes,
                                    clock, extensions, programs, spelling};
@@ -124,18 +125,15 @@ TEST_F(MainWindowStory, keysReachTheTextInBothBoxes) {
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
     });
     EXPECT_EQ(pasted(), QStringLiteral("AB-c"));
-    EXPECT_EQ(readSetting(store, u"Preferences", u"Wordwrap"), QStringLiteral("1"));
+    EXPECT_TRUE(get(store, settingKeys.preferences.wordWrap));
 }
 
 TEST_F(MainWindowStory, aPowerButtonOfAnotherRunShowsAtOnce) {
     run(QStringLiteral("x"), [this] {
         SettingsStore other(storeFile);
-        const auto put = [&other](const char16_t *section, const char16_t *key, const char16_t *value) {
-            writeSetting(other, section, key, QString::fromUtf16(value));
-        };
         auto &third = child<QWidget>(*window(), "imgPower_2");
-        put(u"PowerButtons\\Button 3\\1", u"Token", u"ccUPP");
-        put(u"PowerButtons\\Button 3", u"Name", u"Shout");
+        set(other, settingKeys.action.token, QStringLiteral("ccUPP"), 3, QStringLiteral("1"));
+        set(other, settingKeys.powerButton.name, QStringLiteral("Shout"), 3);
         EXPECT_TRUE(QTest::qWaitFor([&third] { return third.toolTip().startsWith(u"Shout"); }));
         QTest::keyClick(text(), Qt::Key_F3, Qt::AltModifier);
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);

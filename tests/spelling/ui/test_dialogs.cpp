@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The windows of spelling as a user meets them.
+#include "preferences/settings_keys.h"
 #include "spelling/ui/MarkedTextView.h"
 #include "spelling/ui/dlgDicQuickList.h"
 #include "spelling/ui/dlgSpellLanguage.h"
@@ -221,6 +222,25 @@ TEST_F(Dialogs, MarkReadablyOnADarkBackground) {
     view.setPalette(palette);
     EXPECT_GT(colour().lightness(), 160);
     EXPECT_GT(colour().red(), colour().green());
+}
+
+TEST_F(Dialogs, StartOnHunspellsLocaleUntilALanguageIsChosen) {
+    setProvider(1);
+    writeFile(services.programFolder + u("/Locales.txt"), "h\nh\nen-gb\tx\tEnglish\t2057\n");
+    set(store, settingKeys.spelling.hunLangList, u("English|en-gb#German|de-de#Klingon|tlh"));
+    set(store, settingKeys.spelling.hunLocale, u("de-de"));
+    dlgDicQuickList dialogList(services);
+    const auto startsOn = [&](int LangID) {
+        QString row;
+        withModal<QDialog>([&row](QDialog &window) {
+            row = child<QComboBox>(window, "cmbQuickList").currentText();
+            click(window, "CancelButton");
+        });
+        (void)dialogList.GetLangID(LangID, false);
+        return row;
+    };
+    EXPECT_EQ(startsOn(-1), u("German - de-de"));
+    EXPECT_EQ(startsOn(2057), u("English - en-gb"));
 }
 
 TEST_F(Dialogs, AskForTheLanguage) {
