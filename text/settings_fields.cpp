@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace tolvo::forms {
+namespace tolvo::toolForms {
 
 int Number::fromStore(const QString &text) const {
     int value = 0;
@@ -82,4 +82,4 @@ QString Text::written(const QString &value) {
     return CParams::canHold(value) ? value : QString();
 }
 
-} // namespace tolvo::forms
+} // namespace tolvo::toolForms
