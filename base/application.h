@@ -9,13 +9,13 @@ namespace tolvo {
 /// Title of the program in captions and message boxes, and the name of its settings tree: "Tolvo".
 [[nodiscard]] QString applicationTitle();
 
-/// Name of the statistics tree of the settings store: the application's name with "-Stats" behind it.
+/// Name of the statistics tree of the settings store: "Tolvo-Stats".
 [[nodiscard]] QString statisticsTree();
 
 /// Major, minor and revision joined by full stops, for instance "1.0.0".
 [[nodiscard]] QString applicationVersion();
 
-/// "major.minor" and the revision apart, for the About box.
+/// The version in two parts, for the About box: "1.0" and "0".
 [[nodiscard]] QString applicationVersionMajorMinor();
 [[nodiscard]] QString applicationRevision();
 

@@ -20,12 +20,12 @@ QString lettersFrom(bool (*accepts)(char16_t)) {
 } // namespace
 
 const QString &SEARCH_CHARS_UPPER() {
-    static const QString letters = lettersFrom(IsUpperLetter);
+    static const QString letters = lettersFrom(isUpperLetter);
     return letters;
 }
 
 const QString &SEARCH_CHARS_LOWER() {
-    static const QString letters = lettersFrom(IsLowerLetter);
+    static const QString letters = lettersFrom(isLowerLetter);
     return letters;
 }
 

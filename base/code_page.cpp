@@ -33,7 +33,7 @@ char16_t fromAnsi(std::uint8_t code) {
     return code >= 0x80 && code < 0xA0 ? upperRows[code - 0x80U] : char16_t{code};
 }
 
-bool IsUpperLetter(char16_t unit) {
+bool isUpperLetter(char16_t unit) {
     if (unit < 0x80)
         return unit >= u'A' && unit <= u'Z';
     if (unit <= 0xFF)
@@ -41,7 +41,7 @@ bool IsUpperLetter(char16_t unit) {
     return unit == 0x0160 || unit == 0x0152 || unit == 0x017D || unit == 0x0178;
 }
 
-bool IsLowerLetter(char16_t unit) {
+bool isLowerLetter(char16_t unit) {
     if (unit < 0x80)
         return unit >= u'a' && unit <= u'z';
     if (unit <= 0xFF)
@@ -50,12 +50,12 @@ bool IsLowerLetter(char16_t unit) {
     return unit == 0x0192 || unit == 0x0161 || unit == 0x0153 || unit == 0x017E;
 }
 
-bool IsLetter(char16_t unit) {
-    return IsUpperLetter(unit) || IsLowerLetter(unit);
+bool isLetter(char16_t unit) {
+    return isUpperLetter(unit) || isLowerLetter(unit);
 }
 
 bool IsAlpha(QStringView text) {
-    return !text.isEmpty() && IsLetter(text.front().unicode());
+    return !text.isEmpty() && isLetter(text.front().unicode());
 }
 
 char16_t toUpper(char16_t unit) {

@@ -16,7 +16,7 @@ double toNumber(const QString &text) {
     const double value = QLocale::c().toDouble(text.trimmed(), &ok);
     if (!ok || !std::isfinite(value)) {
         const bool hasDigits = std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
-        if (std::isinf(value) && hasDigits) // the word "inf" is no number
+        if (std::isinf(value) && hasDigits) // the word "inf" is not a number
             failOverflow(QStringLiteral("%1 is too large a number").arg(text));
         failTypeMismatch(text);
     }

@@ -8,7 +8,7 @@
 
 namespace tolvo {
 
-/// Numbers of failures, as the error report shows them.
+/// The numbers of failures, as the error report shows them. Each stands for one cause wherever it arises.
 namespace failureNumber {
 inline constexpr int invalidArgument = 5;
 inline constexpr int overflow = 6;
@@ -31,15 +31,16 @@ inline constexpr int patternLimit = 5020;
 inline constexpr int noHandler = static_cast<int>(0x80040202);
 } // namespace failureNumber
 
-/// An unexpected failure: a number and a description that a user can read. What nothing catches is caught
-/// once, where an event enters the program, and shown as the error report; the text stays as it is.
+/// An unexpected failure: a number and a description that a user can read. A failure that nothing else
+/// catches is caught where an event enters the program and shown as the error report; the text stays as it
+/// is.
 class Failure : public std::exception {
   public:
     Failure(int number, QString description, QString source = {});
 
     [[nodiscard]] int number() const { return m_number; }
     [[nodiscard]] const QString &description() const { return m_description; }
-    /// "Class::procedure" where the failure arose, empty if that is not told.
+    /// "Class::procedure" where the failure arose; empty if unknown.
     [[nodiscard]] const QString &source() const { return m_source; }
     [[nodiscard]] const char *what() const noexcept override { return m_what.constData(); }
 
@@ -50,9 +51,10 @@ class Failure : public std::exception {
     QByteArray m_what;
 };
 
-/// Failure 6: a number is beyond what its place can hold.
+/// Throws failure 6: a number is too large for its type. `what` says which, in words; empty gives a general
+/// description.
 [[noreturn]] void failOverflow(const QString &what = {});
-/// Failure 13: a text is no number or flag where one is needed.
+/// Throws failure 13: `value` is not a number, flag or date where one is needed.
 [[noreturn]] void failTypeMismatch(const QString &value);
 
 } // namespace tolvo

@@ -19,7 +19,7 @@ qsizetype scan(QStringView line, QStringView set, qsizetype from, qsizetype limi
     return from;
 }
 
-/// Eats up to `most` times `one`, or one of the pairs `four` and `nine`, or `five` and then up to three times
+/// Eats one decimal place of a numeral: `nine` or `four`, else an optional `five` and up to three times
 /// `one`.
 void eatRomanPlace(QStringView &rest, QStringView nine, QStringView four, QStringView five, QStringView one) {
     const auto eat = [&rest](QStringView part) {

@@ -7,40 +7,41 @@
 
 namespace tolvo {
 
-/// True for a non-empty string of the digits "0" to "9". Fails with an overflow for 32768 characters or more:
-/// its counter is a 16-bit one.
+/// True for a non-empty string of the digits "0" to "9". Fails with an overflow for 32768 characters or more.
 [[nodiscard]] bool IsNumber(QStringView text);
 
-/// True if every character is a hexadecimal digit, in either case. True for the empty string.
+/// True if every character is a hexadecimal digit in any case. True for the empty string.
 [[nodiscard]] bool IsHex(QStringView text);
 
-/// Makes the string upper case in place and returns its hexadecimal value. A character outside
-/// "0123456789ABCDEF" subtracts 1 and shifts nothing: callers test with IsHex first. Fails with an overflow
-/// beyond 32 bits.
+/// Returns the value of a hexadecimal number: "fF" is 255, "" is 0. Changes the string to upper case. A
+/// character that is not a hexadecimal digit subtracts 1 without a shift, so callers test with IsHex first.
+/// Fails with an overflow beyond 32 bits.
 int HexToNumber(QString &text);
 
-/// The number at the front of a text, by the rule of text-to-number conversion: blanks, TABs and LFs are
-/// skipped wherever they stand; sign, digits with at most one point, an exponent (E or D), or "&H" or "&O"
-/// with hexadecimal or octal digits; the first other character ends it. No number gives 0. "12 34" is 1234,
-/// "3,000" is 3, "1E3" is 1000.
+/// The number at the front of a text, 0 if there is none: "12 34" is 1234, "3,000" is 3, "1E3" is 1000,
+/// "&HfF" is 255. It has an optional sign, digits with at most one point and an optional exponent (E or D),
+/// or it is "&H" or "&O" with hexadecimal or octal digits. Blanks, TABs and LFs are skipped everywhere; the
+/// first other character ends it.
 [[nodiscard]] double ValueOf(QStringView text);
 
-/// The number with a comma between groups of three digits, always: 65535 is "65,535".
+/// The number with a comma between groups of three digits, whatever the locale: 65535 is "65,535".
 [[nodiscard]] QString groupedNumber(qint64 number);
 
-/// Rounds half to even, on the decimal value: 2.5 is 2, 3.5 is 4.
+/// Rounds to a number of decimal places, halves to even: 2.5 is 2, 1.5 is 2. The shortest decimal form of the
+/// value decides what is a half, so 0.125 rounds to 0.12 at two places.
 [[nodiscard]] double roundHalfToEven(double value, int places = 0);
 
-/// Upper-case Roman numeral of 1 to 4999; "?" below 1, "???" from 5000 on.
+/// The Roman numeral of 1 to 4999 in upper case, subtractive form: 1994 is "MCMXCIV". "?" below 1, "???" from
+/// 5000 on.
 [[nodiscard]] QString ToRoman(int number);
 
-/// Letters for a number from 0: a to z, then aa, ab and so on; 701 is zz.
+/// Letters that count from 0: 0 is "a", 25 is "z", 26 is "aa", 701 is "zz". Empty for a negative number.
 [[nodiscard]] QString ToLetters(int number);
 
-/// The floor of r * (high - low + 1) + low, with r random in 0 up to 1.
+/// A random integer from `low` to `high`, both included.
 [[nodiscard]] int RandomInRange(int low, int high);
 
-/// A number as text, in the shortest form: 12 is "12", 0.5 is "0.5".
+/// A number as text, with at most 15 significant digits and no trailing zeros: 12 is "12", 0.5 is "0.5".
 [[nodiscard]] QString numberText(double number);
 
 } // namespace tolvo

@@ -23,7 +23,7 @@ void makePrivateFolder(const QString &path) {
 
 void makePrivateFile(const QString &path) {
     QFile file(path);
-    // NewOnly makes the file and its rights in one step.
+    // NewOnly creates the file and sets its rights in one step.
     (void)file.open(QIODevice::WriteOnly | QIODevice::NewOnly, readAndWrite);
 }
 

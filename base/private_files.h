@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Files and folders that are the user's alone.
+// Files and folders that only the user may read.
 #pragma once
 
 #include <QString>
 
 namespace tolvo {
 
-/// Makes a folder, and the missing ones above it, that nobody but the user may enter. Folders that are there
-/// stay as they are. What can't be made is no failure here: whoever uses the folder is told.
+/// Creates a folder, and the missing ones above it, for the user alone. Existing folders keep their rights. A
+/// folder that can't be created is not reported here: the first use of it is.
 void makePrivateFolder(const QString &path);
 
-/// Makes an empty file that nobody but the user may read or write. A file that is there stays as it is,
-/// another process may make it at the same moment, and what can't be made is no failure here.
+/// Creates an empty file for the user alone. An existing file stays as it is, also if another process creates
+/// it at the same moment. A file that can't be created is not reported here.
 void makePrivateFile(const QString &path);
 
 } // namespace tolvo

@@ -12,18 +12,18 @@ namespace tolvo {
 
 namespace {
 
-/// Characters behind which a phrase without a context may stand.
+/// The characters after which a phrase without a context may stand.
 constexpr QStringView contextMarks = u".,?!;:[]()-\"";
 
 bool isWordCharacter(char16_t unit) {
-    return IsLetter(unit) || (unit >= u'0' && unit <= u'9') || unit == u'_';
+    return isLetter(unit) || (unit >= u'0' && unit <= u'9') || unit == u'_';
 }
 
 } // namespace
 
 QStringView getNextWord(QStringView text, qsizetype &position, bool noHyphen) {
     const qsizetype size = text.size();
-    const auto letterAt = [&](qsizetype index) { return index < size && IsLetter(text[index].unicode()); };
+    const auto letterAt = [&](qsizetype index) { return index < size && isLetter(text[index].unicode()); };
     qsizetype at = position - 1;
     while (at < size && !letterAt(at))
         ++at;
@@ -31,7 +31,7 @@ QStringView getNextWord(QStringView text, qsizetype &position, bool noHyphen) {
     while (at < size) {
         const char16_t unit = text[at].unicode();
         const bool joins = unit == u'\'' || (unit == u'-' && !noHyphen);
-        if (!IsLetter(unit) && !(joins && letterAt(at + 1)))
+        if (!isLetter(unit) && !(joins && letterAt(at + 1)))
             break;
         ++at;
     }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Capitals by sentences: what is an abbreviation, an address or a lone "I" is taken care of. Capitals by
-// words are in titles.cpp.
+// Capitals by sentences. Capitals by words are in titles.cpp.
 #include "text/cTextMethods.h"
 
 #include "base/character_sets.h"
@@ -11,7 +10,7 @@ namespace tolvo {
 
 namespace {
 
-/// True for an "i" that stands alone as far as the text before it tells.
+/// True for an "i" without a letter before it.
 bool startsPronoun(char16_t unit, int previous) {
     return unit == u'i' && !isLetterUnit(previous);
 }
@@ -35,13 +34,12 @@ QString cTextMethods::SentenceCase(QStringView text) const {
     int following = noUnit;
     for (qsizetype i = 1; i <= text.size(); ++i) {
         const auto source = static_cast<char16_t>(unitAt(text, i));
-        // The last character keeps what was read for the one before, which is itself: a lone "i" at the very
-        // end is taken for part of a word and stays in lower case.
+        // At the last character this stays that character itself, so a lone "i" there stays in lower case.
         if (i < text.size())
             following = unitAt(text, i + 1);
         char16_t c = nextIsUpper ? toUpper(source) : toLower(source);
         if (nextIsUpper)
-            nextIsUpper = !IsLetter(c);
+            nextIsUpper = !isLetter(c);
         else if (startsPronoun(c, unitAt(text, i - 1)) && following != u'.' && !isLetterUnit(following))
             c = u'I';
         result[i - 1] = c;
@@ -62,13 +60,13 @@ QString cTextMethods::Capitalise(QStringView text, bool colonEndsSentence) const
         const int following = unitAt(text, i + 1);
         if (nextIsUpper) {
             c = toUpper(c);
-            nextIsUpper = !IsLetter(c);
+            nextIsUpper = !isLetter(c);
         }
         if (startsPronoun(c, unitAt(text, i - 1)) && following != u'.' && !isLetterUnit(following))
             c = u'I';
         result[i - 1] = c;
         const bool endsSentence = contains(sentenceEnds, c) || (c == u':' && colonEndsSentence);
-        // Addresses need no test of their own: a letter stands behind their stops.
+        // Addresses need no test of their own: a letter follows their stops.
         if (endsSentence && !isDigitUnit(following) && !isLetterUnit(following) && !tokens.isAbbreviation(i))
             nextIsUpper = true;
     }

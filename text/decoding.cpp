@@ -12,8 +12,7 @@ namespace tolvo {
 
 namespace {
 
-/// Runs of hyphens become long dashes as far as there are three of them, then a short one for two; three full
-/// stops become an ellipsis.
+/// Replaces "---" by a long dash, "--" by a short one and "..." by an ellipsis, from left to right.
 QString withTypographicDashes(QStringView text) {
     QString result;
     result.reserve(text.size());

@@ -14,7 +14,7 @@ namespace tolvo {
 
 namespace {
 
-/// The character of a reference, if it has one.
+/// The character of a decimal code; nothing for a code without one.
 std::optional<QChar> EntityChar(QStringView digits) {
     constexpr int fullWidthStart = 65280;
     constexpr int fullWidthEnd = 65375;
@@ -26,7 +26,8 @@ std::optional<QChar> EntityChar(QStringView digits) {
     return code <= 255 ? std::optional(QChar(fromAnsi(static_cast<std::uint8_t>(code)))) : std::nullopt;
 }
 
-/// Finds the next index, from an index that never goes back, at which a condition holds.
+/// Finds the next index at which a condition holds. The index to start from must never go back, so that each
+/// unit is tested once.
 template <class Condition>
 class NextIndex {
   public:
@@ -54,8 +55,8 @@ bool isHexadecimal(char16_t unit) {
     return isDecimal(unit) || (unit >= u'a' && unit <= u'f') || (unit >= u'A' && unit <= u'F');
 }
 
-/// Reads the text from left to right. What has been decided stands in the result, the rest in the source; no
-/// character is looked at more than a few times.
+/// Reads the text from left to right and moves what is decided to the result. No character is read more than
+/// a few times.
 class NumericDecoder {
   public:
     explicit NumericDecoder(QStringView text) : m_text(text) { m_result.reserve(text.size()); }
@@ -88,7 +89,7 @@ class NumericDecoder {
 
     [[nodiscard]] static bool isX(QChar c) { return c == u'x' || c == u'X'; }
 
-    /// Decodes the mark between the present index and the next semicolon. Without one the text's last
+    /// Decodes the mark between the current index and the next semicolon. Without one the text's last
     /// character takes its place and is lost.
     void decodeMark() {
         const qsizetype end = qMin(m_semicolon.from(m_at), m_text.size() - 1);
@@ -98,7 +99,7 @@ class NumericDecoder {
             decodeHexadecimal(mark, end);
             return;
         }
-        // As a test for digits would fail, wherever the first other character stands.
+        // The limit of IsNumber, which holds wherever the first other character stands.
         if (mark.size() > std::numeric_limits<qint16>::max())
             failOverflow(QStringLiteral("a character reference of 32768 characters or more"));
         if (m_lastMarkWasFilled && m_noDecimal.from(m_at) >= end)
@@ -107,8 +108,8 @@ class NumericDecoder {
             copyTo(qMin(m_at + 3, m_text.size()));
     }
 
-    /// The decimal form takes the place of the hexadecimal one from the right: a shorter one leaves the
-    /// start of the reference in the text, a longer one eats the character before it. Known results, kept.
+    /// The decimal form replaces the end of the hexadecimal one: a shorter form leaves the start of the
+    /// reference in the text, a longer one removes the character before it. Both are kept on purpose.
     void decodeHexadecimal(QStringView mark, qsizetype end) {
         QString hexadecimal = mark.sliced(1).toString();
         const QString decimal = QString::number(HexToNumber(hexadecimal));
@@ -138,7 +139,7 @@ class NumericDecoder {
     QStringView m_text;
     qsizetype m_at = 0;
     QString m_result;
-    bool m_lastMarkWasFilled = true; // once an empty mark has been met, no reference is decoded any more
+    bool m_lastMarkWasFilled = true; // if not, no further reference is decoded
     NextIndex<IsSemicolon> m_semicolon{m_text, {}};
     NextIndex<Not<isDecimal>> m_noDecimal{m_text, {}};
     NextIndex<Not<isHexadecimal>> m_noHexadecimal{m_text, {}};
@@ -150,7 +151,7 @@ struct NamedEntity {
     Qt::CaseSensitivity compare = Qt::CaseInsensitive;
 };
 
-// In the order in which they are replaced: behind a decoded "&" only the names that follow are decoded.
+// In the order of their replacement: after a decoded "&" only the names further down are decoded.
 constexpr std::array<NamedEntity, 23> namedEntities = {{
     {u"quot;", u'"'},
     {u"amp;", u'&'},
@@ -174,7 +175,7 @@ constexpr std::array<NamedEntity, 23> namedEntities = {{
     {u"sbquo;", 0x201A},
     {u"bdquo;", 0x201E},
     {u"dagger;", 0x2020, Qt::CaseSensitive},
-    // One dagger stands for both.
+    // The single dagger here too, on purpose.
     {u"Dagger;", 0x2020, Qt::CaseSensitive},
 }};
 constexpr auto ampersand = namedEntities.begin() + 1;

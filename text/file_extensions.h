@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// modFileExt: which words end in a known file extension.
+// modFileExt: the file extensions by which a word is taken for a file name.
 #pragma once
 
 #include <QSet>
@@ -9,19 +9,22 @@
 
 namespace tolvo {
 
-/// The extensions that the user has listed in the Options, then data/FileExtensions.txt.
+/// The user's extensions, from the Options, and the system's, from data/FileExtensions.txt.
 class FileExtensions {
   public:
-    /// The file (one extension a line, "#" comments) is read when an extension is first asked for; a missing
-    /// file leaves the user's list alone.
+    /// `file` holds the system's extensions, one a line, with comments after "#" at a line's start. It is
+    /// read when it is first needed; without it only the user's list counts.
     explicit FileExtensions(QString file = {}) : m_file(std::move(file)) {}
 
+    /// Replaces the user's list.
     void setUserExtensions(const QStringList &extensions);
+    /// The user's list as it was set.
     [[nodiscard]] const QStringList &userExtensions() const { return m_user; }
 
-    /// True for a listed extension, in any case, without its full stop; false for the empty one.
+    /// True for an extension (without its full stop) of either list, in any case; false for the empty one.
+    ///   IsRegisteredExtension("DOC") is true
     [[nodiscard]] bool IsRegisteredExtension(const QString &extension) const;
-    /// The same without the user's list: what the system itself knows.
+    /// The same for the system's list alone.
     [[nodiscard]] bool isSystemExtension(const QString &extension) const;
 
   private:

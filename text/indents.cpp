@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Indentation, and TABs against blanks.
+// Indentation, and the conversion between TABs and blanks.
 #include "text/cTextMethods.h"
 
 #include "base/strings.h"
@@ -9,7 +9,7 @@ namespace tolvo {
 
 QString cTextMethods::Indent(QStringView text, QStringView indent) const {
     return changeLines(text, [indent](QStringView line, QString &result) {
-        // A blank line carries no white space afterwards.
+        // A line of blanks becomes empty.
         if (trimBlanks(line).isEmpty())
             return;
         result += indent;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What line tools share: a text is taken apart at CR LF and put together again.
+// What the line tools share: they split a text at CR LF and join it again.
 #pragma once
 
 #include "base/strings.h"
@@ -11,7 +11,9 @@ namespace tolvo {
 
 inline constexpr QStringView lineEnd = u"\r\n";
 
-/// Calls `change(line, result)` for each line, which appends what becomes of it; line ends stay as they are.
+/// Calls `change(line, result)` for each line, which appends the new line to the result; the line ends stay.
+/// `change` is not called for an empty text. TrimWhiteSpace, for instance, is
+///   changeLines(text, [](QStringView line, QString &result) { result += trimWhiteSpace(line); })
 template <class Change>
 [[nodiscard]] QString changeLines(QStringView text, Change change) {
     QString result;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Taking list marks, line numbers and bullets off again.
+// Removes list marks, line numbers and bullets.
 #include "base/character_sets.h"
 #include "base/list_marks.h"
 #include "base/strings.h"
@@ -11,8 +11,8 @@ namespace tolvo {
 
 namespace {
 
-constexpr int sureTenths = 5;   ///< from here on a Roman mark needs no neighbour
-constexpr int inListTenths = 3; ///< from here on it continues a list
+constexpr int sureTenths = 5;   ///< with this confidence a Roman mark needs no neighbour
+constexpr int inListTenths = 3; ///< with this confidence it continues a list
 
 QStringView withoutFront(QStringView text, QStringView set) {
     while (!text.isEmpty() && contains(set, text.front().unicode()))
@@ -26,7 +26,7 @@ QStringList linesOf(QStringView text) {
     return lines;
 }
 
-/// The line without the first `length` units of its body and the white space behind them; its indentation
+/// The line without the first `length` units of its body and the white space after them; its indentation
 /// stays.
 QString withoutMark(const QString &line, QStringView body, qsizetype length) {
     const QStringView indentation = QStringView(line).first(line.size() - body.size());
@@ -37,8 +37,8 @@ bool isBlankLine(const QString &line) {
     return leftTrimWhiteSpace(line).isEmpty();
 }
 
-/// The index of the line beside `index` (direction 1 or -1), or of the one beyond it if that line is blank
-/// and not the last in its direction; -1 without any.
+/// The index of the next line in a direction (1 or -1), skipping one blank line unless it is the last one; -1
+/// if there is none.
 qsizetype neighbour(const QStringList &lines, qsizetype index, int direction) {
     const auto exists = [&lines](qsizetype at) { return at >= 0 && at < lines.size(); };
     qsizetype at = index + direction;
@@ -53,8 +53,8 @@ std::optional<ListMark> romanMarkOf(const QString &line) {
     return ParseRomanMark(leftTrimWhiteSpace(line));
 }
 
-/// Takes the marks of a run of Roman items off, from the mark of the given length at `index` on. Within a run
-/// a doubtful mark is one too. Returns the index of the last line dealt with.
+/// Removes the marks of a run of Roman items that begins at `index` with a mark of `length` units. Within a
+/// run a doubtful mark counts too. Returns the index of the last line of the run.
 qsizetype RemoveRomanRun(QStringList &lines, qsizetype index, qsizetype length) {
     for (;;) {
         QString &line = lines[index];
@@ -68,7 +68,7 @@ qsizetype RemoveRomanRun(QStringList &lines, qsizetype index, qsizetype length) 
     }
 }
 
-/// Each line that isn't made of blanks only, as `mend` gives it back.
+/// Calls `mend(line, result)`, which appends the new line, for each line that is not made of blanks alone.
 template <class Mend>
 QString mendLines(QStringView text, Mend mend) {
     return changeLines(text, [&mend](QStringView line, QString &result) {

@@ -39,8 +39,8 @@ QString numberInStyle(qint64 number, ListStyle style) {
     }
 }
 
-/// How deep a line stands in an outline, from 0: one level for each group of `spaces` blanks (unless the list
-/// goes by TABs alone), then one for each TAB.
+/// The level of a line in an outline, from 0: one for each group of `spaces` blanks (unless only TABs count),
+/// then one for each TAB.
 qsizetype ListLevel(QStringView line, bool tab, int spaces) {
     qsizetype level = 0;
     if (!tab) {
@@ -55,7 +55,7 @@ qsizetype ListLevel(QStringView line, bool tab, int spaces) {
     return level;
 }
 
-/// The counters of an outline: going deeper restarts the count, levels that were skipped stand at 0.
+/// The counters of an outline: going deeper restarts the count, skipped levels hold 0.
 class Outline {
   public:
     explicit Outline(qint64 firstNumber) { m_counters.push_back(firstNumber - 1); }
@@ -100,7 +100,7 @@ QString numlistFormatNumber(qint64 number, int style, int followChar, bool tab, 
         followCharacters[static_cast<std::size_t>(std::clamp(followChar, 0, lastFollowChar))];
     const QString mark = around.before.toString() +
                          numberInStyle(number, static_cast<ListStyle>(std::clamp(style, 0, lastListStyle))) +
-                         around.behind.toString();
+                         around.after.toString();
     return tab ? mark + u'\t' : mark.leftJustified(padWidth(spaces), u' ', true);
 }
 
@@ -135,7 +135,7 @@ QString cTextMethods::LineNumber(QStringView text, int start, int step, int ever
                 digits = digits.rightJustified(width).last(width);
             else if (pad)
                 digits = digits.leftJustified(width, u' ', true);
-            // A number that isn't shown keeps its place in the column.
+            // A hidden number leaves blanks in its place.
             result += count % every == 0 ? digits : blanks(digits.size());
             result += u' ';
             number += step;

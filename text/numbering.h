@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// List numbers: their styles, the marks made of them, and the marks of lists taken off again.
+// List numbers: their styles, and the marks made of them.
 #pragma once
 
 #include <QString>
@@ -10,34 +10,38 @@
 
 namespace tolvo {
 
-/// The most blanks that any tool puts before a line or behind a mark.
+/// The most blanks that any tool puts before a line or after a mark.
 inline constexpr int mostSpaces = 255;
 
-/// The styles of a numbered list, in the order of the dialog's list. The first five count one level.
+/// The styles of a numbered list, in the order of the dialog's list. The first five have one level; the
+/// outline has as many as its indentation.
 enum class ListStyle { Decimal, LowerLetters, UpperLetters, LowerRoman, UpperRoman, Outline };
 inline constexpr int lastListStyle = static_cast<int>(ListStyle::Outline);
 inline constexpr std::array<QStringView, 6> listStyleNames = {
     u"1 2 3 4", u"a b c d", u"A B C D", u"i  ii  iii  iv", u"I  II  III  IV", u"1.2  1.3  1.4"};
 
-/// What stands around a number, in the order of the dialog's list.
+/// The characters around a number, in the order of the dialog's list.
 struct FollowCharacters {
     QStringView name;
     QStringView before;
-    QStringView behind;
+    QStringView after;
 };
 inline constexpr std::array<FollowCharacters, 4> followCharacters = {
     {{u"None", u"", u""}, {u".", u"", u"."}, {u")", u"", u")"}, {u"( )", u"(", u")"}}};
 inline constexpr int lastFollowChar = static_cast<int>(followCharacters.size()) - 1;
 
-/// The mark of an item, with its separator: a TAB, or blanks up to exactly `spaces` characters. A mark wider
-/// than that is cut: the column is kept rather than the number. `style` is one of the first five; values out
-/// of range are brought to the nearest, and `spaces` to 1 at least, so that no item is without a mark.
-/// Letters begin at 1 and don't go below "a".
+/// The mark of an item, followed by a TAB, or padded with blanks to exactly `spaces` characters; a mark that
+/// is wider is cut to that. `style` is a ListStyle but for Outline, `followChar` an index of
+/// followCharacters, and `spaces` 1 to mostSpaces; values out of range are brought to the nearest. Letters
+/// count from 1, and numbers below that give "a".
+///   numlistFormatNumber(4, 3, 1, true, 0) == u"iv.\t"
+///   numlistFormatNumber(123, 0, 1, false, 2) == u"12"
 [[nodiscard]] QString numlistFormatNumber(qint64 number, int style, int followChar, bool tab, int spaces);
 
-/// Gen_Procs: the length of the Roman mark at the start of a line (behind its indentation), if it is to be
-/// taken for a list's: it is sure enough by itself, or the line before or behind it (beyond one blank line)
-/// has a Roman mark too. So a lone "i." stays a word, and "i.", "ii.", "iii." are a list.
+/// Gen_Procs: the length of the Roman mark of a line, after its indentation, if it counts as the mark of a
+/// list: its own confidence is 0.5 or more, or the line before or after it, skipping one blank line, has a
+/// Roman mark too. `index` counts from 0 and must be in the list.
+///   RomanNeighbourAgrees({"i. a", "ii. b"}, 0) == 2, RomanNeighbourAgrees({"i. said so"}, 0) == std::nullopt
 [[nodiscard]] std::optional<qsizetype> RomanNeighbourAgrees(const QStringList &lines, qsizetype index);
 
 } // namespace tolvo

@@ -15,8 +15,8 @@ bool isBlankLine(QStringView line) {
     return trimWhiteSpace(line).isEmpty();
 }
 
-/// True if the next line, by its first character, goes on where `line` stops: neither indented nor a list
-/// item, and `line` is no list item itself.
+/// True if the next line, judged by its first character, continues `line`: it is neither indented nor an item
+/// with a bullet, and `line` is not a numbered item.
 bool mayJoin(QStringView line, int nextStart) {
     return nextStart > u'\t' && nextStart != u' ' && !isOneOf(bulletMarks, nextStart) &&
            !ParseDecimalMark(line) && !ParseRomanMark(line);
@@ -55,8 +55,8 @@ QString cTextMethods::removeExtraLines(QStringView text, bool single, bool multi
             result += lineEnd;
         if (i == last || !isBlankLine(lines[i + 1]))
             continue;
-        // A run of blank lines: the line that ends it is counted as well and then seen again, so that a run
-        // that is kept grows by one.
+        // A run of blank lines: the line that ends it is counted too and then handled again, so a run that is
+        // kept grows by one.
         do {
             ++i;
             if (!multiple)

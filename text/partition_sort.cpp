@@ -68,7 +68,7 @@ class Sorter {
     /// Moves what is below the pivot (at `first`) before it and returns the pivot's new place. Step by step
     /// each smaller element would change places with the first of those passed over; here a whole run of
     /// smaller ones does so at once. A range holds just the elements that belong to its places in the end, so
-    /// that it is known beforehand how many are below: none if the pivot's equals lie before the range.
+    /// the number of those below is known in advance: none if the pivot's equals lie before the range.
     Place partition(Place first, Place last) {
         const std::int32_t pivot = m_ranks[static_cast<std::size_t>(first)];
         const Place split = std::max(first, m_places[static_cast<std::size_t>(pivot)]);

@@ -15,7 +15,7 @@ namespace tolvo {
 
 namespace {
 
-/// One run of the check. Positions count from 1 in the source; what has been decided stands in the result.
+/// One run of the check, which moves what is decided to the result. Positions count from 1 in the source.
 class PunctuationCheck {
   public:
     PunctuationCheck(QStringView text, const AddressRules &addresses)
@@ -44,7 +44,7 @@ class PunctuationCheck {
     void checkSingleQuote();
     void checkDoubleQuote();
     void openQuotation();
-    void closeQuotation(bool blankBehind);
+    void closeQuotation(bool blankAfter);
     void copyRestOfAddress();
     void countBracket(int unit);
 
@@ -62,10 +62,10 @@ class PunctuationCheck {
     int m_next = noUnit;
     int m_previous = noUnit;
     bool m_isAddress = false;
-    bool m_blankBehind = false;
+    bool m_blankAfter = false;
 };
 
-/// Copies the characters that are nobody's business.
+/// Copies the characters before the next one that needs a check.
 void PunctuationCheck::copyToMark() {
     static const std::array<bool, 0x80> isMark = [] {
         std::array<bool, 0x80> marks{};
@@ -85,7 +85,7 @@ void PunctuationCheck::checkCharacter() {
     m_next = unitAt(m_text, m_at + 1);
     m_previous = unitAt(m_text, m_at - 1);
     m_isAddress = false;
-    m_blankBehind = false;
+    m_blankAfter = false;
     countBracket(c);
     if (isOneOf(stopCharacters, c))
         checkStop(c);
@@ -98,29 +98,29 @@ void PunctuationCheck::checkCharacter() {
     else if (c == u'"')
         checkDoubleQuote();
     m_result += QChar(static_cast<char16_t>(c));
-    if (m_blankBehind)
+    if (m_blankAfter)
         m_result += u' ';
     if (m_isAddress)
         copyRestOfAddress();
 }
 
 void PunctuationCheck::checkStop(int c) {
-    // Before a hyphen it is a smiley or stands before a dash.
+    // Before a hyphen the stop is part of a smiley, or a dash follows.
     if (c == u'.' || c == u':')
         m_isAddress = m_next == u'-' || m_tokens.isWebOrFileName(m_at);
     if (c != u'.' || !m_isAddress)
         trimResult();
     const bool closedUp = m_next == noUnit || isOneOf(u" \r\"'", m_next) ||
                           isOneOf(closingBrackets, m_next) || isOneOf(stopCharacters, m_next);
-    m_blankBehind = !closedUp && !m_isAddress && !(isDigitUnit(m_next) && isDigitUnit(m_previous)) &&
-                    !(c == u'.' && m_tokens.isAbbreviation(m_at));
+    m_blankAfter = !closedUp && !m_isAddress && !(isDigitUnit(m_next) && isDigitUnit(m_previous)) &&
+                   !(c == u'.' && m_tokens.isAbbreviation(m_at));
 }
 
 void PunctuationCheck::checkOpeningBracket() {
     qsizetype tokenAt = m_at;
     while (unitAt(m_text, m_at + 1) == u' ')
         ++m_at;
-    // Behind blanks it is the token behind them that may end in "(s)".
+    // After blanks it is the token that follows them that may end in "(s)".
     if (m_at > tokenAt)
         tokenAt = m_at + 1;
     const bool standsApart = m_previous > u'\'';
@@ -134,7 +134,7 @@ void PunctuationCheck::checkOpeningBracket() {
 
 void PunctuationCheck::checkClosingBracket() {
     trimResult();
-    m_blankBehind = m_next != noUnit && !isOneOf(u" \r'\"", m_next) && !isOneOf(stopCharacters, m_next);
+    m_blankAfter = m_next != noUnit && !isOneOf(u" \r'\"", m_next) && !isOneOf(stopCharacters, m_next);
 }
 
 void PunctuationCheck::checkSingleQuote() {
@@ -162,14 +162,14 @@ void PunctuationCheck::openQuotation() {
         ++m_at;
 }
 
-void PunctuationCheck::closeQuotation(bool blankBehind) {
-    m_blankBehind = blankBehind;
+void PunctuationCheck::closeQuotation(bool blankAfter) {
+    m_blankAfter = blankAfter;
     if (m_previous == u' ')
         trimResult();
 }
 
-/// Copies what follows a stop inside an address as it stands. The first character is not looked at: behind an
-/// address that ends in a stop it is the blank, and the word behind that is copied too.
+/// Copies what follows a stop inside an address as it stands. The first character is not tested: after an
+/// address that ends in a stop it is the blank, so the word after that is copied too.
 void PunctuationCheck::copyRestOfAddress() {
     qsizetype end = m_at + 1;
     do {

@@ -18,7 +18,7 @@ namespace {
 
 using Order = std::vector<std::int32_t>;
 
-/// A text key that compares by code units; most comparisons end in its first four.
+/// A text key that compares by code units; its first four decide most comparisons.
 struct TextKey {
     quint64 front = 0;
     QStringView text;
@@ -68,7 +68,7 @@ std::vector<TextKey> keysOf(const QList<QStringView> &views, QStringView text, Q
     return keys;
 }
 
-/// The views that aren't empty, in this order, with the separator between them.
+/// Appends the views that aren't empty, in this order, with the separator between them.
 void appendJoined(QString &result, const QList<QStringView> &views, const Order &order,
                   QStringView separator) {
     bool first = true;
@@ -87,7 +87,8 @@ bool isOneLine(QStringView text) {
     return trimBlanks(text).isEmpty() || !text.contains(lineEnd);
 }
 
-/// The items of one line sorted; `upper` is the line in upper case. A line without a comma is left alone.
+/// Appends a line with its items sorted; `upper` is the line in upper case. A line without a comma stays as
+/// it is.
 void KeywordSortLine(QString &result, QStringView line, QStringView upper) {
     if (!line.contains(u',')) {
         result += line;

@@ -10,18 +10,18 @@ namespace tolvo {
 
 namespace {
 
-/// Appends a line without white space at its ends, no-break spaces already changed to blanks, runs of blanks
-/// reduced to one, and that one left out beside a TAB.
+/// Appends a line with each run of blanks reduced to one, or to none beside a TAB. The line has no white
+/// space at its ends.
 void appendSingleSpaced(QStringView line, QString &result) {
     for (qsizetype i = 0; i < line.size(); ++i) {
         if (line[i] != u' ') {
             result += line[i];
             continue;
         }
-        const bool behindTab = line[i - 1] == u'\t';
+        const bool afterTab = line[i - 1] == u'\t';
         while (line[i + 1] == u' ')
             ++i;
-        if (!behindTab && line[i + 1] != u'\t')
+        if (!afterTab && line[i + 1] != u'\t')
             result += u' ';
     }
 }
@@ -68,7 +68,7 @@ QString cTextMethods::RegularEOL(QStringView text) const {
         while (i < text.size() && text[i] != u'\r' && text[i] != u'\n')
             ++i;
         result += text.sliced(start, i - start);
-        // A lone CR at the very end goes without a line end in its place.
+        // A lone CR at the very end is dropped.
         if (i == text.size() || (text[i] == u'\r' && i + 1 == text.size()))
             break;
         result += lineEnd;

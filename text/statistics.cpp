@@ -29,7 +29,7 @@ struct Measures {
     }
 };
 
-/// A letter starts a word; letters, apostrophes and hyphens go on with it.
+/// A letter starts a word; letters, apostrophes and hyphens continue it.
 qint64 countWords(QStringView text) {
     qint64 count = 0;
     bool inWord = false;
@@ -41,7 +41,8 @@ qint64 countWords(QStringView text) {
     return count;
 }
 
-/// Runs of sentence ends count once; a stop inside an address doesn't. A stop behind an abbreviation does.
+/// Counts each run of sentence ends once. A stop inside an address doesn't count, one after an abbreviation
+/// does.
 qint64 CountSentences(QStringView text, const AddressRules &addresses) {
     Tokens tokens(text, addresses);
     qint64 count = 0;
@@ -59,7 +60,7 @@ qint64 CountSentences(QStringView text, const AddressRules &addresses) {
         while (i < text.size() &&
                (isOneOf(sWhiteSpace, unitAt(text, i)) || isOneOf(sentenceEnds, unitAt(text, i))))
             ++i;
-        // The first character behind such a run is passed over, a sentence end in its place included.
+        // The character after such a run is skipped, whatever it is.
     }
     return count;
 }
@@ -68,7 +69,7 @@ Measures measure(QStringView text, bool isSelection, const AddressRules &address
     Measures result;
     result.bytes = 2 * text.size();
     for (const QChar c : text) {
-        // The selection's count has its CR characters in it: users compare figures with older ones.
+        // The selection's count includes its CRs, the full text's doesn't.
         result.characters += c == u'\n' || (c == u'\r' && !isSelection) ? 0 : 1;
         result.printable += isWhiteSpace(c.unicode()) ? 0 : 1;
     }

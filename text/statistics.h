@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What "Statistics" measures: computed here, shown by who asked.
+// The result of "Statistics".
 #pragma once
 
 #include <QList>
@@ -7,7 +7,7 @@
 
 namespace tolvo {
 
-/// One row of the statistics: its name, and the value for the full text and for the selection as shown.
+/// One row: its name, and the values for the full text and for the selection, as they are shown.
 struct StatisticsRow {
     QString name;
     QString fullText;
@@ -18,7 +18,7 @@ struct StatisticsRow {
 /// The rows from "Bytes" to "Avg Sentence Length", without heading and spacer.
 struct TextStatistics {
     QList<StatisticsRow> rows;
-    bool hasSelection = false; ///< without one the selection's column looks empty
+    bool hasSelection = false; ///< false: nothing is selected, so the selection's column is not shown
 };
 
 } // namespace tolvo

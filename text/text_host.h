@@ -5,12 +5,13 @@
 
 namespace tolvo {
 
-/// What the text engine says to the world: a status line, and a warning in a box.
+/// What the text engine shows to the user: a status text, and a warning in a box.
 class TextHost {
   public:
     virtual ~TextHost() = default;
+    /// Replaces the status text.
     virtual void setStatus(const QString &text) = 0;
-    /// A box with a warning icon; an empty title is the application's.
+    /// Shows a box with a warning icon; an empty title stands for the application's.
     virtual void warn(const QString &text, const QString &title) = 0;
 };
 

@@ -13,8 +13,8 @@ namespace {
 constexpr QStringView smallWordList = u",a,an,and,as,at,but,by,else,for,from,if,in,into,nor,not,of,off,on,or,"
                                       u"out,over,so,the,then,to,until,up,when,where,with,yet,";
 
-/// A word behind one of these and a hyphen stays in lower case. Without a comma at its ends the list never
-/// yields "ante" and "under"; users know the results, so it stays so.
+/// A word after one of these and a hyphen stays in lower case. The list has no comma at its ends, so "ante"
+/// and "under" are never found. That is intended.
 constexpr QStringView hyphenPrefixList =
     u"ante,anti,bi,bio,co,counter,de,extra,infra,inter,intra,macro,meta,micro,mid,mini,multi,neo,non,off,"
     u"over,post,pre,pro,proto,pseudo,re,semi,socio,sub,super,supra,trans,quasi,ultra,un,under";
@@ -29,7 +29,7 @@ bool isHyphenPrefix(QStringView word) {
     return prefixes.holds(word);
 }
 
-/// The new form of the character at `i`, seen with the new forms of those before it.
+/// The new form of the character at `i`, given the new forms of those before it.
 char16_t initialCap(QStringView text, qsizetype i) {
     const auto c = static_cast<char16_t>(unitAt(text, i));
     const int previous = unitAt(text, i - 1);
@@ -48,7 +48,7 @@ void upperCaseAt(QString &word, qsizetype index) {
     word[index] = toUpper(word[index].unicode());
 }
 
-/// True if a selection that starts behind `start` units cuts a word in two.
+/// True if a selection that starts after `start` units cuts a word in two.
 bool startsInsideWord(QStringView text, qsizetype start) {
     const auto isWordPart = [](int unit) { return isLetterUnit(unit) || unit == u'-'; };
     if (start <= 1)
@@ -71,7 +71,7 @@ class TitleBuilder {
         m_result.reserve(length);
     }
 
-    /// The title without regard to its sentences; nothing is changed in a selection without a letter.
+    /// The title before its sentences get their capitals. A selection without a letter comes back unchanged.
     QString build() {
         copyToNextLetter();
         while (m_position <= m_end) {
@@ -108,8 +108,8 @@ class TitleBuilder {
     }
 
     /// True if no letter stands between the position start + position + length and the position that equals
-    /// the selection's length. For a selection at the text's start these say what they should; further on
-    /// most words count as last and small words get their capital. Titles have always come out that way.
+    /// the selection's length. For a selection at the text's start that means the last word; further on most
+    /// words count as last, and small words get their capital. That is intended.
     [[nodiscard]] bool isLastWord(qsizetype length) const {
         return m_start + m_position + length > m_lastLetter;
     }
@@ -124,7 +124,7 @@ class TitleBuilder {
     qsizetype m_start;
     qsizetype m_end;
     qsizetype m_position;
-    qsizetype m_lastLetter; // the last letter's position that is not above the length, or 0
+    qsizetype m_lastLetter; // of the last letter up to the selection's length, or 0
     QString m_result;
     QString m_previousWord;
     bool m_isFirstWord = true;
@@ -138,7 +138,7 @@ QString cTextMethods::InitialCaps(QStringView text, qsizetype start, qsizetype l
     QString changed = text.toString();
     for (qsizetype i = first; i <= last; ++i)
         changed[i - 1] = initialCap(changed, i);
-    // The count is that of a text that nobody fills; the caller's status replaces it at once.
+    // The count is always 0; the caller's status text replaces this one at once.
     m_host.setStatus(QStringLiteral("0 characters: initial capitals"));
     return last < first ? QString() : changed.sliced(first - 1, last - first + 1);
 }

@@ -11,7 +11,7 @@
 namespace tolvo {
 
 bool isLetterUnit(int unit) {
-    return unit != noUnit && IsLetter(static_cast<char16_t>(unit));
+    return unit != noUnit && isLetter(static_cast<char16_t>(unit));
 }
 
 bool isOneOf(QStringView set, int unit) {
@@ -58,7 +58,7 @@ WordList::WordList(QString list) : m_list(std::move(list)) {
 }
 
 bool WordList::holds(QStringView word) const {
-    // A word with a comma may be two that stand side by side in the list.
+    // A word with a comma may be two neighbours in the list.
     if (word.contains(u','))
         return listHolds(m_list, word);
     return (m_sizes & sizeBit(word.size())) != 0 && m_keys.contains(caselessKey(word));
@@ -108,7 +108,7 @@ bool IsQuoteMark(QStringView text, qsizetype position) {
     };
     if ((before == u's' || before == u'S') && !endsWord(unitAt(text, position - 3)))
         return false;
-    // The tails of contractions have two letters at most: a third one settles it.
+    // The tails of contractions have two letters at most: three letters are enough to decide.
     std::array<char16_t, 3> letters{};
     std::size_t size = 0;
     for (; size < letters.size() && isLetterUnit(unitAt(text, position + static_cast<qsizetype>(size)));

@@ -20,14 +20,13 @@ qsizetype toNextStop(qsizetype column) {
     return (column / tabStop + 1) * tabStop - column;
 }
 
-/// The smaller of two positions, -1 standing for not found. It is not symmetric: a first one that isn't found
-/// wins over a second one that is. So the last line of a text that has no blank from here on, and all lines
-/// behind it, come through as one word.
+/// The smaller of two positions, -1 for not found. It is not symmetric: if only the first is not found, the
+/// result is -1. So everything after the text's last blank comes through as one word, line ends included.
 qsizetype FirstOf(qsizetype a, qsizetype b) {
     return b < 0 ? a : std::min(a, b);
 }
 
-/// The next occurrence of a needle, looked for anew only when it has been passed.
+/// The next occurrence of a needle, searched for again only after it has been passed.
 class NextOf {
   public:
     NextOf(QStringView text, QStringView needle) : m_text(text), m_needle(needle) {}
@@ -43,7 +42,7 @@ class NextOf {
     qsizetype m_found = m_text.indexOf(m_needle);
 };
 
-/// The lines put out so far, and the column of the one being filled.
+/// The output so far, and the column of its last line.
 class WrappedText {
   public:
     WrappedText(qsizetype pageWidth, bool hanging, bool tab, qsizetype expectedSize)
@@ -55,7 +54,7 @@ class WrappedText {
     void procOutput(QStringView word) {
         const bool isTab = word == u"\t";
         const qsizetype length = isTab ? toNextStop(m_column) : word.size();
-        // The blank that is still to come counts too.
+        // The blank that may have to precede the word counts too.
         if (m_column + length + 1 <= m_pageWidth) {
             if (m_column > 0 && !isTab && !m_text.endsWith(u'\t')) {
                 m_text += u' ';
@@ -90,8 +89,8 @@ class WrappedText {
     qsizetype m_column = 0;
 };
 
-/// What is left of the page behind this indentation.
-qsizetype widthBehind(QStringView indentation, qsizetype pageWidth) {
+/// The width of the page after this indentation.
+qsizetype widthAfter(QStringView indentation, qsizetype pageWidth) {
     qsizetype width = pageWidth - indentation.size();
     for (qsizetype i = 0; i < indentation.size(); ++i) {
         if (indentation.at(i) == u'\t')
@@ -105,7 +104,7 @@ void JustifyLine(QString &result, QStringView line, qsizetype pageWidth) {
     const qsizetype lastTab = line.lastIndexOf(u'\t');
     const QStringView body = lastTab < 0 ? leftTrimWhiteSpace(line) : line.sliced(lastTab + 1);
     const QStringView indentation = line.first(line.size() - body.size());
-    const qsizetype extra = widthBehind(indentation, pageWidth) - body.size();
+    const qsizetype extra = widthAfter(indentation, pageWidth) - body.size();
     const qsizetype gaps = body.count(u' ');
     if (extra < 1 || gaps < 1) {
         result += line;

@@ -20,9 +20,9 @@ TEST(CodePage, goesThereAndBack) {
 
 TEST(CodePage, knowsItsLetters) {
     for (const QChar letter : QStringView(u"azAZ\u00E9\u00DF\u00FF\u00D8\u0153\u0178\u0192\u00AA\u00B5"))
-        EXPECT_TRUE(IsLetter(letter.unicode())) << int{letter.unicode()};
+        EXPECT_TRUE(isLetter(letter.unicode())) << int{letter.unicode()};
     for (const QChar other : QStringView(u"09_-'\u00D7\u00F7\u20AC\u2019\u0391\u0431\u4E00\u0130\u00B2"))
-        EXPECT_FALSE(IsLetter(other.unicode())) << int{other.unicode()};
+        EXPECT_FALSE(isLetter(other.unicode())) << int{other.unicode()};
     EXPECT_FALSE(IsAlpha(u""));
     EXPECT_TRUE(IsAlpha(u"a1"));
     EXPECT_FALSE(IsAlpha(u"1a"));
@@ -32,8 +32,8 @@ TEST(CodePage, knowsItsLetters) {
             found += is(unit) ? 1 : 0;
         return found;
     };
-    EXPECT_EQ(count(IsUpperLetter), 60);
-    EXPECT_EQ(count(IsLowerLetter), 65);
+    EXPECT_EQ(count(isUpperLetter), 60);
+    EXPECT_EQ(count(isLowerLetter), 65);
     EXPECT_EQ(SEARCH_CHARS_UPPER().size(), 60);
     EXPECT_EQ(SEARCH_CHARS_LOWER().size(), 65);
 }

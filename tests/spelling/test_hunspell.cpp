@@ -123,7 +123,7 @@ QStringList wordsToJudge(const QString &dic) {
     QSet<QString> words;
     while (words.size() < 6000) {
         QString word = lines.at(random.bounded(int(lines.size()))).section(u'/', 0, 0).section(u'\t', 0, 0);
-        const auto isLetter = [](QChar unit) { return IsLetter(unit.unicode()); };
+        const auto isLetter = [](QChar unit) { return tolvo::isLetter(unit.unicode()); };
         if (word.size() < 2 || !std::all_of(word.cbegin(), word.cend(), isLetter))
             continue;
         const int at = random.bounded(int(word.size()));

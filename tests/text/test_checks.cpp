@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/text/engine.h"
+#include "text/Tokens.h"
 #include "text/top_level_domains.h"
 
 using namespace tolvo;
@@ -101,6 +102,18 @@ TEST_F(Checks, wordRules) {
         EXPECT_TRUE(isQuoteMark(picture));
     for (const auto *picture : {u"can^t", u"dogs^ bones", u"they^VE.", u"x|s^"})
         EXPECT_FALSE(isQuoteMark(picture));
+}
+
+TEST_F(Checks, wordsAndTheirPlaces) {
+    EXPECT_TRUE(unitAt(u"ab", 2) == u'b' && unitAt(u"ab", 3) == noUnit);
+    EXPECT_EQ(StripBrackets(u"([a)]}"), QStringView(u"a"));
+    EXPECT_EQ(WordBefore(u"a re-run", 8, false), QStringView(u"re-run"));
+    EXPECT_EQ(WordBefore(u"a re-run", 8, true), QStringView(u"run"));
+    EXPECT_EQ(WordAfter(u"don't go", 1, 8, true), QStringView(u"don't"));
+    EXPECT_EQ(WordAfter(u"don't go", 1, 2, true), QStringView(u"do"));
+    EXPECT_TRUE(NoLettersBetween(u"a 1 b", 2, 4));
+    EXPECT_FALSE(NoLettersBetween(u"a 1 b", 2, 5));
+    EXPECT_EQ(Tokens(u"see (e.g. this)", AddressRules({})).WordAt(6), QStringView(u"(e.g."));
 }
 
 TEST_F(Checks, primitives) {

@@ -92,6 +92,8 @@ TEST_F(Numbering, takesMarksOff) {
                     u"mix) it|words→mix) it|words", u"mix) it|ii) words|i) more→it|words|more",
                     u"i. a|mix. b|word|i. c→a|b|word|i. c", u"(iv) x→x", u"i said|ivxlcdm→i said|ivxlcdm",
                     u"→"});
+    EXPECT_EQ(RomanNeighbourAgrees({u"i. a"_s, u"ii. b"_s}, 0), 2);
+    EXPECT_EQ(RomanNeighbourAgrees({u"i. said so"_s}, 0), std::nullopt);
     expectExamples([this](QStringView text) { return engine.removeBullets(text); },
                    {u"- * item→* item", u"\t\u2022 a| \u00B7b|c|-5→\ta| b|c|5", u"-|*- →|"});
     expectExamples([this](QStringView text) { return engine.RemoveLineNumbers(text); },

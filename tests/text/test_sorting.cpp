@@ -87,6 +87,7 @@ TEST_F(Sorting, equalKeysKeepTheOrderOfTheSteps) {
     // The middle one comes to the front, and again in the rest.
     EXPECT_EQ(engine.Sort(lines(u"a|A| a|a ")), lines(u" a|a|A|a "));
     EXPECT_EQ(engine.KeywordSort(u"a,A,AA,b"), u"a, A, AA, b");
+    EXPECT_EQ(partitionOrder({0, 0, 0, 0}), (std::vector<std::int32_t>{2, 0, 1, 3}));
 }
 
 TEST_F(Sorting, hugeTextsOfEqualLinesComeThrough) {
