@@ -22,24 +22,27 @@ class CSpelling {
     CSpelling(const CSpelling &) = delete;
     CSpelling &operator=(const CSpelling &) = delete;
 
-    /// Called once. Fills in a missing language (2057 for Word) or locale ("en-gb"). Word that can't be had
-    /// is reported and replaced by Hunspell, in the locale of `LangID`. An unknown provider is reported with
-    /// 5002; no check then finds anything.
+    /// Prepares the provider; to be called once. Fills in a missing language (2057, for Word) or locale
+    /// ("en-gb"). If Word is asked for but not available, that is reported, and Hunspell checks in the locale
+    /// of `LangID` instead. An unknown provider is reported with failure 5002, and no check then finds
+    /// anything.
     void init(int providerType, int &LangID, QString &localeName);
 
-    /// Replaces the list of errors; true if there is one. False without a new list if the provider didn't
-    /// answer. Fails with CheckCancelled. `grammar` is remembered; no provider behaves differently for it.
+    /// Checks a text whose lines end in CR alone, and replaces the list of errors. True if there are any.
+    /// False also if the provider didn't answer; the list then stays as it was. Fails with CheckCancelled if
+    /// the user ended the wait. `grammar` has no effect on any provider.
     bool Spell(const QString &text);
     bool Spell(const QString &text, bool grammar);
 
-    /// Copies cost nothing.
+    /// The errors of the last check. Copies are cheap.
     [[nodiscard]] const CSpellingErrors &SpellingErrors() const { return m_errors; }
 
+    /// Remembers a word for later checks, if the provider can.
     void AddToCustomDic(const QString &word);
-    /// The local dictionary's suggestions; none for a provider without one.
+    /// The local dictionary's suggestions for a word; none if the provider has no local dictionary.
     [[nodiscard]] std::shared_ptr<CSpellingSuggestions> hunspellSuggest(const QString &word);
 
-    /// The provider in use, which differs from the one asked for if Word couldn't be had.
+    /// The provider in use, which is Hunspell if Word was asked for but not available.
     [[nodiscard]] int ProviderType() const { return m_providerType; }
 
   private:
@@ -52,7 +55,7 @@ class CSpelling {
     int m_providerType = -1;
     bool m_grammar = false;
     CSpellingErrors m_errors;
-    std::unique_ptr<SpellingProvider> m_provider; ///< ends first: Word's document is closed before all else
+    std::unique_ptr<SpellingProvider> m_provider; ///< destroyed first: it closes Word's document
 };
 
 } // namespace tolvo

@@ -10,40 +10,43 @@ namespace tolvo {
 
 class cTextMethods;
 
-/// The session around a check: what the check says while it works, and the text engine it borrows.
+/// The session around a check: where the check shows its status, and the text engine it uses.
 class ProofingHost {
   public:
     virtual ~ProofingHost() = default;
+    /// Replaces the status text.
     virtual void setStatus(const QString &text) = 0;
     /// Lets pending window events run.
     virtual void processEvents() {}
     [[nodiscard]] virtual const cTextMethods &textMethods() const = 0;
 };
 
-/// Shows the walk through the errors. The desktop does it with dlgSpelling; tests script it. tolvo-pipe has
-/// none.
+/// Shows the walk through the errors: dlgSpelling on the desktop, a script in the tests. tolvo-pipe has none.
 class SpellingWalk {
   public:
     virtual ~SpellingWalk() = default;
-    /// Checks `text` (CR alone ends a line) and lets the user walk the errors. True unless the user cancelled
-    /// or no error was found; then `text` holds the corrected text.
+    /// Checks `text`, whose lines end in CR alone, and lets the user walk through the errors. True if `text`
+    /// holds the corrected text; false if no error was found or the user cancelled.
     virtual bool CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar) = 0;
 };
 
-/// Shows the language list. -2: cancelled.
+/// Shows the list of languages.
 class LanguageChooser {
   public:
     virtual ~LanguageChooser() = default;
-    /// `LangID` -2 means the stored language; `save` stores the choice.
+    /// The number of the chosen language, -2 if the user cancelled. `LangID` is selected at first, where -2
+    /// stands for the stored language. `save` stores the choice.
     virtual int GetLangID(int LangID, bool save) = 0;
 };
 
+/// Runs one check: the walk through the errors, or Word's own dialog. A failure in it is reported as
+/// Proofing's.
 class Proofing {
   public:
     Proofing(const SpellingServices &services, ProofingHost &host, SpellingWalk &walk);
 
-    /// Both take and give CR LF text; a lone CR comes back as CR LF. False if a failure was caught (and
-    /// shown), or the user ended a request: the text is then as it was.
+    /// Check a text with CR LF line ends and correct it in place; a lone CR comes back as CR LF. False if a
+    /// failure was reported or the user ended a request: the text then stays as it was.
     bool CheckSpelling(QString &text, int LangID);
     bool CheckGrammar(QString &text, int LangID);
 

@@ -17,17 +17,16 @@ namespace {
 constexpr int okStatus = 200;
 constexpr int keyDigits = 32;
 
-constexpr int deepestLevel = 32;       ///< the service's own replies have 4 levels
-constexpr qsizetype longestTag = 1000; ///< bytes; the service's own tags have no attributes
+constexpr int deepestLevel = 32;       ///< the service's replies have 4 levels
+constexpr qsizetype longestTag = 1000; ///< bytes; the service's tags have no attributes
 
 QString className() {
     return QStringLiteral("CSpelling");
 }
 
-/// Whether anything between angle brackets is too long: the reader's time grows with the square of the number
-/// of attributes.
+/// Whether a tag is too long: the reader's time grows with the square of the number of attributes.
 bool hasLongTag(const QByteArray &reply) {
-    qsizetype length = 0; // of the tag so far, 0 outside of any
+    qsizetype length = 0; // of the tag so far, 0 outside a tag
     for (const char byte : reply) {
         if (byte == '>')
             length = 0;
@@ -40,7 +39,7 @@ bool hasLongTag(const QByteArray &reply) {
 }
 
 /// Whether a reply is XML of few levels without a document type: the time for a document grows with the
-/// square of its depth, and entities could grow without end.
+/// square of its depth, and entities could expand without limit.
 bool isFlat(const QByteArray &reply) {
     QXmlStreamReader reader(reply);
     reader.setNamespaceProcessing(false);
@@ -56,7 +55,7 @@ bool isFlat(const QByteArray &reply) {
     return !reader.hasError();
 }
 
-/// The reason phrase, which not every server sends.
+/// The reason phrase, or the status if the server sends no phrase.
 QString statusText(const HttpReply &reply) {
     return reply.statusText.isEmpty() ? QStringLiteral("HTTP status %1").arg(reply.status) : reply.statusText;
 }
@@ -112,8 +111,8 @@ std::optional<CSpellingErrors> AfterTheDeadline::check(const QString &text) {
 
 void AfterTheDeadline::merge(CSpellingErrors &errors, const QString &text) {
     qsizetype position = 1;
-    // Where the next local error is inserted. Not lowered when an older error of the same word goes: such an
-    // error can come to stand behind the one that it was found before.
+    // Where the next local error is inserted. It stays when an earlier error of the same word is removed, so
+    // a local error can end up after the one it precedes in the text.
     qsizetype index = 0;
     for (qsizetype current = 1; current <= errors.Count(); ++current) {
         const qsizetype start = errors.Item(current).TextStart();

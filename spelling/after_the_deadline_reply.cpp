@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The walk through a reply of After the Deadline.
+// Reads a reply of After the Deadline.
 #include "spelling/after_the_deadline.h"
 
 #include "base/strings.h"
@@ -14,7 +14,7 @@ namespace tolvo {
 
 namespace {
 
-/// An element is missing that every error must have.
+/// The failure for an element that is missing from an error.
 constexpr int missingElement = 91;
 
 QString textOf(const QDomElement &error, const QString &name) {
@@ -38,7 +38,7 @@ class ReplyWalk {
                 break;
             }
             if (node.nodeName() != QStringLiteral("error")) {
-                // The message ends without a closing quote.
+                // The message has no closing quote, on purpose.
                 report(QStringLiteral("Unexpected node result '") + node.nodeName(),
                        failureNumber::unexpectedElement);
                 continue;
@@ -53,8 +53,8 @@ class ReplyWalk {
         ReportError(m_services.boxes, QStringLiteral("CSpelling"), QStringLiteral("Spell"), text, number);
     }
 
-    /// Runs a step. Once suggestions have been read, a step that fails is passed over: what it would have set
-    /// keeps its value from the error before.
+    /// Runs a step. Once suggestions have been read, a failure in a step is ignored: what the step sets keeps
+    /// its value from the error before.
     bool attempt(const std::function<void()> &step) {
         if (!m_quiet) {
             step();
@@ -76,10 +76,9 @@ class ReplyWalk {
         attempt([&] { m_description = textOf(error, QStringLiteral("description")); });
         attempt([&] { m_precontext = textOf(error, QStringLiteral("precontext")); });
         qsizetype start = -1;
-        // Its failure leaves no place at all.
+        // If this fails, the error has no place.
         attempt([&] { start = findThePlace(m_services.boxes, 1, m_text, m_phrase, m_precontext) - 1; });
-        // A phrase is always found at its first place. If an error has that one already, asking again would
-        // go on for ever: there is no other place for this error.
+        // A phrase is always found at its first place. If an error is there already, this one has no place.
         if (start < 0 || m_places.contains(start))
             return;
         const bool isSpelling = m_type == spellingErrorType::notInDictionary;
@@ -108,7 +107,7 @@ class ReplyWalk {
                 text = QStringLiteral("<Omit>");
             else if (!isKnown(text))
                 continue;
-            // An option that the list holds already is passed over like any other failure.
+            // An option that is in the list already fails and is ignored.
             attempt([&] { list.Add(m_phrase, text, text); });
         }
     }

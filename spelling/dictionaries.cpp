@@ -27,7 +27,7 @@ QString normalised(const QString &fileName) {
     return QString(fileName).replace(u'-', u'_').toLower();
 }
 
-/// The entry of `folder` that is `name` apart from case and "-" for "_"; empty if there is none.
+/// The entry of `folder` that equals `name` apart from case and "-" for "_"; empty if there is none.
 QString fileLike(const QDir &folder, const QString &name) {
     if (folder.exists(name))
         return folder.filePath(name);
@@ -38,7 +38,7 @@ QString fileLike(const QDir &folder, const QString &name) {
     return {};
 }
 
-/// A line, written by this program as UTF-8; those from elsewhere may be in the 8-bit code page.
+/// The text of a line. This program writes UTF-8; other programs may use the 8-bit code page.
 QString decoded(const QByteArray &bytes) {
     if (bytes.isValidUtf8())
         return QString::fromUtf8(bytes);
@@ -62,7 +62,7 @@ QStringList dictionaryFolders(const QString &programFolder) {
 }
 
 std::optional<DictionaryFiles> findDictionary(const QString &locale, const QStringList &folders) {
-    // A locale is a name, never a way to another folder.
+    // A locale must not lead to another folder.
     if (locale.isEmpty() || locale.contains(u'/') || locale.contains(u'\\'))
         return std::nullopt;
     const QString stem = QString(locale).replace(u'-', u'_');
@@ -120,7 +120,7 @@ void appendWord(const QString &path, const QString &word) {
     if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::ExistingOnly))
         fail();
     QByteArray line = word.toUtf8() + "\r\n";
-    // An editor may have left the last line without its end.
+    // The last line may lack its line end, if an editor has written it.
     char last = '\n';
     if (file.size() > 0 && (!file.seek(file.size() - 1) || !file.getChar(&last)))
         fail();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The files of the local dictionaries: where they lie, and the personal word list beside them.
+// The files of the local dictionaries and the personal word list beside them. Hunspell's formats (.aff, .dic)
+// are described in the manual page hunspell(5).
 #pragma once
 
 #include "spelling/spelling_services.h"
@@ -10,6 +11,7 @@
 
 namespace tolvo {
 
+/// The paths of a dictionary's two files: rules and words.
 struct DictionaryFiles {
     QString aff;
     QString dic;
@@ -18,25 +20,26 @@ struct DictionaryFiles {
 /// The folder Dictionaries of the program folder, then the system's folders of Hunspell dictionaries.
 [[nodiscard]] QStringList dictionaryFolders(const QString &programFolder);
 
-/// The two files of a locale ("en-gb") in the first folder that holds both. Names compare without case and
-/// with "-" as "_"; a name that fits exactly goes before one that differs in case.
+/// The two files of a locale ("en-gb") in the first folder that holds both; nothing if none does. Names
+/// compare without regard to case and with "-" as "_"; an exact match is preferred. A locale with a path
+/// separator in it has no files.
 [[nodiscard]] std::optional<DictionaryFiles> findDictionary(const QString &locale,
                                                             const QStringList &folders);
 
-/// Path of persdict.dat: in the folder Dictionaries of the program folder if that can be written, else in the
-/// user's folder.
+/// The path of persdict.dat: in the folder Dictionaries of the program folder if that is writable, else in
+/// the user's folder. The file need not exist.
 [[nodiscard]] QString personalDictionaryPath(const SpellingServices &services);
 
-/// Makes an empty personal dictionary if there is none. A folder that can't be written is no failure here:
-/// the next check tells.
+/// Creates an empty personal dictionary if there is none. A file that can't be created is not reported here:
+/// the next check does so.
 void ensurePersonalDictionary(const SpellingServices &services);
 
-/// The lines of the personal dictionary as they stand, blank ones too. Fails with 53 if the file is missing,
-/// with 75 if it can't be read.
+/// The lines of the personal dictionary as they are, blank ones too, in UTF-8 or, where a line is not UTF-8,
+/// in Windows-1252. Fails with 53 if the file is missing and with 75 if it can't be read.
 [[nodiscard]] QStringList readPersonalDictionary(const QString &path);
 
-/// Appends a word as one line (UTF-8, CR LF). Fails with 53 if the file is missing (it is never created),
-/// with 75 if it can't be written.
+/// Appends a word as one line (UTF-8, CR LF), after completing an unfinished last line. Fails with 53 if the
+/// file is missing (it is never created) and with 75 if it can't be written.
 void appendWord(const QString &path, const QString &word);
 
 } // namespace tolvo

@@ -7,7 +7,8 @@ namespace tolvo {
 
 namespace {
 
-/// The registered name for one of the names that affix files use.
+/// The IANA name of an encoding (https://www.iana.org/assignments/character-sets) for a name from an affix
+/// file.
 QByteArray registeredName(QByteArray name) {
     name = name.trimmed().toUpper();
     if (name.isEmpty())
@@ -46,7 +47,7 @@ bool DictionaryEncoding::isValid() const {
 std::optional<std::string> DictionaryEncoding::encode(const QString &text) {
     const QByteArray encoded = m_converters->encoder(text);
     const std::string bytes(encoded.constData(), static_cast<std::size_t>(encoded.size()));
-    // The way back tells: a converter puts a substitute for what it can't encode, and not every one says so.
+    // A converter replaces what it can't encode, and not every converter reports that: the way back shows it.
     if (decode(bytes) != text)
         return std::nullopt;
     return bytes;

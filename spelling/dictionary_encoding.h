@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The encoding that a dictionary names in its affix file ("ISO8859-1", "UTF-8", "KOI8-R",
-// "microsoft-cp1251").
+// The encoding of a dictionary, as the SET line of its affix file names it ("ISO8859-1", "UTF-8", "KOI8-R",
+// "microsoft-cp1251"): see the manual page hunspell(5).
 #pragma once
 
 #include <QByteArray>
@@ -11,6 +11,7 @@
 
 namespace tolvo {
 
+/// Converts words to and from one encoding.
 class DictionaryEncoding {
   public:
     explicit DictionaryEncoding(const QByteArray &name);
@@ -18,10 +19,11 @@ class DictionaryEncoding {
     DictionaryEncoding(const DictionaryEncoding &) = delete;
     DictionaryEncoding &operator=(const DictionaryEncoding &) = delete;
 
-    /// False for a name that nothing here can convert.
+    /// False if the name is unknown: nothing can be converted then.
     [[nodiscard]] bool isValid() const;
-    /// Nothing if the encoding has no place for a character of the text.
+    /// The text in the encoding; nothing if the encoding lacks a character of the text.
     [[nodiscard]] std::optional<std::string> encode(const QString &text);
+    /// The text that the bytes stand for.
     [[nodiscard]] QString decode(const std::string &bytes);
 
   private:

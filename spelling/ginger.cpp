@@ -29,15 +29,15 @@ QString sampleReply() {
         R"("Sentences":[{"FromIndex":0,"IsEnglish":true,"ToIndex":23}]});)");
 }
 
-/// The stretch of the chunk that starts at `start` is looked at up to `position`, which counts from 1 there.
+/// One level of nesting: it starts at `start` and is read up to `position`, which counts from 1 there.
 struct Level {
     qsizetype start;
     qsizetype position = 1;
 };
 
-/// The position, counted from 1, where the chunk at the front of `source` closes; its length if it doesn't.
-/// A level of nesting is an entry of a list, so that no reply can nest too deep. Strings end at the next
-/// double quote, escaped or not; one that doesn't end runs to the end of the source.
+/// The position, counted from 1, where the chunk at the front of `source` closes; the length of `source` if
+/// it doesn't. Works without recursion, so that no reply can nest too deep. A string ends at the next double
+/// quote, escaped or not, or at the end of the source.
 qsizetype closingPosition(const QString &source, QChar open, QChar close) {
     const qsizetype size = source.size();
     QList<Level> levels{{0}};
@@ -64,7 +64,7 @@ qsizetype closingPosition(const QString &source, QChar open, QChar close) {
         }
         if (levels.size() == 1)
             return level.position;
-        // The outer level goes on behind what the inner one would have given back.
+        // The outer level goes on after the inner one.
         const qsizetype inside = qMin(level.position, length - 1);
         levels.removeLast();
         levels.last().position += inside;
@@ -118,7 +118,7 @@ CSpellingErrors parseGinger(MessageBoxes &boxes, const QString &reply, const QSt
         const qsizetype before = body.size();
         QString chunk = getChunk(boxes, body);
         if (body.size() == before)
-            break; // no chunk there, which has been reported
+            break; // not a chunk, which getChunk has reported
         chunk.chop(1);
         values.insert(getJsonKey(chunk), getJsonValue(chunk));
     }

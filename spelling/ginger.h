@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Ginger: a web service that answers in JSONP. The provider is half-built and stays so: it sends nothing,
-// reads a fixed sample reply to its top level, and finds no errors in any text.
+// Ginger: a web service that answers in JSONP, a JSON value (RFC 8259) as the argument of a function call.
+// The provider is deliberately incomplete: it sends nothing, reads the top level of a fixed sample reply, and
+// finds no errors in any text.
 #pragma once
 
 #include "spelling/spelling_provider.h"
@@ -16,6 +17,7 @@ class GingerProvider final : public SpellingProvider {
     GingerProvider(const SpellingServices &services, const QString &locale)
         : m_services(services), m_locale(locale) {}
 
+    /// Always an empty list.
     [[nodiscard]] std::optional<CSpellingErrors> check(const QString &text) override;
 
   private:
@@ -23,22 +25,22 @@ class GingerProvider final : public SpellingProvider {
     QString m_locale;
 };
 
-/// The sample reply, whatever the arguments are; no network is touched.
+/// The sample reply, whatever the arguments; uses no network.
 [[nodiscard]] QString getGinger(const QString &text, const QString &locale);
 
-/// Walks the top level of a reply. The list is always empty. Fails with 5011 if the reply holds the word
-/// "exception".
+/// Reads the top level of a reply. The list is always empty. A part that is not a chunk is reported and ends
+/// the reading. Fails with 5011 if the reply holds the word "exception".
 [[nodiscard]] CSpellingErrors parseGinger(MessageBoxes &boxes, const QString &reply, const QString &text);
 
-/// Cuts the chunk in brackets off the front of `source` and returns what stands inside it, with its closing
-/// bracket and one more character if there is one. A source that starts with no opening bracket is reported,
-/// gives the empty string and stays as it is.
+/// Removes the chunk in brackets at the front of `source` and returns its contents, with its closing bracket
+/// and one more character if there is one. A source that doesn't start with an opening bracket is reported
+/// and stays as it is; the result is then empty.
 [[nodiscard]] QString getChunk(MessageBoxes &boxes, QString &source);
 
-/// What stands between the first two double quotes.
+/// The text between the first two double quotes, to the end if there is only one; empty without any.
 [[nodiscard]] QString getJsonKey(const QString &chunk);
 
-/// Values are not read: this is always the empty string.
+/// Always the empty string: values are not read.
 [[nodiscard]] QString getJsonValue(const QString &chunk);
 
 } // namespace tolvo

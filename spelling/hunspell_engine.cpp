@@ -22,8 +22,8 @@ QByteArray firstLine(const QString &path) {
     return line.trimmed();
 }
 
-/// A dictionary starts with the number of its words. The library prints a complaint about any other file and
-/// then accepts nothing at all.
+/// A dictionary starts with the number of its words. Given any other file, the library prints an error and
+/// then accepts no word.
 bool startsWithCount(const QString &dicPath) {
     const QByteArray line = firstLine(dicPath);
     bool isNumber = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The Hunspell library behind four operations. Words go in and out in the dictionary's own encoding.
+// The Hunspell library behind four operations, which convert words to and from the dictionary's own encoding.
 #pragma once
 
 #include <QHash>
@@ -9,6 +9,7 @@
 
 namespace tolvo {
 
+/// One loaded dictionary.
 class HunspellEngine {
   public:
     HunspellEngine();
@@ -16,15 +17,15 @@ class HunspellEngine {
     HunspellEngine(const HunspellEngine &) = delete;
     HunspellEngine &operator=(const HunspellEngine &) = delete;
 
-    /// Loads a dictionary. False if a file is missing, can't be read or is no such file at all.
+    /// Loads a dictionary. False if a file is missing, can't be read or is not in Hunspell's format.
     [[nodiscard]] bool init(const QString &affPath, const QString &dicPath);
 
-    /// Adds a word for this run. The empty word, and one that the dictionary's encoding can't hold, has no
-    /// effect.
+    /// Adds a word to the loaded dictionary, not to its file. The empty word has no effect, nor has one that
+    /// the dictionary's encoding can't hold.
     void Add(const QString &word);
 
-    /// True if the word is acceptable. The empty word is, and so is every word while no dictionary is loaded.
-    /// Each word is looked up once.
+    /// True if the word is spelled correctly. The empty word is, and so is every word while no dictionary is
+    /// loaded. Answers are kept, so that a word is looked up once.
     [[nodiscard]] bool Spell(QStringView word);
 
     /// The suggestions, best first, joined with "|"; empty if there are none.

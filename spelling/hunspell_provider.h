@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The local dictionary: checks a text word by word, and proposes corrections.
+// The local dictionary: checks a text word by word and suggests corrections.
 #pragma once
 
 #include "spelling/hunspell_engine.h"
@@ -15,19 +15,22 @@ namespace tolvo {
 class LocalDictionary {
   public:
     /// Loads the dictionary of a locale ("en-gb") and the personal words. A dictionary that can't be loaded
-    /// is reported with 5003; every word is then acceptable. Fails with 53 if there is no personal word list.
+    /// is reported with failure 5003; every word is then correct. Fails with 53 if there is no personal word
+    /// list.
     void initHunspell(const SpellingServices &services, const QString &locale);
 
+    /// True if the word is spelled correctly, as HunspellEngine::Spell.
     [[nodiscard]] bool Spell(QStringView word) { return m_engine->Spell(word); }
 
-    /// The words of a text that the dictionary doesn't know. A text of one character is never checked.
+    /// The words of a text that the dictionary doesn't know, each as an error. A text of one character has
+    /// none.
     [[nodiscard]] CSpellingErrors checkHunspell(const QString &text);
 
-    /// An error for a word that isn't in the dictionary, its suggestions made when they are looked at.
+    /// The suggestions for a word, found when they are first looked at.
     [[nodiscard]] std::shared_ptr<CSpellingSuggestions> hunspellSuggest(const QString &word);
 
   private:
-    // Shared with suggestion lists that are still to be made.
+    // Shared with the suggestion lists, which use it later.
     std::shared_ptr<HunspellEngine> m_engine = std::make_shared<HunspellEngine>();
 };
 
@@ -37,10 +40,11 @@ class HunspellProvider final : public SpellingProvider {
     HunspellProvider(const SpellingServices &services, LocalDictionary &dictionary)
         : m_services(services), m_dictionary(dictionary) {}
 
+    /// Always a list; it is empty for a text without errors.
     [[nodiscard]] std::optional<CSpellingErrors> check(const QString &text) override {
         return m_dictionary.checkHunspell(text);
     }
-    /// Appends to the personal word list; the check that is running doesn't know the word.
+    /// Appends the word to the personal word list, which the next check reads.
     void AddToCustomDic(const QString &word) override;
 
   private:

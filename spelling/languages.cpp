@@ -15,7 +15,7 @@ namespace {
 
 constexpr const SpellingKeys &keys = settingKeys.spelling;
 
-/// The entries of a list, each with `fields` fields or more.
+/// The fields of those entries of a list that have `fields` fields or more.
 QList<QStringList> entries(const QString &list, qsizetype fields) {
     QList<QStringList> all;
     for (const QString &entry : list.split(u'#')) {
@@ -128,7 +128,7 @@ QString LanguageList::storedLocale() const {
 QString readWordLanguages(WordAutomation &automation, const std::function<bool()> &cancelled) {
     QString list = QStringLiteral("MS Word Default|<Default>|-1");
     const std::unique_ptr<WordApplication> word = automation.create();
-    // Word is ours alone and hidden: it must not stay behind, whatever happens.
+    // This Word is hidden and nobody else's: it must quit whatever happens.
     const auto quit = [](WordApplication *application) {
         try {
             application->quit();

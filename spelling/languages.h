@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The lists of languages that are kept in the settings store: entries separated by "#", fields by "|".
+// The lists of languages in the settings store: entries separated by "#", fields by "|". Language numbers are
+// those of Windows, as [MS-LCID], Windows Language Code Identifier Reference, lists them.
 #pragma once
 
 #include <QList>
@@ -13,6 +14,7 @@ class Locales;
 class SettingsStore;
 class WordAutomation;
 
+/// A language to choose for a check.
 struct CSpellLanguage {
     QString LangLocal;   ///< what the language calls itself
     QString Description; ///< its English name
@@ -26,7 +28,7 @@ struct CSpellLanguage {
     static CSpellLanguage Constructor_Word(const QString &langLocal, const QString &description, int id) {
         return {langLocal, description, {}, id};
     }
-    /// As a row of a list shows it.
+    /// The row of a list: "English (United Kingdom) - English".
     [[nodiscard]] QString row() const { return Description + QStringLiteral(" - ") + LangLocal; }
 };
 
@@ -44,11 +46,11 @@ class LanguageList {
 
     /// Word's languages (`DictionaryList`).
     [[nodiscard]] QList<CSpellLanguage> wordLanguages() const;
-    /// The name of a language of Word, empty if there is none of that number.
+    /// The name of the language of Word with a number; empty if Word has none.
     [[nodiscard]] QString langFromID(int LangID) const;
 
-    /// The rows of the quick list for a provider. Word's: those of `QuickList`. All others': those of
-    /// `HunQuickList`, or all of `HunLangList` while there is no quick list ("<none>").
+    /// The rows of a provider's quick list: for Word those of `QuickList`, for any other those of
+    /// `HunQuickList`, or all of `HunLangList` while that list is "<none>".
     [[nodiscard]] QList<CSpellLanguage> quickList(int providerType, const Locales &locales) const;
 
     /// `HunLangList` as its window reads it: locale, language, territory.
@@ -73,9 +75,9 @@ class LanguageList {
     SettingsStore &m_store;
 };
 
-/// Word's list of languages in the form of `DictionaryList`, its default first. `cancelled` is asked before
-/// each language and may let pending events run; after a cancellation the text is empty. Word has quit in any
-/// case.
+/// Reads Word's languages, its default first, in the form of `DictionaryList`. `cancelled` is asked before
+/// each language and may let pending events run; if it returns true, the result is empty. Word has quit in
+/// any case.
 [[nodiscard]] QString readWordLanguages(WordAutomation &automation, const std::function<bool()> &cancelled);
 
 } // namespace tolvo

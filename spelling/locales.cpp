@@ -10,7 +10,7 @@ namespace tolvo {
 
 namespace {
 
-/// Longest line that is read; nothing in the table comes near it.
+/// The longest line that is read, in bytes; the table's own lines are far shorter.
 constexpr qint64 longestLine = 4096;
 
 } // namespace

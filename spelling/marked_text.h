@@ -17,7 +17,7 @@ enum class Mark : char {
     Replaced, ///< green (0, 128, 0)
 };
 
-/// The colour of a mark as it is meant for a light background, 0xRRGGBB.
+/// The colour of a mark on a light background, 0xRRGGBB.
 [[nodiscard]] constexpr std::uint32_t markColour(Mark mark) {
     return mark == Mark::Mistake ? 0xFF0000 : mark == Mark::Replaced ? 0x008000 : 0x000000;
 }
@@ -29,27 +29,30 @@ struct MarkRun {
     Mark mark;
 };
 
-/// Offsets count UTF-16 units from 0; what lies outside the text is cut off. Every change is remembered, so
-/// that the text with its marks can be taken back to any earlier state; a state costs as much as the change
-/// that follows it, not a copy of the text.
+/// A text and the mark of each of its UTF-16 units. Offsets count units from 0; a stretch is cut to the text.
+/// Every change is kept, so that text and marks can be restored to any earlier state; a state costs as much
+/// as the change after it, not a copy of the text.
 class MarkedText {
   public:
-    /// All plain, with nothing to take back.
+    /// A text of plain characters without earlier states.
     explicit MarkedText(const QString &text = {});
 
     [[nodiscard]] const QString &text() const { return m_text; }
+    /// The mark of a unit, which must be in the text.
     [[nodiscard]] Mark markAt(qsizetype offset) const { return static_cast<Mark>(m_marks.at(offset)); }
-    /// One byte for each unit of the text.
+    /// The marks as one byte for each unit.
     [[nodiscard]] const QByteArray &marks() const { return m_marks; }
-    /// The marks of a stretch, front to back.
+    /// The runs of equal marks in a stretch, in order.
     [[nodiscard]] QList<MarkRun> runs(qsizetype start, qsizetype length) const;
 
+    /// Marks a stretch.
     void mark(qsizetype start, qsizetype length, Mark mark);
+    /// Replaces a stretch by a text, all of it with one mark.
     void replace(qsizetype start, qsizetype length, QStringView replacement, Mark mark);
 
-    /// A name for the present state.
+    /// The current state, for restore().
     [[nodiscard]] qsizetype state() const { return m_changes.size(); }
-    /// Takes back all changes since that state.
+    /// Undoes all changes since a state.
     void restore(qsizetype state);
 
   private:

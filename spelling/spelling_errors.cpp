@@ -22,7 +22,7 @@ namespace {
 } // namespace
 
 void CSpellingSuggestions::make() const {
-    // Taken away before it runs: the maker itself adds to this list.
+    // Removed before it runs, since the maker itself adds to this list.
     if (const Maker maker = std::exchange(m_maker, nullptr))
         maker(const_cast<CSpellingSuggestions &>(*this));
 }
@@ -117,7 +117,7 @@ CSpellingError &CSpellingErrors::Add(const QString &errorText, qsizetype textSta
 
 qsizetype CSpellingErrors::indexOfKey(const QString &key) const {
     const auto found = m_keys.constFind(key);
-    // Looked for from the end: the callers replace what they added a short while ago.
+    // From the end: callers mostly replace what they have just added.
     return found == m_keys.cend() ? 0 : m_items.lastIndexOf(*found) + 1;
 }
 

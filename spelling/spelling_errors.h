@@ -26,31 +26,34 @@ inline constexpr int style = 4;
 inline constexpr std::array<QStringView, 6> aSpellErrorTypes{
     u"Unknown error", u"(No error)", u"Not in dictionary", u"Capitalisation", u"Grammar error", u"Style"};
 
+/// One suggestion.
 struct CSpellingSuggestion {
-    QString field; ///< the provider's own note (a running number, the word in error); nothing reads it
+    QString field; ///< the provider's own note (a number, the wrong word); not read anywhere
     QString Suggestion;
 };
 
-/// An ordered list with optional keys, indexes from 1. It can be given a maker, which is run when the list is
-/// first looked at: finding suggestions is slow, and most errors are never looked at.
+/// The suggestions for one error: an ordered list with optional keys, indexes from 1. A list with a maker is
+/// filled when it is first read: finding suggestions is slow, and most lists are never read.
 class CSpellingSuggestions {
   public:
     using Maker = std::function<void(CSpellingSuggestions &)>;
 
     CSpellingSuggestions() = default;
+    /// `maker` adds the suggestions to the list that it is given.
     explicit CSpellingSuggestions(Maker maker) : m_maker(std::move(maker)) {}
 
-    /// Appends; an empty key means none. Fails with 457 if the key is taken.
+    /// Appends a suggestion; an empty key stands for none. Fails with 457 if the key is taken.
     const CSpellingSuggestion &Add(const QString &field, const QString &suggestion, const QString &key);
+    /// Whether the list has an item with a key.
     [[nodiscard]] bool Exists(const QString &key) const;
-    /// Fail with 5 if there is no such item.
+    /// The item at an index or with a key. These, and Remove, fail with 5 if there is none.
     [[nodiscard]] const CSpellingSuggestion &Item(qsizetype index) const;
     [[nodiscard]] const CSpellingSuggestion &Item(const QString &key) const;
     void Remove(qsizetype index);
     void Remove(const QString &key);
     [[nodiscard]] qsizetype Count() const;
 
-    /// Whether an item has this very suggestion, with a key or without.
+    /// Whether an item has exactly this suggestion.
     [[nodiscard]] bool holds(const QString &suggestion) const;
     /// The suggestions in order.
     [[nodiscard]] QStringList texts() const;
@@ -72,11 +75,12 @@ class CSpellingError {
   public:
     CSpellingError() : m_suggestions(std::make_shared<CSpellingSuggestions>()) {}
 
+    /// Sets text, place and type (one of spellingErrorType); the suggestions stay.
     void init(const QString &errorText, qsizetype textStart, qsizetype textEnd, int type);
 
     [[nodiscard]] const QString &ErrorText() const { return m_errorText; }
     [[nodiscard]] qsizetype TextStart() const { return m_textStart; }
-    /// Just behind the last character.
+    /// The offset after the last character.
     [[nodiscard]] qsizetype TextEnd() const { return m_textEnd; }
     [[nodiscard]] qsizetype length() const { return m_textEnd - m_textStart; }
 
@@ -95,21 +99,21 @@ class CSpellingError {
     std::shared_ptr<CSpellingSuggestions> m_suggestions;
 };
 
-/// An ordered list with optional keys, indexes from 1. Copies share the errors themselves and cost nothing
-/// until one of them changes.
+/// The errors of a text: an ordered list with optional keys, indexes from 1. Copies share the errors and are
+/// cheap until one of the lists changes.
 class CSpellingErrors {
   public:
     using Pointer = std::shared_ptr<CSpellingError>;
 
-    /// Appends a new error; an empty key means none. Fails with 457 if the key is taken.
+    /// Appends a new error; an empty key stands for none. Fails with 457 if the key is taken.
     CSpellingError &Add(const QString &errorText, qsizetype textStart, qsizetype textEnd, int type,
                         const QString &key = {});
-    /// Inserts with the error's text as its key, before the position `before` (at the end if that is 0 or
-    /// behind the list). An older error of the same key is removed first; returns the index that one had, or
-    /// 0.
+    /// Inserts an error, with its text as its key, before index `before`, or at the end if there is no such
+    /// index. An error with the same key is removed first; returns the index it had, or 0.
     qsizetype AddItem(const Pointer &item, qsizetype before = 0);
+    /// Whether the list has an item with a key.
     [[nodiscard]] bool Exists(const QString &key) const { return m_keys.contains(key); }
-    /// Fail with 5 if there is no such item.
+    /// The item at an index or with a key. These, and Remove, fail with 5 if there is none.
     [[nodiscard]] CSpellingError &Item(qsizetype index) const;
     [[nodiscard]] CSpellingError &Item(const QString &key) const;
     void Remove(qsizetype index);

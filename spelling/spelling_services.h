@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What spelling stands on. One value, made once by the program (or by a test) and handed down.
+// What spelling needs of its surroundings: one value, made by the program or a test and handed down.
 #pragma once
 
 #include <QString>
@@ -11,23 +11,24 @@ class MessageBoxes;
 class SettingsStore;
 class WordAutomation;
 
+/// The services; the references outlive their users.
 struct SpellingServices {
     SettingsStore &store;
     MessageBoxes &boxes;
     HttpClient &http;      ///< asked only while the user's provider is a web service
-    WordAutomation &word;  ///< NoWordAutomation where there is none
+    WordAutomation &word;  ///< NoWordAutomation where Word can't run
     QString programFolder; ///< the folder of Locales.txt and of the folder Dictionaries
-    QString userFolder;    ///< persdict.dat lies here if Dictionaries can't be written; made when needed
-    QString atdEndpoint = defaultAtdEndpoint(); ///< base address of After the Deadline; empty: never asked
+    QString userFolder;    ///< holds persdict.dat if Dictionaries isn't writable; created when needed
+    QString atdEndpoint = defaultAtdEndpoint(); ///< After the Deadline's base address; empty: no requests
 
-    /// The environment variable TOLVO_ATD_URL, else what the build was configured with.
+    /// The environment variable TOLVO_ATD_URL, else the build's setting.
     [[nodiscard]] static QString defaultAtdEndpoint();
-    /// The user's data folder of this program.
+    /// This program's folder in the user's data folder.
     [[nodiscard]] static QString defaultUserFolder();
 };
 
-/// What has to be there from the first run on: an empty persdict.dat, and, where Word can't be, a stored
-/// provider (Hunspell) if none is stored yet. Harmless when it is all there already.
+/// Creates what spelling needs from the first run on: an empty persdict.dat and, where Word can't run,
+/// Hunspell as the stored provider. What exists already stays as it is.
 void prepareSpelling(const SpellingServices &services);
 
 } // namespace tolvo

@@ -38,7 +38,7 @@ bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
 
     oSpelling = std::make_unique<CSpelling>(m_services, m_host.textMethods());
     const int provider = get(m_services.store, providerForSpellingDialog);
-    // Always empty: a check runs in the default locale, whatever language is chosen.
+    // Left empty on purpose: a check runs in the default locale, whatever language is chosen.
     QString localeName;
     oSpelling->init(provider, LangID, localeName);
     if (!oSpelling->Spell(text, grammar)) {
@@ -63,8 +63,8 @@ qsizetype ErrorWalk::errorStart() const {
     return m_current <= oErrors.Count() ? placeOf(current()) : m_caret;
 }
 
-/// Where an error of the checked text stands now. Errors come in the order of the text as a rule; one that
-/// doesn't is moved by the changes in front of it alone.
+/// The current place of an error of the checked text. Errors mostly come in the order of the text; one that
+/// doesn't is moved only by the changes before it.
 qsizetype ErrorWalk::placeOf(const CSpellingError &error) const {
     const qsizetype start = error.TextStart();
     if (start >= m_offset.furthest)
@@ -100,7 +100,7 @@ void ErrorWalk::ShowNextError(bool useChangeAll) {
     m_over = true;
 }
 
-/// Whether the error needs no user: its word is ignored, or is one that is changed everywhere.
+/// Whether the error is handled without the user: its word is ignored or changed everywhere.
 bool ErrorWalk::passOver(const CSpellingError &error, bool useChangeAll) {
     const QString word = toUpper(error.ErrorText());
     if (oIgnore.value(word) == QStringLiteral("all"))
@@ -118,8 +118,8 @@ bool ErrorWalk::passOver(const CSpellingError &error, bool useChangeAll) {
     return true;
 }
 
-/// An error at the very start is not marked. The caret goes to the place that the error had before any
-/// change, which the check of a bad replacement resumes by.
+/// Marks the error in the text, unless it is at the very start. The caret goes to the place that the error
+/// had before any change: that is where the walk resumes after the check of a replacement.
 void ErrorWalk::markError(const CSpellingError &error) {
     if (error.TextStart() < 1) {
         m_caret = 1;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The walk of a user through the errors of a text: the rules of the checking dialog, without its window. What
-// the dialog's controls show is told by the members that bear their names.
+// The user's walk through the errors of a text: the rules of the checking dialog, without its window. Members
+// that are named after the dialog's controls say what these show.
 #pragma once
 
 #include "spelling/CSpelling.h"
@@ -16,12 +16,12 @@
 
 namespace tolvo {
 
-/// The row that stands for suggestions held back.
+/// The row of the list that stands for suggestions not shown yet.
 [[nodiscard]] inline QString moreSuggestionsRow() {
     return QStringLiteral("<More...>");
 }
 
-/// What the controls show, and which of them can be used.
+/// What the controls show, and which of them are enabled.
 struct WalkControls {
     QString caption;
     QString labErrorType = QStringLiteral("Not in dictionary:");
@@ -37,13 +37,14 @@ struct WalkControls {
     bool cmdUndoEnabled = false;
 };
 
+/// One walk. Each command acts on the current error and moves on to the next one.
 class ErrorWalk {
   public:
     ErrorWalk(const SpellingServices &services, ProofingHost &host);
     ~ErrorWalk();
 
-    /// Checks the text (CR alone ends a line) and goes to its first error. False if none was found: there is
-    /// nothing to show then.
+    /// Checks the text, whose lines end in CR alone, and goes to its first error. False if there is none, and
+    /// so nothing to show.
     bool start(const QString &text, int LangID, bool grammar);
     /// Releases the provider.
     void end();
@@ -54,12 +55,12 @@ class ErrorWalk {
     [[nodiscard]] qsizetype caret() const { return m_caret; }
     [[nodiscard]] qsizetype errorStart() const;
     [[nodiscard]] qsizetype errorLength() const;
-    /// True as soon as the dialog is to be hidden.
+    /// True once the dialog is to be hidden.
     [[nodiscard]] bool isOver() const { return m_over; }
     [[nodiscard]] bool bCancelled() const { return m_cancelled; }
 
     void setSmartReplace(bool ticked) { m_smartReplace = ticked; }
-    /// The user or a rule has put a text into txtCorrection.
+    /// Sets txtCorrection, as the user does by typing.
     void setCorrection(const QString &text);
 
     void cmdIgnore();
@@ -71,21 +72,22 @@ class ErrorWalk {
     void cmdUndo();
     void cmdStop() { m_over = true; }
     void cmdCancel();
-    /// A click on a row, and a double click, which takes the row without any check. Rows count from 0.
+    /// A click on a row, which makes it the correction, and a double click, which also replaces the error by
+    /// it without a check. Rows count from 0.
     void clickSuggestion(int row);
     void doubleClickSuggestion(int row);
 
   private:
-    /// What a change at a place of the checked text has added to its length.
+    /// A change: its place in the checked text, and the length it added.
     struct Shift {
         qsizetype start;
         qsizetype added;
     };
-    /// All changes of the present list of errors.
+    /// The changes since the current list of errors was made.
     struct Shifts {
-        qsizetype first = 0;     ///< the first of them in m_shifts
+        qsizetype first = 0;     ///< the index of the first in m_shifts
         qsizetype count = 0;     ///< the size of m_shifts
-        qsizetype sum = 0;       ///< all that they have added
+        qsizetype sum = 0;       ///< of the added lengths
         qsizetype furthest = -1; ///< the greatest of their places
     };
     struct UndoRecord {
@@ -131,7 +133,7 @@ class ErrorWalk {
     WalkControls m_controls;
     qsizetype m_caret = 0;
     bool m_smartReplace = false;
-    bool m_justExpanded = false; ///< the last click was one on "<More...>"
+    bool m_justExpanded = false; ///< the last click was on "<More...>"
     bool m_over = true;
     bool m_cancelled = false;
 };

@@ -96,8 +96,8 @@ void ErrorWalk::cmdChangeAll() {
         replaceAndGoOn();
 }
 
-/// A replacement that the provider doubts: the whole corrected text is checked anew, and the walk starts
-/// again at its first error, unless that lies behind the place where the caret was.
+/// For a replacement that the provider doesn't accept: the whole corrected text is checked again, and the
+/// walk restarts at its first error, unless that is after the place of the caret.
 void ErrorWalk::replaceAndCheckAgain() {
     const qsizetype place = m_caret;
     ReplaceCurrent();
@@ -172,7 +172,7 @@ void ErrorWalk::clickSuggestion(int row) {
 void ErrorWalk::doubleClickSuggestion(int row) {
     if (m_over || row < 0 || row >= m_controls.lstSuggestions.size())
         return;
-    // The first half of a double click on "<More...>" has put a suggestion there that nobody has seen yet.
+    // The first click of a double click on "<More...>" has put a suggestion there that the user hasn't seen.
     if (std::exchange(m_justExpanded, false))
         return;
     if (m_controls.lstSuggestions[row] == moreSuggestionsRow()) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Microsoft Word as a list of operations: all that the program needs of it.
+// Microsoft Word as the operations that the program needs of it.
 #pragma once
 
 #include <QList>
@@ -9,41 +9,42 @@
 
 namespace tolvo {
 
-/// A stretch of Word's text; offsets from 0, the end just behind.
+/// A stretch of Word's text. Offsets count from 0; the end is the offset after the last character.
 struct WordRange {
     QString text;
     int start = 0;
     int end = 0;
 };
 
+/// A language that Word knows.
 struct WordLanguage {
     QString name;
     QString localName;
     int id = 0;
 };
 
-/// The active custom dictionary: its file is path, separator and name put together.
+/// The active custom dictionary; its file is path + separator + name.
 struct WordCustomDictionary {
     QString path;
     QString separator;
     QString name;
 };
 
-/// One running Word with at most one document. Every operation may fail with a Failure. Destroying the object
-/// releases Word but neither closes the document nor quits it.
+/// One running Word with at most one document. Every operation may fail with a Failure. The destructor
+/// releases Word; it neither closes the document nor quits Word.
 class WordApplication {
   public:
     virtual ~WordApplication() = default;
 
-    /// A new empty document.
+    /// Opens a new, empty document.
     virtual void addDocument() = 0;
     virtual void setVisible(bool visible) = 0;
     virtual void setContentText(const QString &text) = 0;
     [[nodiscard]] virtual QString contentText() = 0;
-    /// Selects the content, sets its language, its no-proofing mark to 0, and Word's own language detection
-    /// to off.
+    /// Selects the content, sets its language and its no-proofing mark to 0, and turns off Word's language
+    /// detection.
     virtual void setContentLanguage(int LangID) = 0;
-    /// Gives Word the right to bring its dialog to the front.
+    /// Allows Word to bring its dialog to the front.
     virtual void allowForeground() = 0;
     virtual void CheckSpelling() = 0;
     virtual void CheckGrammar() = 0;
@@ -51,17 +52,18 @@ class WordApplication {
     [[nodiscard]] virtual QStringList suggestions(const WordRange &error) = 0;
     [[nodiscard]] virtual WordCustomDictionary activeCustomDictionary() = 0;
     [[nodiscard]] virtual QList<WordLanguage> languages() = 0;
-    /// Both without saving.
+    /// Close and quit without saving.
     virtual void closeDocument() = 0;
     virtual void quit() = 0;
 };
 
+/// Starts Word.
 class WordAutomation {
   public:
     virtual ~WordAutomation() = default;
-    /// False where the platform can't have Word at all.
+    /// False on a platform that Word doesn't run on.
     [[nodiscard]] virtual bool isPossible() const { return true; }
-    /// A new, hidden instance. Fails with number 429 if it can't be created.
+    /// Starts a new, hidden instance. Fails with 429 if that is not possible.
     [[nodiscard]] virtual std::unique_ptr<WordApplication> create() = 0;
 };
 

@@ -16,7 +16,7 @@ std::unique_ptr<WordProvider> WordProvider::instantiateWord(const SpellingServic
 }
 
 WordProvider::~WordProvider() {
-    // Word may have been ended by its user: nothing is left to close then.
+    // The user may have quit Word: then there is nothing to close.
     try {
         m_word->closeDocument();
         m_word->quit();

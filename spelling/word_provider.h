@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Microsoft Word as a list of errors, without its dialog.
+// Microsoft Word as a provider of errors, without its dialog.
 #pragma once
 
 #include "spelling/spelling_provider.h"
@@ -10,17 +10,17 @@
 
 namespace tolvo {
 
-/// Provider 0. At its end the document is closed and Word quits.
+/// Provider 0. The destructor closes the document and quits Word.
 class WordProvider final : public SpellingProvider {
   public:
-    /// Nothing, reported as instantiateWord, if Word can't be had.
+    /// Starts Word for a language. Nothing if that fails, which is reported as instantiateWord's.
     [[nodiscard]] static std::unique_ptr<WordProvider> instantiateWord(const SpellingServices &services,
                                                                        int LangID);
     ~WordProvider() override;
 
-    /// Spelling errors only.
+    /// Word's spelling errors; never its grammar errors.
     [[nodiscard]] std::optional<CSpellingErrors> check(const QString &text) override;
-    /// Appends to Word's active custom dictionary.
+    /// Appends the word to Word's active custom dictionary.
     void AddToCustomDic(const QString &word) override;
 
   private:
