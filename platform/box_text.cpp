@@ -11,7 +11,7 @@ namespace {
 
 constexpr qsizetype mostUnits = 1600;
 constexpr qsizetype mostLines = 24;
-constexpr qsizetype longestRun = 60; ///< units that a window need not be able to break
+constexpr qsizetype longestRun = 60; ///< units that need no place to break
 constexpr QChar lineEnd = u'\n';
 
 /// Keeps `front` items and `back` items of a list or a string. The end of a text is worth keeping: an error

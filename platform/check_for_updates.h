@@ -9,9 +9,9 @@
 
 namespace tolvo {
 
-/// Starts Refresher.exe of the program's folder with " /update", " /stats" and " /quiet" as set, in this
-/// order, in a normal window with the focus, without waiting. With `askedFor` it answers in any case. A
-/// failure is reported under its own name and goes no further.
+/// Starts Refresher.exe of the program's folder with "/update", "/stats" and "/quiet" as set, in this order,
+/// in a normal window with the focus, and doesn't wait for it. With `askedFor` the companion shows its answer
+/// in any case. A failure is reported as runCheckForUpdates's and not thrown.
 void runCheckForUpdates(Processes &processes, MessageBoxes &boxes, const QString &programFolder, bool update,
                         bool stats, bool quiet, bool askedFor = false);
 

@@ -7,21 +7,21 @@
 
 namespace tolvo {
 
-/// Texts go in and out in the form of the text area, with CR LF line ends; an implementation knows what other
-/// programs of its platform use. Reading gives the empty string when the clipboard holds no text, and nothing
-/// when its owner doesn't answer or the user has no patience with it.
+/// Texts have the form of the text area, with CR LF line ends; an implementation converts them to what other
+/// programs of its platform use. Reading gives the empty string if the clipboard holds no text, and nothing
+/// if its owner doesn't answer or the user ends the wait.
 class Clipboard {
   public:
     virtual ~Clipboard() = default;
 
-    /// The clipboard's text as a session takes it in, at its start and at each Refresh. This also settles in
-    /// which line ends the text goes out again.
+    /// The clipboard's text for a session, at its start and at each Refresh. This also decides with which
+    /// line ends texts go out from then on.
     [[nodiscard]] virtual std::optional<QString> takeText() = 0;
 
-    /// The clipboard's text as it would be pasted; settles nothing.
+    /// The clipboard's text for a paste; decides nothing about line ends.
     [[nodiscard]] virtual std::optional<QString> readText() = 0;
 
-    /// The text that the middle mouse button pastes, where the platform has such a thing.
+    /// The text that the middle mouse button pastes; empty on a platform without it.
     [[nodiscard]] virtual std::optional<QString> readSelection() { return QString(); }
 
     /// Puts the text on the clipboard; an empty text leaves the clipboard empty.

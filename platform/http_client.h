@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One blocking request at a time. The implementation over Qt Network is in network/, so that what needs no
-// network links none.
+// HTTP (RFC 9110), one blocking request at a time. The implementation over Qt Network is in network/, so that
+// a program without requests doesn't link it.
 #pragma once
 
 #include <QByteArray>
@@ -8,20 +8,23 @@
 
 namespace tolvo {
 
+/// The reply to a request, or why there is none.
 struct HttpReply {
     int status = 0; ///< HTTP status; 0 if no answer came at all (refused, timed out, too large, cancelled)
-    QString statusText; ///< the reason phrase, or in words why no answer came
+    QString statusText; ///< the reason phrase, or why no answer came
     QByteArray body;
-    bool cancelled = false; ///< no answer came because the user wanted none any more
+    bool cancelled = false; ///< no answer came because the user ended the wait
 };
 
+/// Sends requests.
 class HttpClient {
   public:
     virtual ~HttpClient() = default;
-    /// A GET on an address that is percent-encoded already. Blocks until the answer is there, at most 60 s in
-    /// all; the window stays painted and takes no input but Esc, which cancels. A body above 16 MiB counts as
-    /// no answer.
+    /// Sends a GET to an address that is percent-encoded already. Blocks until the answer has arrived, for 60
+    /// s at most; the window stays painted and takes no input but Esc, which cancels. A body above 16 MiB
+    /// counts as no answer.
     [[nodiscard]] virtual HttpReply get(const QByteArray &encodedUrl) = 0;
+    /// Sends a POST in the same way.
     [[nodiscard]] virtual HttpReply post(const QByteArray &encodedUrl, const QByteArray &body,
                                          const QByteArray &contentType) = 0;
 };

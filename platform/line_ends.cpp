@@ -5,7 +5,8 @@
 
 namespace tolvo {
 
-// QString::replace moves the rest of the text once for every thousand hits; these copy each unit once.
+// QString::replace moves the rest of the text once for every thousand hits; these functions copy each unit
+// once.
 
 QString lfToCrLf(QString text) {
     const auto count = std::count(text.cbegin(), text.cend(), QChar(u'\n'));

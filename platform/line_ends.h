@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Changing the line ends of a whole text, in one pass.
+// Changes the line ends of a whole text in one pass.
 #pragma once
 
 #include <QString>
@@ -7,10 +7,10 @@
 
 namespace tolvo {
 
-/// Every LF becomes CR LF, the LF of a CR LF as well; in place, if the text is handed over.
+/// Replaces every LF by CR LF, the LF of a CR LF too. In place if the text is moved in.
 [[nodiscard]] QString lfToCrLf(QString text);
 
-/// Every CR LF becomes LF; a lone CR stays.
+/// Replaces every CR LF by LF; a lone CR stays.
 [[nodiscard]] QString crLfToLf(QStringView text);
 
 } // namespace tolvo

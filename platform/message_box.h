@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Message boxes: what the program says to its user and waits for.
+// Message boxes: messages that wait for an answer.
 #pragma once
 
 #include <QString>
@@ -10,6 +10,7 @@ enum class BoxIcon { None, Information, Exclamation, Question, Critical };
 enum class BoxButtons { Ok, YesNo };
 enum class BoxAnswer { Ok, Yes, No };
 
+/// One box.
 struct Box {
     QString text; ///< lines end in CR LF
     BoxIcon icon = BoxIcon::Information;
@@ -17,11 +18,12 @@ struct Box {
     BoxButtons buttons = BoxButtons::Ok;
 };
 
-/// Shows boxes, modally. The desktop does it with windows, tolvo-pipe on standard error, the tests by what
-/// they expect.
+/// Shows boxes: as modal windows on the desktop, on standard error in tolvo-pipe, against expectations in the
+/// tests.
 class MessageBoxes {
   public:
     virtual ~MessageBoxes() = default;
+    /// Shows a box and returns its answer.
     virtual BoxAnswer show(const Box &box) = 0;
 };
 

@@ -9,8 +9,8 @@ namespace tolvo {
 
 enum class WindowMode { Normal, NormalWithoutFocus, Hidden, Minimised };
 
-/// Environment variables that tell a companion of heldBack and askedFor below. A companion that is held back
-/// shows its window at the end of its standard input.
+/// Environment variables that pass heldBack and askedFor below on to a companion. A companion that is held
+/// back shows its window at the end of its standard input.
 inline constexpr const char *heldBackVariable = "TOLVO_HELD_BACK";
 inline constexpr const char *askedForVariable = "TOLVO_ASKED_FOR";
 
@@ -20,28 +20,30 @@ struct ProgramStart {
     QStringList arguments = {};
     WindowMode mode = WindowMode::Normal;
     bool heldBack = false; ///< a companion that shows its window only after letGo()
-    bool askedFor = false; ///< a companion that a user wants an answer from, whatever its switches
+    bool askedFor = false; ///< a companion that must show its answer, whatever its switches
 };
 
+/// Starts programs.
 class Processes {
   public:
     virtual ~Processes() = default;
 
-    /// Starts an executable without waiting and returns its process identifier. It inherits neither the
-    /// standard streams nor any other descriptor. Throws a Failure (53) that names the program if it can't be
-    /// started.
+    /// Starts an executable without waiting for it and returns its process identifier. The process inherits
+    /// neither the standard streams nor any other descriptor. Fails with 53, naming the program, if it can't
+    /// be started.
     virtual qint64 start(const ProgramStart &start) = 0;
     qint64 start(const QString &program, const QStringList &arguments, WindowMode mode) {
         return start({.program = program, .arguments = arguments, .mode = mode});
     }
 
-    /// What was started held back shows its windows from here on; at the latest when this program ends.
+    /// Lets the companions that are held back show their windows. The end of this program does so too.
     virtual void letGo() {}
 
-    /// modWaitforProcess: blocks until the process has ended; returns at once if there is no such process.
+    /// modWaitforProcess: blocks until a process has ended; returns at once if there is none with this
+    /// number.
     virtual void waitFor(qint64 process) = 0;
 
-    /// Opens an address or a file with what the desktop provides; false if it can't.
+    /// Opens an address or a file with the desktop's program for it; false if there is none.
     virtual bool open(const QString &address) = 0;
 };
 

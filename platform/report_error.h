@@ -16,8 +16,8 @@ void ReportError(MessageBoxes &boxes, const QString &className, const QString &p
 void ReportError(MessageBoxes &boxes, const QString &className, const QString &procedure,
                  const Failure &failure);
 
-/// Runs `action`; a failure is reported under the given names. Returns whether the action came to its end.
-/// Memory that runs out and other failures of the standard library are reported the same way.
+/// Runs `action` and reports a failure under the given names. True if there was none. Exceptions of the
+/// standard library, such as lack of memory, are reported in the same way.
 template <class Action>
 bool reportFailures(MessageBoxes &boxes, const QString &className, const QString &procedure,
                     Action &&action) {

@@ -6,12 +6,14 @@
 
 namespace tolvo {
 
+/// Makes sounds.
 class SoundPlayer {
   public:
     virtual ~SoundPlayer() = default;
+    /// The system's alert sound.
     virtual void beep() = 0;
-    /// Plays a wave file and returns at once, again and again if `loop` is set. False if it can't: a missing
-    /// file or player is no failure.
+    /// Starts to play a wave file, over and over if `loop` is set, and returns at once. False if the file or
+    /// a player is missing.
     virtual bool playWave(const QString &file, bool loop) = 0;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// modSpecialFolders: where the desktop keeps the user's folders.
+// modSpecialFolders: the user's folders on the desktop.
 #pragma once
 
 #include <QString>
@@ -16,10 +16,10 @@ inline constexpr int pictures = 39;
 inline constexpr int home = 40;
 } // namespace specialFolder
 
-/// The path of a special folder, without a separator at its end; empty if the desktop has none.
+/// The path of a special folder, without a separator at its end; empty for any other number.
 [[nodiscard]] QString GetSpecialFolder(int folder);
 
-/// The user's documents.
+/// The folder of the user's documents.
 [[nodiscard]] QString GetDocumentsFolder();
 
 } // namespace tolvo

@@ -37,7 +37,7 @@ bool StartSysInfo(Processes &processes) {
                             WindowMode::Normal);
             return true;
         } catch (const Failure &) {
-            // The next one may do.
+            // The next one may start.
             continue;
         }
     }

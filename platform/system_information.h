@@ -5,7 +5,7 @@ namespace tolvo {
 
 class Processes;
 
-/// StartSysInfo: starts the system information program of the desktop; false if there is none.
+/// Starts the desktop's system information program; false if none is installed.
 [[nodiscard]] bool StartSysInfo(Processes &processes);
 
 } // namespace tolvo

@@ -9,60 +9,62 @@
 
 namespace tolvo {
 
-/// What the user did to the text of a box: typed, deleted, pasted, dropped.
+/// A change of the text by the user, who has typed, deleted, pasted or dropped.
 struct UserEdit {
-    QString before;   ///< the whole text before it
-    int selStart = 0; ///< the selection before it
+    QString before;   ///< the whole text before the change
+    int selStart = 0; ///< the selection before the change
     int selLength = 0;
-    bool atOnce = false; ///< pasted or dropped: no part of what is typed next to it
+    bool atOnce = false; ///< pasted or dropped: a change of its own, apart from typing
 };
 
 /// A multi-line text with one selection. Lines end in CR LF; lone CR and LF are ordinary characters.
 /// Positions count UTF-16 code units from 0.
 ///
-/// No caret stands between the CR and the LF of a line end: a start that is put there moves before the CR, an
-/// end behind the LF. Positions beyond the text are cut to its length, negative ones to 0.
+/// No caret stands between the CR and the LF of a line end: a start set there moves before the CR, an end
+/// after the LF. Positions after the text are cut to its length, negative ones to 0.
 class TextBox {
   public:
     virtual ~TextBox() = default;
 
     [[nodiscard]] virtual QString Text() const = 0;
-    /// Keeps the first capacity() units, less one where that would keep half a line end or half a surrogate
-    /// pair. Puts the caret at 0 and clears the selection. Writing the text that
-    /// is there already fires no change.
+    /// Replaces the text by the first capacity() units of another, less one where that would split a line end
+    /// or a surrogate pair. Puts the caret at 0 and clears the selection. Setting the same text fires no
+    /// change.
     virtual void setText(const QString &text) = 0;
 
-    /// The start of the selection, or the caret. Writing it clears the selection.
+    /// The start of the selection, or the caret. Setting it clears the selection.
     [[nodiscard]] virtual int SelStart() const = 0;
     virtual void setSelStart(int start) = 0;
-    /// 0 for a bare caret. Writing it keeps SelStart and scrolls the selection into view.
+    /// 0 if nothing is selected. Setting it keeps SelStart and scrolls the selection into view.
     [[nodiscard]] virtual int SelLength() const = 0;
     virtual void setSelLength(int length) = 0;
 
     [[nodiscard]] virtual QString SelText() const = 0;
-    /// Replaces the selection. The caret then stands behind the new text, and nothing is selected. Text that
-    /// would pass the capacity is cut from what is inserted, as setText cuts, never from what stands behind
-    /// it. Replacing by the same text fires no change.
+    /// Replaces the selection. The caret is then after the new text, and nothing is selected. What is
+    /// inserted is cut to the capacity, as setText cuts; the text after it stays whole. Replacing by the same
+    /// text fires no change.
     virtual void setSelText(const QString &text) = 0;
 
-    /// Length of Text() in UTF-16 units, without making a copy where that can be avoided.
+    /// The length of Text() in UTF-16 units, without a copy where possible.
     [[nodiscard]] virtual int length() const { return static_cast<int>(Text().size()); }
 
+    /// The most units that the box takes. Setting it leaves the current text as it is.
     [[nodiscard]] virtual int capacity() const = 0;
     virtual void setCapacity(int units) = 0;
 
+    /// Gives the box the focus, where there is a window.
     virtual void setFocus() {}
 
-    /// Called after every change of the text, by typing or by code.
+    /// Called after every change of the text, by the user or by code.
     std::function<void()> onChange;
 
     /// Called after every change that the user made, before onChange.
     std::function<void(const UserEdit &edit)> onUserEdit;
-    /// Who wrote the text that did not find room.
+    /// Who wrote the text that was cut.
     enum class Writer { Code, User };
     /// Called when text was cut to the capacity, with the length in UTF-16 units that the whole text would
     /// have had: for code at once, for what the user typed, pasted or dropped once that event is over.
-    /// Keys that find the text full are told once, until the text changes.
+    /// Further keys into a full text are not reported again until the text changes.
     std::function<void(qint64 length, Writer writer)> onCut;
 
   protected:
@@ -78,7 +80,7 @@ inline void select(TextBox &box, int start, int length) {
     box.setSelLength(length);
 }
 
-/// Replaces the selection and selects what has taken its place; less than `text` if there is no room for all.
+/// Replaces the selection and selects the new text, as far as there is room for it.
 inline void replaceAndSelect(TextBox &box, const QString &text) {
     const int start = box.SelStart();
     box.setSelText(text);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where a caret may stand in a text with CR LF line ends, and how much of a text finds room. Shared by all
-// text boxes.
+// Where a caret may be in a text with CR LF line ends, and how much of a text fits in. Shared by all text
+// boxes. Positions count from 0.
 #pragma once
 
 #include <QStringView>
@@ -20,14 +20,14 @@ namespace tolvo {
     return splitsLineEnd(text, inside) ? inside - 1 : inside;
 }
 
-/// The position cut to the text; one inside a line end moves behind its LF.
-[[nodiscard]] inline qint64 snapBehind(QStringView text, qint64 position) {
+/// The position cut to the text; one inside a line end moves after its LF.
+[[nodiscard]] inline qint64 snapAfter(QStringView text, qint64 position) {
     const qint64 inside = std::clamp<qint64>(position, 0, text.size());
     return splitsLineEnd(text, inside) ? inside + 1 : inside;
 }
 
-/// What of `inserted` finds room in a box that keeps `kept` units beside it. The cut takes no line end and no
-/// surrogate pair apart.
+/// The front of `inserted` that fits into a box that keeps `kept` other units. The cut splits neither a line
+/// end nor a surrogate pair.
 [[nodiscard]] inline QStringView cutToRoom(QStringView inserted, qint64 capacity, qint64 kept) {
     const qint64 room = std::clamp<qint64>(capacity - kept, 0, inserted.size());
     const bool splitsPair = room > 0 && room < inserted.size() && inserted[room - 1].isHighSurrogate() &&

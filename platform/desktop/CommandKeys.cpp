@@ -12,8 +12,7 @@ bool isAsciiLetter(int character) {
     return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
 }
 
-/// Qt itself keeps the text of Ctrl and a key of the main part out of its fields; that of the keypad it
-/// types.
+/// Qt's fields ignore the text of Ctrl with a key of the main block, but type that of the keypad.
 bool typesNothing(const QKeyEvent &key) {
     const Qt::KeyboardModifiers held = key.modifiers();
     if (held.testAnyFlags(Qt::AltModifier | Qt::MetaModifier))
@@ -27,7 +26,7 @@ bool holdsAltGr(const QKeyEvent &key) {
 #if defined(Q_OS_WIN)
     return key.modifiers().testFlags(Qt::ControlModifier | Qt::AltModifier);
 #else
-    constexpr quint32 mod5 = 0x80; // Wayland tells AltGr by its native bit only
+    constexpr quint32 mod5 = 0x80; // Wayland reports AltGr by its native bit only
     return key.modifiers().testFlag(Qt::GroupSwitchModifier) || (key.nativeModifiers() & mod5) != 0;
 #endif
 }
@@ -68,7 +67,7 @@ bool CommandKeys::eventFilter(QObject *watched, QEvent *event) {
                       key.nativeModifiers(), QString(), key.isAutoRepeat(),
                       static_cast<quint16>(key.count()));
     QCoreApplication::sendEvent(watched, &command);
-    event->accept(); // the parents of the control have been asked already
+    event->accept(); // the parents of the control have had it already
     return true;
 }
 

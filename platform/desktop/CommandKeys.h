@@ -12,10 +12,10 @@ namespace tolvo {
 
 /// Watches the keys of a whole application. A key held with Ctrl, Alt or the system key is a command:
 ///
-/// - With Alt or the system key it types nothing into any field, whether it means something there or not.
+/// - With Alt or the system key it types nothing into any field, whether the field uses it or not.
 /// - Where the layout gives no Latin letter, it arrives with the Latin character of the same key.
 ///
-/// AltGr, dead keys and input methods go on typing.
+/// AltGr, dead keys and input methods still type.
 ///
 ///     const QApplication application(argc, argv);
 ///     const CommandKeys commandKeys;
@@ -31,7 +31,7 @@ class CommandKeys final : public QObject {
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
-    /// The key that a command key means.
+    /// The key that a command key stands for.
     [[nodiscard]] int meaning(const QKeyEvent &key) const;
 
     LatinOfKey m_latinOfKey;

@@ -17,12 +17,12 @@ namespace tolvo {
 
 namespace {
 
-constexpr int offerMilliseconds = 500;  // how long the first offer after the window's show may take
+constexpr int offerMilliseconds = 500;  // how long the first offer may take after the window is shown
 constexpr int settleMilliseconds = 100; // how long it may take once the window has the focus
-constexpr int stepMilliseconds = 20;    // how long the windows may go without care in a wait
+constexpr int stepMilliseconds = 20;    // between two repaints of the windows during a wait
 
-/// Whether what is on the clipboard is shown only to the program that has the focus. X11 programs under a
-/// Wayland compositor are in the same place.
+/// Whether only the program with the focus can read the clipboard. That holds for X11 programs under a
+/// Wayland compositor too.
 bool clipboardFollowsFocus() {
     return QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) ||
            (isX11() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
@@ -56,8 +56,8 @@ void waitForFirstOffer() {
         loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-/// Text of the clipboard in the way of the toolkit, which on Wayland gives up by itself after a second. A
-/// text that is offered and doesn't come by then is no answer.
+/// The clipboard's text as the toolkit reads it, which on Wayland gives up after a second. A text that is
+/// offered but doesn't arrive by then is no answer.
 std::optional<QString> textOfToolkit(QClipboard::Mode mode) {
     constexpr int givesUpAfter = 900; // milliseconds
     QElapsedTimer timer;
@@ -70,7 +70,7 @@ std::optional<QString> textOfToolkit(QClipboard::Mode mode) {
 
 using Selection = X11TextTransfer::Selection;
 
-/// A transfer from another program's selection; none where the toolkit reads by itself.
+/// A transfer from another program's selection; none where the toolkit does the reading.
 std::unique_ptr<X11TextTransfer> transferOf(Selection selection) {
     const QClipboard &clipboard = *QGuiApplication::clipboard();
     if (!isX11() ||
@@ -117,7 +117,7 @@ std::optional<QString> DesktopClipboard::readSelection() {
 }
 
 void DesktopClipboard::writeText(const QString &text) {
-    // A clear before a new text would hide from an older owner, still alive to serve it, that it has lost the
+    // No clear before the new text: it would hide from the keeper of an earlier session that it has lost the
     // clipboard.
     if (text.isEmpty())
         QGuiApplication::clipboard()->clear();
@@ -125,8 +125,8 @@ void DesktopClipboard::writeText(const QString &text) {
         QGuiApplication::clipboard()->setText(m_lineEnds.goOut(text));
 }
 
-/// The text that a transfer brings; without one, what the toolkit finds on the clipboard. `patience`
-/// milliseconds pass before we say that we wait.
+/// The text that a transfer brings; without a transfer, the text that the toolkit reads. The wait is
+/// announced after `patience` milliseconds.
 std::optional<QString> DesktopClipboard::fetch(std::unique_ptr<X11TextTransfer> transfer, int patience) {
     if (!transfer)
         return textOfToolkit(QClipboard::Clipboard);

@@ -13,34 +13,34 @@ namespace tolvo {
 class X11TextTransfer;
 
 /// The clipboard of the window system. Its owner may hang: the window stays painted meanwhile, and the wait
-/// ends after a while or when the user wants it to.
+/// ends after a time limit or when the user cancels.
 class DesktopClipboard final : public Clipboard {
   public:
     DesktopClipboard();
     ~DesktopClipboard() override;
 
     /// On Wayland a program without the focus sees an empty clipboard: show the window before the first take,
-    /// which then waits up to half a second for what the clipboard offers.
+    /// which then waits up to half a second for the clipboard's offer.
     [[nodiscard]] std::optional<QString> takeText() override;
     [[nodiscard]] std::optional<QString> readText() override;
     [[nodiscard]] std::optional<QString> readSelection() override;
     void writeText(const QString &text) override;
 
-    /// Begins the next take: whether it will return at once. False where the window has to be shown first,
-    /// and after a moment without a sign of the owner.
+    /// Begins the next take and reports whether it will return at once. False where the window must be shown
+    /// first, and after a moment without an answer from the owner.
     [[nodiscard]] bool comesAtOnce();
 
-    /// How text goes out, for what is copied or dragged out of a text box.
+    /// The line ends of outgoing text, for what is copied or dragged out of a text box.
     [[nodiscard]] const ClipboardLineEnds &lineEnds() const { return m_lineEnds; }
 
-    /// Called with true when the clipboard's owner keeps us waiting, so that the window can say so, and with
-    /// false when the wait is over.
+    /// Called with true when the wait for the clipboard's owner begins, so that the window can say so, and
+    /// with false when it is over.
     std::function<void(bool)> onWaiting;
-    /// The user's input reaches nothing as long as the result lives.
+    /// Keeps the user's input away for as long as the result lives.
     std::function<std::shared_ptr<void>()> guardInput;
-    /// Whether the user wants the wait to end; asked only under the guard.
+    /// Whether the user has cancelled the wait; asked only under the guard.
     std::function<bool()> cancelled;
-    int ownerMilliseconds = 5000; ///< how long the owner may let us wait without a sign of life
+    int ownerMilliseconds = 5000; ///< the longest wait without a sign of life from the owner
 
   private:
     [[nodiscard]] std::optional<QString> fetch(std::unique_ptr<X11TextTransfer> transfer,
@@ -51,7 +51,7 @@ class DesktopClipboard final : public Clipboard {
 
     ClipboardLineEnds m_lineEnds;
     std::unique_ptr<X11TextTransfer> m_begun; ///< by comesAtOnce(), for the next take
-    /// Some owners die of an answer to a window that has gone: what asked in vain stays.
+    /// Some owners crash when they answer a window that is gone, so transfers without an answer are kept.
     std::vector<std::unique_ptr<X11TextTransfer>> m_unanswered;
 };
 

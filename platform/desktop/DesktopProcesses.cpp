@@ -12,7 +12,7 @@ namespace tolvo {
 
 bool DesktopProcesses::open(const QString &address) {
     const QUrl url = QUrl::fromUserInput(address, QDir::currentPath());
-    // The toolkit would hand on our standard streams to a browser that outlives us.
+    // The toolkit would pass our standard streams on to a browser that outlives this program.
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (opener.isEmpty())
         return QDesktopServices::openUrl(url);

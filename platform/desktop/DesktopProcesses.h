@@ -5,7 +5,7 @@
 
 namespace tolvo {
 
-/// Real processes, and addresses and files opened with what the desktop has for them.
+/// Real processes; opens addresses and files with the desktop's programs.
 class DesktopProcesses final : public SystemProcesses {
   public:
     bool open(const QString &address) override;

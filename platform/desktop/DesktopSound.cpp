@@ -59,7 +59,7 @@ void DesktopSound::startPlayer() {
     m_process->start(m_players->first(), {m_file}, QIODevice::NotOpen);
 }
 
-/// A player that fails has no sound server to talk to: the next one takes over, for the rest of the run.
+/// If a player fails, it has no sound server: the next player is used for the rest of the run.
 void DesktopSound::playerEnded(bool well) {
     if (!well)
         m_players->removeFirst();

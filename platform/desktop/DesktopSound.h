@@ -10,8 +10,8 @@
 
 namespace tolvo {
 
-/// Beeps, and plays wave files by the first player of PipeWire, PulseAudio or ALSA that is installed and
-/// works. One wave sounds at a time: a new one ends the one before.
+/// Beeps, and plays wave files with the first player of PipeWire, PulseAudio or ALSA that is installed and
+/// works. One wave plays at a time: a new one ends the one before.
 class DesktopSound final : public SoundPlayer {
   public:
     DesktopSound();
@@ -24,7 +24,7 @@ class DesktopSound final : public SoundPlayer {
     void startPlayer();
     void playerEnded(bool well);
 
-    std::optional<QStringList> m_players; ///< paths; looked for at the first wave
+    std::optional<QStringList> m_players; ///< paths; searched for at the first wave
     std::unique_ptr<QProcess> m_process;
     QString m_file;
     bool m_loop = false;

@@ -6,8 +6,8 @@
 
 namespace tolvo {
 
-/// For work that blocks but keeps the windows painted: while a guard of it lives, the user's input reaches no
-/// window of the program, the pointer shows that we wait, and Esc is noted.
+/// For work that blocks but keeps the windows painted: while a guard lives, the user's input reaches no
+/// window of the program, the pointer shows the wait cursor, and Esc is recorded.
 ///
 ///     client.guardInput = [&] { return watch.guard(); };
 ///     client.cancelled = [&] { return watch.escapePressed(); };
@@ -15,7 +15,7 @@ class EscapeWatch final : public QObject {
     Q_OBJECT
 
   public:
-    /// The watch outlives the guard.
+    /// Starts a watch that lasts as long as the result, which must not outlive this object.
     [[nodiscard]] std::shared_ptr<void> guard();
 
     /// Whether Esc was pressed since the last guard was made.

@@ -12,15 +12,14 @@ class QLineEdit;
 
 namespace tolvo {
 
-/// Asks for a font. It offers what a Font keeps (name, size, bold, italic) and nothing that would be dropped.
+/// Asks for a font. Offers only what a Font keeps: name, size, bold, italic.
 class FontDialog : public QDialog {
     Q_OBJECT
   public:
     /// Opens on the font that shows for `font`, which may be another than it names.
     explicit FontDialog(const Font &font, QWidget *parent = nullptr);
 
-    /// The choice. Unless another family was chosen, the name is the one that was handed in, installed here
-    /// or not.
+    /// The choice. Unless the user chose another family, the name stays the given one, installed here or not.
     [[nodiscard]] Font font() const;
 
   private:

@@ -10,11 +10,11 @@ namespace tolvo {
 
 namespace {
 
-/// Looking for a place to break at costs time with the square of a run without blanks; runs above this length
+/// The search for a place to break takes time with the square of a run without blanks; runs above this length
 /// are broken anywhere.
 constexpr qsizetype longestUnbrokenRun = 2000;
 
-/// Lines above this length keep their glyphs between two paints: making them anew takes longer than a frame.
+/// Lines above this length keep their glyphs between two paints: making them takes longer than a frame.
 constexpr qsizetype longestCheapLine = 2000;
 
 constexpr int tabColumns = 8; // of the width of a blank
@@ -89,7 +89,7 @@ void PlainTextBox::setSelLength(int length) {
     QTextCursor cursor = textCursor();
     const qint64 end = static_cast<qint64>(SelStart()) + std::max(length, 0);
     cursor.setPosition(cursor.selectionStart());
-    cursor.setPosition(toDocument(snapBehind(m_text, end)), QTextCursor::KeepAnchor);
+    cursor.setPosition(toDocument(snapAfter(m_text, end)), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
     ensureCursorVisible();
 }
@@ -109,7 +109,7 @@ void PlainTextBox::setSelText(const QString &text) {
         joinLineEnds();
     }
     const bool changed = rereadText();
-    setSelStart(static_cast<int>(snapBehind(m_text, start + inserted.size())));
+    setSelStart(static_cast<int>(snapAfter(m_text, start + inserted.size())));
     if (changed)
         reportChange();
     if (inserted.size() < text.size())
@@ -124,12 +124,12 @@ int PlainTextBox::toText(int documentPosition) const {
 
 int PlainTextBox::toDocument(qint64 textPosition) const {
     int line = 0; // the last one that begins at or before the position
-    for (int behind = document()->blockCount(); behind - line > 1;) {
-        const int middle = line + (behind - line) / 2;
+    for (int end = document()->blockCount(); end - line > 1;) {
+        const int middle = line + (end - line) / 2;
         if (document()->findBlockByNumber(middle).position() + middle <= textPosition)
             line = middle;
         else
-            behind = middle;
+            end = middle;
     }
     return static_cast<int>(textPosition) - line;
 }
@@ -166,7 +166,7 @@ void PlainTextBox::load(const QString &text) {
     setPlainText(m_standIns.encode(text));
 }
 
-/// The selection in front of the next edit.
+/// Records the selection before the next edit.
 void PlainTextBox::noteSelection() {
     if (m_editing)
         return;
@@ -174,7 +174,7 @@ void PlainTextBox::noteSelection() {
     m_userEdit.selLength = SelLength();
 }
 
-/// After every edit; those of our own report themselves.
+/// Runs after every edit; edits by this class report themselves.
 void PlainTextBox::edited() {
     const bool own = m_ownEdit;
     UserEdit edit = m_userEdit;
@@ -192,22 +192,22 @@ void PlainTextBox::edited() {
     reportChange();
 }
 
-/// Ways in that pass no door of ours (assistive technology, the menu of control characters): what they put in
-/// above the capacity goes again.
+/// Some edits bypass the checks of this class (assistive technology, the menu of control characters): removes
+/// what they insert above the capacity.
 void PlainTextBox::cutToCapacity() {
     const auto excess = [this] { return document()->characterCount() - 1 + blockCount() - 1 - m_capacity; };
     if (excess() <= 0 || m_editEnd <= m_editStart)
         return;
     reportCutLater(m_capacity + excess());
     const QScopedValueRollback own(m_ownEdit, true);
-    const int start = m_editStart; // moves with our own edits
+    const int start = m_editStart; // moves with the edits below
     QTextCursor cursor(document());
     cursor.setPosition(std::min(m_editEnd, document()->characterCount() - 1));
     while (excess() > 0 && cursor.position() > start)
         cursor.deletePreviousChar();
 }
 
-/// A CR and a LF that an edit has brought together are a line end like any other.
+/// Makes a CR and an LF that an edit has brought together a line end.
 void PlainTextBox::joinLineEnds() {
     const QString loose = m_standIns.looseLineEnd();
     const QString raw = document()->toRawText();
@@ -225,7 +225,7 @@ void PlainTextBox::joinLineEnds() {
     cursor.endEditBlock();
 }
 
-/// Takes over the document's text; whether it has changed.
+/// Reads the document's text; true if it has changed.
 bool PlainTextBox::rereadText() {
     QString text = m_standIns.decode(document()->toRawText());
     if (text == m_text)

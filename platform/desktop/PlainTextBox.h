@@ -16,10 +16,10 @@ class QMenu;
 
 namespace tolvo {
 
-/// The text box of the window. It keeps every text unchanged to the unit, in one block per CR LF line, and
-/// holds its capacity against typing, input methods, paste, drop and code.
+/// The text box of the window. It keeps every unit of a text unchanged, in one block per CR LF line, and
+/// enforces its capacity for typing, input methods, paste, drop and code.
 ///
-/// The widget keeps no undo of its own: the box reports what the user does, and the context menu offers the
+/// The widget's own undo is off: the box reports the user's changes, and the context menu offers the
 /// program's Undo and Redo.
 class PlainTextBox final : public QPlainTextEdit, public TextBox {
     Q_OBJECT
@@ -46,17 +46,17 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     using QPlainTextEdit::setFocus;
     void setFocus() override { QPlainTextEdit::setFocus(Qt::OtherFocusReason); }
 
-    /// What stands at the top of the context menu. Both outlive the box.
+    /// The actions at the top of the context menu. Both must outlive the box.
     void setUndoActions(QAction &undo, QAction &redo) { m_undoActions = {&undo, &redo}; }
     [[nodiscard]] std::unique_ptr<QMenu> contextMenu();
 
-    /// How copied and dragged text goes out to other programs. The rule outlives the box; without one, line
-    /// ends go out as LF.
+    /// The line ends of text that is copied or dragged to other programs. The rule must outlive the box;
+    /// without one, line ends go out as LF.
     void setLineEnds(const ClipboardLineEnds &rule) { m_lineEnds = &rule; }
 
     /// Reads what is pasted: the clipboard's text, or with `selection` that of the middle mouse button, with
-    /// CR LF line ends; nothing if its owner doesn't answer. Without it the toolkit reads, which waits for as
-    /// long as the owner likes.
+    /// CR LF line ends; nothing if its owner doesn't answer. If this is not set, the toolkit reads and waits
+    /// as long as the owner takes.
     std::function<std::optional<QString>(bool selection)> readForPaste;
 
   protected:
@@ -90,16 +90,16 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
 
     Lines m_lines;
     int m_capacity = textLimit;
-    QString m_text; ///< what the document holds, for it is read far more often than changed
+    QString m_text; ///< the document's text, kept since it is read far more often than changed
     StandIns m_standIns;
     const ClipboardLineEnds *m_lineEnds = nullptr;
-    int m_editStart = 0; ///< where the document was changed last, in its own positions
+    int m_editStart = 0; ///< the last change, in positions of the document
     int m_editEnd = 0;
-    bool m_inKey = false;      ///< what happens is what a key does
-    bool m_fullIsTold = false; ///< the user knows that there is no room for what was typed last
+    bool m_inKey = false;      ///< a key is being handled
+    bool m_fullIsTold = false; ///< the lack of room for typed text has been reported
     bool m_ownEdit = false;    ///< an edit by code is under way; its end reports the change
-    bool m_editing = false;    ///< the document is being changed; the selection is not yet what it will be
-    UserEdit m_userEdit;       ///< what there is to report of the next edit of the user
+    bool m_editing = false;    ///< the document is being changed; the selection is not final yet
+    UserEdit m_userEdit;       ///< the report of the user's next edit
     QList<QAction *> m_undoActions;
 };
 

@@ -23,7 +23,7 @@ bool isLineEndKey(const QKeyEvent &event) {
            event.matches(QKeySequence::InsertLineSeparator);
 }
 
-/// What a key would insert; empty for a key that inserts nothing. Ctrl and Alt together are AltGr.
+/// The text that a key inserts; empty for a key that inserts nothing. Ctrl with Alt counts as AltGr.
 QString typedText(const QKeyEvent &event) {
     if (isLineEndKey(event))
         return QStringLiteral("\r\n");
@@ -41,7 +41,7 @@ const QMimeData *mimeDataOf(QClipboard::Mode mode) {
     return QGuiApplication::clipboard()->mimeData(mode);
 }
 
-/// Whether what comes in is pasted, not dropped.
+/// Whether a text is pasted, not dropped.
 bool isPasted(const QMimeData *source) {
     return source == mimeDataOf(QClipboard::Clipboard) || source == mimeDataOf(QClipboard::Selection);
 }
@@ -52,8 +52,8 @@ QString PlainTextBox::fitting(const QString &text, int replaced) const {
     return cutToRoom(text, m_capacity, length() - SelLength() - replaced).toString();
 }
 
-/// What the user brings in, as far as there is room for it; the rest is reported once the event is over,
-/// since a box in the middle of it would hold up who drops. Repeated keys into a full text are reported once.
+/// The part of a text from the user that fits in. A cut is reported after the event, since a message box
+/// within it would block the program that drops. Repeated keys into a full text are reported once.
 QString PlainTextBox::fittingOfUser(const QString &text, int replaced, bool typed) {
     const QString kept = fitting(text, replaced);
     if (kept.size() == text.size() || (typed && m_fullIsTold))
@@ -80,7 +80,7 @@ void PlainTextBox::keyPressEvent(QKeyEvent *event) {
         return;
     }
     prepareFor(typed);
-    // Shift and Enter would insert a U+2028 where a line end is meant.
+    // Shift-Enter would insert U+2028; the user means a line end.
     const bool changedByDocument = !isLineEndKey(*event) && m_standIns.encode(typed) != typed;
     if (changedByDocument || event->matches(QKeySequence::InsertLineSeparator)) {
         insertAsTyped(typed);
@@ -100,7 +100,7 @@ void PlainTextBox::inputMethodEvent(QInputMethodEvent *event) {
     event->setAccepted(fitting.isAccepted());
 }
 
-/// What other programs own is not asked for what it is before it is pasted: its owner may hang.
+/// Another program's text is not inspected before it is pasted: its owner may hang.
 bool PlainTextBox::canInsertFromMimeData(const QMimeData *source) const {
     return (readForPaste && isPasted(source)) || QPlainTextEdit::canInsertFromMimeData(source);
 }
@@ -110,7 +110,7 @@ void PlainTextBox::insertFromMimeData(const QMimeData *source) {
         return;
     if (readForPaste && isPasted(source)) {
         const bool selection = source == mimeDataOf(QClipboard::Selection);
-        // Events go on while the clipboard is read: a menu that closes would be deleted under its own feet.
+        // Events are handled while the clipboard is read: a menu that closes would be deleted while in use.
         if (m_inKey)
             pasteFromReader(selection);
         else
@@ -131,7 +131,7 @@ void PlainTextBox::pasteFromReader(bool selection) {
 
 void PlainTextBox::dropEvent(QDropEvent *event) {
     const QScopedValueRollback atOnce(m_userEdit.atOnce, true);
-    m_editing = true; // the caret moves to the place first
+    m_editing = true; // the caret moves to the place of the drop first
     QPlainTextEdit::dropEvent(event);
     m_editing = false;
     noteSelection();

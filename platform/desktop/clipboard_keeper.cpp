@@ -25,14 +25,14 @@ namespace {
 
 constexpr std::array forwardedSignals{SIGTERM, SIGINT, SIGHUP};
 
-// A signal handler reaches nothing but a variable like this one.
+// A signal handler has no other way to reach it.
 volatile std::sig_atomic_t sessionProcess = 0;
 
 void forwardSignal(int signal) {
     kill(static_cast<pid_t>(sessionProcess), signal);
 }
 
-/// Ends this process by the signal that ended the session. The session has left the core file, if any.
+/// Ends this process by the signal that ended the session. Any core file is the session's.
 [[noreturn]] void dieBySignal(int signal) {
     const rlimit noCore{0, 0};
     setrlimit(RLIMIT_CORE, &noCore);
@@ -88,7 +88,7 @@ KeeperSession::~KeeperSession() {
 void KeeperSession::sessionOver(int exitCode) {
     if (m_pipe < 0)
         return;
-    prctl(PR_SET_PDEATHSIG, 0); // from here on the parent's end is not ours
+    prctl(PR_SET_PDEATHSIG, 0); // from here on this process outlives its parent
     setsid();
     const int null = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
@@ -106,14 +106,14 @@ void KeeperSession::sessionOver(int exitCode) {
 void KeeperSession::keepClipboardUntilTaken() {
     if (!m_alone || !ownsClipboard())
         return;
-    malloc_trim(0); // what the session needed is of no use to a keeper
+    malloc_trim(0); // a keeper doesn't need the session's memory
     QEventLoop loop;
     const auto endIfTaken = [&loop] {
         if (!ownsClipboard())
             loop.quit();
     };
     QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &loop, endIfTaken);
-    // The signal can be missed when two programs take the clipboard at the same moment.
+    // Qt can miss the change when two programs take the clipboard at the same moment.
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &loop, endIfTaken);
     look.start(500);
@@ -146,7 +146,7 @@ int runAsClipboardKeeper(const std::function<int(KeeperSession &)> &session) {
         pipe[1] = -1;
     }
     if (child == 0) {
-        // A parent that is killed takes the session with it, as if there were one process.
+        // Killing the parent ends the session too, as if there were one process.
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (getppid() != parent)
             _exit(1);

@@ -7,9 +7,10 @@
 
 namespace tolvo {
 
-/// The toolkit's font of the same name; where it is not installed, the system finds the nearest. A size of 0
-/// or below leaves the size to the toolkit.
+/// The toolkit's font of the same name, or the nearest one that is installed. A size of 0 or below leaves the
+/// size to the toolkit.
 [[nodiscard]] QFont toQFont(const Font &font);
+/// The stored form of a font of the toolkit.
 [[nodiscard]] Font fromQFont(const QFont &font);
 
 } // namespace tolvo

@@ -26,7 +26,7 @@ struct Release {
 using Context = std::unique_ptr<xkb_context, Release<xkb_context_unref>>;
 using Keymap = std::unique_ptr<xkb_keymap, Release<xkb_keymap_unref>>;
 
-/// The keymap in use now; it is asked for at every use, since the user may change it at any time.
+/// The current keymap, read at every use, since the user may change it at any time.
 Keymap currentKeymap() {
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (x11 == nullptr)

@@ -9,7 +9,7 @@ namespace tolvo {
 /// lower case, or a sign. It comes from the user's other layouts in their order; if none of them has Latin
 /// letters either, from the place of the key on the American keyboard. `scanCode` is QKeyEvent's, `modifiers`
 /// QKeyEvent's native ones.
-/// 0 where the layout in use has Latin letters, or the platform doesn't tell its layouts.
+/// 0 if the layout in use has Latin letters, or if the platform doesn't report its layouts.
 char16_t latinCharacterOfKey(quint32 scanCode, quint32 modifiers);
 
 } // namespace tolvo

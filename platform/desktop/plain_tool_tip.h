@@ -5,8 +5,7 @@
 
 namespace tolvo {
 
-/// A tool tip that shows the text as it is, also where it looks like markup: a name of the user's, a line of
-/// a data file.
+/// A tool tip that shows a text as it is even if it looks like markup, such as a name that the user chose.
 [[nodiscard]] inline QString plainToolTip(const QString &text) {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }

@@ -45,7 +45,7 @@ bool ownsX11Clipboard() {
     const xcb_window_t owner = ownerOf(connection, "CLIPBOARD");
     if (owner == XCB_WINDOW_NONE)
         return false;
-    // The window belongs to us if its number is of the range that the server gave our connection.
+    // The window is this program's if its number is in the range that the server gave to the connection.
     const xcb_setup_t *setup = xcb_get_setup(connection);
     return (owner & ~setup->resource_id_mask) == setup->resource_id_base;
 }

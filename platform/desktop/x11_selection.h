@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What QClipboard doesn't tell about the clipboard of an X server.
+// What QClipboard doesn't report about the clipboard of an X server.
 #pragma once
 
 namespace tolvo {
@@ -7,10 +7,10 @@ namespace tolvo {
 /// Whether the program runs on an X server.
 [[nodiscard]] bool isX11();
 
-/// Whether this program is what the X server has as the clipboard's owner. Only on X11.
+/// Whether this program is the clipboard's owner according to the X server. Only on X11.
 [[nodiscard]] bool ownsX11Clipboard();
 
-/// Whether any program owns the clipboard of the X server. Asks the server alone. Only on X11.
+/// Whether any program owns the clipboard of the X server. Asks only the server, not the owner. Only on X11.
 [[nodiscard]] bool x11ClipboardHasOwner();
 
 } // namespace tolvo

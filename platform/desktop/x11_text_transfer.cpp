@@ -42,7 +42,7 @@ std::array<xcb_atom_t, count> atoms(xcb_connection_t *connection,
     return found;
 }
 
-/// Copied files have no text but their addresses, one on a line.
+/// The text of copied files: their addresses, one a line.
 QString textOfAddresses(const QByteArray &list) {
     QStringList addresses;
     for (const QByteArray &line : list.split('\n')) {
@@ -179,7 +179,7 @@ QByteArray X11TextTransfer::takeProperty(bool *incremental) {
 
 QString X11TextTransfer::text() const {
     QByteArray data = m_data;
-    if (data.endsWith('\0')) // some programs send the end of their string as well
+    if (data.endsWith('\0')) // some programs send a terminating NUL as well
         data.chop(1);
     const std::string_view target = m_chosen.name;
     if (target == latin1Target)

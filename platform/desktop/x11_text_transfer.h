@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The text of a selection, fetched in small steps, so that an owner that hangs can't hold up the program.
+// Fetches the text of a selection in small steps, so that an owner that hangs can't block the program. Source
+// of the protocol: Inter-Client Communication Conventions Manual, version 2.0, section 2 (selections, INCR
+// transfers).
 #pragma once
 
 #include <QByteArray>
@@ -12,8 +14,8 @@ struct xcb_connection_t;
 
 namespace tolvo {
 
-/// One transfer, over a connection of its own: asks the owner of a selection what it has, then for its text,
-/// which may come in pieces. Only for selections that other programs own.
+/// One transfer, over a connection of its own: asks the owner of a selection for its formats, then for its
+/// text, which may come in pieces. Only for selections that other programs own.
 class X11TextTransfer {
   public:
     enum class Selection { Clipboard, Primary };
@@ -23,13 +25,13 @@ class X11TextTransfer {
     X11TextTransfer(const X11TextTransfer &) = delete;
     X11TextTransfer &operator=(const X11TextTransfer &) = delete;
 
-    /// Goes on with the transfer for at most so long. True once it is over.
+    /// Continues the transfer for at most this long. True once it is over.
     bool advance(int milliseconds);
 
-    /// Whether the owner has done something since this was asked last.
+    /// Whether the owner has done something since the last call.
     [[nodiscard]] bool ownerHasMoved();
 
-    /// What came, once the transfer is over; empty if the selection has no owner or no text.
+    /// The text, once the transfer is over; empty if the selection has no owner or no text.
     [[nodiscard]] QString text() const;
 
   private:

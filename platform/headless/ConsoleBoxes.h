@@ -8,24 +8,24 @@
 
 namespace tolvo {
 
-/// Answers boxes without showing them and keeps them: OK, or the next of `answers`, or No where there is a
-/// choice.
+/// Keeps boxes without showing them. Where there is a choice, the answer is the next of `answers`, or No;
+/// else OK.
 class RecordingBoxes : public MessageBoxes {
   public:
     BoxAnswer show(const Box &box) override;
 
     std::vector<Box> shown;         ///< every box, in order
-    std::vector<BoxAnswer> answers; ///< answers to the choices to come, the next one first
+    std::vector<BoxAnswer> answers; ///< for the next choices, in order
 };
 
-/// Says boxes on a stream, each line behind a prefix, and keeps them. A choice is answered by No.
+/// Writes boxes to a stream, each line after a prefix, and keeps them. The answer to a choice is No.
 class ConsoleBoxes final : public RecordingBoxes {
   public:
     explicit ConsoleBoxes(QString prefix = QStringLiteral("tolvo-pipe: "), std::FILE *stream = stderr)
         : m_prefix(std::move(prefix)), m_stream(stream) {}
 
     BoxAnswer show(const Box &box) override;
-    /// Says a text that is no box, such as a status text.
+    /// Writes a text that is not a box, such as a status text.
     void say(const QString &text) const;
 
   private:

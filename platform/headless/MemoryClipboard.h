@@ -5,8 +5,7 @@
 
 namespace tolvo {
 
-/// A clipboard that no other program sees, for tolvo-pipe and the tests. Texts are taken and given as they
-/// are.
+/// A clipboard that no other program sees, for tolvo-pipe and the tests. Texts come and go unchanged.
 class MemoryClipboard final : public Clipboard {
   public:
     explicit MemoryClipboard(QString content = {}) : text(std::move(content)) {}
@@ -20,9 +19,9 @@ class MemoryClipboard final : public Clipboard {
         ++writes;
     }
 
-    QString text; ///< what lies on the clipboard
-    bool answers = true;
-    int writes = 0; ///< how often it was written
+    QString text;        ///< the clipboard's text
+    bool answers = true; ///< false: as if the owner didn't answer
+    int writes = 0;      ///< how often it was written
 };
 
 } // namespace tolvo

@@ -25,7 +25,7 @@ void MemoryTextBox::setSelStart(int start) {
 
 void MemoryTextBox::setSelLength(int length) {
     const qint64 end = static_cast<qint64>(m_start) + std::max(length, 0);
-    m_length = static_cast<int>(snapBehind(m_text, end)) - m_start;
+    m_length = static_cast<int>(snapAfter(m_text, end)) - m_start;
 }
 
 void MemoryTextBox::setSelText(const QString &text) {
@@ -59,18 +59,18 @@ void MemoryTextBox::report(const UserEdit &edit) {
         onChange();
 }
 
-/// How long the text would be with `text` in place of the selection, were there room for all of it.
+/// The length of the whole text with all of `text` in place of the selection.
 qint64 MemoryTextBox::wantedLength(QStringView text) const {
     return m_text.size() - m_length + text.size();
 }
 
-/// Whether the text is another one now.
+/// True if the text has changed.
 bool MemoryTextBox::replaceSelection(const QString &text) {
     const QStringView inserted = cutToRoom(text, m_capacity, m_text.size() - m_length);
     const bool same = inserted == QStringView(m_text).mid(m_start, m_length);
     if (!same)
         m_text.replace(m_start, m_length, inserted.data(), inserted.size());
-    m_start = static_cast<int>(snapBehind(m_text, m_start + inserted.size()));
+    m_start = static_cast<int>(snapAfter(m_text, m_start + inserted.size()));
     m_length = 0;
     return !same;
 }

@@ -8,8 +8,8 @@
 
 namespace tolvo {
 
-/// A text box without a window, for tolvo-pipe and the tests. Reading the text shares it, so that large texts
-/// cost nothing; an edit costs at most one pass over the text.
+/// A text box without a window, for tolvo-pipe and the tests. Reading shares the text instead of copying it;
+/// an edit takes at most one pass over the text.
 class MemoryTextBox final : public TextBox {
   public:
     /// The capacity of a box that takes any text.

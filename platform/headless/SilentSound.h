@@ -7,7 +7,7 @@
 
 namespace tolvo {
 
-/// Makes no sound and counts what was asked for.
+/// Makes no sound and records what was asked for.
 class SilentSound final : public SoundPlayer {
   public:
     void beep() override { ++beeps; }

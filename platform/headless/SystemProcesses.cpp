@@ -45,7 +45,7 @@ qint64 SystemProcesses::start(const ProgramStart &start) {
         }
         process.setProcessEnvironment(environment);
     }
-    // Whoever started us may wait for the end of what we have inherited.
+    // The program that started this one may wait for the end of the streams that it passed on.
     for (const int descriptor : openDescriptors())
         fcntl(descriptor, F_SETFD, FD_CLOEXEC);
     qint64 identifier = 0;
@@ -70,8 +70,8 @@ void SystemProcesses::letGo() {
 }
 
 void SystemProcesses::waitFor(qint64 process) {
-    // A handle on the process and not its number: numbers are used again, and the process is no child of
-    // ours.
+    // A handle on the process, not its number: numbers are reused, and the process is not a child of this
+    // one.
     const int handle = static_cast<int>(syscall(SYS_pidfd_open, static_cast<pid_t>(process), 0U));
     if (handle < 0)
         return;

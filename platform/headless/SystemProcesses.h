@@ -5,7 +5,7 @@
 
 namespace tolvo {
 
-/// Real processes. They outlive the program that starts them; window modes are left to the window system.
+/// Real processes, which outlive the program that starts them. Window modes have no effect.
 class SystemProcesses : public Processes {
   public:
     SystemProcesses() = default;
@@ -17,15 +17,15 @@ class SystemProcesses : public Processes {
     qint64 start(const ProgramStart &start) override;
     void letGo() override;
     void waitFor(qint64 process) override;
-    /// Without a desktop nothing can be opened: false.
+    /// Always false: without a desktop nothing can be opened.
     bool open(const QString &address) override;
 
   private:
-    /// The standard input of what is held back; made when first needed.
+    /// The standard input of companions that are held back; created when first needed.
     [[nodiscard]] QString gate();
 
-    int m_gateOut = -1; ///< the end of the gate that the others read
-    int m_gateIn = -1;  ///< ours; they wait until it is closed
+    int m_gateOut = -1; ///< the end of the gate that companions read
+    int m_gateIn = -1;  ///< our end; they wait until it is closed
 };
 
 } // namespace tolvo

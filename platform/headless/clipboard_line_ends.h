@@ -1,23 +1,24 @@
 // SPDX-License-Identifier: MIT
-// Line ends on the way between the text area and other programs, where these use LF.
+// Converts line ends between the text area and other programs, which use LF.
 //
-// A text without any CR has LF line ends: it comes in with CR LF and goes out with LF again. A text with a CR
-// is taken and given as it is.
+// A text without any CR has LF line ends: they become CR LF on the way in and LF again on the way out. A text
+// with a CR passes unchanged.
 #pragma once
 
 #include <QString>
 
 namespace tolvo {
 
+/// The rule of one session.
 class ClipboardLineEnds {
   public:
-    /// A text of another program in the form of the text area; settles how texts go out from now on.
+    /// Converts a text of another program for the text area, and decides how texts go out from now on.
     [[nodiscard]] QString takeIn(QString foreign);
 
-    /// The same without settling anything, as for a paste.
+    /// The same for a paste, which decides nothing.
     [[nodiscard]] static QString comeIn(QString foreign);
 
-    /// A text of the text area as other programs get it. Before anything was taken in, with LF.
+    /// Converts a text of the text area for other programs; to LF if no text was taken in yet.
     [[nodiscard]] QString goOut(const QString &own) const;
 
   private:

@@ -5,7 +5,7 @@
 
 namespace tolvo {
 
-/// The descriptors above standard error that this process has open; none where the system doesn't tell.
+/// The open descriptors of this process above standard error; none where the system doesn't list them.
 [[nodiscard]] std::vector<int> openDescriptors();
 
 } // namespace tolvo

@@ -53,7 +53,7 @@ HttpReply NetworkHttpClient::await(QNetworkReply &reply) {
     const std::shared_ptr<void> guard = guardInput ? guardInput() : nullptr;
     QEventLoop loop;
     QByteArray body;
-    QString stopped; // why we gave up, empty as long as we have not
+    QString stopped; // why the request was given up, if it was
     const auto stop = [&](const QString &why) {
         stopped = why;
         loop.quit();
@@ -63,7 +63,7 @@ HttpReply NetworkHttpClient::await(QNetworkReply &reply) {
         if (body.size() > m_limits.bodyBytes)
             stop(QStringLiteral("The answer is too large"));
     };
-    reply.setReadBufferSize(1LL * 1024 * 1024); // a fast sender waits for us instead of filling the memory
+    reply.setReadBufferSize(1LL * 1024 * 1024); // a fast sender has to wait instead of filling the memory
     QObject::connect(&reply, &QIODevice::readyRead, &loop, readOn);
     QObject::connect(&reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QTimer limit;
@@ -91,7 +91,7 @@ HttpReply NetworkHttpClient::await(QNetworkReply &reply) {
         return noAnswer(stopped, wasCancelled);
     }
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    // From 201 upwards the errors tell the status again; below that the answer broke off or never came.
+    // Errors from 201 on repeat the HTTP status; below that the answer broke off or never came.
     if (status == 0 ||
         (reply.error() != QNetworkReply::NoError && reply.error() < QNetworkReply::ContentAccessDenied))
         return noAnswer(reply.errorString());

@@ -13,14 +13,14 @@ class QNetworkRequest;
 
 namespace tolvo {
 
+/// The limits of one request.
 struct HttpLimits {
     int milliseconds = 60'000;             ///< for the whole request
     qint64 bodyBytes = 16LL * 1024 * 1024; ///< after decompression
 };
 
-/// HTTP over Qt Network: redirects are answers like any other, no cookies, nothing is cached, and no header
-/// says who asks. Needs a
-/// QCoreApplication. The network is not touched before the first request.
+/// HTTP over Qt Network, without cookies, cache or identifying headers. Redirects are answers like any other.
+/// Needs a QCoreApplication. Uses no network before the first request.
 class NetworkHttpClient final : public HttpClient {
   public:
     explicit NetworkHttpClient(HttpLimits limits = {});
@@ -32,8 +32,8 @@ class NetworkHttpClient final : public HttpClient {
 
     /// Asked many times a second while a request runs; true ends it.
     std::function<bool()> cancelled;
-    /// Makes what keeps the user's input away while a request runs, and lets it go after that. Without it the
-    /// request leaves all input waiting until it is over.
+    /// Called when a request begins; the result keeps the user's input away as long as it lives. Without it
+    /// the input waits until the request is over.
     std::function<std::shared_ptr<void>()> guardInput;
 
   private:

@@ -8,9 +8,9 @@
 
 namespace tolvo {
 
-/// HTTP for a program that seldom needs it: the network libraries don't slow its start but come with the
-/// first request, in the module "tolvo-network" beside the program. A module that can't be loaded is no
-/// answer, and the reply says why.
+/// HTTP for a program that seldom needs it: the first request loads the network libraries, in the module
+/// "tolvo-network" beside the program, so they don't slow the start. If the module can't be loaded, there is
+/// no answer, and the reply says why.
 class OnDemandHttpClient final : public HttpClient {
   public:
     explicit OnDemandHttpClient(QString programFolder) : m_programFolder(std::move(programFolder)) {}
@@ -19,13 +19,13 @@ class OnDemandHttpClient final : public HttpClient {
     [[nodiscard]] HttpReply post(const QByteArray &encodedUrl, const QByteArray &body,
                                  const QByteArray &contentType) override;
 
-    /// As those of NetworkHttpClient.
+    /// See NetworkHttpClient.
     std::function<bool()> cancelled;
     std::function<std::shared_ptr<void>()> guardInput;
 
   private:
     [[nodiscard]] HttpReply ask(const std::function<HttpReply(HttpClient &)> &request);
-    /// Empty if all is well, else why there is no client.
+    /// Makes the client. Returns why that failed, or the empty string.
     [[nodiscard]] QString load();
 
     QString m_programFolder;

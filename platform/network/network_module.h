@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the module "tolvo-network" and the program that loads it agree on.
+// The interface between the module "tolvo-network" and the program that loads it.
 #pragma once
 
 #include "platform/http_client.h"
@@ -10,7 +10,7 @@
 
 namespace tolvo {
 
-/// The file's name without its ending, which each platform has its own for.
+/// The file's name without its ending, which depends on the platform.
 constexpr QLatin1StringView networkModuleName{"tolvo-network"};
 constexpr const char *networkModuleEntry = "tolvoMakeHttpClient";
 
