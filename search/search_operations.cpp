@@ -34,8 +34,8 @@ SearchRequest wildcardRequest(const QString &find, bool specialChars, bool match
             .groupingSep = options.groupingSep};
 }
 
-SearchRequest expressionRequest(const QString &pattern, bool matchCase) {
-    return {.mode = SearchMode::RegularExpression, .find = pattern, .matchCase = matchCase};
+SearchRequest expressionRequest(QString pattern, bool matchCase) {
+    return {.mode = SearchMode::RegularExpression, .find = std::move(pattern), .matchCase = matchCase};
 }
 
 } // namespace
@@ -115,7 +115,7 @@ void CSearch::WildcardReplaceAll(const QString &find, const QString &replace, bo
 }
 
 void CSearch::RegExpSearch(const QString &text, QString pattern, bool up, bool fromStart, bool matchCase) {
-    SearchRequest request = expressionRequest(pattern, matchCase);
+    SearchRequest request = expressionRequest(std::move(pattern), matchCase);
     request.direction = expressionDirection(up, fromStart);
     findExpression(text, request);
 }

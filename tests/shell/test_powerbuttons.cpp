@@ -180,7 +180,7 @@ TEST(PowerButtons, searchWithStoredSettings) {
     User user("ab");
     user.session.PowerButtonDespatcher(*User::action("edSRC", Custom, "Mode=4, Find=b, Direction=S"));
     user.sees("«»ab");
-    EXPECT_TRUE(user.boxes.shown.back().text.contains("There is no search mode 4"));
+    user.isToldSomethingLike("There is no search mode 4");
 }
 
 } // namespace
