@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/application.h"
 #include "preferences/settings_store.h"
 #include "tests/support/other_settings.h"
 #include "tests/text/engine.h"
@@ -84,14 +85,14 @@ TEST(ToolSettings, areWrittenAsSettingsStrings) {
 
 TEST(ToolSettings, areReadLenientlyFromTheStore) {
     SettingsStore store(u":memory:"_s);
-    writeSetting(store, u"Indent", u"Option", u"else"_s);
+    store.SaveSetting(applicationTitle(), u"Indent"_s, u"Option"_s, u"else"_s);
     EXPECT_EQ(std::get<IndentSettings>(loadSettings(indent, store)).choice, IndentSettings::WithText);
-    writeSetting(store, u"NumLines", u"Pad", u"1"_s);
+    store.SaveSetting(applicationTitle(), u"NumLines"_s, u"Pad"_s, u"1"_s);
     EXPECT_FALSE(std::get<LineNumberSettings>(loadSettings(lineNumbers, store)).pad)
         << "it is compared with \"True\"";
-    writeSetting(store, u"NumList", u"PadChars", u"wide"_s);
-    writeSetting(store, u"NumList", u"StartNumber", u"1e99"_s);
-    writeSetting(store, u"NumList", u"Tab", u"?"_s);
+    store.SaveSetting(applicationTitle(), u"NumList"_s, u"PadChars"_s, u"wide"_s);
+    store.SaveSetting(applicationTitle(), u"NumList"_s, u"StartNumber"_s, u"1e99"_s);
+    store.SaveSetting(applicationTitle(), u"NumList"_s, u"Tab"_s, u"?"_s);
     EXPECT_EQ(loadSettings(numberList, store),
               ToolSettings(NumberListSettings{0, std::numeric_limits<int>::max(), false, 0, false, 1}))
         << "0 for what is not a number, and then the nearest that is allowed";
