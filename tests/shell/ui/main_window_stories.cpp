@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The main window offscreen: its size, its panel, its keys.
+#include "base/application.h"
 #include "platform/desktop/DesktopClipboard.h"
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/PlainTextBox.h"
@@ -7,7 +8,6 @@
 #include "platform/headless/SilentSound.h"
 #include "platform/network/NetworkHttpClient.h"
 #include "preferences/settings_keys.h"
-#include "preferences/settings_table.h"
 #include "shell/ui/desktop_session.h"
 #include "shell/ui/window_size.h"
 #include "spelling/word_automation.h"
@@ -176,7 +176,8 @@ TEST_F(MainWindowStory, typingIsTakenBackAndBroughtBackByKeysButtonsAndMenu) {
 }
 
 TEST_F(MainWindowStory, theRightButtonRunsAToolWithItsLastSettings) {
-    writeSetting(store, u"Indent", u"Option", QStringLiteral("Spaces"));
+    store.SaveSetting(applicationTitle(), QStringLiteral("Indent"), QStringLiteral("Option"),
+                      QStringLiteral("Spaces"));
     run(QStringLiteral("x"), [] {
         QTest::mouseClick(&child<QWidget>(*window(), "imgFavourites_0"), Qt::RightButton);
         EXPECT_EQ(status(), QStringLiteral("Indent increased"));
