@@ -21,8 +21,8 @@ QString SpellingServices::defaultUserFolder() {
 void prepareSpelling(const SpellingServices &services) {
     ensurePersonalDictionary(services);
     const auto &provider = settingKeys.spelling.provider;
-    // The checking dialog takes a missing provider for Word, all other readers take it for Hunspell. Where Word
-    // can't run, they must agree.
+    // The checking dialog takes a missing provider for Word, all other readers take it for Hunspell. Where
+    // Word can't run, they must agree.
     if (!services.word.isPossible() && !isSet(services.store, provider))
         set(services.store, provider, provider.otherwise());
 }

@@ -61,8 +61,9 @@ struct RemoveLinesSettings {
     bool multiple = true;
 
     static constexpr QStringView section = u"RemLines";
-    static constexpr std::tuple fields{Field{&RemoveLinesSettings::single, u"Single", toolForms::checkIfOne},
-                                       Field{&RemoveLinesSettings::multiple, u"Multiple", toolForms::checkIfOne}};
+    static constexpr std::tuple fields{
+        Field{&RemoveLinesSettings::single, u"Single", toolForms::checkIfOne},
+        Field{&RemoveLinesSettings::multiple, u"Multiple", toolForms::checkIfOne}};
     bool operator==(const RemoveLinesSettings &) const = default;
 };
 
