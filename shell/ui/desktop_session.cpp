@@ -13,6 +13,12 @@
 
 namespace tolvo {
 
+namespace {
+
+constexpr int timeOfACommit = 200; // milliseconds, with a slow disk
+
+} // namespace
+
 DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &clipboard, EscapeWatch &escape)
     : m_services(services), m_clipboard(clipboard), m_escape(escape),
       m_window(std::make_unique<MainWindow>()), m_dialogs(services, *m_window) {
@@ -65,8 +71,12 @@ bool DesktopSession::takesClipboardLater() {
 
 /// PowerButtons that another run defines show at once.
 void DesktopSession::watchStore() {
-    QObject::connect(&m_storeWatch, &QFileSystemWatcher::fileChanged, m_window.get(),
-                     [this] { takeOverPowerButtons(); });
+    // The file changes a moment before what was written to it can be read.
+    m_storeChanged.setSingleShot(true);
+    m_storeChanged.setInterval(timeOfACommit);
+    QObject::connect(&m_storeWatch, &QFileSystemWatcher::fileChanged, &m_storeChanged,
+                     [this] { m_storeChanged.start(); });
+    QObject::connect(&m_storeChanged, &QTimer::timeout, m_window.get(), [this] { takeOverPowerButtons(); });
     const QString file = m_services.store.touchedFile();
     if (!file.isEmpty())
         m_storeWatch.addPath(file);

@@ -7,6 +7,7 @@
 
 #include <QEventLoop>
 #include <QFileSystemWatcher>
+#include <QTimer>
 #include <memory>
 
 namespace tolvo {
@@ -72,6 +73,7 @@ class DesktopSession : public SessionWindow, private SessionView, private Sessio
     frmMain *m_session = nullptr;
     QEventLoop m_loop;
     QFileSystemWatcher m_storeWatch;
+    QTimer m_storeChanged;
     qint64 m_seenChanges = 0; ///< of the store by others, as of the last look at the PowerButtons
 };
 
