@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Character references of markup: "&#65;", "&#x41;", "&amp;". Source of their syntax and names:
-// https://html.spec.whatwg.org/multipage/syntax.html#character-references. The odd results below are kept on
+// the HTML Living Standard, section "Character references". The odd results below are kept on
 // purpose.
 #pragma once
 
