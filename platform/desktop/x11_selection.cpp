@@ -1,22 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/x11_selection.h"
 
+#include "platform/desktop/xcb_reply.h"
+
 #include <QGuiApplication>
 
-#include <cstdlib>
-#include <memory>
 #include <string_view>
 #include <xcb/xcb.h>
 
 namespace tolvo {
 
 namespace {
-
-struct Free {
-    void operator()(void *memory) const { std::free(memory); }
-};
-template <class T>
-using Reply = std::unique_ptr<T, Free>;
 
 xcb_atom_t atom(xcb_connection_t *connection, std::string_view name) {
     const auto asked = xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.data());

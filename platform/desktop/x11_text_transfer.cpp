@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/x11_text_transfer.h"
 
+#include "platform/desktop/xcb_reply.h"
+
 #include <QDeadlineTimer>
 #include <QUrl>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <poll.h>
 #include <string_view>
 #include <utility>
@@ -16,12 +16,6 @@
 namespace tolvo {
 
 namespace {
-
-struct Free {
-    void operator()(void *memory) const { std::free(memory); }
-};
-template <class T>
-using Reply = std::unique_ptr<T, Free>;
 
 constexpr const char *latin1Target = "STRING";
 constexpr const char *addressesTarget = "text/uri-list";
