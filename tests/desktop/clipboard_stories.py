@@ -109,7 +109,7 @@ class ClipboardStories(Story):
         run.window()
         # The program's output ends with the program, whoever goes on.
         keys("alt+d")
-        self.assertEqual(run.process.communicate(timeout=20)[0], b"")
+        self.assertEqual(run.said(), "")
         self.assertTrue(self.settings.programs("Advisor.exe"))
 
     def assert_has_icon(self, window):

@@ -8,6 +8,7 @@ import signal
 import sqlite3
 import subprocess
 import tempfile
+import threading
 import time
 import unittest
 import warnings
@@ -111,10 +112,25 @@ class Tolvo:
         self.settings = settings
         self.scale = int(environment.get("QT_SCALE_FACTOR", "1"))
         self._text = None
+        self._said = b""
         self.process = subprocess.Popen([os.path.join(PROGRAMS, program)], env={**settings.environment(), **environment},
                                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        self._listener = threading.Thread(target=self._listen, daemon=True)
+        self._listener.start()
         if wait:
             self.window()
+            wait_for(lambda: self.windows()[0].get_state_set().contains(Atspi.StateType.ACTIVE),
+                     lambda: f"a window to take the keys, there are {self.titles()}")
+
+    def _listen(self):
+        with self.process.stdout as stdout:
+            self._said = stdout.read()
+
+    def said(self):
+        """What the run has written, warnings of the toolkit included. Waits until nobody can write more."""
+        self._listener.join(PATIENCE)
+        assert not self._listener.is_alive(), "another program holds the run's output open"
+        return self._said.decode()
 
     def accessible(self):
         """The run's own application on the accessibility bus: the session is a child of the process that was started."""
@@ -132,7 +148,7 @@ class Tolvo:
         """The showing control of an accessible name, in the active window before all others."""
         return wait_for(lambda: self._named(lambda n: n.get_name() == name and (role is None or n.get_role() == role) and
                                             n.get_state_set().contains(Atspi.StateType.SHOWING)),
-                        f"a control named {name!r}")
+                        lambda: f"a control named {name!r}, there are the windows {self.titles()}")
 
     def windows(self):
         """The showing windows, the active one first."""
@@ -153,8 +169,14 @@ class Tolvo:
         wait_for(lambda: len(self.windows()) == 1 and self.windows()[0].get_state_set().contains(Atspi.StateType.ACTIVE),
                  lambda: f"the main window alone, there are {self.titles()}")
 
+    def close_box(self):
+        """Asks the active window to close, as the window manager does for its close box."""
+        subprocess.run(["wmctrl", "-F", "-c", self.windows()[0].get_name()], check=True)
+
     def titles(self):
         """The titles of the showing windows, the active one with a star."""
+        if self.process.poll() is not None:
+            return f"none, the run ended with {self.process.returncode}"
         return [w.get_name() + "*" * w.get_state_set().contains(Atspi.StateType.ACTIVE) for w in self.windows()]
 
     def shows(self, name):
@@ -182,6 +204,7 @@ class Tolvo:
             time.sleep(0.15)
             return self.middle(control()) == before
 
+        control()
         wait_for(still, f"{name!r} to stand still")
         self.click_on(control(), button, times)
 
@@ -312,9 +335,7 @@ class Tolvo:
             found = self.process.wait(patience)
         except subprocess.TimeoutExpired as late:
             raise AssertionError("the run did not end") from late
-        with self.process.stdout as stdout:
-            output = "" if found == code else stdout.read().decode()
-        assert found == code, f"the run ended with {found}: {output}"
+        assert found == code, f"the run ended with {found}: {self.said()}"
 
     def kill(self):
         if self.process.poll() is None:
@@ -324,7 +345,6 @@ class Tolvo:
             except subprocess.TimeoutExpired:
                 self.process.kill()
                 self.process.wait()
-        self.process.stdout.close()
 
 
 def file_of(process, name):
@@ -353,6 +373,8 @@ class Story(unittest.TestCase):
         for run in self.runs:
             run.kill()
         self.settings.close()
+        for run in self.runs:
+            self.assertEqual(run.said(), "", "the run wrote something")
 
     def start(self, clipboard, wait=True, **environment):
         """A run that takes this text, or with None what is on the clipboard."""

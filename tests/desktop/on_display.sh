@@ -10,12 +10,15 @@ runtime=$(mktemp -d)
 trap 'rm -rf "$runtime"' EXIT
 export XDG_RUNTIME_DIR=$runtime
 chmod 700 "$runtime"
-xvfb-run -a -s "-screen 0 $screen -dpi 96 -nolisten tcp" dbus-run-session -- bash -c '
+# Without -noreset the server starts anew, and drops whoever is just coming, each time its last client leaves.
+xvfb-run -a -s "-screen 0 $screen -dpi 96 -nolisten tcp -noreset" dbus-run-session -- bash -c '
     openbox --sm-disable >/dev/null 2>&1 &
     manager=$!
     # The window manager names itself before it takes care of windows; it lists them when it does. A window that comes
     # in between is never managed and gets no keys.
-    for _ in $(seq 100); do xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -q WINDOW && break; sleep 0.1; done
+    ready() { xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -q WINDOW; }
+    for _ in $(seq 200); do ready && break; sleep 0.1; done
+    ready || { echo "The window manager did not start." >&2; exit 1; }
     sleep 0.2
     set +e
     "$@"

@@ -49,4 +49,5 @@ kill -0 "$run" 2>/dev/null && fail "the run did not end: $(cat "$store/tolvo.log
 wait "$run" || fail "the run ended with $?: $(cat "$store/tolvo.log")"
 pasted=$(timeout 10 wl-paste --no-newline || true)
 [ "$pasted" = "WORDS FROM WAYLAND" ] || fail "pasted: '$pasted' $(cat "$store/tolvo.log")"
+[ ! -s "$store/tolvo.log" ] || fail "the run wrote: $(cat "$store/tolvo.log")"
 echo "passed: '$pasted' pasted after the end"
