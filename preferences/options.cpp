@@ -18,6 +18,9 @@ struct Field {
     Value Options::*member;
     Key key;
 };
+// Some compilers don't deduce this for an aggregate.
+template <class Options, class Value, class Key>
+Field(Value Options::*, Key) -> Field<Options, Value, Key>;
 
 // In the order in which the store gets them: the fonts first.
 constexpr std::tuple dialogFields{Field{&ProgramOptions::useProportional, preferences.useProportional},
