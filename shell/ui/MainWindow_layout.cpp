@@ -19,6 +19,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
+#include <functional>
 
 namespace tolvo {
 
@@ -188,7 +189,7 @@ QWidget *MainWindow::powerRow() {
 void MainWindow::offerUndoInTextBoxes() {
     const auto action = [this](const QPushButton &like, const QString &text, void (frmMain::*command)()) {
         auto *result = new QAction(like.icon(), text, this);
-        connect(result, &QAction::triggered, this, [this, command] { (m_session->*command)(); });
+        connect(result, &QAction::triggered, this, [this, command] { std::invoke(command, m_session); });
         return result;
     };
     m_undoAction = action(*m_cmdUndo, tr("&Undo\tCtrl+Z"), &frmMain::undoStep);
