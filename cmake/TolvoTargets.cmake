@@ -63,22 +63,22 @@ function(tolvo_program name)
     target_link_libraries(${name} PRIVATE ${ARG_LINK})
 endfunction()
 
-# tolvo_test(name [WIDGETS] SOURCES ... LINK ...): one GoogleTest program, one line of ctest. Widget tests run
-# offscreen. Every test gets an empty settings folder of its own; it never sees the user's.
+# tolvo_test(name [WIDGETS] SOURCES ... LINK ...): one GoogleTest program, one line of ctest, begun by tests/main.cpp. Widget
+# tests run offscreen. Every test gets an empty settings folder of its own; it never sees the user's.
 function(tolvo_test name)
     cmake_parse_arguments(ARG "WIDGETS" "" "SOURCES;LINK" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
+    add_executable(${name} ${CMAKE_SOURCE_DIR}/tests/main.cpp ${ARG_SOURCES})
     tolvo_settings(${name})
     tolvo_reuse_precompiled(${name} ${ARG_WIDGETS})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Core GTest::gtest)
     if(ARG_WIDGETS)
-        target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Widgets Qt6::Test GTest::gtest)
-    else()
-        target_link_libraries(${name} PRIVATE ${ARG_LINK} GTest::gtest GTest::gtest_main)
+        target_link_libraries(${name} PRIVATE Qt6::Widgets Qt6::Test)
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set(home ${CMAKE_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home})
+    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # the toolkit wants a runtime folder of one's own
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${home};XDG_DATA_HOME=${home};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks_of_libraries.txt:print_suppressions=0;TOLVO_SOURCE=${CMAKE_SOURCE_DIR};TOLVO_BIN=${CMAKE_BINARY_DIR}/bin")
+        "LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${home};XDG_DATA_HOME=${home};XDG_RUNTIME_DIR=${home};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks_of_libraries.txt:print_suppressions=0;TOLVO_SOURCE=${CMAKE_SOURCE_DIR};TOLVO_BIN=${CMAKE_BINARY_DIR}/bin")
 endfunction()

@@ -100,7 +100,7 @@ TEST_F(Pipe, tellsWhatItCanDo) {
 TEST_F(Pipe, refusesAPowerButtonThatNeedsAWindow) {
     {
         SettingsStore store(storePath);
-        RecordingBoxes boxes;
+        NamedBoxes boxes;
         CPowerButton button;
         button.Add(User::action("chGRA", Current));
         CPowerButtonMethods(store, realCatalogue(), boxes).SavePBSettings(button, 4);
@@ -154,9 +154,8 @@ QJsonObject replyOfSession(const QString &picture, const QStringList &steps) {
     user.defines(1, actions);
     user.session.imgPower_Click(0);
     QJsonArray texts;
-    for (const Box &box : user.boxes.shown)
+    for (const Box &box : user.boxes.take())
         texts += box.text;
-    user.boxes.shown.clear();
     return {{"text", user.session.txtCurrent().Text()},
             {"selStart", user.session.txtCurrent().SelStart()},
             {"selLength", user.session.txtCurrent().SelLength()},

@@ -62,10 +62,10 @@ class SearchWorld : public ::testing::Test, public SearchHost {
     }
 
     /// The texts of the boxes since the last call, "/" between them.
-    QString said() { return takeTexts(boxes).join(u'/'); }
+    [[nodiscard]] QString said() { return boxes.said(); }
 
     MemoryTextBox box;
-    RecordingBoxes boxes;
+    NamedBoxes boxes;
     KeptResults list;
     QList<SearchDirection> directions;
     bool isImpatient = false;

@@ -12,11 +12,6 @@ namespace {
 
 class PoorGuests : public ::testing::TestWithParam<const char16_t *> {};
 
-bool failed(const User &user) {
-    return std::any_of(user.boxes.shown.begin(), user.boxes.shown.end(),
-                       [](const Box &box) { return box.text.startsWith("Sorry"); });
-}
-
 TEST_P(PoorGuests, comeOutOfEveryTool) {
     const TextState guest = stateOf(QString::fromUtf16(GetParam()));
     User user;
@@ -24,12 +19,12 @@ TEST_P(PoorGuests, comeOutOfEveryTool) {
         SCOPED_TRACE(QString::fromUtf16(row.token).toStdString());
         user.startsWith(QString::fromUtf16(GetParam()));
         user.runsAgain(QString::fromUtf16(row.token));
-        EXPECT_FALSE(failed(user));
+        for (const Box &box : user.boxes.take()) // a tool may refuse such a text, but not fail on it
+            EXPECT_FALSE(box.text.startsWith("Sorry")) << box.text.toStdString();
         if (user.session.txtCurrent().Text() != guest.text)
             user.session.cmdUndo_Click();
         EXPECT_EQ(user.session.txtCurrent().Text(), guest.text);
     }
-    user.boxes.shown.clear();
 }
 
 TEST(PoorGuestsAtLength, comeOutOfEveryTextOperation) {

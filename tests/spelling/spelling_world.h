@@ -3,13 +3,13 @@
 // service and a Word that play their parts.
 #pragma once
 
-#include "platform/headless/ConsoleBoxes.h"
 #include "platform/http_client.h"
 #include "preferences/settings_store.h"
 #include "spelling/CSpelling.h"
 #include "spelling/Proofing.h"
 #include "spelling/dictionaries.h"
 #include "spelling/word_automation.h"
+#include "tests/support/boxes.h"
 #include "tests/support/failures.h"
 #include "tests/support/silent_host.h"
 
@@ -156,9 +156,9 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
 
     /// The boxes since the last call: error reports as "number description (class::procedure)", others by
     /// their text.
-    QStringList said() {
+    [[nodiscard]] QStringList said() {
         QStringList texts;
-        for (const Box &box : std::exchange(boxes.shown, {})) {
+        for (const Box &box : boxes.take()) {
             const QStringList lines = box.text.split(u("\r\n"));
             if (!box.text.startsWith(u("Sorry, "))) {
                 texts += box.text;
@@ -187,7 +187,7 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
 
     QTemporaryDir folder;
     SettingsStore store{QStringLiteral(":memory:")};
-    RecordingBoxes boxes;
+    NamedBoxes boxes;
     ScriptedHttp http;
     ScriptedWord word;
     SilentHost silence;

@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "spelling_world.h"
 
-#include "base/code_page.h"
-#include "tests/support/commands.h"
-
-#include <QRandomGenerator>
-#include <QSet>
-
 namespace tolvo::test {
 
 class Hunspell_ : public SpellingWorld {
@@ -103,60 +97,17 @@ TEST_F(Hunspell_, KnowsThePersonalWords) {
     prepareSpelling(services);
     EXPECT_EQ(fileContents(path), "");
 
+    const QString silent =
+        u("5007 After the Deadline did not respond. Please try again later' (CSpelling::Spell)");
     for (const int provider : {1, 2}) {
         Check spelling(*this, provider);
         EXPECT_EQ(spelling.locale, u("en-gb"));
         spelling.AddToCustomDic(provider == 1 ? u("zqx") : u("never"));
         EXPECT_TRUE(spelling.Spell(u("zqx")) || provider == 2); // the running check doesn't know the word
+        EXPECT_EQ(said(), QStringList(provider - 1, silent));
     }
     EXPECT_EQ(fileContents(path), "zqx\r\n");
     EXPECT_EQ(check("zqx"), QStringList());
-}
-
-/// Words of the dictionary and misspellings made from them, all of one kind with what the check takes out of
-/// a text.
-QStringList wordsToJudge(const QString &dic) {
-    QFile file(dic);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
-    QRandomGenerator random(20240501);
-    QSet<QString> words;
-    while (words.size() < 6000) {
-        QString word = lines.at(random.bounded(int(lines.size()))).section(u'/', 0, 0).section(u'\t', 0, 0);
-        const auto isLetter = [](QChar unit) { return tolvo::isLetter(unit.unicode()); };
-        if (word.size() < 2 || !std::all_of(word.cbegin(), word.cend(), isLetter))
-            continue;
-        const int at = random.bounded(int(word.size()));
-        const QChar letter(u'a' + random.bounded(26));
-        const QString made[] = {QString(word).remove(at, 1),
-                                QString(word).insert(at, letter),
-                                QString(word).replace(at, 1, letter),
-                                word.toUpper(),
-                                word + u("'s"),
-                                word + u("ing"),
-                                u("un") + word,
-                                word};
-        words.insert(made[random.bounded(8)]);
-    }
-    return words.values();
-}
-
-TEST_F(Hunspell_, JudgesWordsAsTheCommandDoes) {
-    const auto files = findDictionary(u("en-gb"), dictionaryFolders(folder.path())); // the system's
-    if (!isInstalled("hunspell") || !files)
-        GTEST_SKIP() << "the hunspell command or its British dictionary is missing";
-    const QStringList words = wordsToJudge(files->dic);
-    const QByteArray output =
-        outputOf(u("hunspell"), {u("-d"), QString(files->dic).chopped(4), u("-i"), u("UTF-8"), u("-l")},
-                 words.join(u'\n').toUtf8() + '\n');
-    const QStringList lines = QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts);
-    const QSet<QString> wrong(lines.cbegin(), lines.cend());
-    ASSERT_GT(wrong.size(), 1000);
-    ASSERT_LT(wrong.size(), words.size() - 1000);
-    HunspellEngine engine;
-    ASSERT_TRUE(engine.init(files->aff, files->dic));
-    for (const QString &one : words)
-        EXPECT_EQ(engine.Spell(one), !wrong.contains(one)) << one.toStdString();
 }
 
 } // namespace tolvo::test

@@ -198,6 +198,7 @@ TEST_F(Walk, ChangesTheRightPlaceOfAnErrorOutOfOrder) {
     change("a");
     change("there");
     EXPECT_EQ(picture(), u("zqx {the} {there} a {a}"));
+    EXPECT_EQ(said(), QStringList(4, u("5007 Text 'fox' cannot be found (CSpelling::findThePlace)")));
 }
 
 TEST_F(Walk, TakesThousandsOfChangesAndUndoesThem) {

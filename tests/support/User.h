@@ -3,10 +3,9 @@
 // selection or, with nothing between them, at the caret: "one|t«w»o", "tw«»o".
 #pragma once
 
-#include "platform/headless/ConsoleBoxes.h"
 #include "shell/headless/HeadlessSession.h"
 #include "shell/keyboard.h"
-#include "tests/support/print.h"
+#include "tests/support/boxes.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -23,8 +22,6 @@ class User : public HeadlessWindows {
   public:
     /// Begins with a text on the clipboard.
     explicit User(const QString &picture = {});
-    /// Every box must have been expected.
-    ~User() override;
 
     void startsWith(const QString &picture);
     void runs(const QString &token) { session.ToolDespatcher(token); }
@@ -41,9 +38,9 @@ class User : public HeadlessWindows {
     void waits(int milliseconds) { headless.clock.time = headless.clock.time.addMSecs(milliseconds); }
     void sees(const QString &picture, const QString &status);
     void sees(const QString &picture);
-    /// The oldest box that nobody has expected yet has this text (or begins with it).
+    /// The oldest box that nobody has named yet has this text (or these words in it).
     void isTold(const QString &text);
-    void isToldSomethingLike(const QString &beginning);
+    void isToldSomethingLike(const QString &words);
 
     /// Action by token, dialog option and details.
     [[nodiscard]] static std::shared_ptr<CAction> action(const QString &token, int option = 0,
@@ -97,13 +94,10 @@ class User : public HeadlessWindows {
   public:
     SettingsStore store{":memory:"};
     FileExtensions extensions;
-    RecordingBoxes boxes;
+    NamedBoxes boxes;
     HeadlessSession headless;
     frmMain &session;
     KeyboardCommands keys;
-
-  private:
-    size_t m_expected = 0;
 };
 
 } // namespace tolvo::test
