@@ -2,7 +2,7 @@
 // The smallest program with a keeper. keeper_probe PID-FILE EXIT-CODE WHAT [ARGUMENT], WHAT being
 //   write TEXT   Copy and Close with a text ("" leaves the clipboard empty)
 //   fill SIZE    the same with a text of that many characters
-//   take         prints what a session would take in, with "waiting" before it if the owner lets us wait
+//   take         prints what a session would take in
 //   crash, hang, leave
 #include "platform/desktop/DesktopClipboard.h"
 #include "platform/desktop/clipboard_keeper.h"
@@ -30,8 +30,6 @@ int session(tolvo::KeeperSession &keeper, int argc, char **argv) {
         pidFile.close();
     }
     tolvo::DesktopClipboard clipboard;
-    clipboard.ownerMilliseconds = 800;
-    clipboard.onWaiting = [](bool waits) { std::puts(waits ? "waiting" : "waited"); };
     if (what == u"crash"_s)
         std::raise(SIGSEGV);
     if (what == u"hang"_s)

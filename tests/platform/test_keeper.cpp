@@ -192,21 +192,4 @@ TEST_F(Keeper, TakesTextOfEveryForm) {
     }
 }
 
-TEST_F(Keeper, AnOwnerThatHangsIsNoAnswerAndIsSaid) {
-    QProcess other;
-    otherProgramCopies(other, "a\nb");
-    EXPECT_TRUE(waitUntil(5000, [&] { return pasted() == "a\nb"; }));
-    QByteArray output;
-    EXPECT_EQ(probe(0, {u"take"_s}, &output), 0);
-    EXPECT_EQ(output, "[a\r\nb]\n");
-    ::kill(static_cast<pid_t>(other.processId()), SIGSTOP);
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_EQ(probe(0, {u"take"_s}, &output), 0);
-    EXPECT_EQ(output, "waiting\nwaited\n[no answer]\n");
-    EXPECT_LT(timer.elapsed(), 10'000);
-    other.kill();
-    other.waitForFinished();
-}
-
 } // namespace
