@@ -7,9 +7,6 @@
 #include "tests/support/failures.h"
 
 #include <QFile>
-#include <QMap>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -108,50 +105,6 @@ TEST_F(SettingsExchange, FilesThatCantBeUsed) {
                       [&] { exportSettings(store, ExportScope::Everything, file); });
     for (const QString &file : {folder.filePath(u"none.reg"_s), folder.path()})
         expectFailure(failureNumber::fileAccess, [&] { importSettings(store, file); });
-}
-
-/// The values of a tree, without their order: a registry sorts its keys.
-QMap<QString, QString> valuesOf(const QByteArray &file) {
-    QMap<QString, QString> values;
-    for (const RegKey &key : readRegFile(file)) {
-        for (const RegValue &value : key.values)
-            values.insert(key.path + u'|' + value.entry.name, value.entry.value);
-    }
-    return values;
-}
-
-TEST_F(SettingsExchange, AnotherRegistryEditorAgrees) {
-    const QString wine = QStandardPaths::findExecutable(u"wine"_s);
-    if (wine.isEmpty())
-        GTEST_SKIP() << "needs wine";
-    store.SaveSetting(app, u"Odd ]["_s, u"k;\"=\\"_s, u"x"_s + QString(200, QChar(u'\n')));
-    exportSettings(store, ExportScope::Everything, path);
-    const QString back = folder.filePath(u"back.reg"_s);
-    QProcess editor;
-    editor.setProcessChannelMode(QProcess::MergedChannels);
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"WINEPREFIX"_s, folder.filePath(u"prefix"_s));
-    environment.insert(u"WINEDEBUG"_s, u"-all"_s);
-    environment.insert(u"WINEDLLOVERRIDES"_s, u"mscoree,mshtml="_s);
-    editor.setProcessEnvironment(environment);
-    const QString key = registryUserRoot.toString() + u'\\' + settingsKeyPath();
-    QByteArray said;
-    for (const QStringList &arguments :
-         {QStringList{u"wineboot"_s, u"--init"_s}, QStringList{u"regedit"_s, u"/S"_s, path},
-          QStringList{u"regedit"_s, u"/E"_s, back, key},
-          QStringList{u"wineboot"_s, u"--end-session"_s, u"--kill"_s}}) {
-        editor.start(wine, arguments);
-        ASSERT_TRUE(editor.waitForFinished(120'000)) << said.constData();
-        said += editor.readAll();
-        if (!QDir(folder.filePath(u"prefix/drive_c"_s)).exists())
-            GTEST_SKIP() << "wine can't set itself up here: " << said.constData();
-    }
-    ASSERT_TRUE(QFile::exists(back)) << said.constData();
-    SettingsStore other(u":memory:"_s);
-    importSettings(other, back);
-    const auto values = valuesOf(all());
-    EXPECT_EQ(values.size(), 10);
-    EXPECT_EQ(valuesOf(exportedSettings(other, ExportScope::Everything)), values);
 }
 
 } // namespace
