@@ -2,9 +2,6 @@
 #include "base/strings.h"
 #include "tests/text/engine.h"
 
-#include <algorithm>
-#include <random>
-
 using namespace tolvo;
 using namespace tolvo::test;
 using namespace Qt::StringLiterals;
@@ -35,75 +32,10 @@ TEST_F(WordWrap, breaksLinesAtBlanks) {
           {12, u"aaaaaaaaa \tb c", u"aaaaaaaaa |\tb c"},
           {12, u"aaaa bbbb cccc dddd eeee", u"aaaa bbbb|\tcccc|\tdddd|\teeee", true},
           {13, u"aaaa bbbb cccc dddd|e ", u"aaaa bbbb|        cccc|        dddd|e", true, false},
-          // Behind the last blank everything is one word, line ends included.
+          // After the last blank everything is one word, line ends included.
           {12, u"aaaa bb|c|d", u"aaaa|bb|c|d"},
           {12, u"aaaa|bbbbbbbbbbbbbbbbbbbbbb", u"|aaaa|bbbbbbbbbbbbbbbbbbbbbb"}})
         EXPECT_EQ(engine.WordWrap(lines(c.text), c.width, c.hanging, c.tab, false), lines(c.expected));
-}
-
-/// The scan as it is told: everything is looked for anew from each position.
-QString wrappedStepByStep(const QString &text, int width, bool hanging, bool tab) {
-    const auto firstOf = [](qsizetype a, qsizetype b) { return b == 0 ? a : std::min(a, b); };
-    QString output;
-    qsizetype column = 0;
-    const auto put = [&](const QString &word) {
-        const qsizetype length = word == u"\t" ? (column / 8 + 1) * 8 - column : word.size();
-        if (column + length + 1 <= width) {
-            if (column > 0 && word != u"\t" && !output.endsWith(u'\t')) {
-                output += u' ';
-                ++column;
-            }
-            output += word;
-            column += length;
-        } else {
-            output += u"\r\n"_s;
-            if (hanging)
-                output += tab ? u"\t"_s : u"        "_s;
-            output += word;
-            column = (hanging ? 8 : 0) + word.size();
-        }
-    };
-    qsizetype position = 1;
-    for (;;) {
-        const auto find = [&](const char *what) {
-            return text.indexOf(QLatin1StringView(what), position - 1) + 1;
-        };
-        const qsizetype n = firstOf(firstOf(find(" "), find("\r\n")), find("\t"));
-        if (n == 0)
-            break;
-        put(text.mid(position - 1, n - position));
-        if (text.at(n - 1) == u'\t')
-            put(u"\t"_s);
-        const bool lineEnd = text.mid(n - 1, 2) == u"\r\n";
-        if (lineEnd) {
-            output += u"\r\n"_s;
-            column = 0;
-        }
-        position = n + (lineEnd ? 2 : 1);
-    }
-    if (position <= text.size())
-        put(text.mid(position - 1));
-    return output;
-}
-
-QString randomText(std::mt19937 &random) {
-    static const QStringList pieces = QString(" ~ ~\t~\r\n~\r~word~a~bc~\n").split(u'~');
-    QString text;
-    for (auto left = random() % 60; left > 0; --left)
-        text += pieces.at(static_cast<qsizetype>(random() % 9));
-    return text;
-}
-
-TEST_F(WordWrap, isWhatTheStepsGive) {
-    std::mt19937 random(2);
-    for (int round = 0; round < 5000; ++round) {
-        const QString text = randomText(random);
-        const int width = static_cast<int>(random() % 30);
-        const bool hanging = random() % 2 == 0;
-        const bool tab = random() % 2 == 0;
-        ASSERT_EQ(engine.WordWrap(text, width, hanging, tab, false),
-                  wrappedStepByStep(text, width, hanging, tab));
-    }
 }
 
 qsizetype widthOnScreen(QStringView line) {
