@@ -32,13 +32,4 @@ inline QString lines(const char16_t *picture) {
     return QString::fromUtf16(picture).replace(u'|', u"\r\n"_s);
 }
 
-/// Examples "text→expected", both pictures of lines.
-template <class Tool>
-void expectExamples(Tool tool, std::initializer_list<const char16_t *> examples) {
-    for (const char16_t *example : examples) {
-        const QStringList parts = lines(example).split(u'→');
-        EXPECT_EQ(tool(parts.at(0)), parts.at(1)) << shown(parts.at(0));
-    }
-}
-
 } // namespace tolvo::test

@@ -84,20 +84,9 @@ TEST_F(Numbering, numbersLinesOfAListing) {
     EXPECT_TRUE(listing.endsWith(u"\r\n120 x"));
 }
 
-TEST_F(Numbering, takesMarksOff) {
-    expectExamples([this](QStringView text) { return engine.removeNumbers(text); },
-                   {u"12. Item→Item", u"12 apples→apples", u"  (4)\tItem|\t1.2.3. x→  Item|\tx", u"12→12",
-                    u"12.→", u"1.. )2→)2", u"i. said so→i. said so", u"i. a|ii. b|iii. c→a|b|c",
-                    u"i. a||  ii. b|iii. c|→a||  b|c|", u"i. a||ii. b||||iii. c→a||b||||c", u"x. y→y",
-                    u"mix) it|words→mix) it|words", u"mix) it|ii) words|i) more→it|words|more",
-                    u"i. a|mix. b|word|i. c→a|b|word|i. c", u"(iv) x→x", u"i said|ivxlcdm→i said|ivxlcdm",
-                    u"→"});
+TEST_F(Numbering, asksTheNeighboursOfARomanNumeral) {
     EXPECT_EQ(RomanNeighbourAgrees({u"i. a"_s, u"ii. b"_s}, 0), 2);
     EXPECT_EQ(RomanNeighbourAgrees({u"i. said so"_s}, 0), std::nullopt);
-    expectExamples([this](QStringView text) { return engine.removeBullets(text); },
-                   {u"- * item→* item", u"\t\u2022 a| \u00B7b|c|-5→\ta| b|c|5", u"-|*- →|"});
-    expectExamples([this](QStringView text) { return engine.RemoveLineNumbers(text); },
-                   {u"  1 a| 10   b|   c|12|\t3→a|b|c||\t3", u"  | 1→  |"});
 }
 
 TEST_F(Numbering, givesTheTextBack) {

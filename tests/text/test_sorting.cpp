@@ -15,27 +15,6 @@ namespace {
 
 using Sorting = Engine;
 
-TEST_F(Sorting, ordersLinesAsText) {
-    expectExamples([this](QStringView text) { return engine.Sort(text); },
-                   {u"apple|Banana|cherry→apple|Banana|cherry", u"b|a||c→a|b|c", u"one|→one", u"||→",
-                    u"10|9|100→10|100|9", u"  b|\ta |\u00A0c→\ta |  b|\u00A0c", u"b|   |a→   |a|b",
-                    u"_|z|1|A→1|A|z|_", u"\u00E9|\u00C8|\u0153→\u00C8|\u00E9|\u0153"});
-}
-
-TEST_F(Sorting, ordersLinesAsNumbers) {
-    expectExamples([this](QStringView text) { return engine.Numsort(text); },
-                   {u"10|9|100→9|10|100", u"  3 x|-1|2,5|none→-1|none|2,5|3 x",
-                    u"1E3 units|999|10 apples|4 d6→10 apples|999|1E3 units|4 d6", u"b|   ||a→b|a"});
-}
-
-TEST_F(Sorting, turnsLinesRoundAndSortsItems) {
-    EXPECT_EQ(engine.SortReverse(lines(u"b|a||c")), lines(u"c||a|b"));
-    EXPECT_EQ(engine.SortReverse(lines(u"a|b|")), lines(u"|b|a"));
-    expectExamples([this](QStringView text) { return engine.KeywordSort(text); },
-                   {u"pear, apple,, Fig→apple, Fig, pear", u"b,,a→a, b",
-                    u"b,a|no comma |d , c|→a, b|no comma |c, d|", u",|,,→|"});
-}
-
 TEST_F(Sorting, refusesWhatItCannotSort) {
     for (const char16_t *text : {u"", u"  ", u"one line", u"a\nb", u"a\rb"}) {
         EXPECT_EQ(engine.Sort(QStringView(text)), sortError);

@@ -8,25 +8,6 @@ namespace {
 
 using Spacing = Engine;
 
-TEST_F(Spacing, examples) {
-    const auto expect = [this](QString (cTextMethods::*tool)(QStringView) const,
-                               std::initializer_list<const char16_t *> examples) {
-        expectExamples([this, tool](QStringView text) { return (engine.*tool)(text); }, examples);
-    };
-    expect(&cTextMethods::TrimTrail, {u" a \t|\u00A0|b\r|→ a||b|", u"a →a"});
-    expect(&cTextMethods::LTrimWhiteSpace, {u" ||\t\u00A0a |→a |"});
-    expect(&cTextMethods::TrimWhiteSpace, {u"\t\u00A0 | a b\u00A0|→|a b|"});
-    expect(&cTextMethods::TrimStopChars, {u".a.?)]} ,;:!→.a.?)]} "});
-    expect(&cTextMethods::TrimQuotes, {u"\"‘a'b”’→a'b"});
-    expect(&cTextMethods::SingleSpace,
-           {u"  a   b  →  a b", u"\u00A0\u00A0a\u00A0b|  |→  a b||", u"a \t  \t b\t→a\t\tb"});
-    expect(&cTextMethods::Spaces2tab, {u"a   b c  |  →a\tb c\t|\t"});
-    expect(&cTextMethods::RegularEOL, {u"a\rb\nc|d\r→a|b|c|d", u"\n\r\r\n\r\r→||||"});
-    expect(&cTextMethods::Paragraph,
-           {u"a  |b|c→a b c", u"a|||| b|c|→a|| b c|", u"a|* b|- c|\td|e→a|* b|- c|\td e",
-            u"1. a|b|iv) c|d|mix it|up→1. a|b iv) c|d mix it up", u"12|a→12 a", u"|a| |b→a|b", u"→"});
-}
-
 TEST_F(Spacing, indents) {
     EXPECT_EQ(engine.Indent(lines(u"a|  |\t|"), u"> "), lines(u"> a||> \t|"));
     EXPECT_EQ(engine.Unindent(lines(u"> a|>b| > c|> > d|"), u"> "), lines(u"a|>b| > c|> d|"));
