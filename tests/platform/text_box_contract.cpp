@@ -2,6 +2,7 @@
 #include "tests/platform/text_box_contract.h"
 
 #include "base/application.h"
+#include "tests/support/pictures.h"
 
 #include <gtest/gtest.h>
 
@@ -45,13 +46,7 @@ class TextBoxContract : public testing::TestWithParam<TextBoxKind> {
         box->onChange = [this] { ++changes; };
     }
 
-    /// The text with its selection in brackets, a caret as "[]".
-    [[nodiscard]] QString picture() const {
-        QString text = box->Text();
-        text.insert(box->SelStart() + box->SelLength(), u']');
-        text.insert(box->SelStart(), u'[');
-        return text;
-    }
+    [[nodiscard]] QString picture() const { return test::pictureOf(*box); }
 
     std::unique_ptr<TextBox> box;
     int changes = 0;
@@ -68,7 +63,7 @@ TEST_P(TextBoxContract, HoldsEveryTextUnchanged) {
         box->setText(text);
         EXPECT_EQ(box->Text(), text);
         EXPECT_EQ(box->length(), text.size());
-        box->setText(u"left [] right"_s);
+        box->setText(u"left -- right"_s);
         select(*box, 5, 2);
         box->setSelText(text);
         EXPECT_EQ(box->Text(), u"left "_s + text + u" right"_s);
@@ -79,23 +74,23 @@ TEST_P(TextBoxContract, HoldsEveryTextUnchanged) {
 }
 
 TEST_P(TextBoxContract, PutsSelectionsWhereTheyAreAskedFor) {
-    const std::tuple<QString, int, int, QString> rows[] = {
-        {u"one\r\ntwo"_s, 5, 2, u"one\r\n[tw]o"_s},
-        {u"one\r\ntwo"_s, 3, 2, u"one[\r\n]two"_s},
-        {u"one\r\ntwo"_s, 3, 1, u"one[\r\n]two"_s},
-        {u"one\r\ntwo"_s, 4, 0, u"one[]\r\ntwo"_s},
-        {u"one\r\ntwo"_s, 4, 2, u"one[\r\n]two"_s},
-        {u"one\r\ntwo"_s, 1, 3, u"o[ne\r\n]two"_s},
-        {u"one\r\ntwo"_s, 99, 5, u"one\r\ntwo[]"_s},
-        {u"one\r\ntwo"_s, -3, -1, u"[]one\r\ntwo"_s},
-        {u"one\r\ntwo"_s, 6, 2147483647, u"one\r\nt[wo]"_s},
-        {u"a\r\r\nb\n\rc"_s, 2, 1, u"a\r[\r\n]b\n\rc"_s},
-        {u"a\r\r\nb\n\rc"_s, 6, 1, u"a\r\r\nb\n[\r]c"_s},
-        {u"\r\n\r\n\r\n"_s, 3, 3, u"\r\n[\r\n\r\n]"_s},
-        {u"x\U0001F600y"_s, 2, 1, QString(u"x\U0001F600y"_s).insert(3, u']').insert(2, u'[')},
+    const std::tuple<int, int, QString> rows[] = {
+        {5, 2, u"one|«tw»o"_s},
+        {3, 2, u"one«|»two"_s},
+        {3, 1, u"one«|»two"_s},
+        {4, 0, u"one«»|two"_s},
+        {4, 2, u"one«|»two"_s},
+        {1, 3, u"o«ne|»two"_s},
+        {99, 5, u"one|two«»"_s},
+        {-3, -1, u"«»one|two"_s},
+        {6, 2147483647, u"one|t«wo»"_s},
+        {2, 1, u"a\r«|»b\n\rc"_s},
+        {6, 1, u"a\r|b\n«\r»c"_s},
+        {3, 3, u"|«||»"_s},
+        {2, 1, QString(u"x\U0001F600y"_s).insert(3, u'»').insert(2, u'«')},
     };
-    for (const auto &[text, start, length, shown] : rows) {
-        box->setText(text);
+    for (const auto &[start, length, shown] : rows) {
+        box->setText(test::readPicture(shown).text);
         select(*box, start, length);
         EXPECT_EQ(picture(), shown);
     }
@@ -107,7 +102,7 @@ TEST_P(TextBoxContract, ReportsChangesAndNothingElse) {
     box->setText(box->Text());
     select(*box, 1, 3);
     box->setSelText(box->SelText());
-    EXPECT_EQ(picture(), u"ab\r\n[]\ncd"_s);
+    EXPECT_EQ(picture(), u"ab|«»\ncd"_s);
     box->setSelText({});
     EXPECT_EQ(changes, 1);
     box->setSelText(u"x"_s);
@@ -121,16 +116,16 @@ TEST_P(TextBoxContract, JoinsLineEndsThatComeTogether) {
     box->setText(u"a\rX\nb"_s);
     select(*box, 2, 1);
     box->setSelText({});
-    EXPECT_EQ(picture(), u"a\r\n[]b"_s);
+    EXPECT_EQ(picture(), u"a|«»b"_s);
     box->setSelStart(2);
-    EXPECT_EQ(picture(), u"a[]\r\nb"_s);
+    EXPECT_EQ(picture(), u"a«»|b"_s);
     box->setText(u"\nb"_s);
     box->setSelText(u"a\r"_s);
-    EXPECT_EQ(picture(), u"a\r\n[]b"_s);
+    EXPECT_EQ(picture(), u"a|«»b"_s);
     box->setText(u"a\r"_s);
     box->setSelStart(2);
     box->setSelText(u"\nb"_s);
-    EXPECT_EQ(picture(), u"a\r\nb[]"_s);
+    EXPECT_EQ(picture(), u"a|b«»"_s);
 }
 
 TEST_P(TextBoxContract, CutsAtItsCapacity) {
@@ -143,9 +138,9 @@ TEST_P(TextBoxContract, CutsAtItsCapacity) {
     box->setText(u"1234"_s);
     select(*box, 1, 2);
     box->setSelText(u"abcdefgh"_s);
-    EXPECT_EQ(picture(), u"1abcd[]4"_s);
+    EXPECT_EQ(picture(), u"1abcd«»4"_s);
     box->setSelText(u"more"_s);
-    EXPECT_EQ(picture(), u"1abcd[]4"_s);
+    EXPECT_EQ(picture(), u"1abcd«»4"_s);
     EXPECT_EQ(changes, 4);
     // A capacity below the length takes nothing away and lets nothing in.
     box->setCapacity(3);
@@ -176,9 +171,9 @@ TEST_P(TextBoxContract, TellsWhatItCutsAndTakesNoPairApart) {
     }
     // The same in place of a selection, where the cut is in the middle.
     const std::tuple<QString, QString, QList<qint64>> parts[] = {
-        {u"abcd"_s, u"1[]abcd4"_s, {}},
-        {u"abc\r\nd"_s, u"1[]abc4"_s, {8}},
-        {u"abc\U0001F600"_s, u"1[]abc4"_s, {7}},
+        {u"abcd"_s, u"1«»abcd4"_s, {}},
+        {u"abc\r\nd"_s, u"1«»abc4"_s, {8}},
+        {u"abc\U0001F600"_s, u"1«»abc4"_s, {7}},
     };
     for (const auto &[text, shown, told] : parts) {
         cuts.clear();

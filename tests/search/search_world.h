@@ -5,6 +5,7 @@
 #include "platform/headless/MemoryTextBox.h"
 #include "search/CSearch.h"
 #include "tests/support/boxes.h"
+#include "tests/support/pictures.h"
 #include "tests/text/engine.h"
 
 #include <QStringList>
@@ -41,26 +42,8 @@ class SearchWorld : public ::testing::Test, public SearchHost {
     SearchResults &results() override { return list; }
     bool interrupted() override { return isImpatient; }
 
-    /// A text as a picture: "one|t[w]o" has a selection and a line end in it, "on^e" a caret.
-    void show(QString picture) {
-        picture.replace(u'|', QStringLiteral("\r\n"));
-        const qsizetype caret = picture.indexOf(u'^');
-        const qsizetype open = picture.indexOf(u'[');
-        const qsizetype close = picture.indexOf(u']') - 1;
-        box.setText(picture.remove(u'^').remove(u'[').remove(u']'));
-        select(box, static_cast<int>(open < 0 ? std::max<qsizetype>(caret, 0) : open),
-               static_cast<int>(open < 0 ? 0 : close - open));
-    }
-
-    [[nodiscard]] QString picture() const {
-        QString text = box.Text();
-        if (box.SelLength() == 0)
-            text.insert(box.SelStart(), u'^');
-        else
-            text.insert(box.SelStart() + box.SelLength(), u']').insert(box.SelStart(), u'[');
-        return text.replace(QStringLiteral("\r\n"), QStringLiteral("|"));
-    }
-
+    void show(const char *picture) { test::show(box, QString::fromUtf8(picture)); }
+    [[nodiscard]] QString picture() const { return pictureOf(box); }
     /// The texts of the boxes since the last call, "/" between them.
     [[nodiscard]] QString said() { return boxes.said(); }
 

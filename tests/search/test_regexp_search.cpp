@@ -18,26 +18,26 @@ TEST_F(RegExpSearch, SelectsTheNextMatch) {
         const char *said = "";
         QList<SearchDirection> directions = {};
     } rows[] = {
-        {"^ab1 ab2", "ab\\d", 'd', "[ab1] ab2"},
-        {"[ab1] ab2", "ab\\d", 'd', "ab1 [ab2]"},
-        {"[a]ab", "a", 'd', "a[a]b"},
-        {"aa^", "a", 's', "[a]a", "", {SearchDirection::Down}},
-        {"aa^", "a", 'd', "aa^", "Text not found", {SearchDirection::FromStart}},
-        {"aa^", "b", 'd', "aa^", nowhere},
-        {"xxxxyx^", "y", 'u', "xxxx[y]x"},
-        {"xxxx^yx", "y", 'u', "xxxx^yx", "Text not found", {SearchDirection::FromStart}},
-        {"ab^c", "bc", 'u', "a[bc]"},
-        {"^one|two|three",
+        {"«»ab1 ab2", "ab\\d", 'd', "«ab1» ab2"},
+        {"«ab1» ab2", "ab\\d", 'd', "ab1 «ab2»"},
+        {"«a»ab", "a", 'd', "a«a»b"},
+        {"aa«»", "a", 's', "«a»a", "", {SearchDirection::Down}},
+        {"aa«»", "a", 'd', "aa«»", "Text not found", {SearchDirection::FromStart}},
+        {"aa«»", "b", 'd', "aa«»", nowhere},
+        {"xxxxyx«»", "y", 'u', "xxxx«y»x"},
+        {"xxxx«»yx", "y", 'u', "xxxx«»yx", "Text not found", {SearchDirection::FromStart}},
+        {"ab«»c", "bc", 'u', "a«bc»"},
+        {"«»one|two|three",
          "^",
          's',
-         "^one|two|three",
+         "«»one|two|three",
          "Text not found",
          {SearchDirection::Down, SearchDirection::FromStart}},
-        {"^one|two", "e\\nt", 'd', "on[e|t]wo"},
-        {"^one|two", "^t.o$", 'd', "one|[two]"},
-        {"^a", "(", 'd', "^a", "Error in regular expression/Text not found anywhere in the document"},
-        {"^a", "", 'd', "^a"},
-        {"^\u00c9T\u00c9", "\u00e9t\u00e9", 'd', "[\u00c9T\u00c9]"},
+        {"«»one|two", "e\\nt", 'd', "on«e|t»wo"},
+        {"«»one|two", "^t.o$", 'd', "one|«two»"},
+        {"«»a", "(", 'd', "«»a", "Error in regular expression/Text not found anywhere in the document"},
+        {"«»a", "", 'd', "«»a"},
+        {"«»\u00c9T\u00c9", "\u00e9t\u00e9", 'd', "«\u00c9T\u00c9»"},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(std::string(row.text) + " " + row.pattern);
@@ -63,18 +63,18 @@ TEST_F(RegExpSearch, ReplacesTheSelectionOrSelectsFirst) {
         const char *picture;
         const char *said = "";
     } rows[] = {
-        {"[ab] ab", "(a)(b)", "$2$1", "", "[ba] ab"},
-        {"[Ab] ab", "ab", "cd", "m", "[Cd] ab"},
-        {"[aa] a", "a", "b", "", "a[a] a"},
-        {"[ab]", "a", "b", "a", "[bb]", "Text not found"},
-        {"^xab", "ab", "-", "a", "x[-]"},
-        {"^xab", "ab", "-", "", "x[ab]"},
-        {"a^b", "x*", "-", "", "a[-]b"}, // an empty selection is a match of the empty text
-        {"x[|]y", "\\n", "<\\n>", "", "x[<|>]y"},
-        {"[a]", "(", "x", "a", "[a]", "Error in regular expression"},
-        {"[a] \\b", "a", "x", "a", "[x] \\b"},
-        {"^zz", "a", "x", "a", "^zz", nowhere},
-        {"^1 b", "\\bb", "x", "a", "1 [x]"},
+        {"«ab» ab", "(a)(b)", "$2$1", "", "«ba» ab"},
+        {"«Ab» ab", "ab", "cd", "m", "«Cd» ab"},
+        {"«aa» a", "a", "b", "", "a«a» a"},
+        {"«ab»", "a", "b", "a", "«bb»", "Text not found"},
+        {"«»xab", "ab", "-", "a", "x«-»"},
+        {"«»xab", "ab", "-", "", "x«ab»"},
+        {"a«»b", "x*", "-", "", "a«-»b"}, // an empty selection is a match of the empty text
+        {"x«|»y", "\\n", "<\\n>", "", "x«<|>»y"},
+        {"«a»", "(", "x", "a", "«a»", "Error in regular expression"},
+        {"«a» \\b", "a", "x", "a", "«x» \\b"},
+        {"«»zz", "a", "x", "a", "«»zz", nowhere},
+        {"«»1 b", "\\bb", "x", "a", "1 «x»"},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(std::string(row.text) + " " + row.pattern);
@@ -119,9 +119,9 @@ TEST_F(RegExpSearch, ReplacesEachMatchByItself) {
     box.setText("a\nb");
     search.RegExpReplaceAll("x", "y", false, false, true);
     EXPECT_EQ(box.Text(), "a\r\nb");
-    show("[abc]");
+    show("«abc»");
     search.RegExpReplace(".*", "X", false, true, false, false, true);
-    EXPECT_EQ(picture(), "[XX]");
+    EXPECT_EQ(picture(), "«XX»");
     EXPECT_EQ(said(), "");
 }
 
@@ -204,14 +204,14 @@ TEST_F(RegExpSearch, WildcardsAndLiteralTextFindTheSame) {
     for (const char mode : {'s', 'w', 'r'}) {
         SCOPED_TRACE(mode);
         bool fromStart = true;
-        show("no|a1 ^A1|a1");
+        show("no|a1 «»A1|a1");
         if (mode == 's')
             search.SimpleSearch("a1", false, false, false, fromStart, false, false);
         else if (mode == 'w')
             search.WildcardSearch("a1", false, false, fromStart, false, {});
         else
             search.RegExpSearch(box.Text(), "a1", false, fromStart, false);
-        EXPECT_EQ(picture(), "no|[a1] A1|a1");
+        EXPECT_EQ(picture(), "no|«a1» A1|a1");
         QString text = box.Text();
         if (mode == 's')
             search.SimpleFindAll("a1", false, false, true);
@@ -226,12 +226,12 @@ TEST_F(RegExpSearch, WildcardsAndLiteralTextFindTheSame) {
             search.WildcardReplaceAll("a%", "bc", false, false, true, {}, false);
         else
             search.RegExpReplaceAll("a\\d", "bc", false, true, false);
-        EXPECT_EQ(picture(), "^no|bc Bc|bc");
+        EXPECT_EQ(picture(), "«»no|bc Bc|bc");
         EXPECT_EQ(said(), "3 strings replaced");
     }
-    show("^Smith, John");
+    show("«»Smith, John");
     search.WildcardReplace("@, @", "$2 $1", false, false, false, true, false, {}, true);
-    EXPECT_EQ(picture(), "[John Smith]");
+    EXPECT_EQ(picture(), "«John Smith»");
     search.WildcardSearch("[x", false, false, false, true, {});
     EXPECT_TRUE(said().startsWith("Closing square bracket ] missing."));
 }

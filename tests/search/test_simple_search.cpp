@@ -23,30 +23,30 @@ const char *const badHex =
 
 TEST_F(SimpleSearch, SelectsTheNextMatch) {
     const Row rows[] = {
-        {"one ^two two", "two", "d", "one [two] two"},
-        {"one [two] two", "two", "d", "one two [two]"},
-        {"[aa]a", "aa", "d", "a[aa]"},
-        {"two ^one", "two", "s", "[two] one"},
-        {"two ^one", "two", "us", "[two] one"},
-        {"two ^one", "two", "d", "two ^one", "Text not found"},
-        {"two [one]", "two", "", "two [one]", "Text not found"},
-        {"a^b", "a", "u", "a^b", "Text not found"}, // a hit just before the caret is not seen
-        {"ab^", "a", "u", "[a]b"},
-        {"aaaa^", "aa", "u", "aa[aa]"},
-        {"two two [two]", "two", "u", "two [two] two"},
-        {"^\u00c9t\u00e9 \u0416", "\u00e9T\u00c9 \u0436", "d", "[\u00c9t\u00e9 \u0416]"},
-        {"^Two", "two", "dc", "^Two", "Text not found"},
-        {"^a|b", "a\\nb", "dx", "[a|b]"},
-        {"^a|b", "a\\nb", "d", "^a|b", "Text not found"},
-        {"^short", "longer than the text", "d", "^short", "Text not found"},
-        {"^short", "", "d", "^short"},
-        {"^cats", "cat", "dw", "[cat]s"}, // the text's last character is not looked at
-        {"^catsy", "cat", "dw", "^catsy", "Text not found"},
-        {"^the_end", "end", "dw", "the_[end]"},
-        {"^ba a1b", "a", "dw", "ba [a]1b"},
-        {"a bab abc^", "a", "uw", "[a] bab abc"},
-        {"^f(abc", "(a", "dw", "^f(abc", "Text not found"},
-        {"^f(a b", "(a", "dw", "f[(a] b"},
+        {"one «»two two", "two", "d", "one «two» two"},
+        {"one «two» two", "two", "d", "one two «two»"},
+        {"«aa»a", "aa", "d", "a«aa»"},
+        {"two «»one", "two", "s", "«two» one"},
+        {"two «»one", "two", "us", "«two» one"},
+        {"two «»one", "two", "d", "two «»one", "Text not found"},
+        {"two «one»", "two", "", "two «one»", "Text not found"},
+        {"a«»b", "a", "u", "a«»b", "Text not found"}, // a hit just before the caret is not seen
+        {"ab«»", "a", "u", "«a»b"},
+        {"aaaa«»", "aa", "u", "aa«aa»"},
+        {"two two «two»", "two", "u", "two «two» two"},
+        {"«»\u00c9t\u00e9 \u0416", "\u00e9T\u00c9 \u0436", "d", "«\u00c9t\u00e9 \u0416»"},
+        {"«»Two", "two", "dc", "«»Two", "Text not found"},
+        {"«»a|b", "a\\nb", "dx", "«a|b»"},
+        {"«»a|b", "a\\nb", "d", "«»a|b", "Text not found"},
+        {"«»short", "longer than the text", "d", "«»short", "Text not found"},
+        {"«»short", "", "d", "«»short"},
+        {"«»cats", "cat", "dw", "«cat»s"}, // the text's last character is not looked at
+        {"«»catsy", "cat", "dw", "«»catsy", "Text not found"},
+        {"«»the_end", "end", "dw", "the_«end»"},
+        {"«»ba a1b", "a", "dw", "ba «a»1b"},
+        {"a bab abc«»", "a", "uw", "«a» bab abc"},
+        {"«»f(abc", "(a", "dw", "«»f(abc", "Text not found"},
+        {"«»f(a b", "(a", "dw", "f«(a» b"},
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(std::string(row.text) + " " + row.find + " " + row.options);
@@ -68,18 +68,18 @@ TEST_F(SimpleSearch, ReplacesTheSelectionOrSelectsFirst) {
         Row row;
         const char *replace;
     } const rows[] = {
-        {{"[ABC] abc", "abc", "d", "[xyz] abc"}, "xyz"},
-        {{"[ABC] abc", "abc", "dm", "[XYZ] abc"}, "xyz"},
-        {{"^Abc", "abc", "d", "[Abc]"}, "xyz"},
-        {{"^Abc", "abc", "dam", "[Xyz]"}, "xyz"},
-        {{"^none", "abc", "da", "^none", "Text not found"}, "xyz"},
-        {{"x[cat]s", "cat", "dw", "x[dog]s"}, "dog"},
-        {{"^a|b", "a", "dax", "[a|]|b"}, "a\\n"},
+        {{"«ABC» abc", "abc", "d", "«xyz» abc"}, "xyz"},
+        {{"«ABC» abc", "abc", "dm", "«XYZ» abc"}, "xyz"},
+        {{"«»Abc", "abc", "d", "«Abc»"}, "xyz"},
+        {{"«»Abc", "abc", "dam", "«Xyz»"}, "xyz"},
+        {{"«»none", "abc", "da", "«»none", "Text not found"}, "xyz"},
+        {{"x«cat»s", "cat", "dw", "x«dog»s"}, "dog"},
+        {{"«»a|b", "a", "dax", "«a|»|b"}, "a\\n"},
         // On the way through a search the escapes of the find text are translated twice.
-        {{"^a|b \\n", "\\\\n", "dx", "a[|]b \\n"}, ""},
-        {{"a|b [\\n]", "\\\\n", "dx", "a|b [-]"}, "-"},
-        {{"^x", "\\xZZ", "da", "^x", "Text not found"}, "-"},
-        {{"^x", "\\xZZ", "dax", "^x", badHex}, "-"},
+        {{"«»a|b \\n", "\\\\n", "dx", "a«|»b \\n"}, ""},
+        {{"a|b «\\n»", "\\\\n", "dx", "a|b «-»"}, "-"},
+        {{"«»x", "\\xZZ", "da", "«»x", "Text not found"}, "-"},
+        {{"«»x", "\\xZZ", "dax", "«»x", badHex}, "-"},
     };
     for (const auto &[row, replace] : rows) {
         SCOPED_TRACE(std::string(row.text) + " " + row.find + " " + row.options);
@@ -98,18 +98,18 @@ TEST_F(SimpleSearch, ReplacesAllInOneChange) {
         const char *replace;
         int capacity = 65535;
     } const rows[] = {
-        {{"aaa", "a", "", "^aaaaaa", "3 strings replaced"}, "aa"},
-        {{"aa^a", "b", "", "aa^a", "0 strings replaced"}, "c"},
-        {{"Cat cat", "cat", "c", "^Cat dog", "1 string replaced"}, "dog"},
-        {{"Cat CAT cat", "cat", "m", "^Dog DOG dog", "3 strings replaced"}, "dog"},
-        {{"cat cats cat.", "cat", "w", "^dog cats dog.", "2 strings replaced"}, "dog"},
+        {{"aaa", "a", "", "«»aaaaaa", "3 strings replaced"}, "aa"},
+        {{"aa«»a", "b", "", "aa«»a", "0 strings replaced"}, "c"},
+        {{"Cat cat", "cat", "c", "«»Cat dog", "1 string replaced"}, "dog"},
+        {{"Cat CAT cat", "cat", "m", "«»Dog DOG dog", "3 strings replaced"}, "dog"},
+        {{"cat cats cat.", "cat", "w", "«»dog cats dog.", "2 strings replaced"}, "dog"},
         // A word that begins where a replacement ends: what stands there by now decides.
-        {{"-a-ab", "-", "w", "^xaxab", "2 strings replaced"}, "x"},
-        {{"abab.", "ab", "w", "^abab.", "0 strings replaced"}, ""},
-        {{"a|b|", "\\n", "x", "^a, b, ", "2 strings replaced"}, ", "},
-        {{"x^", "\\xZZ", "x", "x^", badHex}, "-"},
+        {{"-a-ab", "-", "w", "«»xaxab", "2 strings replaced"}, "x"},
+        {{"abab.", "ab", "w", "«»abab.", "0 strings replaced"}, ""},
+        {{"a|b|", "\\n", "x", "«»a, b, ", "2 strings replaced"}, ", "},
+        {{"x«»", "\\xZZ", "x", "x«»", badHex}, "-"},
         // What no longer has room is cut off at once, and not replaced.
-        {{"aXaXaX", "a", "", "^bbbbXbb", "2 strings replaced"}, "bbbb", 7},
+        {{"aXaXaX", "a", "", "«»bbbbXbb", "2 strings replaced"}, "bbbb", 7},
     };
     for (const auto &[row, replace, capacity] : rows) {
         SCOPED_TRACE(std::string(row.text) + " " + row.find + " " + row.options);

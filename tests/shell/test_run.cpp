@@ -102,7 +102,7 @@ const QString refresher = "Refresher.exe /update /stats /quiet";
 
 TEST_F(Runs, theFirstOfAll) {
     EXPECT_EQ(run([&](frmMain &session, cToolbox &toolbox) {
-                  EXPECT_EQ(pictureOf(session.textState()), "«»text");
+                  EXPECT_EQ(pictureOf(session.txtCurrent()), "«»text");
                   EXPECT_FALSE(session.bDirty());
                   EXPECT_TRUE(session.bSounds);
                   EXPECT_EQ(session.currentFont().name, "Arial");

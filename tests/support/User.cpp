@@ -4,22 +4,8 @@
 namespace tolvo::test {
 
 TextState stateOf(const QString &picture) {
-    QString text = picture;
-    text.replace(u'|', "\r\n");
-    const qsizetype start = text.indexOf(u'«');
-    if (start < 0)
-        return {text, 0, 0};
-    text.remove(start, 1);
-    const qsizetype end = text.indexOf(u'»');
-    text.remove(end, 1);
-    return {text, static_cast<int>(start), static_cast<int>(end - start)};
-}
-
-QString pictureOf(const TextState &state) {
-    QString text = state.text;
-    text.insert(state.selStart + state.selLength, u'»');
-    text.insert(state.selStart, u'«');
-    return text.replace("\r\n", "|");
+    const auto [text, start, length] = readPicture(picture);
+    return {text, start, length};
 }
 
 QString dataFolder() {
@@ -76,7 +62,7 @@ void User::typesKeys(const QString &strokes) {
 }
 
 void User::sees(const QString &picture) {
-    EXPECT_EQ(pictureOf(session.textState()), picture);
+    EXPECT_EQ(pictureOf(session.txtCurrent()), picture);
 }
 
 void User::sees(const QString &picture, const QString &status) {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// A user with a session, for stories. Texts are pictures: "|" is a line end, the guillemets stand around the
-// selection or, with nothing between them, at the caret: "one|t«w»o", "tw«»o".
+// A user with a session, for stories. Texts are pictures.
 #pragma once
 
 #include "shell/headless/HeadlessSession.h"
 #include "shell/keyboard.h"
 #include "tests/support/boxes.h"
+#include "tests/support/pictures.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -13,7 +13,6 @@
 namespace tolvo::test {
 
 [[nodiscard]] TextState stateOf(const QString &picture);
-[[nodiscard]] QString pictureOf(const TextState &state);
 /// The catalogue of the source tree, and the folder that it lies in.
 [[nodiscard]] const Catalogue &realCatalogue();
 [[nodiscard]] QString dataFolder();

@@ -27,7 +27,7 @@ class SearchWindow : public SearchWorld {
   protected:
     void SetUp() override {
         reopen();
-        show("^one two One");
+        show("«»one two One");
     }
     void reopen() { window = std::make_unique<frmSearch>(search, store, boxes, nullptr); }
     template <class Control>
@@ -56,7 +56,7 @@ TEST_F(SearchWindow, GivesTheBoxItsSelectionBack) {
     type("one");
     alt(Qt::Key_F);
     press(Qt::Key_Return);
-    EXPECT_EQ(picture(), "[one] two One");
+    EXPECT_EQ(picture(), "«one» two One");
     EXPECT_TRUE(find<QRadioButton>("optSrchDown").isChecked());
     QLineEdit &edit = *find<QComboBox>("cmbSearchText").lineEdit();
     for (const auto key : {Qt::Key_Return, Qt::Key_F3, Qt::Key_N, Qt::Key_R, Qt::Key_A}) {
@@ -167,7 +167,7 @@ TEST_F(SearchWindow, ConvertsWildcardsAndSwops) {
     EXPECT_EQ(find<QTabBar>("TabStrip1").currentIndex(), 2);
     click("cmdReplaceAll");
     EXPECT_EQ(said(), "1 string replaced");
-    EXPECT_EQ(picture(), "^one w One");
+    EXPECT_EQ(picture(), "«»one w One");
     click("imgSwop");
     EXPECT_EQ(window->searchText(), "$1");
     EXPECT_EQ(find<QComboBox>("cmbReplaceText").currentText(), "t(.)o");
@@ -188,10 +188,10 @@ TEST_F(SearchWindow, ListsHitsAndKeepsThemAfterASearchInVain) {
         click("cmdReplaceAll");
     };
     window->setSearchText("one");
-    chooses("2 results found for one", false, "[one] two One");
+    chooses("2 results found for one", false, "«one» two One");
     window->setSearchText("nowhere");
-    show("^short");
-    chooses("0 results found for nowhere", true, "^short");
+    show("«»short");
+    chooses("0 results found for nowhere", true, "«»short");
 }
 
 TEST_F(SearchWindow, RemembersItsStateAndItsLists) {
