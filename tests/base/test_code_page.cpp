@@ -40,9 +40,7 @@ TEST(CodePage, knowsItsLetters) {
 
 TEST(CodePage, mapsCaseUnitByUnit) {
     struct Case {
-        const char16_t *text;
-        const char16_t *upper;
-        const char16_t *lower;
+        const char16_t *text, *upper, *lower;
     };
     for (const Case &c : {Case{u"aZ9_", u"AZ9_", u"az9_"},
                           {u"\u00E9\u00FF\u0153", u"\u00C9\u0178\u0152", u"\u00E9\u00FF\u0153"},

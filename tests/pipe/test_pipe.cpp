@@ -42,8 +42,7 @@ class Pipe : public ::testing::Test {
 TEST_F(Pipe, runsStepsOnText) {
     const struct {
         QStringList arguments;
-        QByteArray in;
-        QByteArray out;
+        QByteArray in, out;
         int code;
     } cases[] = {{{"ccUPP", "foTRA"}, "a \nb\n", "A\nB\n", 0},
                  {{"soREV"}, "a\r\nb", "b\r\na", 0},

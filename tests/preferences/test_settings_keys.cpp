@@ -3,6 +3,7 @@
 #include "preferences/settings_keys.h"
 #include "preferences/settings_table.h"
 #include "tests/support/failures.h"
+#include "tests/support/member_count.h"
 
 #include <QSet>
 #include <concepts>
@@ -14,21 +15,9 @@ namespace {
 
 // Every key of `settingKeys`: the members of its structs, and of theirs.
 
-struct Anything {
-    template <class Member>
-    operator Member() const; // NOLINT(google-explicit-constructor)
-};
-template <class Struct, class... Members>
-constexpr int memberCount() {
-    if constexpr (requires { Struct{Members{}..., Anything{}}; })
-        return memberCount<Struct, Members..., Anything>();
-    else
-        return sizeof...(Members);
-}
-
 template <class Struct>
 auto membersOf(const Struct &all) {
-    constexpr int count = memberCount<Struct>();
+    constexpr auto count = test::memberCount<Struct>();
     if constexpr (count == 1) {
         const auto &[a] = all;
         return std::tie(a);

@@ -11,8 +11,7 @@ const char *const nowhere = "Text not found anywhere in the document";
 
 TEST_F(RegExpSearch, SelectsTheNextMatch) {
     const struct {
-        const char *text;
-        const char *pattern;
+        const char *text, *pattern;
         char direction;
         const char *picture;
         const char *said = "";
@@ -56,9 +55,7 @@ TEST_F(RegExpSearch, SelectsTheNextMatch) {
 
 TEST_F(RegExpSearch, ReplacesTheSelectionOrSelectsFirst) {
     const struct {
-        const char *text;
-        const char *pattern;
-        const char *replace;
+        const char *text, *pattern, *replace;
         const char *options; ///< a after find, u up, s from the start, m smart
         const char *picture;
         const char *said = "";
@@ -89,8 +86,7 @@ TEST_F(RegExpSearch, ReplacesTheSelectionOrSelectsFirst) {
 TEST_F(RegExpSearch, ReplacesEachMatchByItself) {
     const struct {
         QString text;
-        const char *pattern;
-        const char *replace;
+        const char *pattern, *replace;
         QString result;
         int count;
         bool smart = false;

@@ -10,10 +10,7 @@ class SimpleSearch : public SearchWorld {};
 /// Options: d down, u up, s from the start, c match case, w whole words, x special characters, m smart
 /// replace, a replace after find.
 struct Row {
-    const char *text;
-    const char *find;
-    const char *options;
-    const char *picture;
+    const char *text, *find, *options, *picture;
     const char *said = "";
 };
 

@@ -14,8 +14,7 @@ TEST_F(Translation, WildcardsBecomeGroups) {
     const QString alpha = SEARCH_CHARS_ALPHA();
     const QString word = SEARCH_CHARS_WORD();
     const struct {
-        QString pattern;
-        QString expected;
+        QString pattern, expected;
         bool specialChars = false;
         WildcardOptions options = {};
     } rows[] = {

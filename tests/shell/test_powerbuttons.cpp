@@ -149,8 +149,7 @@ TEST(PowerButtons, searchWithStoredSettings) {
     const struct {
         const char16_t *details;
         bool replace;
-        const char16_t *before;
-        const char16_t *after;
+        const char16_t *before, *after;
     } cases[] = {
         {u"Mode=1, Find=b, MatchCase=0, Direction=S", false, u"a«»b", u"a«b»"},
         {u"Mode=1, Find=b, Direction=D, Replace=xx", true, u"«»ab b", u"axx b"},

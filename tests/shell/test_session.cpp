@@ -46,17 +46,6 @@ TEST(Session, cancelAsksOnlyAfterAChange) {
     }
 }
 
-TEST(Session, refreshCanBeUndone) {
-    User user("old");
-    user.types("typed ");
-    user.headless.clipboard.text = "new";
-    user.session.cmdRefresh_Click();
-    user.sees("«»new", "Text retrieved from clipboard");
-    EXPECT_FALSE(user.session.bDirty());
-    user.session.cmdUndo_Click();
-    user.sees("typed «»old");
-}
-
 TEST(Session, saysWhenTheClipboardHoldsTooMuch) {
     for (const auto &[length, number] : {std::pair{65534, ""}, {65535, "65,535"}, {1000000, "1,000,000"}}) {
         User user;

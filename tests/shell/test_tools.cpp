@@ -19,9 +19,7 @@ TEST(Tools, workOnTheSelectionOrOnTheWholeText) {
     const char *const oneLine = "Please select more than one line.";
     const struct {
         const char *token;
-        const char16_t *before;
-        const char16_t *after;
-        const char16_t *status;
+        const char16_t *before, *after, *status;
         const char *told = nullptr;
     } cases[] = {{"ccUPP", u"THE «old» man", u"THE «OLD» man", u"11 characters: upper case"},
                  {"ccUPP", u"the o«»ld man", u"«»THE OLD MAN", u"11 characters: upper case"},
@@ -200,8 +198,7 @@ TEST(Tools, favouritesMayBeTwoToolsInOne) {
 
 TEST(Tools, searchWindowBeginsWithAShortSelection) {
     const struct {
-        QString selected;
-        QString box;
+        QString selected, box;
         bool special;
     } cases[] = {{QString(24, u'x'), QString(24, u'x'), false},
                  {QString(25, u'x'), "old", false},

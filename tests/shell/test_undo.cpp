@@ -55,6 +55,7 @@ TEST(Undo, isOneHistoryOfTypingQuickEditsAndTools) {
              {u"«»", u"+one_two ^Z edEOL =«»one_ ^Y =one_two«» Undo =one_«» Undo =«»"},
              {u"«»", u"+a_b Undo =«» Redo =a_b«» ^Z =a_«» Undo =«» ^Y =a_«» ^Y =a_b«»"},
              {u"«»", u"+a_b ccUPP ^Z =a_b«» ^Z =a_«» Undo =«» Redo =a_«» Redo =a_b«» Redo =«»A_B"},
+             {u"a «old» b", u"ccUPP pbCLR Undo =«»a_old_b Redo =a_«OLD»_b"}, // a selection alone is no state
              {u"«»a", u"ccUPP +x +< Undo =«»a Redo ^Z =x«»A"},
              // Quick edits, one by one
              {u"«»abc", u"^U ^U ^Z =A«»bc ^Z =«»abc ^Y ^Y =AB«»c"},
@@ -75,32 +76,6 @@ TEST(Undo, isOneHistoryOfTypingQuickEditsAndTools) {
     }
 }
 
-TEST(Undo, redoIsOfferedWhileThereIsSomethingToRedo) {
-    User user("");
-    EXPECT_TRUE(user.canUndo);
-    EXPECT_FALSE(user.canRedo);
-    user.typesKeys("a");
-    user.presses('Z');
-    EXPECT_TRUE(user.canRedo);
-    EXPECT_TRUE(user.session.bDirty());
-    user.runs("foTRA");
-    EXPECT_TRUE(user.canRedo);
-    user.presses('Z');
-    user.sees("«»", "Reached end of Undo buffer");
-    EXPECT_TRUE(user.canUndo);
-}
-
-TEST(Undo, givesBackTextAndSelection) {
-    User user("THE [«old» man]");
-    user.runs("ccUPP");
-    user.runs("pbCLR");
-    user.session.cmdUndo_Click(); // the selection alone is no state of its own
-    user.sees("«»THE [old man]", {});
-    EXPECT_TRUE(user.session.bDirty());
-    user.session.cmdRedo_Click();
-    user.sees("THE [«OLD» man]");
-}
-
 TEST(Undo, saysWhereItsBuffersEnd) {
     User user("a");
     user.session.cmdUndo_Click();
@@ -112,55 +87,6 @@ TEST(Undo, saysWhereItsBuffersEnd) {
     user.session.bSounds = false;
     user.session.cmdUndo_Click();
     EXPECT_EQ(user.headless.sound.beeps, 2);
-}
-
-TEST(Undo, keepsWhatWasTyped) {
-    User user("a");
-    user.types("x");
-    user.session.cmdUndo_Click();
-    user.sees("«»a");
-    user.session.cmdRedo_Click();
-    user.sees("x«»a");
-}
-
-TEST(Undo, redoAsksBeforeTypingIsLost) {
-    User user("a");
-    user.runs("ccUPP");
-    user.session.cmdUndo_Click();
-    user.types("x");
-    user.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
-    user.session.cmdRedo_Click();
-    user.isTold("Changes have been made to the text");
-    user.sees("x«»a");
-    user.session.cmdRedo_Click();
-    user.isTold("Changes have been made to the text");
-    user.sees("«»A");
-}
-
-TEST(Undo, aNewChangeEndsTheRedoChain) {
-    bool undoEnabled = false;
-    bool redoEnabled = false;
-    cUndo undo({.enableUndo = [&](bool on) { undoEnabled = on; },
-                .enableRedo = [&](bool on) { redoEnabled = on; },
-                .setStatus = [](const QString &) {},
-                .beep = [] {},
-                .mayDiscardTyping = [] { return true; }});
-    EXPECT_TRUE(undo.Push({"one", 1, 0}));
-    EXPECT_FALSE(undo.Push({"one", 2, 0}));
-    for (int i = 0; i < 30; ++i) // far beyond any first size of the buffer
-        EXPECT_TRUE(undo.Push({QString::number(i), 0, 0}));
-    TextState state{"29", 0, 0};
-    EXPECT_TRUE(undo.Pull(state));
-    EXPECT_EQ(state.text, "28");
-    EXPECT_TRUE(redoEnabled);
-    EXPECT_TRUE(undo.Push({"new", 0, 0}));
-    EXPECT_FALSE(redoEnabled);
-    EXPECT_FALSE(undo.Redo(state));
-    while (undo.Pull(state)) {
-    }
-    EXPECT_EQ(state.text, "one");
-    EXPECT_EQ(state.selStart, 1);
-    EXPECT_TRUE(undoEnabled); // stays on at the bottom, and then says so
 }
 
 /// What a history must know, told without one: the texts that stood there, the states among them, where the

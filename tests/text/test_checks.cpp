@@ -13,9 +13,7 @@ using Checks = Engine;
 
 TEST_F(Checks, punctuation) {
     struct Case {
-        const char16_t *text;
-        const char16_t *expected;
-        const char16_t *messages;
+        const char16_t *text, *expected, *messages;
     };
     for (const Case &c :
          {Case{u"a.b.c:80/x(y) (", u"a.b.c:80/x(y) (", u"There is 1 unmatched opening ( bracket"},

@@ -13,8 +13,7 @@ using Numbering = Engine;
 TEST(ListNumber, isFormattedByStyle) {
     struct Case {
         qint64 number;
-        int style;
-        int followChar;
+        int style, followChar;
         const char16_t *expected;
         int spaces = 0; ///< 0: a TAB behind the mark
     };
@@ -37,8 +36,7 @@ TEST_F(Numbering, numbersLinesAndOutlines) {
     struct Case {
         int style;
         int spaces; ///< 0: TABs
-        const char16_t *text;
-        const char16_t *expected;
+        const char16_t *text, *expected;
         int start = 1;
     };
     for (const Case &c : {Case{0, 0, u"a||b|  |c", u"1.\ta||2.\tb|  |3.\tc"},
@@ -57,8 +55,7 @@ TEST_F(Numbering, numbersLinesAndOutlines) {
 
 TEST_F(Numbering, numbersLinesOfAListing) {
     struct Case {
-        const char16_t *text;
-        const char16_t *expected;
+        const char16_t *text, *expected;
         int start = 1;
         int step = 1;
         int every = 1;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/application.h"
 #include "preferences/settings_store.h"
+#include "tests/support/member_count.h"
 #include "tests/support/other_settings.h"
 #include "tests/text/engine.h"
 #include "text/tool_settings.h"

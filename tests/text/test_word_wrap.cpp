@@ -12,8 +12,7 @@ using WordWrap = Engine;
 
 struct Case {
     int width;
-    const char16_t *text;
-    const char16_t *expected;
+    const char16_t *text, *expected;
     bool hanging = false;
     bool tab = true;
 };

@@ -82,9 +82,7 @@ TEST_F(SearchWindow, GivesTheBoxItsSelectionBack) {
 TEST_F(SearchWindow, TakesLineEndsAsEscapes) {
     const struct {
         int tab;
-        const char *text;
-        const char *pasted;
-        const char *shown;
+        const char *text, *pasted, *shown;
         int caret;
         bool specialChars;
     } rows[] = {
@@ -259,9 +257,7 @@ TEST_F(SearchWindow, SaysWhatSettingsCannotHold) {
     const QString otherwise = refusal + "Please write ,\\x20 instead";
     const QString special = refusal + "Please check \"Allow special characters\" and write ,\\x20 instead";
     struct Row {
-        const char *settings;
-        const char *list;
-        const char *typed;
+        const char *settings, *list, *typed;
         QString message;
     };
     const Row rows[] = {
