@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return 0;
     const QString pattern = fuzz::textOf(data + 2, size - 2);
     const WildcardOptions options{.wholeWords = (data[0] & 1) != 0,
-                                  .anchor = data[0] >> 1 & 7,
+                                  .anchor = static_cast<Anchor>((data[0] >> 1 & 7) % 5),
                                   .decimalSep = QString(QChar(data[1])),
                                   .groupingSep = (data[0] & 0x80) != 0 ? QString() : QStringLiteral("space")};
     const WildcardTranslation translation = translateWildcards(pattern, (data[0] & 0x40) != 0, options);

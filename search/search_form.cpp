@@ -2,10 +2,7 @@
 #include "search/search_form.h"
 
 #include "base/CParams.h"
-#include "base/application.h"
-#include "base/conversions.h"
-#include "preferences/settings_store.h"
-#include "preferences/settings_table.h"
+#include "preferences/settings_keys.h"
 
 #include <algorithm>
 
@@ -13,16 +10,13 @@ namespace tolvo {
 
 namespace {
 
-constexpr QStringView section = u"Search";
-const QString findsSection = QStringLiteral("Search\\SearchMRU");
-const QString replacesSection = QStringLiteral("Search\\ReplaceMRU");
+constexpr const SearchKeys &keys = settingKeys.search;
 constexpr qsizetype longestList = 20;
 
 /// An entry's place is that of its key's letter. Places without an entry hold a "-"; keys that are no such
 /// letter have no place.
-QStringList loadList(const SettingsStore &store, const QString &listSection) {
-    const auto pairs =
-        store.GetAllSettings(applicationTitle(), listSection).value_or(QList<SettingsStore::Pair>());
+QStringList loadList(const SettingsStore &store, const SettingList &list) {
+    const auto pairs = pairsOf(store, list.section);
     QStringList entries(pairs.size(), QStringLiteral("-"));
     for (const auto &[key, value] : pairs) {
         const qsizetype place = key.size() == 1 ? key.front().unicode() - u'a' : -1;
@@ -30,6 +24,10 @@ QStringList loadList(const SettingsStore &store, const QString &listSection) {
             entries[place] = value;
     }
     return entries;
+}
+
+bool isOfWord(Anchor anchor) {
+    return anchor == Anchor::WordStart || anchor == Anchor::WordEnd;
 }
 
 void putInFront(QStringList &list, const QString &text) {
@@ -41,9 +39,9 @@ void putInFront(QStringList &list, const QString &text) {
 
 void SearchForm::load(const SettingsStore &store) {
     request.load(store);
-    expanded = request.specialChars || readFlag(store, section, u"More");
-    recentFinds = loadList(store, findsSection);
-    recentReplaces = loadList(store, replacesSection);
+    expanded = request.specialChars || get(store, keys.expanded);
+    recentFinds = loadList(store, keys.recentFinds);
+    recentReplaces = loadList(store, keys.recentReplaces);
     request.find = recentFinds.value(0);
     request.replace = recentReplaces.value(0);
 }
@@ -51,9 +49,9 @@ void SearchForm::load(const SettingsStore &store) {
 void SearchForm::save(SettingsStore &store) const {
     SettingsStore::Transaction transaction(store);
     request.save(store);
-    writeSetting(store, section, u"More", flagWord(expanded));
-    writeList(store, findsSection, recentFinds.first(std::min(recentFinds.size(), longestList)));
-    writeList(store, replacesSection, recentReplaces.first(std::min(recentReplaces.size(), longestList)));
+    set(store, keys.expanded, expanded);
+    set(store, keys.recentFinds, recentFinds.first(std::min(recentFinds.size(), longestList)));
+    set(store, keys.recentReplaces, recentReplaces.first(std::min(recentReplaces.size(), longestList)));
     transaction.commit();
 }
 
@@ -92,16 +90,16 @@ void SearchForm::rememberTexts() {
     putInFront(recentFinds, request.find);
 }
 
-void SearchForm::chooseAnchor(int index) {
-    request.anchor = index;
-    if (index == 0 || index == 1)
+void SearchForm::chooseAnchor(Anchor anchor) {
+    request.anchor = anchor;
+    if (isOfWord(anchor))
         request.wholeWords = false;
 }
 
 void SearchForm::checkWholeWords(bool on) {
     request.wholeWords = on;
-    if (on && (request.anchor == 0 || request.anchor == 1))
-        request.anchor = SearchRequest::anywhere;
+    if (on && isOfWord(request.anchor))
+        request.anchor = Anchor::Anywhere;
 }
 
 } // namespace tolvo

@@ -37,14 +37,14 @@ struct SearchForm {
     void rememberTexts();
 
     /// The start and the end of a word go together with any match, but not with whole words only.
-    void chooseAnchor(int index);
+    void chooseAnchor(Anchor anchor);
     void checkWholeWords(bool on);
 
     /// Something is on that only the larger layout shows.
     [[nodiscard]] bool isOnUnseen() const {
         return request.matchCase || (request.wholeWords && wholeWordsEnabled()) ||
                (request.specialChars && specialCharsShown()) ||
-               (request.anchor != SearchRequest::anywhere && wildcardsShown());
+               (request.anchor != Anchor::Anywhere && wildcardsShown());
     }
 
     [[nodiscard]] bool wholeWordsEnabled() const { return request.mode != SearchMode::RegularExpression; }

@@ -14,15 +14,14 @@ namespace tolvo {
 class CParams;
 class SettingsStore;
 
-enum class SearchMode { Simple, Wildcard, RegularExpression };
+/// By the numbers in the store and in settings strings.
+enum class SearchMode { Simple = 1, Wildcard, RegularExpression };
 
 enum class SearchVerb { Search, FindAll, Replace, ReplaceAll };
 
 enum class SearchDirection { Down, Up, FromStart };
 
 struct SearchRequest {
-    static constexpr int anywhere = 4;
-
     SearchMode mode = SearchMode::Simple;
     QString find = {};
     QString replace = {};
@@ -32,7 +31,7 @@ struct SearchRequest {
     bool smartReplace = true;
     bool specialChars = false;
     bool replaceAll = false;
-    int anchor = anywhere;
+    Anchor anchor = Anchor::Anywhere;
     QString decimalSep = QStringLiteral(".");
     QString groupingSep = QStringLiteral(",");
 

@@ -178,21 +178,21 @@ void WildcardTranslator::addAnchors(QString &expression) const {
     if (m_options.wholeWords)
         expression = joined({u"\\b", expression, u"\\b"});
     switch (m_options.anchor) {
-    case 0:
+    case Anchor::WordStart:
         if (!m_options.wholeWords)
             expression.prepend(QStringView(u"\\b"));
         break;
-    case 1:
+    case Anchor::WordEnd:
         if (!m_options.wholeWords)
             expression.append(QStringView(u"\\b"));
         break;
-    case 2:
+    case Anchor::LineStart:
         expression.prepend(u'^');
         break;
-    case 3:
+    case Anchor::LineEnd:
         expression.append(u'$');
         break;
-    default:
+    case Anchor::Anywhere:
         break;
     }
 }

@@ -7,9 +7,12 @@
 
 namespace tolvo {
 
+/// Where a match has to be. The numbers are those in the store and in settings strings.
+enum class Anchor { WordStart, WordEnd, LineStart, LineEnd, Anywhere };
+
 struct WildcardOptions {
     bool wholeWords = false;
-    int anchor = 4; ///< 0 start of word, 1 end of word, 2 start of line, 3 end of line, else anywhere
+    Anchor anchor = Anchor::Anywhere;
     QString decimalSep = QStringLiteral(".");
     QString groupingSep = QStringLiteral(","); ///< "space" is one blank
 };

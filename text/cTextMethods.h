@@ -9,6 +9,7 @@
 // In the examples "|" stands for CR LF, and "\t" for TAB.
 #pragma once
 
+#include "text/numbering.h"
 #include "text/statistics.h"
 #include "text/text_host.h"
 #include "text/word_rules.h"
@@ -202,13 +203,12 @@ class cTextMethods {
     // Numbering and bullets (numbering.cpp, list_removal.cpp)
 
     /// Puts a mark before each line: see numlistFormatNumber (text/numbering.h) for `followChar`, `tab` and
-    /// `spaces`. An indented line continues the item above and takes no number, but in style 5, the outline,
-    /// its indentation is its level. Blank lines stay. `style` is one of ListStyle, 0 to 5; other values are
-    /// brought to the nearest.
-    ///   number(u"a||b|  |c", 1, 0, 1, true, 0) == u"1.\ta||2.\tb|  |3.\tc"
-    ///   number(u"a|\tb|\tc|d", 1, 5, 1, true, 0) == u"1.\ta|\t1.1.\tb|\t1.2.\tc|2.\td"
-    [[nodiscard]] QString number(QStringView text, int firstNumber, int style, int followChar, bool tab,
-                                 int spaces) const;
+    /// `spaces`. An indented line continues the item above and takes no number, but in an outline its
+    /// indentation is its level. Blank lines stay. With FollowChar::Stop and a TAB:
+    ///   Decimal: u"a||b|  |c" gives u"1.\ta||2.\tb|  |3.\tc"
+    ///   Outline: u"a|\tb|\tc|d" gives u"1.\ta|\t1.1.\tb|\t1.2.\tc|2.\td"
+    [[nodiscard]] QString number(QStringView text, int firstNumber, ListStyle style, FollowChar followChar,
+                                 bool tab, int spaces) const;
 
     /// Puts a line number and a blank before each line, from `start` on in steps of `step`, and shows each
     /// `every`-th of them; the others leave blanks in its place. Blank lines get none without

@@ -95,18 +95,15 @@ QString outlineNumbered(QStringView text, int firstNumber, bool tab, int spaces)
 
 } // namespace
 
-QString numlistFormatNumber(qint64 number, int style, int followChar, bool tab, int spaces) {
-    const FollowCharacters &around =
-        followCharacters[static_cast<std::size_t>(std::clamp(followChar, 0, lastFollowChar))];
-    const QString mark = around.before.toString() +
-                         numberInStyle(number, static_cast<ListStyle>(std::clamp(style, 0, lastListStyle))) +
-                         around.after.toString();
+QString numlistFormatNumber(qint64 number, ListStyle style, FollowChar followChar, bool tab, int spaces) {
+    const FollowCharacters &around = followCharacters[static_cast<std::size_t>(followChar)];
+    const QString mark = around.before.toString() + numberInStyle(number, style) + around.after.toString();
     return tab ? mark + u'\t' : mark.leftJustified(padWidth(spaces), u' ', true);
 }
 
-QString cTextMethods::number(QStringView text, int firstNumber, int style, int followChar, bool tab,
-                             int spaces) const {
-    if (style >= lastListStyle)
+QString cTextMethods::number(QStringView text, int firstNumber, ListStyle style, FollowChar followChar,
+                             bool tab, int spaces) const {
+    if (style == ListStyle::Outline)
         return outlineNumbered(text, firstNumber, tab, spaces);
     const QString continuation = tab ? QStringLiteral("\t") : blanks(padWidth(spaces));
     qint64 counter = qint64{firstNumber} - 1;

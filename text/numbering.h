@@ -20,7 +20,9 @@ inline constexpr int lastListStyle = static_cast<int>(ListStyle::Outline);
 inline constexpr std::array<QStringView, 6> listStyleNames = {
     u"1 2 3 4", u"a b c d", u"A B C D", u"i  ii  iii  iv", u"I  II  III  IV", u"1.2  1.3  1.4"};
 
-/// The characters around a number, in the order of the dialog's list.
+/// What stands around a number, in the order of the dialog's list.
+enum class FollowChar { None, Stop, Bracket, Brackets };
+/// A choice of FollowChar: the entry of the list, and the characters.
 struct FollowCharacters {
     QStringView name;
     QStringView before;
@@ -31,12 +33,13 @@ inline constexpr std::array<FollowCharacters, 4> followCharacters = {
 inline constexpr int lastFollowChar = static_cast<int>(followCharacters.size()) - 1;
 
 /// The mark of an item, followed by a TAB, or padded with blanks to exactly `spaces` characters; a mark that
-/// is wider is cut to that. `style` is a ListStyle but for Outline, `followChar` an index of
-/// followCharacters, and `spaces` 1 to mostSpaces; values out of range are brought to the nearest. Letters
+/// is wider is cut to that. `style` is any but Outline, and `spaces` 1 to mostSpaces; a value out of range
+/// is brought to the nearest. Letters
 /// count from 1, and numbers below that give "a".
-///   numlistFormatNumber(4, 3, 1, true, 0) == u"iv.\t"
-///   numlistFormatNumber(123, 0, 1, false, 2) == u"12"
-[[nodiscard]] QString numlistFormatNumber(qint64 number, int style, int followChar, bool tab, int spaces);
+///   numlistFormatNumber(4, ListStyle::LowerRoman, FollowChar::Stop, true, 0) == u"iv.\t"
+///   numlistFormatNumber(123, ListStyle::Decimal, FollowChar::Stop, false, 2) == u"12"
+[[nodiscard]] QString numlistFormatNumber(qint64 number, ListStyle style, FollowChar followChar, bool tab,
+                                          int spaces);
 
 /// Gen_Procs: the length of the Roman mark of a line, after its indentation, if it counts as the mark of a
 /// list: its own confidence is 0.5 or more, or the line before or after it, skipping one blank line, has a

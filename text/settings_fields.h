@@ -3,97 +3,101 @@
 // fields beside its members (tool_settings.h); the member's initializer is the default.
 #pragma once
 
+#include "base/CParams.h"
+#include "preferences/setting.h"
+
 #include <QString>
 #include <QStringList>
 #include <QStringView>
+#include <algorithm>
 #include <limits>
 
 namespace tolvo {
 
-/// The written forms. Each says how a value stands in the store (`stored`) and in a settings string
-/// (`written`), and how it is read: strictly for an Action (`fromAction`, a wrong text is a Failure),
-/// leniently from the store (`fromStore`) and into a dialog's controls (`take`). A stored value that can't be
-/// read must not keep the user from the dialog that would put it right.
+/// The written forms. Each says how a value stands in the store (`Stored`, a form of the store) and in a
+/// settings string (`written`), and how a settings string is read: strictly for an Action (`fromAction`, a
+/// wrong text is a Failure), leniently into a dialog's controls (`take`). The store is read leniently too: a
+/// value that can't be read must not keep the user from the dialog that would put it right.
 namespace toolForms {
 
-/// A whole number. What is outside the limits counts as the nearest one, a text that is not a number as 0.
+/// A whole number, or a value of an enumeration by its number. What is outside the limits counts as the
+/// nearest one, a text that is not a number as 0.
+template <int lowest = std::numeric_limits<int>::min(), int highest = std::numeric_limits<int>::max()>
 struct Number {
-    int lowest = std::numeric_limits<int>::min();
-    int highest = std::numeric_limits<int>::max();
+    using Stored = forms::Nearest<lowest, highest>;
 
-    [[nodiscard]] static QString stored(int value) { return QString::number(value); }
-    [[nodiscard]] static QString written(int value) { return QString::number(value); }
-    [[nodiscard]] int fromStore(const QString &text) const;
-    [[nodiscard]] int fromAction(const QString &text) const;
-    void take(int &value, const QString &text) const;
+    template <class Value>
+    [[nodiscard]] static QString written(Value value) {
+        return QString::number(static_cast<int>(value));
+    }
+    [[nodiscard]] static int fromAction(const QString &text) {
+        return std::clamp(toInteger(text), lowest, highest);
+    }
+    template <class Value>
+    static void take(Value &value, const QString &text) {
+        value = static_cast<Value>(Stored::read(text));
+    }
 };
 
 /// One of some words in the store, its number from 0 in a settings string.
-struct Choice : Number {
-    const char16_t *const *words;
-
-    template <int count>
-    explicit constexpr Choice(const char16_t *const (&all)[count]) : Number{0, count - 1}, words(all) {}
-    [[nodiscard]] QString stored(int value) const { return QString::fromUtf16(words[value]); }
-    /// Any other word counts as the last.
-    [[nodiscard]] int fromStore(const QString &text) const;
+template <const auto &words>
+struct Choice : Number<0, static_cast<int>(std::size(words)) - 1> {
+    using Stored = forms::OneOf<words>;
 };
 
 /// "True" or "False".
 struct Flag {
-    [[nodiscard]] static QString stored(bool value);
-    [[nodiscard]] static QString written(bool value);
-    /// Neither word counts as a number.
-    [[nodiscard]] static bool fromStore(const QString &text);
-    [[nodiscard]] static bool fromAction(const QString &text);
+    using Stored = forms::Word;
+
+    [[nodiscard]] static QString written(bool value) { return flagWord(value); }
+    [[nodiscard]] static bool fromAction(const QString &text) { return toFlag(text); }
     /// Neither word leaves the control alone.
-    static void take(bool &value, const QString &text);
+    static void take(bool &value, const QString &text) {
+        if (text == flagWord(!value))
+            value = !value;
+    }
 };
 
 /// A flag whose every other stored text counts as "False".
 struct ComparedFlag : Flag {
-    [[nodiscard]] static bool fromStore(const QString &text);
+    using Stored = forms::ComparedWord;
 };
 
 /// A flag that only "0" clears for an Action, so that the word "False" doesn't: the rule is the reverse of
 /// the other flags, and what users have stored relies on it.
 struct FlagUnlessZero : ComparedFlag {
-    [[nodiscard]] static bool fromAction(const QString &text);
+    [[nodiscard]] static bool fromAction(const QString &text) { return text != flagDigit(false); }
 };
 
 /// The state of a check box, "0" or "1".
 struct Check : Flag {
-    [[nodiscard]] static QString stored(bool value);
-    [[nodiscard]] static QString written(bool value);
-    static void take(bool &value, const QString &text);
+    using Stored = forms::Check;
+
+    [[nodiscard]] static QString written(bool value) { return flagDigit(value); }
+    static void take(bool &value, const QString &text) {
+        value = text == flagWord(true) || ValueOf(text) != 0;
+    }
 };
 
 /// A check box that only "1" sets for an Action; anything else, nothing included, clears it.
 struct CheckIfOne : Check {
-    [[nodiscard]] static bool fromAction(const QString &text);
+    [[nodiscard]] static bool fromAction(const QString &text) { return text == flagDigit(true); }
 };
 
 struct Text {
-    [[nodiscard]] static QString stored(const QString &value) { return value; }
+    using Stored = forms::Text;
+
     /// A text that a settings string can't hold is left out: the dialogs refuse one that the tool would use.
-    [[nodiscard]] static QString written(const QString &value);
-    [[nodiscard]] static QString fromStore(const QString &text) { return text; }
+    [[nodiscard]] static QString written(const QString &value) {
+        return CParams::canHold(value) ? value : QString();
+    }
     [[nodiscard]] static QString fromAction(const QString &text) { return text; }
     static void take(QString &value, const QString &text) { value = text; }
 };
 
-inline constexpr Number anyNumber;
-inline constexpr Number positiveNumber{.lowest = 1};
-inline constexpr Flag flag;
-inline constexpr ComparedFlag comparedFlag;
-inline constexpr FlagUnlessZero flagUnlessZero;
-inline constexpr Check check;
-inline constexpr CheckIfOne checkIfOne;
-inline constexpr Text anyText;
-
 } // namespace toolForms
 
-/// One value of a settings struct.
+/// One value of a settings struct. `Form` is how it is written.
 template <class Settings, class Value, class Form>
 struct Field {
     Value Settings::*member;
@@ -106,16 +110,22 @@ struct Field {
     /// The same key in both.
     constexpr Field(Value Settings::*value, const char16_t *key, Form written)
         : Field(value, key, key, written) {}
+
+    /// The key in the store. Its default is the member of `defaults`, which must outlive it.
+    [[nodiscard]] Setting<typename Form::Stored> key(const Settings &defaults) const {
+        using Default = typename Form::Stored::Default;
+        return {{Settings::section}, storeKey, static_cast<Default>(defaults.*member)};
+    }
 };
 
 /// A list of texts that only the store has, in a section of its own.
 template <class Settings>
 struct ListField {
     QStringList Settings::*member;
-    QStringView section;
+    SettingList list;
 
-    constexpr ListField(QStringList Settings::*list, const char16_t *ofStore)
-        : member(list), section(ofStore) {}
+    constexpr ListField(QStringList Settings::*texts, const char16_t *section)
+        : member(texts), list{{section}} {}
 };
 
 } // namespace tolvo

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "text/tool_settings.h"
 
-#include "base/application.h"
-#include "preferences/settings_store.h"
-#include "preferences/settings_table.h"
-
 #include <algorithm>
 #include <type_traits>
 
@@ -25,7 +21,7 @@ void forEachField(Any &any, Visit visit) {
 
 template <class Field>
 constexpr bool isList = requires(const Field &field) {
-    field.section;
+    field.list;
 };
 
 /// The same without the lists, which only the store has.
@@ -38,53 +34,39 @@ void forEachValue(Any &any, Visit visit) {
 }
 
 template <class Settings, class Value, class Form>
-QString defaultOf(const Field<Settings, Value, Form> &field) {
-    return field.form.stored(Settings().*field.member);
-}
-
-template <class Settings, class Value, class Form>
 void load(const SettingsStore &store, Settings &settings, const Field<Settings, Value, Form> &field) {
-    settings.*field.member = field.form.fromStore(store.GetSetting(
-        applicationTitle(), Settings::section.toString(), field.storeKey.toString(), defaultOf(field)));
+    const Settings defaults;
+    settings.*field.member = static_cast<Value>(get(store, field.key(defaults)));
 }
 
 template <class Settings>
 void load(const SettingsStore &store, Settings &settings, const ListField<Settings> &field) {
-    settings.*field.member = readList(store, field.section.toString());
+    settings.*field.member = get(store, field.list);
 }
 
 template <class Settings, class Value, class Form>
 void save(SettingsStore &store, const Settings &settings, const Field<Settings, Value, Form> &field) {
-    store.SaveSetting(applicationTitle(), Settings::section.toString(), field.storeKey.toString(),
-                      field.form.stored(settings.*field.member));
+    using Stored = typename Form::Stored::Value;
+    set(store, field.key(settings), static_cast<Stored>(settings.*field.member));
 }
 
 template <class Settings>
 void save(SettingsStore &store, const Settings &settings, const ListField<Settings> &field) {
-    writeList(store, field.section.toString(), settings.*field.member);
-}
-
-template <class Settings, class Value, class Form>
-StoredToolSetting stored(const Field<Settings, Value, Form> &field) {
-    return {Settings::section, field.storeKey, defaultOf(field)};
-}
-
-template <class Settings>
-StoredToolSetting stored(const ListField<Settings> &field) {
-    return {field.section, {}, {}};
+    set(store, field.list, settings.*field.member);
 }
 
 } // namespace
 
 QString IndentSettings::prefix() const {
     switch (choice) {
-    case WithTab:
+    case Choice::Tab:
         return QStringLiteral("\t");
-    case WithSpaces:
+    case Choice::Spaces:
         return QString(std::clamp(spaces, 0, mostSpaces), u' ');
-    default:
-        return text;
+    case Choice::Text:
+        break;
     }
+    return text;
 }
 
 QString BulletSettings::prefix() const {
@@ -118,18 +100,10 @@ void applySettings(ToolSettings &settings, const CParams &params) {
 
 ToolSettings settingsFromAction(ToolSettings settings, const CParams &params) {
     std::visit([](auto &values) { values = {}; }, settings);
-    forEachValue(settings, [&](auto &value, const auto &field) {
-        value = field.form.fromAction(params.arg(field.stringKey.toString()));
+    forEachValue(settings, [&]<class Value>(Value &value, const auto &field) {
+        value = static_cast<Value>(field.form.fromAction(params.arg(field.stringKey.toString())));
     });
     return settings;
-}
-
-QList<StoredToolSetting> storedToolSettings() {
-    QList<StoredToolSetting> all;
-    forEachToolSettings([&all](const auto &settings) {
-        std::apply([&all](const auto &...field) { (all.append(stored(field)), ...); }, settings.fields);
-    });
-    return all;
 }
 
 } // namespace tolvo

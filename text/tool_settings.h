@@ -8,9 +8,9 @@
 #include "text/numbering.h"
 #include "text/settings_fields.h"
 
-#include <QList>
 #include <QString>
 #include <QStringList>
+#include <array>
 #include <tuple>
 #include <utility>
 #include <variant>
@@ -20,19 +20,19 @@ namespace tolvo {
 class SettingsStore;
 
 struct IndentSettings {
-    enum Choice { WithTab = 0, WithSpaces = 1, WithText = 2 };
+    enum class Choice { Tab, Spaces, Text };
     static constexpr int mostRecentTexts = 20;
-    int choice = WithTab;
+    Choice choice = Choice::Tab;
     int spaces = 4;
     QString text;
     QStringList recentTexts; ///< newest first
 
-    static constexpr const char16_t *choices[] = {u"Tab", u"Spaces", u"Text"};
+    static constexpr std::array<QStringView, 3> words = {u"Tab", u"Spaces", u"Text"};
     static constexpr QStringView section = u"Indent";
     static constexpr std::tuple fields{
-        Field{&IndentSettings::spaces, u"Spaces", toolForms::Number{0, mostSpaces}},
-        Field{&IndentSettings::text, u"Text", toolForms::anyText},
-        Field{&IndentSettings::choice, u"Option", u"RadioButton", toolForms::Choice(choices)},
+        Field{&IndentSettings::spaces, u"Spaces", toolForms::Number<0, mostSpaces>{}},
+        Field{&IndentSettings::text, u"Text", toolForms::Text{}},
+        Field{&IndentSettings::choice, u"Option", u"RadioButton", toolForms::Choice<words>{}},
         ListField{&IndentSettings::recentTexts, u"Indent\\TextMRU"}};
 
     /// What the tool puts before a line: a TAB, blanks or the text.
@@ -49,10 +49,10 @@ struct WordWrapSettings {
     bool tab = true;
 
     static constexpr QStringView section = u"Wordwrap";
-    static constexpr std::tuple fields{Field{&WordWrapSettings::width, u"Width", toolForms::anyNumber},
-                                       Field{&WordWrapSettings::justify, u"Justify", toolForms::check},
-                                       Field{&WordWrapSettings::hanging, u"Hanging", toolForms::check},
-                                       Field{&WordWrapSettings::tab, u"Tab", toolForms::flag}};
+    static constexpr std::tuple fields{Field{&WordWrapSettings::width, u"Width", toolForms::Number<>{}},
+                                       Field{&WordWrapSettings::justify, u"Justify", toolForms::Check{}},
+                                       Field{&WordWrapSettings::hanging, u"Hanging", toolForms::Check{}},
+                                       Field{&WordWrapSettings::tab, u"Tab", toolForms::Flag{}}};
     bool operator==(const WordWrapSettings &) const = default;
 };
 
@@ -62,8 +62,8 @@ struct RemoveLinesSettings {
 
     static constexpr QStringView section = u"RemLines";
     static constexpr std::tuple fields{
-        Field{&RemoveLinesSettings::single, u"Single", toolForms::checkIfOne},
-        Field{&RemoveLinesSettings::multiple, u"Multiple", toolForms::checkIfOne}};
+        Field{&RemoveLinesSettings::single, u"Single", toolForms::CheckIfOne{}},
+        Field{&RemoveLinesSettings::multiple, u"Multiple", toolForms::CheckIfOne{}}};
     bool operator==(const RemoveLinesSettings &) const = default;
 };
 
@@ -75,9 +75,9 @@ struct BulletSettings {
 
     static constexpr QStringView section = u"BulletList";
     static constexpr std::tuple fields{
-        Field{&BulletSettings::bullet, u"Character", u"Bullet", toolForms::anyText},
-        Field{&BulletSettings::tab, u"Tab", toolForms::flag},
-        Field{&BulletSettings::spaces, u"PadChars", u"Spaces", toolForms::Number{0, mostSpaces}}};
+        Field{&BulletSettings::bullet, u"Character", u"Bullet", toolForms::Text{}},
+        Field{&BulletSettings::tab, u"Tab", toolForms::Flag{}},
+        Field{&BulletSettings::spaces, u"PadChars", u"Spaces", toolForms::Number<0, mostSpaces>{}}};
 
     /// The bullet followed by a TAB or blanks.
     [[nodiscard]] QString prefix() const;
@@ -87,21 +87,21 @@ struct BulletSettings {
 struct NumberListSettings {
     static constexpr int highestTypedStart = 999; ///< what the dialog takes
     static constexpr int mostTypedSpaces = 12;    ///< the same
-    int style = 0;                                ///< 0 to 5, see text/numbering.h
+    ListStyle style = ListStyle::Decimal;
     int start = 1;
     bool renumber = false;
-    int followChar = 0; ///< 0 to 3
+    FollowChar followChar = FollowChar::None;
     bool tab = true;
     int spaces = 4;
 
     static constexpr QStringView section = u"NumList";
     static constexpr std::tuple fields{
-        Field{&NumberListSettings::style, u"Style", toolForms::Number{0, lastListStyle}},
-        Field{&NumberListSettings::start, u"StartNumber", u"Start", toolForms::anyNumber},
-        Field{&NumberListSettings::renumber, u"Renumber", toolForms::check},
-        Field{&NumberListSettings::followChar, u"FollowChar", toolForms::Number{0, lastFollowChar}},
-        Field{&NumberListSettings::tab, u"Tab", toolForms::flag},
-        Field{&NumberListSettings::spaces, u"PadChars", u"Spaces", toolForms::Number{1, mostSpaces}}};
+        Field{&NumberListSettings::style, u"Style", toolForms::Number<0, lastListStyle>{}},
+        Field{&NumberListSettings::start, u"StartNumber", u"Start", toolForms::Number<>{}},
+        Field{&NumberListSettings::renumber, u"Renumber", toolForms::Check{}},
+        Field{&NumberListSettings::followChar, u"FollowChar", toolForms::Number<0, lastFollowChar>{}},
+        Field{&NumberListSettings::tab, u"Tab", toolForms::Flag{}},
+        Field{&NumberListSettings::spaces, u"PadChars", u"Spaces", toolForms::Number<1, mostSpaces>{}}};
     bool operator==(const NumberListSettings &) const = default;
 };
 
@@ -116,13 +116,13 @@ struct LineNumberSettings {
 
     static constexpr QStringView section = u"NumLines";
     static constexpr std::tuple fields{
-        Field{&LineNumberSettings::start, u"Start", toolForms::anyNumber},
-        Field{&LineNumberSettings::step, u"Step", toolForms::positiveNumber},
-        Field{&LineNumberSettings::every, u"Every", toolForms::positiveNumber},
-        Field{&LineNumberSettings::ignoreBlanks, u"IgnoreBlanks", toolForms::flagUnlessZero},
-        Field{&LineNumberSettings::renumber, u"Renumber", toolForms::comparedFlag},
-        Field{&LineNumberSettings::pad, u"Pad", toolForms::comparedFlag},
-        Field{&LineNumberSettings::rangeRight, u"RangeRight", toolForms::flag}};
+        Field{&LineNumberSettings::start, u"Start", toolForms::Number<>{}},
+        Field{&LineNumberSettings::step, u"Step", toolForms::Number<1>{}},
+        Field{&LineNumberSettings::every, u"Every", toolForms::Number<1>{}},
+        Field{&LineNumberSettings::ignoreBlanks, u"IgnoreBlanks", toolForms::FlagUnlessZero{}},
+        Field{&LineNumberSettings::renumber, u"Renumber", toolForms::ComparedFlag{}},
+        Field{&LineNumberSettings::pad, u"Pad", toolForms::ComparedFlag{}},
+        Field{&LineNumberSettings::rangeRight, u"RangeRight", toolForms::Flag{}}};
     bool operator==(const LineNumberSettings &) const = default;
 };
 
@@ -157,15 +157,5 @@ void applySettings(ToolSettings &settings, const CParams &params);
 /// For the execution of an Action: every key is converted strictly, a missing or wrong one is a Failure.
 /// `settings` says which struct, its values don't count.
 [[nodiscard]] ToolSettings settingsFromAction(ToolSettings settings, const CParams &params);
-
-/// A value that the tools keep in the store.
-struct StoredToolSetting {
-    QStringView section;
-    QStringView key;      ///< empty for a list, which has the section to itself
-    QString defaultValue; ///< as the store would have it
-};
-
-/// All that the structs above keep in the store.
-[[nodiscard]] QList<StoredToolSetting> storedToolSettings();
 
 } // namespace tolvo

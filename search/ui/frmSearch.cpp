@@ -109,7 +109,7 @@ void frmSearch::applyRules() {
     SearchControls &c = m_controls;
     {
         const QSignalBlocker quiet(c.TabStrip1);
-        c.TabStrip1->setCurrentIndex(static_cast<int>(m_form.request.mode));
+        c.TabStrip1->setCurrentIndex(tabOf(m_form.request.mode));
     }
     c.optSrchDown->setChecked(m_form.request.direction == SearchDirection::Down);
     c.optSrchUp->setChecked(m_form.request.direction == SearchDirection::Up);
@@ -204,7 +204,7 @@ void frmSearch::run(const std::function<void()> &command) {
     }
     const bool wasActive = isActiveWindow();
     command();
-    // Behind the list of results the window manager may have chosen another window.
+    // Under the list of results the window manager may have chosen another window.
     if (wasActive)
         activateWindow();
     resumeList();

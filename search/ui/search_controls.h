@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "search/search_request.h"
 #include "search/ui/search_list_edit.h"
 
 #include <array>
@@ -18,6 +19,14 @@ class QToolButton;
 class QVBoxLayout;
 
 namespace tolvo {
+
+/// The tab of a mode, from 0.
+constexpr int tabOf(SearchMode mode) {
+    return static_cast<int>(mode) - static_cast<int>(SearchMode::Simple);
+}
+constexpr SearchMode modeOfTab(int tab) {
+    return static_cast<SearchMode>(tab + static_cast<int>(SearchMode::Simple));
+}
 
 /// The controls of frmSearch, made and laid out, with no behaviour yet.
 struct SearchControls {

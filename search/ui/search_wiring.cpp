@@ -14,7 +14,7 @@ namespace tolvo {
 void frmSearch::connectControls() {
     SearchControls &c = m_controls;
     connect(c.TabStrip1, &QTabBar::currentChanged, this, [this](int index) {
-        m_form.request.mode = static_cast<SearchMode>(index);
+        m_form.request.mode = modeOfTab(index);
         applyRules();
     });
     for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText}) {
@@ -81,9 +81,8 @@ void frmSearch::connectOptions() {
     onClick(c.chkWholeWord, [this](bool on) { m_form.checkWholeWords(on); });
     onClick(c.chkReplaceAll, [this](bool on) { m_form.request.replaceAll = on; });
     onClick(c.chkSpecialChars, [this](bool on) { m_form.request.specialChars = on; });
-    for (int i = 0; i < static_cast<int>(c.optWildcardOptions.size()); ++i)
-        onClick(c.optWildcardOptions[static_cast<std::size_t>(i)],
-                [this, i](bool) { m_form.chooseAnchor(i); });
+    for (std::size_t i = 0; i < c.optWildcardOptions.size(); ++i)
+        onClick(c.optWildcardOptions[i], [this, i](bool) { m_form.chooseAnchor(static_cast<Anchor>(i)); });
     connect(c.cmbDecimalSep, &QComboBox::editTextChanged, this,
             [this](const QString &text) { m_form.request.decimalSep = text; });
     connect(c.cmbThousandsSep, &QComboBox::editTextChanged, this,

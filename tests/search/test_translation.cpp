@@ -42,12 +42,12 @@ TEST_F(Translation, WildcardsBecomeGroups) {
         {"end\\", "end\\\\"},
         {"\\t\\x41", "\\\\t\\\\x41"},
         {"\\t\\n\\x41\\u20ACb\\x", "\\t\\n\\x41\\u20ACb\\x", true},
-        {"a", "\\ba", false, {.anchor = 0}},
-        {"a", "a\\b", false, {.anchor = 1}},
-        {"a", "^a", false, {.anchor = 2}},
-        {"a", "a$", false, {.anchor = 3}},
-        {"a", "\\ba\\b", false, {.wholeWords = true, .anchor = 1}},
-        {"a", "^\\ba\\b", false, {.wholeWords = true, .anchor = 2}},
+        {"a", "\\ba", false, {.anchor = Anchor::WordStart}},
+        {"a", "a\\b", false, {.anchor = Anchor::WordEnd}},
+        {"a", "^a", false, {.anchor = Anchor::LineStart}},
+        {"a", "a$", false, {.anchor = Anchor::LineEnd}},
+        {"a", "\\ba\\b", false, {.wholeWords = true, .anchor = Anchor::WordEnd}},
+        {"a", "^\\ba\\b", false, {.wholeWords = true, .anchor = Anchor::LineStart}},
     };
     for (const auto &[pattern, expected, specialChars, options] : rows)
         EXPECT_EQ(search.translateWildcardsToRegExp(pattern, specialChars, options), expected)

@@ -103,7 +103,7 @@ CloseAnswer User::confirmClose(const QString &prompt) {
 bool User::ask(ToolSettings &settings) {
     if (auto *indent = std::get_if<IndentSettings>(&settings)) {
         opened += "Indent";
-        indent->choice = IndentSettings::WithText;
+        indent->choice = IndentSettings::Choice::Text;
         indent->text = "> ";
     }
     return !cancelsDialogs;

@@ -6,17 +6,21 @@
 
 namespace tolvo::test {
 
+struct OtherValue {
+    void operator()(bool &value) const { value = !value; }
+    void operator()(QString &value) const { value = QStringLiteral("=>"); }
+    void operator()(QStringList &value) const { value = {QStringLiteral("=>"), QStringLiteral("# ")}; }
+    template <class Number> // or an enumeration
+    void operator()(Number &value) const {
+        value = static_cast<Number>(static_cast<int>(value) + 1);
+    }
+};
+
 /// Every field has another value than its default, and one that the tool's dialog can show.
 template <class Settings>
 [[nodiscard]] Settings otherSettings() {
-    struct Change {
-        void operator()(bool &value) const { value = !value; }
-        void operator()(int &value) const { ++value; }
-        void operator()(QString &value) const { value = QStringLiteral("=>"); }
-        void operator()(QStringList &value) const { value = {QStringLiteral("=>"), QStringLiteral("# ")}; }
-    };
     Settings settings;
-    std::apply([&settings](const auto &...field) { (Change()(settings.*field.member), ...); },
+    std::apply([&settings](const auto &...field) { (OtherValue()(settings.*field.member), ...); },
                Settings::fields);
     return settings;
 }

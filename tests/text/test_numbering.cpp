@@ -9,47 +9,48 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Numbering = Engine;
+using enum ListStyle;
+using enum FollowChar;
 
 TEST(ListNumber, isFormattedByStyle) {
     struct Case {
         qint64 number;
-        int style, followChar;
+        ListStyle style;
+        FollowChar around;
         const char16_t *expected;
-        int spaces = 0; ///< 0: a TAB behind the mark
+        int spaces = 0; ///< 0: a TAB after the mark
     };
-    for (const Case &c : {Case{7, 0, 0, u"7\t"},
-                          {27, 1, 0, u"aa\t"},
-                          {702, 2, 2, u"ZZ)\t"},
-                          {4, 3, 1, u"iv.\t"},
-                          {4999, 4, 3, u"(MMMMCMXCIX)\t"},
-                          {5000, 4, 0, u"???\t"},
-                          {0, 3, 0, u"?\t"},
-                          {3, 0, 1, u"3.  ", 4},
-                          {123, 0, 1, u"12", 2},
-                          {0, 1, 0, u"a\t"},
-                          {9, -3, 9, u"(9)\t"},
-                          {9, 0, 0, u"9", -5}})
-        EXPECT_EQ(numlistFormatNumber(c.number, c.style, c.followChar, c.spaces == 0, c.spaces), c.expected);
+    for (const Case &c : {Case{7, Decimal, None, u"7\t"},
+                          {27, LowerLetters, None, u"aa\t"},
+                          {702, UpperLetters, Bracket, u"ZZ)\t"},
+                          {4, LowerRoman, Stop, u"iv.\t"},
+                          {4999, UpperRoman, Brackets, u"(MMMMCMXCIX)\t"},
+                          {5000, UpperRoman, None, u"???\t"},
+                          {0, LowerRoman, None, u"?\t"},
+                          {3, Decimal, Stop, u"3.  ", 4},
+                          {123, Decimal, Stop, u"12", 2},
+                          {0, LowerLetters, None, u"a\t"},
+                          {9, Decimal, None, u"9", -5}})
+        EXPECT_EQ(numlistFormatNumber(c.number, c.style, c.around, c.spaces == 0, c.spaces), c.expected);
 }
 
 TEST_F(Numbering, numbersLinesAndOutlines) {
     struct Case {
-        int style;
+        ListStyle style;
         int spaces; ///< 0: TABs
         const char16_t *text, *expected;
         int start = 1;
     };
-    for (const Case &c : {Case{0, 0, u"a||b|  |c", u"1.\ta||2.\tb|  |3.\tc"},
-                          {0, 4, u"a| more|b|", u"1.  a|     more|2.  b|"},
-                          {3, 0, u"a|\tmore|b", u"iv.\ta|\t\tmore|v.\tb", 4},
-                          {5, 0, u"a|\tb|\tc|d", u"1.\ta|\t1.1.\tb|\t1.2.\tc|2.\td"},
-                          {5, 0, u"a|\tb|c|\td", u"1.\ta|\t1.1.\tb|2.\tc|\t2.1.\td"},
-                          {5, 0, u"a|\t\tb|\tc|", u"3.\ta|\t\t3.0.1.\tb|\t3.1.\tc|", 3},
-                          {5, 4, u"a|    b|\tc| d ", u"1.  a|    1.1.b|    1.2.c|2.  d"},
-                          {5, -1, u"a| b", u"1a| 1b"},
-                          {99, 0, u"a", u"1.\ta"},
-                          {0, 0, u"", u""}})
-        EXPECT_EQ(engine.number(lines(c.text), c.start, c.style, 1, c.spaces == 0, c.spaces),
+    for (const Case &c : {Case{Decimal, 0, u"a||b|  |c", u"1.\ta||2.\tb|  |3.\tc"},
+                          {Decimal, 4, u"a| more|b|", u"1.  a|     more|2.  b|"},
+                          {LowerRoman, 0, u"a|\tmore|b", u"iv.\ta|\t\tmore|v.\tb", 4},
+                          {Outline, 0, u"a|\tb|\tc|d", u"1.\ta|\t1.1.\tb|\t1.2.\tc|2.\td"},
+                          {Outline, 0, u"a|\tb|c|\td", u"1.\ta|\t1.1.\tb|2.\tc|\t2.1.\td"},
+                          {Outline, 0, u"a|\t\tb|\tc|", u"3.\ta|\t\t3.0.1.\tb|\t3.1.\tc|", 3},
+                          {Outline, 4, u"a|    b|\tc| d ", u"1.  a|    1.1.b|    1.2.c|2.  d"},
+                          {Outline, -1, u"a| b", u"1a| 1b"},
+                          {Decimal, 0, u"", u""}})
+        EXPECT_EQ(engine.number(lines(c.text), c.start, c.style, Stop, c.spaces == 0, c.spaces),
                   lines(c.expected));
 }
 
@@ -91,9 +92,10 @@ TEST_F(Numbering, givesTheTextBack) {
     for (int i = 0; i < 60; ++i)
         plain.append(u"Entry of a list"_s);
     const QString text = plain.join(u"\r\n"_s);
-    for (int style : {0, 3, 4, 5}) {
+    for (const ListStyle style : {Decimal, LowerRoman, UpperRoman, Outline}) {
         for (const bool tab : {false, true})
-            EXPECT_EQ(engine.removeNumbers(engine.number(text, 1, style, 1, tab, 12)), text) << style;
+            EXPECT_EQ(engine.removeNumbers(engine.number(text, 1, style, Stop, tab, 12)), text)
+                << static_cast<int>(style);
     }
     EXPECT_EQ(engine.RemoveLineNumbers(engine.LineNumber(text, 1, 1, 1, true, true, true)), text);
     EXPECT_EQ(engine.removeBullets(engine.Indent(text, u"\u2022\t")), text);

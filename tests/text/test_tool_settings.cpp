@@ -6,7 +6,6 @@
 #include "tests/text/engine.h"
 #include "text/tool_settings.h"
 
-#include <QSet>
 #include <limits>
 
 using namespace tolvo;
@@ -15,11 +14,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const IndentSettings indent{IndentSettings::WithText, 7, u"> "_s, {}};
+const IndentSettings indent{IndentSettings::Choice::Text, 7, u"> "_s, {}};
 const WordWrapSettings wrap{72, true, true, false};
 const RemoveLinesSettings removeLines{true, false};
 const BulletSettings bullet{u"=>"_s, false, 3};
-const NumberListSettings numberList{5, 12, true, 3, false, 6};
+const NumberListSettings numberList{ListStyle::Outline, 12, true, FollowChar::Brackets, false, 6};
 const LineNumberSettings lineNumbers{10, 5, 2, false, true, false, true};
 
 template <class Settings>
@@ -52,26 +51,32 @@ TEST(ToolSettings, comeBackFromTheStoreAndFromTheirString) {
     });
 }
 
+template <class Settings>
+QString rowsOf(const Settings &defaults) {
+    QStringList rows;
+    const auto add = [&]<class Row>(const Row &field) {
+        if constexpr (requires { field.list; })
+            rows += field.list.section.path() + u'|';
+        else
+            rows += field.key(defaults).section.path() + u'|' + field.storeKey.toString() + u'=' +
+                    field.key(defaults).defaultText();
+    };
+    std::apply([&](const auto &...field) { (add(field), ...); }, Settings::fields);
+    return rows.join(u' ');
+}
+
 TEST(ToolSettings, haveTheirPlacesAndDefaults) {
-    QStringList table;
-    QSet<QString> places;
-    for (const StoredToolSetting &setting : storedToolSettings()) {
-        const QString place = setting.section.toString() + u"|"_s + setting.key.toString();
-        EXPECT_FALSE(places.contains(place.toCaseFolded())) << place.toStdString();
-        places += place.toCaseFolded();
-        table += place + u'=' + setting.defaultValue;
-    }
-    const QString all = u' ' + table.join(u' ') + u' ';
-    for (const char16_t *section :
-         {u"Indent|Spaces=4 Indent|Text= Indent|Option=Tab Indent\\TextMRU|=",
-          u"Wordwrap|Width=50 Wordwrap|Justify=0 Wordwrap|Hanging=0 Wordwrap|Tab=True",
-          u"RemLines|Single=0 RemLines|Multiple=1",
-          u"BulletList|Character=\u2022 BulletList|Tab=True BulletList|PadChars=2",
-          u"NumList|Style=0 NumList|StartNumber=1 NumList|Renumber=0 NumList|FollowChar=0 NumList|Tab=True "
-          "NumList|PadChars=4",
-          u"NumLines|Start=1 NumLines|Step=1 NumLines|Every=1 NumLines|IgnoreBlanks=True "
-          "NumLines|Renumber=True NumLines|Pad=True NumLines|RangeRight=False"})
-        EXPECT_TRUE(all.contains(u' ' + QString::fromUtf16(section) + u' ')) << shown(all);
+    QStringList rows;
+    forEachToolSettings([&](const auto &defaults) { rows += rowsOf(defaults); });
+    EXPECT_EQ(rows,
+              (QStringList{u"Indent|Spaces=4 Indent|Text= Indent|Option=Tab Indent\\TextMRU|"_s,
+                           u"Wordwrap|Width=50 Wordwrap|Justify=0 Wordwrap|Hanging=0 Wordwrap|Tab=True"_s,
+                           u"RemLines|Single=0 RemLines|Multiple=1"_s,
+                           u"BulletList|Character=\u2022 BulletList|Tab=True BulletList|PadChars=2"_s,
+                           u"NumList|Style=0 NumList|StartNumber=1 NumList|Renumber=0 NumList|FollowChar=0 "
+                           "NumList|Tab=True NumList|PadChars=4"_s,
+                           u"NumLines|Start=1 NumLines|Step=1 NumLines|Every=1 NumLines|IgnoreBlanks=True "
+                           "NumLines|Renumber=True NumLines|Pad=True NumLines|RangeRight=False"_s}));
 }
 
 TEST(ToolSettings, areWrittenAsSettingsStrings) {
@@ -87,7 +92,7 @@ TEST(ToolSettings, areWrittenAsSettingsStrings) {
 TEST(ToolSettings, areReadLenientlyFromTheStore) {
     SettingsStore store(u":memory:"_s);
     store.SaveSetting(applicationTitle(), u"Indent"_s, u"Option"_s, u"else"_s);
-    EXPECT_EQ(std::get<IndentSettings>(loadSettings(indent, store)).choice, IndentSettings::WithText);
+    EXPECT_EQ(std::get<IndentSettings>(loadSettings(indent, store)).choice, IndentSettings::Choice::Text);
     store.SaveSetting(applicationTitle(), u"NumLines"_s, u"Pad"_s, u"1"_s);
     EXPECT_FALSE(std::get<LineNumberSettings>(loadSettings(lineNumbers, store)).pad)
         << "it is compared with \"True\"";
@@ -95,7 +100,8 @@ TEST(ToolSettings, areReadLenientlyFromTheStore) {
     store.SaveSetting(applicationTitle(), u"NumList"_s, u"StartNumber"_s, u"1e99"_s);
     store.SaveSetting(applicationTitle(), u"NumList"_s, u"Tab"_s, u"?"_s);
     EXPECT_EQ(loadSettings(numberList, store),
-              ToolSettings(NumberListSettings{0, std::numeric_limits<int>::max(), false, 0, false, 1}))
+              ToolSettings(NumberListSettings{ListStyle::Decimal, std::numeric_limits<int>::max(), false,
+                                              FollowChar::None, false, 1}))
         << "0 for what is not a number, and then the nearest that is allowed";
 }
 
@@ -117,9 +123,9 @@ TEST(ToolSettings, ofAnActionAreTakenStrictly) {
     // The nearest value allowed.
     EXPECT_EQ(fromAction<NumberListSettings>(
                   "Style=9, Start=5000, Renumber=False, FollowChar=-1, Tab=False, Spaces=-5"),
-              (NumberListSettings{5, 5000, false, 0, false, 1}));
+              (NumberListSettings{ListStyle::Outline, 5000, false, FollowChar::None, false, 1}));
     EXPECT_EQ(fromAction<IndentSettings>("RadioButton=7, Spaces=1000000000, Text=").choice,
-              IndentSettings::WithText);
+              IndentSettings::Choice::Text);
     EXPECT_EQ(fromAction<IndentSettings>("RadioButton=1, Spaces=1000000000").prefix(), QString(255, u' '));
 
     using namespace failureNumber;
@@ -132,9 +138,10 @@ TEST(ToolSettings, ofAnActionAreTakenStrictly) {
 }
 
 TEST(ToolSettings, ofADialogAreTakenLeniently) {
-    ToolSettings settings = NumberListSettings{3, 5, true, 1, false, 7};
+    ToolSettings settings = NumberListSettings{ListStyle::LowerRoman, 5, true, FollowChar::Stop, false, 7};
     applySettings(settings, CParams(u"Style=x, Start=, Renumber=False, Tab=true, Spaces=1e99"_s));
-    EXPECT_EQ(settings, ToolSettings(NumberListSettings{0, 0, false, 1, false, 255}));
+    EXPECT_EQ(settings,
+              ToolSettings(NumberListSettings{ListStyle::Decimal, 0, false, FollowChar::Stop, false, 255}));
 }
 
 TEST(ToolSettings, makeThePrefix) {

@@ -5,6 +5,7 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 namespace tolvo {
@@ -31,23 +32,15 @@ void SampleBox::fitRows() {
     setMinimumWidth(metrics.averageCharWidth() * 40);
 }
 
-Options::Options(const QString &name, const QStringList &captions, QWidget *parent)
-    : m_group(new QButtonGroup(parent)) {
+QButtonGroup *makeOptions(const QString &name, const QStringList &captions, QWidget *parent) {
+    auto *group = new QButtonGroup(parent);
     for (int i = 0; i < captions.size(); ++i) {
         auto *button = new QRadioButton(captions.at(i), parent);
         button->setObjectName(name + u'_' + QString::number(i));
-        m_group->addButton(button, i);
+        button->setChecked(i == 0);
+        group->addButton(button, i);
     }
-    choose(0);
-}
-
-QRadioButton *Options::button(int index) const {
-    return static_cast<QRadioButton *>(m_group->button(index));
-}
-
-void Options::setEnabled(bool enabled) {
-    for (QAbstractButton *button : m_group->buttons())
-        button->setEnabled(enabled);
+    return group;
 }
 
 QLabel *labelFor(QWidget *control, const QString &caption) {

@@ -8,7 +8,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 
 namespace tolvo {
 
@@ -27,20 +26,33 @@ class SampleBox : public QPlainTextEdit {
     int m_rows;
 };
 
-/// Option buttons of one group, named optName_0, optName_1 and so on.
+/// A group of option buttons, named NAME_0, NAME_1 and so on, which are their ids too. The first is chosen.
+[[nodiscard]] QButtonGroup *makeOptions(const QString &name, const QStringList &captions, QWidget *parent);
+
+/// The same, with a button for each value of `Choice`, in the order of the captions.
+template <class Choice>
 class Options {
   public:
-    Options(const QString &name, const QStringList &captions, QWidget *parent);
+    Options(const QString &name, const QStringList &captions, QWidget *parent)
+        : m_group(makeOptions(name, captions, parent)) {}
 
-    [[nodiscard]] QRadioButton *button(int index) const;
-    [[nodiscard]] int choice() const { return m_group->checkedId(); }
-    void choose(int index) { button(index)->setChecked(true); }
-    void setEnabled(bool enabled);
+    [[nodiscard]] QAbstractButton *button(Choice choice) const {
+        return m_group->button(static_cast<int>(choice));
+    }
+    [[nodiscard]] Choice choice() const { return static_cast<Choice>(m_group->checkedId()); }
+    void choose(Choice choice) { button(choice)->setChecked(true); }
+    void setEnabled(bool enabled) {
+        for (QAbstractButton *button : m_group->buttons())
+            button->setEnabled(enabled);
+    }
     [[nodiscard]] QButtonGroup *group() const { return m_group; }
 
   private:
     QButtonGroup *m_group;
 };
+
+/// What stands between a mark and its text.
+enum class Filler { Tab, Blanks };
 
 /// A label in front of a control, which it names for those who don't see it.
 [[nodiscard]] QLabel *labelFor(QWidget *control, const QString &caption);

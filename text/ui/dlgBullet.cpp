@@ -26,7 +26,7 @@ class dlgBullet : public SettingsDialog<BulletSettings> {
     void refreshSample();
 
     QComboBox *m_text;
-    Options m_tab;
+    Options<Filler> m_tab;
     NumberBox *m_spaces;
     SampleBox *m_sample;
 };
@@ -42,8 +42,8 @@ dlgBullet::dlgBullet(const BulletSettings &settings, const ToolDialogContext &co
     m_sample->setLineWrapMode(QPlainTextEdit::NoWrap);
 
     auto *follow = new QHBoxLayout;
-    follow->addWidget(m_tab.button(0));
-    follow->addWidget(m_tab.button(1));
+    follow->addWidget(m_tab.button(Filler::Tab));
+    follow->addWidget(m_tab.button(Filler::Blanks));
     follow->addWidget(m_spaces);
     follow->addStretch();
     auto *grid = new QGridLayout;
@@ -61,16 +61,16 @@ dlgBullet::dlgBullet(const BulletSettings &settings, const ToolDialogContext &co
     connect(m_text, &QComboBox::editTextChanged, this, &dlgBullet::refreshSample);
     connect(m_tab.group(), &QButtonGroup::idToggled, this, &dlgBullet::refreshSample);
     connect(m_spaces, &NumberBox::changed, this, &dlgBullet::refreshSample);
-    connect(m_spaces, &NumberBox::edited, this, [this] { m_tab.choose(1); });
+    connect(m_spaces, &NumberBox::edited, this, [this] { m_tab.choose(Filler::Blanks); });
 }
 
 BulletSettings dlgBullet::settings() const {
-    return {m_text->currentText(), m_tab.choice() == 0, m_spaces->value()};
+    return {m_text->currentText(), m_tab.choice() == Filler::Tab, m_spaces->value()};
 }
 
 void dlgBullet::setSettings(const BulletSettings &settings) {
     m_text->setCurrentText(settings.bullet);
-    m_tab.choose(settings.tab ? 0 : 1);
+    m_tab.choose(settings.tab ? Filler::Tab : Filler::Blanks);
     m_spaces->setValue(settings.spaces);
     refreshSample();
     m_text->setFocus();

@@ -15,6 +15,8 @@ namespace tolvo {
 
 namespace {
 
+using Choice = IndentSettings::Choice;
+
 class dlgIndent : public SettingsDialog<IndentSettings> {
     Q_DECLARE_TR_FUNCTIONS(dlgIndent)
 
@@ -27,12 +29,12 @@ class dlgIndent : public SettingsDialog<IndentSettings> {
     void accept() override;
 
   protected:
-    [[nodiscard]] bool usesText() const override { return m_option.choice() == IndentSettings::WithText; }
+    [[nodiscard]] bool usesText() const override { return m_option.choice() == Choice::Text; }
 
   private:
     [[nodiscard]] QStringList recentTexts() const;
 
-    Options m_option;
+    Options<Choice> m_option;
     NumberBox *m_spaces;
     QComboBox *m_text;
 };
@@ -48,15 +50,15 @@ dlgIndent::dlgIndent(const IndentSettings &settings, const ToolDialogContext &co
 
     auto *frame = new QGroupBox(tr("Options"), this);
     auto *options = new QGridLayout(frame);
-    options->addWidget(m_option.button(IndentSettings::WithTab), 0, 0);
-    options->addWidget(m_option.button(IndentSettings::WithSpaces), 1, 0);
+    options->addWidget(m_option.button(Choice::Tab), 0, 0);
+    options->addWidget(m_option.button(Choice::Spaces), 1, 0);
     options->addWidget(m_spaces, 1, 1, Qt::AlignLeft);
-    options->addWidget(m_option.button(IndentSettings::WithText), 2, 0);
+    options->addWidget(m_option.button(Choice::Text), 2, 0);
     options->addWidget(m_text, 2, 1);
     options->setColumnStretch(1, 1);
     // Option, its box, the next option: the order of the TAB key.
-    const QList<QWidget *> order = {m_option.button(0), m_option.button(1), m_spaces, m_option.button(2),
-                                    m_text};
+    const QList<QWidget *> order = {m_option.button(Choice::Tab), m_option.button(Choice::Spaces), m_spaces,
+                                    m_option.button(Choice::Text), m_text};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 
@@ -67,10 +69,10 @@ dlgIndent::dlgIndent(const IndentSettings &settings, const ToolDialogContext &co
     finishDialog(*this, QStringLiteral("dlgIndent"), tr("Indent"), contents);
     setSettings(settings);
 
-    const auto chooseText = [this] { m_option.choose(IndentSettings::WithText); };
+    const auto chooseText = [this] { m_option.choose(Choice::Text); };
     connect(m_text->lineEdit(), &QLineEdit::textEdited, this, chooseText);
     connect(m_text, &QComboBox::activated, this, chooseText);
-    connect(m_spaces, &NumberBox::edited, this, [this] { m_option.choose(IndentSettings::WithSpaces); });
+    connect(m_spaces, &NumberBox::edited, this, [this] { m_option.choose(Choice::Spaces); });
 }
 
 IndentSettings dlgIndent::settings() const {

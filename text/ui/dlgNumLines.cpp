@@ -40,7 +40,7 @@ class dlgNumLines : public SettingsDialog<LineNumberSettings> {
     QCheckBox *m_ignoreBlanks;
     QCheckBox *m_renumber;
     QCheckBox *m_pad;
-    Options m_range;
+    Options<bool> m_range; ///< true: right
     SampleBox *m_sample;
 };
 
@@ -75,8 +75,8 @@ void dlgNumLines::arrange() {
     ranges->setContentsMargins(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
                                    style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing),
                                0, 0, 0);
-    ranges->addWidget(m_range.button(0));
-    ranges->addWidget(m_range.button(1));
+    ranges->addWidget(m_range.button(false));
+    ranges->addWidget(m_range.button(true));
 
     auto *grid = new QGridLayout;
     grid->addWidget(labelFor(m_start, tr("Start:")), 0, 0);
@@ -109,7 +109,7 @@ LineNumberSettings dlgNumLines::settings() const {
     settings.renumber = m_renumber->isChecked();
     settings.ignoreBlanks = m_ignoreBlanks->isChecked();
     settings.pad = m_pad->isChecked();
-    settings.rangeRight = m_range.choice() == 1;
+    settings.rangeRight = m_range.choice();
     return settings;
 }
 
@@ -120,7 +120,7 @@ void dlgNumLines::setSettings(const LineNumberSettings &settings) {
     m_renumber->setChecked(settings.renumber);
     m_ignoreBlanks->setChecked(settings.ignoreBlanks);
     m_pad->setChecked(settings.pad);
-    m_range.choose(settings.rangeRight ? 1 : 0);
+    m_range.choose(settings.rangeRight);
     refresh();
     m_start->begin();
 }

@@ -37,7 +37,7 @@ class dlgNumberStyle : public SettingsDialog<NumberListSettings> {
     QCheckBox *m_renumber;
     QComboBox *m_followChar;
     QLabel *m_followCharLabel;
-    Options m_tab;
+    Options<Filler> m_tab;
     NumberBox *m_spaces;
     SampleBox *m_sample;
 };
@@ -64,7 +64,7 @@ dlgNumberStyle::dlgNumberStyle(const NumberListSettings &settings, const ToolDia
     setSettings(settings);
 
     connect(m_style, &QComboBox::currentIndexChanged, this, &dlgNumberStyle::styleChosen);
-    connect(m_spaces, &NumberBox::edited, this, [this] { m_tab.choose(1); });
+    connect(m_spaces, &NumberBox::edited, this, [this] { m_tab.choose(Filler::Blanks); });
     connect(m_followChar, &QComboBox::currentIndexChanged, this, &dlgNumberStyle::refreshSample);
     for (NumberBox *box : {m_start, m_spaces})
         connect(box, &NumberBox::changed, this, &dlgNumberStyle::refreshSample);
@@ -74,12 +74,12 @@ dlgNumberStyle::dlgNumberStyle(const NumberListSettings &settings, const ToolDia
 void dlgNumberStyle::arrange() {
     auto *separator = new QGroupBox(this);
     auto *pad = new QHBoxLayout;
-    pad->addWidget(m_tab.button(1));
+    pad->addWidget(m_tab.button(Filler::Blanks));
     pad->addWidget(m_spaces);
     pad->addWidget(new QLabel(tr("spaces"), this));
     pad->addStretch();
     auto *choices = new QVBoxLayout(separator);
-    choices->addWidget(m_tab.button(0));
+    choices->addWidget(m_tab.button(Filler::Tab));
     choices->addLayout(pad);
 
     auto *start = new QHBoxLayout;
@@ -104,11 +104,11 @@ void dlgNumberStyle::arrange() {
 
 NumberListSettings dlgNumberStyle::settings() const {
     NumberListSettings settings;
-    settings.style = m_style->currentIndex();
+    settings.style = static_cast<ListStyle>(m_style->currentIndex());
     settings.start = m_start->value();
     settings.renumber = m_renumber->isChecked();
-    settings.followChar = m_followChar->currentIndex();
-    settings.tab = m_tab.choice() == 0;
+    settings.followChar = static_cast<FollowChar>(m_followChar->currentIndex());
+    settings.tab = m_tab.choice() == Filler::Tab;
     settings.spaces = m_spaces->value();
     return settings;
 }
@@ -116,15 +116,15 @@ NumberListSettings dlgNumberStyle::settings() const {
 void dlgNumberStyle::setSettings(const NumberListSettings &settings) {
     m_start->setValue(settings.start);
     m_renumber->setChecked(settings.renumber);
-    m_followChar->setCurrentIndex(settings.followChar);
-    m_tab.choose(settings.tab ? 0 : 1);
+    m_followChar->setCurrentIndex(static_cast<int>(settings.followChar));
+    m_tab.choose(settings.tab ? Filler::Tab : Filler::Blanks);
     m_spaces->setValue(settings.spaces);
-    m_style->setCurrentIndex(settings.style);
+    m_style->setCurrentIndex(static_cast<int>(settings.style));
     styleChosen();
 }
 
 void dlgNumberStyle::styleChosen() {
-    const bool outline = m_style->currentIndex() == static_cast<int>(ListStyle::Outline);
+    const bool outline = settings().style == ListStyle::Outline;
     m_followChar->setEnabled(!outline);
     m_followCharLabel->setEnabled(!outline);
     if (outline && m_spaces->value() < fewestOutlineSpaces)
@@ -136,10 +136,10 @@ QString dlgNumberStyle::sampleText() const {
     const QString item = tr("%1 list item\r\n");
     const QString first = item.arg(tr("First"));
     const QString others = item.arg(tr("Second")) + item.arg(tr("Third")) + item.arg(tr("Fourth")).chopped(2);
-    if (m_style->currentIndex() != static_cast<int>(ListStyle::Outline))
+    if (settings().style != ListStyle::Outline)
         return first + others;
     const QString deeper =
-        m_tab.choice() == 0 ? QStringLiteral("\t") : QString(std::max(m_spaces->value(), 1), u' ');
+        m_tab.choice() == Filler::Tab ? QStringLiteral("\t") : QString(std::max(m_spaces->value(), 1), u' ');
     return first + deeper + tr("First sublist item\r\n") + deeper + tr("Second sublist item\r\n") + others;
 }
 

@@ -29,7 +29,7 @@ class dlgWordWrap : public SettingsDialog<WordWrapSettings> {
     NumberBox *m_width;
     QCheckBox *m_justify;
     QCheckBox *m_hanging;
-    Options m_tab;
+    Options<Filler> m_tab;
 };
 
 dlgWordWrap::dlgWordWrap(const WordWrapSettings &settings, const ToolDialogContext &context)
@@ -51,8 +51,8 @@ dlgWordWrap::dlgWordWrap(const WordWrapSettings &settings, const ToolDialogConte
     indents->setContentsMargins(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
                                     style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing),
                                 0, 0, 0);
-    indents->addWidget(m_tab.button(0));
-    indents->addWidget(m_tab.button(1));
+    indents->addWidget(m_tab.button(Filler::Tab));
+    indents->addWidget(m_tab.button(Filler::Blanks));
     auto *contents = new QVBoxLayout;
     contents->addLayout(width);
     contents->addWidget(m_justify);
@@ -66,14 +66,14 @@ dlgWordWrap::dlgWordWrap(const WordWrapSettings &settings, const ToolDialogConte
 }
 
 WordWrapSettings dlgWordWrap::settings() const {
-    return {m_width->value(), m_justify->isChecked(), m_hanging->isChecked(), m_tab.choice() == 0};
+    return {m_width->value(), m_justify->isChecked(), m_hanging->isChecked(), m_tab.choice() == Filler::Tab};
 }
 
 void dlgWordWrap::setSettings(const WordWrapSettings &settings) {
     m_width->setValue(settings.width);
     m_justify->setChecked(settings.justify);
     m_hanging->setChecked(settings.hanging);
-    m_tab.choose(settings.tab ? 0 : 1);
+    m_tab.choose(settings.tab ? Filler::Tab : Filler::Blanks);
     m_tab.setEnabled(settings.hanging);
     m_width->begin();
 }

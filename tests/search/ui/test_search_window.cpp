@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The search window as its user meets it: by keys, by mouse, and as a form that others fill.
+#include "preferences/settings_keys.h"
 #include "preferences/settings_store.h"
-#include "preferences/settings_table.h"
 #include "search/ui/frmSearch.h"
 #include "search/ui/frmSearchResults.h"
 #include "tests/search/search_world.h"
@@ -208,7 +208,7 @@ TEST_F(SearchWindow, RemembersItsStateAndItsLists) {
     find<QComboBox>("cmbThousandsSep").setEditText("space");
     window->expandDialog();
     window->saveState();
-    EXPECT_EQ(readList(store, QStringLiteral("Search\\SearchMRU")).size(), 20);
+    EXPECT_EQ(get(store, settingKeys.search.recentFinds).size(), 20);
     reopen();
     EXPECT_EQ(window->searchText(), "1");
     QString settings;

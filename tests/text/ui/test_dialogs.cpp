@@ -74,11 +74,12 @@ TEST_F(Dialogs, numberStyleKeepsItsNumbersInBounds) {
     EXPECT_TRUE(user.chosen("optTab_1"));
     user.clicks("OKButton");
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(dialog->settings(), (NumberListSettings{0, 1, false, 0, false, 11}));
+    EXPECT_EQ(dialog->settings(),
+              (NumberListSettings{ListStyle::Decimal, 1, false, FollowChar::None, false, 11}));
 }
 
 TEST_F(Dialogs, numberStyleShowsWhatTheToolWillDo) {
-    const auto dialog = made(NumberListSettings{0, 9, false, 1, false, 4});
+    const auto dialog = made(NumberListSettings{ListStyle::Decimal, 9, false, FollowChar::Stop, false, 4});
     User user(*dialog);
     EXPECT_EQ(user.sample(),
               u"9.  First list item|10. Second list item|11. Third list item|12. Fourth list item");
@@ -106,7 +107,7 @@ TEST_F(Dialogs, indentRemembersItsTexts) {
         {many, u"new"_s, QStringList(u"new"_s) + many.first(many.size() - 1)},
     };
     for (const auto &[before, typed, after] : rows) {
-        const auto dialog = made(IndentSettings{IndentSettings::WithTab, 4, QString(), before});
+        const auto dialog = made(IndentSettings{IndentSettings::Choice::Tab, 4, QString(), before});
         User user(*dialog);
         QTest::keyClicks(user.control<QComboBox>("cmbIndentText").lineEdit(), typed);
         EXPECT_TRUE(user.chosen("optTab_2"));
@@ -114,8 +115,15 @@ TEST_F(Dialogs, indentRemembersItsTexts) {
         EXPECT_TRUE(user.chosen("optTab_1"));
         user.clicks("optTab_2");
         user.clicks("OKButton");
-        EXPECT_EQ(dialog->settings(), (IndentSettings{IndentSettings::WithText, 8, typed, after}));
+        EXPECT_EQ(dialog->settings(), (IndentSettings{IndentSettings::Choice::Text, 8, typed, after}));
     }
+
+    const auto dialog = made(IndentSettings{IndentSettings::Choice::Text, 4, u"-"_s, {}});
+    User user(*dialog);
+    EXPECT_EQ(dialog->focusWidget()->objectName(), u"optTab_2"_s) << "the focus begins on the chosen option";
+    user.presses(Qt::Key_Tab);
+    QTest::keyClicks(dialog->focusWidget(), u"+"_s);
+    EXPECT_EQ(user.control<QComboBox>("cmbIndentText").currentText(), u"+") << "its text comes next";
 }
 
 TEST_F(Dialogs, lineNumberingShowsItsRange) {
@@ -186,7 +194,7 @@ TEST_F(Dialogs, settingsStringsAreEditedForActions) {
         EXPECT_EQ(done, QByteArrayView(button) == "OKButton");
         return text;
     };
-    const NumberListSettings lastUsed{3, 7, true, 2, true, 9};
+    const NumberListSettings lastUsed{ListStyle::LowerRoman, 7, true, FollowChar::Bracket, true, 9};
     const auto numbers = made(lastUsed);
     EXPECT_EQ(edit(*numbers, "Style=1, Spaces=99, Colour=red, Tab=maybe", "OKButton"),
               u"Style=1, Start=7, Renumber=1, FollowChar=2, Tab=True, Spaces=12");
@@ -216,7 +224,7 @@ TEST_F(Dialogs, textsThatNoActionCanHoldAreRefused) {
     };
     const auto bullet = made(BulletSettings{u"a, b"_s, true, 2});
     EXPECT_EQ(edit(*bullet, "cmbBulletChar", nullptr), u"Bullet=a,, Tab=True, Spaces=2");
-    const IndentSettings lastUsed{IndentSettings::WithText, 4, u", RadioButton=1"_s, {}};
+    const IndentSettings lastUsed{IndentSettings::Choice::Text, 4, u", RadioButton=1"_s, {}};
     const auto typed = made(lastUsed);
     EXPECT_EQ(edit(*typed, "cmbIndentText", nullptr), u"Spaces=4, Text=a,, RadioButton=2");
     const auto unused = made(lastUsed);
