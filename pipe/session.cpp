@@ -34,11 +34,11 @@ ActionPtr actionOf(const Catalogue &catalogue, const QString &step) {
     const qsizetype colon = step.indexOf(u':');
     const QString token = colon < 0 ? step : step.first(colon);
     const ToolPtr tool = catalogue.tool(token);
-    if (!tool || tool->isHeading() || token == QLatin1StringView("toolNULL"))
+    if (!tool || tool->isHeading() || token == unknownToolToken)
         throw BadRequest(QStringLiteral("there is no tool \"%1\"; --list-tools shows them all").arg(token));
     if (colon >= 0 && !tool->gotDialog())
         throw BadRequest(QStringLiteral("%1 (%2) has no settings").arg(token, tool->Name()));
-    return std::make_shared<CAction>(tool, colon < 0 ? Current : Custom,
+    return std::make_shared<CAction>(tool, colon < 0 ? SettingsFrom::Current : SettingsFrom::Custom,
                                      colon < 0 ? QString() : step.sliced(colon + 1));
 }
 
@@ -58,12 +58,12 @@ class WindowCheck {
             throw BadRequest(QStringLiteral("%1 (%2) needs a window").arg(token, tool->Name()));
         case SettingsWindow::Search:
         case SettingsWindow::Replace:
-            if (action.DlgOption() != Custom)
+            if (action.DlgOption() != SettingsFrom::Custom)
                 throw BadRequest(QStringLiteral("%1 (%2) needs a window, or settings: '%1:Mode=1, Find=...'")
                                      .arg(token, tool->Name()));
             break;
         case SettingsWindow::PowerButton:
-            if (action.DlgOption() == Custom)
+            if (action.DlgOption() == SettingsFrom::Custom)
                 checkButton(targetOf(action).value_or(0));
             break;
         default:

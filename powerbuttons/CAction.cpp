@@ -3,7 +3,7 @@
 
 namespace tolvo {
 
-void CAction::init(ToolPtr tool, int dlgOption, const QString &details) {
+void CAction::init(ToolPtr tool, SettingsFrom dlgOption, const QString &details) {
     setDetails(details);
     m_tool = std::move(tool);
     m_dlgOption = dlgOption;

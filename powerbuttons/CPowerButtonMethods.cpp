@@ -74,8 +74,8 @@ class ButtonReader {
         button.IconY = value(buttonKeys.y);
     }
 
-    /// Reads an Action's keys. One that isn't there keeps the value of the Action before: stores with such
-    /// gaps have always been read so.
+    /// Reads an Action's keys. One that isn't there keeps the value of the Action before: users have
+    /// stores with such gaps.
     void take(const QString &subsection) {
         const QString section = ActionSection::path(m_number, subsection);
         const auto is = [](const QString &key, const auto &setting) {
@@ -87,8 +87,10 @@ class ButtonReader {
             else if (is(key, actionKeys.details))
                 m_details = value;
             else if (is(key, actionKeys.dlgOption))
-                m_dlgOption = converted(section, actionKeys.dlgOption.name, int{Prompt},
-                                        [&text = value] { return forms::Integer::read(text); });
+                m_dlgOption =
+                    converted(section, actionKeys.dlgOption.name, SettingsFrom::Prompt, [&text = value] {
+                        return static_cast<SettingsFrom>(forms::Integer::read(text));
+                    });
         }
     }
 
@@ -97,7 +99,7 @@ class ButtonReader {
     int m_number;
     QString m_token;
     QString m_details;
-    int m_dlgOption = Prompt;
+    SettingsFrom m_dlgOption = SettingsFrom::Prompt;
 };
 
 } // namespace
@@ -127,7 +129,7 @@ void CPowerButtonMethods::SavePBSettings(const CPowerButton &button, int number)
             const QString place = QString::number(position);
             save(actionKeys.token, action->Tool() ? action->Tool()->Token() : QString(), place);
             save(actionKeys.details, action->Details(), place);
-            save(actionKeys.dlgOption, action->DlgOption(), place);
+            save(actionKeys.dlgOption, static_cast<int>(action->DlgOption()), place);
         }
         transaction.commit();
     });

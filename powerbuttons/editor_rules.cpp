@@ -64,7 +64,7 @@ EditorRules::Form EditorRules::form() const {
 
 void EditorRules::moveTo(int position) {
     m_position = position;
-    m_option = runsPowerButton(current()) ? static_cast<int>(Custom) : current().DlgOption();
+    m_option = runsPowerButton(current()) ? SettingsFrom::Custom : current().DlgOption();
 }
 
 void EditorRules::keep() {
@@ -84,10 +84,10 @@ void EditorRules::chooseTool(const QString &token) {
     }
     current().setTool(tool);
     if (runsPowerButton(current()))
-        m_option = Custom;
+        m_option = SettingsFrom::Custom;
 }
 
-void EditorRules::chooseOption(int option) {
+void EditorRules::chooseOption(SettingsFrom option) {
     m_option = option;
 }
 
@@ -98,7 +98,7 @@ void EditorRules::chooseSettings() {
     if (!settings)
         return;
     current().setDetails(*settings);
-    m_option = Custom;
+    m_option = SettingsFrom::Custom;
 }
 
 bool EditorRules::validate() {
@@ -107,7 +107,7 @@ bool EditorRules::validate() {
         say(QStringLiteral("Please select a tool from the toolbox on the left"));
         return false;
     }
-    if (action.Tool()->gotDialog() && m_option == Custom && action.Details().isEmpty()) {
+    if (action.Tool()->gotDialog() && m_option == SettingsFrom::Custom && action.Details().isEmpty()) {
         say(QStringLiteral("Please choose your custom settings"));
         return false;
     }

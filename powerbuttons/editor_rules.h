@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The rules of the PowerButton editor, without its window: what may be done when, and what the user is told.
+// The rules of the PowerButton editor, without its window: what may be done when, and the messages to the
+// user.
 #pragma once
 
 #include "powerbuttons/CPowerButton.h"
@@ -21,7 +22,7 @@ class EditorRules {
         QString toolName;     ///< empty for a blank Action
         QString toolTip;
         QString details;
-        int option = Prompt; ///< a DlgOption; any other value: none is chosen
+        SettingsFrom option = SettingsFrom::Prompt; ///< a number from the store: none is chosen
         bool leftVisible = false;
         bool rightVisible = false;
         bool deleteVisible = false;
@@ -44,7 +45,7 @@ class EditorRules {
 
     /// A leaf of the tool tree was chosen: a blank Action takes the tool at once, another asks first.
     void chooseTool(const QString &token);
-    void chooseOption(int option);
+    void chooseOption(SettingsFrom option);
     /// Asks for the settings of the current Action; new ones select "custom".
     void chooseSettings();
 
@@ -88,7 +89,7 @@ class EditorRules {
     std::shared_ptr<CPowerButton> m_button;
     int m_number = 1;
     int m_position = 1;
-    int m_option = Prompt; ///< on the form, not yet in the Action
+    SettingsFrom m_option = SettingsFrom::Prompt; ///< on the form, not yet in the Action
 };
 
 /// What dlgChoosePB lets choose: a defined button other than the one that is being edited.

@@ -53,7 +53,8 @@ std::shared_ptr<CPowerButton> build(const Example &example, const Catalogue &too
         const ToolPtr tool = tools.tool(QString::fromLatin1(step.token));
         if (!tool)
             return nullptr;
-        button->Add(std::make_shared<CAction>(tool, tool->gotDialog() ? Custom : Prompt,
+        button->Add(std::make_shared<CAction>(tool,
+                                              tool->gotDialog() ? SettingsFrom::Custom : SettingsFrom::Prompt,
                                               QString::fromLatin1(step.details)));
     }
     return button;

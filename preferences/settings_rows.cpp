@@ -99,15 +99,16 @@ SettingsRows::SettingsRows(const QString &path, int busyMilliseconds)
 }
 
 SqliteStatement &SettingsRows::statement(Query query) {
-    static_assert(queries.size() == Count);
-    auto &place = m_statements[query];
+    static_assert(queries.size() == queryCount);
+    const auto index = static_cast<std::size_t>(query);
+    auto &place = m_statements[index];
     if (!place)
-        place = std::make_unique<SqliteStatement>(*m_connection, queries[query]);
+        place = std::make_unique<SqliteStatement>(*m_connection, queries[index]);
     return *place;
 }
 
 std::optional<QString> SettingsRows::value(const SectionAddress &section, const QString &key) {
-    SqliteStatement &get = statement(Get);
+    SqliteStatement &get = statement(Query::Get);
     const StatementReset atEnd(get);
     get.bind(0, section.path);
     get.bind(1, key);
@@ -117,7 +118,7 @@ std::optional<QString> SettingsRows::value(const SectionAddress &section, const 
 }
 
 QList<std::pair<QString, QString>> SettingsRows::values(const SectionAddress &section) {
-    SqliteStatement &list = statement(List);
+    SqliteStatement &list = statement(Query::List);
     const StatementReset atEnd(list);
     list.bind(0, section.path);
     QList<std::pair<QString, QString>> result;
@@ -127,7 +128,7 @@ QList<std::pair<QString, QString>> SettingsRows::values(const SectionAddress &se
 }
 
 QStringList SettingsRows::subsections(const SectionAddress &section) {
-    SqliteStatement &children = statement(Children);
+    SqliteStatement &children = statement(Query::Children);
     const StatementReset atEnd(children);
     children.bind(0, section.path);
     QStringList result;
@@ -137,7 +138,7 @@ QStringList SettingsRows::subsections(const SectionAddress &section) {
 }
 
 std::optional<qint64> SettingsRows::find(const QString &path) {
-    SqliteStatement &query = statement(Find);
+    SqliteStatement &query = statement(Query::Find);
     const StatementReset atEnd(query);
     query.bind(0, path);
     if (!query.next())
@@ -158,7 +159,7 @@ qint64 SettingsRows::makeSection(const SectionAddress &section) {
             parent = *known;
             continue;
         }
-        SqliteStatement &add = statement(AddSection);
+        SqliteStatement &add = statement(Query::AddSection);
         add.bind(0, parent);
         add.bind(1, level);
         add.bind(2, path);
@@ -194,13 +195,13 @@ void SettingsRows::write(Query query, const SectionAddress &section, const QStri
 }
 
 void SettingsRows::save(const SectionAddress &section, const QString &key, const QString &text) {
-    write(Save, section, key, text);
+    write(Query::Save, section, key, text);
 }
 
 void SettingsRows::increment(const SectionAddress &section, const QString &key) {
     m_noNumber.reset();
     try {
-        write(Increment, section, key, QStringLiteral("1"));
+        write(Query::Increment, section, key, QStringLiteral("1"));
     } catch (const SqliteError &) {
         if (m_noNumber)
             failTypeMismatch(*m_noNumber);
@@ -212,7 +213,7 @@ void SettingsRows::removeSection(const SectionAddress &section) {
     if (!hasSection(section))
         return;
     Step step(*m_connection);
-    for (const Query query : {DropValues, DropSections}) {
+    for (const Query query : {Query::DropValues, Query::DropSections}) {
         SqliteStatement &drop = statement(query);
         drop.bind(0, section.path);
         drop.run();
@@ -221,7 +222,7 @@ void SettingsRows::removeSection(const SectionAddress &section) {
 }
 
 void SettingsRows::removeValue(const SectionAddress &section, const QString &key) {
-    SqliteStatement &drop = statement(Drop);
+    SqliteStatement &drop = statement(Query::Drop);
     drop.bind(0, section.path);
     drop.bind(1, key);
     drop.run();
@@ -250,7 +251,7 @@ bool SettingsRows::copyFrom(SettingsRows &other) {
     connection().execute("BEGIN IMMEDIATE");
     copy("SELECT id, parent, name, path FROM section ORDER BY id", addSection, 4);
     copy("SELECT id, section, name, folded, text FROM value ORDER BY id", addValue, 5);
-    if (!whole) { // what stands behind a damaged page is reached from the other end
+    if (!whole) { // what lies past a damaged page is reached from the other end
         copy("SELECT id, parent, name, path FROM section ORDER BY id DESC", addSection, 4);
         copy("SELECT id, section, name, folded, text FROM value ORDER BY id DESC", addValue, 5);
     }

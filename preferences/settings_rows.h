@@ -37,7 +37,7 @@ class SettingsRows {
     [[nodiscard]] bool hasSection(const SectionAddress &section);
 
     void save(const SectionAddress &section, const QString &key, const QString &text);
-    /// Adds 1. Throws a Failure for a stored text that is no number.
+    /// Adds 1. Throws a Failure for a stored text that is not a number.
     void increment(const SectionAddress &section, const QString &key);
     void addSection(const SectionAddress &section);
     void removeSection(const SectionAddress &section);
@@ -49,7 +49,7 @@ class SettingsRows {
     [[nodiscard]] SqliteConnection &connection() { return *m_connection; }
 
   private:
-    enum Query {
+    enum class Query {
         Get,
         List,
         Children,
@@ -59,9 +59,9 @@ class SettingsRows {
         AddSection,
         DropValues,
         DropSections,
-        Drop,
-        Count
+        Drop
     };
+    static constexpr std::size_t queryCount = static_cast<std::size_t>(Query::Drop) + 1;
     SqliteStatement &statement(Query query);
     /// The number of the section, made with all its levels where missing.
     qint64 makeSection(const SectionAddress &section);
@@ -69,7 +69,7 @@ class SettingsRows {
     void write(Query query, const SectionAddress &section, const QString &key, const QString &text);
 
     std::unique_ptr<SqliteConnection> m_connection;
-    std::array<std::unique_ptr<SqliteStatement>, Count> m_statements;
+    std::array<std::unique_ptr<SqliteStatement>, queryCount> m_statements;
     std::optional<QString> m_noNumber; ///< the text that could not be counted up
 };
 

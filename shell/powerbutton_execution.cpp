@@ -3,6 +3,7 @@
 #include "base/conversions.h"
 #include "base/strings.h"
 #include "powerbuttons/CPowerButtonMethods.h"
+#include "powerbuttons/circular_check.h"
 #include "shell/frmMain.h"
 #include "shell/tool_table.h"
 
@@ -130,13 +131,13 @@ void frmMain::runAction(const CAction &action) {
         return;
     }
     switch (action.DlgOption()) {
-    case Prompt:
+    case SettingsFrom::Prompt:
         runTool(tool->Token());
         break;
-    case Custom:
+    case SettingsFrom::Custom:
         PowerButtonDespatcher(action);
         break;
-    case Current:
+    case SettingsFrom::Current:
         // Stays set for the rest of the run: Actions behind this one run without their dialogs as well, until
         // the next mouse press. Buttons have been put together with this in mind.
         bRightButton = true;
@@ -172,7 +173,7 @@ void frmMain::runWithSettings(const CAction &action) {
 }
 
 void frmMain::runNestedPowerButton(const CAction &action) {
-    runPowerButton(toInteger(action.Param(QStringLiteral("PowerButton"))) - 1);
+    runPowerButton(toInteger(action.Param(powerButtonKey)) - 1);
 }
 
 } // namespace tolvo

@@ -57,9 +57,9 @@ void frmPowerButton::fill() {
         option->setChecked(false);
         option->setAutoExclusive(true);
     }
-    m_prompt->setChecked(form.option == Prompt);
-    m_custom->setChecked(form.option == Custom);
-    m_current->setChecked(form.option == Current);
+    m_prompt->setChecked(form.option == SettingsFrom::Prompt);
+    m_custom->setChecked(form.option == SettingsFrom::Custom);
+    m_current->setChecked(form.option == SettingsFrom::Current);
     m_prompt->setEnabled(form.optionsEnabled);
     m_current->setEnabled(form.optionsEnabled);
     m_custom->setEnabled(form.customEnabled);
@@ -138,7 +138,7 @@ void frmPowerButton::reject() {
 bool frmPowerButton::eventFilter(QObject *watched, QEvent *event) {
     if (watched == m_name && event->type() == QEvent::FocusIn &&
         m_name->text() == CPowerButton::undefinedName())
-        // Behind the mouse press that sets the caret.
+        // After the mouse press that sets the caret.
         QMetaObject::invokeMethod(m_name, "selectAll", Qt::QueuedConnection);
     if (watched == m_tree && event->type() == QEvent::KeyPress && treeKey(*static_cast<QKeyEvent *>(event)))
         return true;

@@ -135,17 +135,17 @@ void frmPowerButton::makeAction() {
     box->setFocusPolicy(Qt::NoFocus);
     box->setMinimumHeight(fontMetrics().lineSpacing() * 4);
 
-    const auto option = [this](const char *name, const QString &caption, DlgOption value) {
+    const auto option = [this](const char *name, const QString &caption, SettingsFrom value) {
         auto *button = new QRadioButton(caption, m_frame);
         button->setObjectName(QLatin1StringView(name));
         connect(button, &QRadioButton::clicked, this, [this, value] { m_rules.chooseOption(value); });
         return button;
     };
-    m_current = option("optCurrent", tr("&Use current settings"), Current);
+    m_current = option("optCurrent", tr("&Use current settings"), SettingsFrom::Current);
     m_current->setToolTip(tr("Run with the settings that the tool was used with last"));
-    m_prompt = option("optPrompt", tr("&Prompt for settings"), Prompt);
+    m_prompt = option("optPrompt", tr("&Prompt for settings"), SettingsFrom::Prompt);
     m_prompt->setToolTip(tr("Ask for the settings each time"));
-    m_custom = option("optCustom", tr("&Custom settings:"), Custom);
+    m_custom = option("optCustom", tr("&Custom settings:"), SettingsFrom::Custom);
     m_custom->setToolTip(tr("Run with the settings below"));
     m_askSettings = makeButton("cmdSettings", tr("&Settings..."));
     connect(m_askSettings, &QPushButton::clicked, this, [this] { m_rules.chooseSettings(), fill(); });

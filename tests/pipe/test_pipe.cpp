@@ -101,7 +101,7 @@ TEST_F(Pipe, refusesAPowerButtonThatNeedsAWindow) {
         SettingsStore store(storePath);
         NamedBoxes boxes;
         CPowerButton button;
-        button.Add(User::action("chGRA", Current));
+        button.Add(User::action("chGRA", SettingsFrom::Current));
         CPowerButtonMethods(store, realCatalogue(), boxes).SavePBSettings(button, 4);
     }
     const Result result = run({"ccUPP", "pbPBT:PowerButton=4"}, "a");
@@ -148,7 +148,8 @@ QJsonObject replyOfSession(const QString &picture, const QStringList &steps) {
     QList<std::shared_ptr<CAction>> actions;
     for (const QString &step : steps) {
         const QString token = step.section(u':', 0, 0);
-        actions += User::action(token, step.contains(u':') ? Custom : Current, step.section(u':', 1));
+        actions += User::action(token, step.contains(u':') ? SettingsFrom::Custom : SettingsFrom::Current,
+                                step.section(u':', 1));
     }
     user.defines(1, actions);
     user.session.imgPower_Click(0);

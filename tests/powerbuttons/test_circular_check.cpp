@@ -32,7 +32,7 @@ TEST_F(CircularCheck, findsTheShortestWayBack) {
             auto button = std::make_shared<CPowerButton>();
             button->Add(action("ccUPP"));
             for (const int target : row.runs.value(number))
-                button->Add(action("pbPBT", QString("PowerButton=%1").arg(target), Custom));
+                button->Add(action("pbPBT", QString("PowerButton=%1").arg(target), SettingsFrom::Custom));
             buttons.Add(button, number);
         }
         EXPECT_EQ(findCircle(buttons, row.target, 1).value_or(QList<int>()), row.way);

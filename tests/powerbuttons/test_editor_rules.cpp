@@ -36,7 +36,7 @@ TEST_F(Editor, definesAButtonFromNothing) {
     rules.addAfter();
     rules.chooseTool("foREM");
     EXPECT_TRUE(rules.form().optionsEnabled);
-    rules.chooseOption(Custom);
+    rules.chooseOption(SettingsFrom::Custom);
     boxes.expect(chooseCustom);
     EXPECT_FALSE(rules.goLeft());
     settings.answer = std::nullopt; // cancelled
@@ -55,7 +55,7 @@ TEST_F(Editor, definesAButtonFromNothing) {
     const CPowerButton stored = reread(3);
     EXPECT_EQ(stored.Name, "New");
     EXPECT_EQ(actionsOf(stored), "edSTR foREM(Single=1, Multiple=0)");
-    EXPECT_EQ(stored.Item(2)->DlgOption(), Custom);
+    EXPECT_EQ(stored.Item(2)->DlgOption(), SettingsFrom::Custom);
 }
 
 TEST_F(Editor, addsAndDeletes) {
@@ -102,11 +102,11 @@ TEST_F(Editor, asksBeforeItReplacesATool) {
 
 TEST_F(Editor, refusesCircles) {
     buttons.Item(2)->Add(action("ccUPP"));
-    buttons.Item(2)->Add(action("pbPBT", "PowerButton=3", Custom));
-    buttons.Item(2)->Add(action("pbPBT", "PowerButton=1", Custom));
+    buttons.Item(2)->Add(action("pbPBT", "PowerButton=3", SettingsFrom::Custom));
+    buttons.Item(2)->Add(action("pbPBT", "PowerButton=1", SettingsFrom::Custom));
     open({});
     rules.chooseTool("pbPBT");
-    EXPECT_EQ(rules.form().option, Custom);
+    EXPECT_EQ(rules.form().option, SettingsFrom::Custom);
     EXPECT_TRUE(rules.form().customEnabled && !rules.form().optionsEnabled);
     settings.answer = "PowerButton=2";
     rules.chooseSettings();

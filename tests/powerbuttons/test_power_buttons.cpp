@@ -43,13 +43,13 @@ TEST_F(PowerButtons, comeBackFromTheStore) {
     button.Name = "Ünï & co, \u2709";
     setIcon(button, {"</>", {"Serif", 12.5, true, false}, -1.5, 3});
     for (int i = 0; i < 12; ++i) // more than nine: the numbers of the subsections don't sort as texts
-        button.Add(action("foREM", QString("Single=%1, x").arg(i), i % 3));
+        button.Add(action("foREM", QString("Single=%1, x").arg(i), static_cast<SettingsFrom>(i % 3)));
     methods.SavePBSettings(button, 8);
     const CPowerButton read = reread(8);
     EXPECT_EQ(read.Name, button.Name);
     EXPECT_EQ(iconOf(read), iconOf(button));
     EXPECT_EQ(actionsOf(read), actionsOf(button));
-    EXPECT_EQ(read.Item(12)->DlgOption(), 2);
+    EXPECT_EQ(read.Item(12)->DlgOption(), SettingsFrom::Current);
     EXPECT_EQ(read.Item(12)->Param("Single"), "11");
 
     button.Clear();
@@ -74,7 +74,7 @@ TEST_F(PowerButtons, areReadFromStoresWithGaps) {
     EXPECT_EQ(read.IconFontSize, 16);
     EXPECT_EQ(actionsOf(read), "foREM(Single=1, Single=2) foREM(Single=1, Single=2) "
                                "ccUPP(Single=1, Single=2)");
-    EXPECT_EQ(read.Item(3)->DlgOption(), 7);
+    EXPECT_EQ(read.Item(3)->DlgOption(), static_cast<SettingsFrom>(7));
     EXPECT_EQ(read.Item(1)->Param("Single"), "1");
 }
 
@@ -94,13 +94,13 @@ TEST_F(PowerButtons, keepAllElseBesideValuesOfTheWrongKind) {
     CPowerButton whole;
     whole.Name = "Mine";
     setIcon(whole, {"ab", {"Serif", 12, true, true}, 3, 4});
-    whole.Add(action("foREM", "Single=1", Custom));
+    whole.Add(action("foREM", "Single=1", SettingsFrom::Custom));
     whole.Add(action("ccUPP"));
     const std::tuple<const char *, const char *, std::function<void(CPowerButton &)>> wrong[] = {
         {"5", "FontSize", [](CPowerButton &b) { b.IconFontSize = 16; }},
         {"5", "Bold", [](CPowerButton &b) { b.IconFontBold = false; }},
         {"5", "Y", [](CPowerButton &b) { b.IconY = 0; }},
-        {"5\\1", "DlgOption", [](CPowerButton &b) { b.Item(1)->setDlgOption(Prompt); }},
+        {"5\\1", "DlgOption", [](CPowerButton &b) { b.Item(1)->setDlgOption(SettingsFrom::Prompt); }},
     };
     for (const auto &[section, key, repair] : wrong) {
         methods.SavePBSettings(whole, 5);

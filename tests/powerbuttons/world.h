@@ -61,7 +61,7 @@ class World : public testing::Test {
     }
 
     std::shared_ptr<CAction> action(const char *token, const QString &details = {},
-                                    int option = Prompt) const {
+                                    SettingsFrom option = SettingsFrom::Prompt) const {
         return std::make_shared<CAction>(tools.tool(QLatin1StringView(token)), option, details);
     }
 

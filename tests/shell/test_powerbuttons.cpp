@@ -3,6 +3,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using enum SettingsFrom;
 
 namespace {
 
@@ -11,7 +12,7 @@ const QString indentSettings = "Spaces=4, Text=# , RadioButton=2";
 TEST(PowerButtons, runTheirActionsInTurn) {
     User user("a|«b c»");
     user.defines(2, {User::action("ccUPP"), User::action("foIND", Custom, indentSettings),
-                     User::action("foCOL", Custom), User::action("foIND", 7)});
+                     User::action("foCOL", Custom), User::action("foIND", static_cast<SettingsFrom>(7))});
     user.session.imgPower_Click(1);
     user.sees("a|«# B C»", "Indent increased");
     EXPECT_EQ(user.session.sLastTool, "PB1");

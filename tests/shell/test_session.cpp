@@ -4,6 +4,7 @@
 
 using namespace tolvo;
 using namespace tolvo::test;
+using enum SettingsFrom;
 
 namespace {
 

@@ -79,7 +79,7 @@ void User::isToldSomethingLike(const QString &words) {
     EXPECT_TRUE(text.contains(words)) << text.toStdString();
 }
 
-std::shared_ptr<CAction> User::action(const QString &token, int option, const QString &details) {
+std::shared_ptr<CAction> User::action(const QString &token, SettingsFrom option, const QString &details) {
     return std::make_shared<CAction>(realCatalogue().tool(token), option, details);
 }
 

@@ -42,8 +42,8 @@ class User : public HeadlessWindows {
     void isToldSomethingLike(const QString &words);
 
     /// Action by token, dialog option and details.
-    [[nodiscard]] static std::shared_ptr<CAction> action(const QString &token, int option = 0,
-                                                         const QString &details = {});
+    [[nodiscard]] static std::shared_ptr<CAction>
+    action(const QString &token, SettingsFrom option = SettingsFrom::Prompt, const QString &details = {});
     void defines(int number, const QList<std::shared_ptr<CAction>> &actions);
     [[nodiscard]] QString counter(const QString &section, const QString &key);
 
