@@ -30,14 +30,6 @@ int toInteger(const QString &text) {
     return static_cast<int>(value);
 }
 
-int toIntegerOr(const QString &text, int otherwise) {
-    try {
-        return toInteger(text);
-    } catch (const Failure &) {
-        return otherwise;
-    }
-}
-
 bool toFlag(const QString &text) {
     const QString word = text.trimmed();
     if (word.compare(QLatin1StringView("True"), Qt::CaseInsensitive) == 0)

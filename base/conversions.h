@@ -14,9 +14,6 @@ namespace tolvo {
 /// beyond 32 bits.
 [[nodiscard]] int toInteger(const QString &text);
 
-/// The same, but returns `otherwise` instead of failing.
-[[nodiscard]] int toIntegerOr(const QString &text, int otherwise);
-
 /// Reads a number, with a point as decimal separator. White space around it is ignored. Fails with a type
 /// mismatch for a text that is not a number, and with an overflow for one that is too large.
 [[nodiscard]] double toNumber(const QString &text);

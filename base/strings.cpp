@@ -57,7 +57,7 @@ QStringView trimWhiteSpace(QStringView text) {
 QString parse(QString &s, QChar separator) {
     const qsizetype index = s.indexOf(separator);
     if (index + 1 > std::numeric_limits<qint16>::max())
-        failOverflow(QStringLiteral("a separator stands behind position 32767"));
+        failOverflow(QStringLiteral("a separator stands after position 32767"));
     QString field = trimBlanks(index < 0 ? QStringView(s) : QStringView(s).first(index)).toString();
     s = index < 0 ? QString() : s.sliced(index + 1);
     return field;

@@ -72,7 +72,7 @@ void listTools(const Catalogue &catalogue) {
     for (const ToolPtr &tool : catalogue.tools()) {
         if (tool->isHeading())
             list += QStringLiteral("\n# %1\n").arg(tool->Name());
-        else if (tool->Token() != QLatin1StringView("toolNULL"))
+        else if (tool->Token() != unknownToolToken)
             list += tool->Token() + u'\t' + tool->Name() + u'\t' + tool->Tooltip() + u'\n';
     }
     writeStandardOutput(list.startsWith(u'\n') ? list.sliced(1) : list);
@@ -80,7 +80,7 @@ void listTools(const Catalogue &catalogue) {
 
 int runWithCatalogue(const PipeArguments &arguments) {
     const QString folder = QCoreApplication::applicationDirPath();
-    const Catalogue catalogue = Catalogue::read(sAppPath(folder) + QStringLiteral("Tools.dat"));
+    const Catalogue catalogue = Catalogue::read(sAppPath(folder) + Catalogue::fileName);
     if (arguments.mode == PipeArguments::ListTools) {
         listTools(catalogue);
         return Done;

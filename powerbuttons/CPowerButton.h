@@ -13,6 +13,7 @@
 
 namespace tolvo {
 
+/// One button: what the store keeps of it. A new one is undefined and has no Actions.
 class CPowerButton {
   public:
     /// The name of a button that nobody has defined.
@@ -25,19 +26,20 @@ class CPowerButton {
     double IconFontSize = 0; ///< points
     bool IconFontBold = false;
     bool IconFontItalic = false;
-    double IconX =
-        0; ///< where the text starts on the icon, in the icon's own units (see icon_geometry.h for the units)
+    double IconX = 0; ///< where the text starts on the icon, in the units of icon_geometry.h
     double IconY = 0;
 
     // Positions count from 1.
 
-    /// With `before`: inserts in front of that position (`after` is then ignored); with `after`: behind it;
-    /// else with an `index` that exists: replaces in place; else appends.
+    /// With `before`: inserts in front of that position, and `after` is ignored; with `after`: inserts
+    /// after that position; with an `index` that exists: replaces what is there; else: appends. Gives the
+    /// Action.
     std::shared_ptr<CAction> Add(std::shared_ptr<CAction> action, std::optional<int> index = {},
                                  std::optional<int> before = {}, std::optional<int> after = {});
     /// Nothing if there is no such position.
     [[nodiscard]] std::shared_ptr<CAction> Item(int position) const;
     [[nodiscard]] int Count() const { return static_cast<int>(m_actions.size()); }
+    /// Nothing happens if there is no such position.
     void Remove(int position);
     void Clear() { m_actions.clear(); }
 

@@ -16,7 +16,7 @@ namespace {
 constexpr int flagDialog = 1;
 constexpr int flagOutOfPanel = 2;
 
-/// A text that is no number is 0, and so is a number that no set of flags can be.
+/// 0 for a text that is not a number and for a number that no set of flags can be.
 int readFlags(const QString &field) {
     const double value = ValueOf(field);
     if (!(value >= 0) || value > std::numeric_limits<int>::max())
@@ -24,7 +24,7 @@ int readFlags(const QString &field) {
     return static_cast<int>(value);
 }
 
-/// The bytes of a line as text; a Failure if they are no UTF-8.
+/// The bytes of a line as text; a Failure if they are not UTF-8.
 QString decodeLine(const QByteArray &bytes) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
     const QString line = decoder.decode(bytes);
@@ -60,7 +60,7 @@ Catalogue Catalogue::read(QIODevice &file, const QString &name) {
                           QStringLiteral("%1, line %2: %3").arg(name).arg(number).arg(failure.description()));
         }
     }
-    // A line for this token is a doubled key, only noticed here: the entry stands behind all lines.
+    // A line for this token is a doubled key, only noticed here: the entry follows all lines.
     if (!catalogue.add(makeTool(unknownToolName, unknownToolToken, QStringLiteral("Deleted tool"), false)))
         throw Failure(failureNumber::duplicateKey,
                       QStringLiteral("%1: the token '%2' is reserved").arg(name, unknownToolToken));

@@ -12,10 +12,12 @@
 namespace tolvo {
 
 /// An ordered list of tools with keys, in file order: a tool's key is its token, a heading's is ">" and its
-/// name. Behind the last line stands the entry "toolNULL" for tools that a PowerButton names and the
-/// catalogue doesn't know.
+/// name. Last comes the entry "toolNULL" for tools that a PowerButton names and the catalogue doesn't know.
 class Catalogue {
   public:
+    /// The name of the file, in the program's folder.
+    static constexpr QLatin1StringView fileName{"Tools.dat"};
+
     /// One visible line for the panel of tools.
     struct PanelItem {
         QString label; ///< plain text: an "&" in it marks no key
@@ -27,7 +29,7 @@ class Catalogue {
     /// doubled key (457), text that isn't UTF-8 (75), a line too long to be parsed (6). A byte order mark is
     /// skipped. `name` is what messages call the file.
     [[nodiscard]] static Catalogue read(const QString &path);
-    [[nodiscard]] static Catalogue read(QIODevice &file, const QString &name = QStringLiteral("Tools.dat"));
+    [[nodiscard]] static Catalogue read(QIODevice &file, const QString &name = fileName);
 
     [[nodiscard]] const QList<ToolPtr> &tools() const { return m_tools; }
     /// The tool of a token (or of ">" and a heading's name); null if there is none.

@@ -16,7 +16,7 @@ std::optional<int> targetOf(const CAction &action) {
 }
 
 std::optional<QList<int>> findCircle(const CPowerButtonCollection &buttons, int target, int own) {
-    // Breadth first: cameFrom tells for each button that has been seen which one runs it.
+    // Breadth first: cameFrom holds for each button that has been seen one that runs it.
     std::array<int, CPowerButtonCollection::buttonCount + 1> cameFrom{};
     const auto known = [](int number) {
         return number >= 1 && number <= CPowerButtonCollection::buttonCount;

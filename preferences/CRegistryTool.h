@@ -34,7 +34,8 @@ struct RegistryEntry {
     bool operator==(const RegistryEntry &) const = default;
 };
 
-/// Walks and deletes keys. Other roots than the user's, and keys outside the settings root, don't exist here.
+/// Walks and deletes keys. It lives for its fixed names alone: the program goes to the store itself. Other
+/// roots than the user's, and keys outside the settings root, don't exist here.
 class CRegistryTool {
   public:
     explicit CRegistryTool(SettingsStore &store) : m_store(store) {}

@@ -82,11 +82,11 @@ QList<RegKey> Reader::read() {
     return std::move(m_keys);
 }
 
-/// Behind a key or a value only a comment may follow.
+/// After a key or a value only a comment may follow.
 void Reader::expectEnd(QStringView rest) const {
     rest = withoutBlanks(rest);
     if (!rest.isEmpty() && !rest.startsWith(u';'))
-        fail(QStringLiteral("unexpected text behind the end"));
+        fail(QStringLiteral("unexpected text after the end"));
 }
 
 void Reader::readKey(QStringView line) {
@@ -119,7 +119,7 @@ void Reader::readValue(QStringView line) {
         value.entry.name = readQuoted(rest);
     rest = withoutBlanks(rest);
     if (!rest.startsWith(u'='))
-        fail(QStringLiteral("the equals sign behind the name is missing"));
+        fail(QStringLiteral("the equals sign after the name is missing"));
     readData(withoutBlanks(rest.sliced(1)), value);
     m_keys.back().values += value;
 }
@@ -155,7 +155,7 @@ void Reader::readData(QStringView data, RegValue &value) {
              .arg(value.entry.name, refused));
 }
 
-/// The text up to the closing quotation mark; `rest` becomes what stands behind that.
+/// The text up to the closing quotation mark; `rest` becomes what follows it.
 QString Reader::readQuoted(QStringView &rest) const {
     QString text;
     for (qsizetype i = 0; i < rest.size(); ++i) {
@@ -196,8 +196,8 @@ QString Reader::readHex(QStringView data) {
             if (field.isEmpty() || m_lines.atEnd())
                 fail(QStringLiteral("the bytes of the value are cut off"));
             rest = m_lines.next();
-            if (const qsizetype behind = rest.indexOf(u';'); behind >= 0)
-                rest = rest.first(behind);
+            if (const qsizetype semicolon = rest.indexOf(u';'); semicolon >= 0)
+                rest = rest.first(semicolon);
             continue;
         }
         bool ok = false;

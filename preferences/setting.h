@@ -27,8 +27,9 @@ struct Section {
     [[nodiscard]] QString path() const { return name.toString(); }
 };
 
-/// A key. Its `Place` says what else is needed to find it, such as the number of a PowerButton: that follows
-/// the key in the functions below. Without a default, a key that isn't there reads as the empty text.
+/// A key: where it lies, its name, its type and written form (`Form`), its default. Its `Place` says what
+/// else is needed to find it, such as the number of a PowerButton: that follows the key in the functions
+/// below. Without a default, a key that isn't there reads as the empty text.
 template <class Form, class Place = Section>
 struct Setting {
     using Value = typename Form::Value;
@@ -100,6 +101,7 @@ template <class Form>
     return isSet(store, key) ? get(store, key) : fallback;
 }
 
+/// Writes the value in the key's form.
 template <class Form, class Place, class... Where>
 void set(SettingsStore &store, const Setting<Form, Place> &key, const typename Form::Value &value,
          const Where &...where) {
@@ -109,6 +111,7 @@ void set(SettingsStore &store, const Setting<Form, Place> &key, const typename F
 
 /// Adds 1 to a counter, atomically. A stored text that is not a number is a Failure (type mismatch).
 void increment(SettingsStore &store, const Setting<forms::Count> &counter);
+/// Takes a counter away, so that it reads as 0.
 void remove(SettingsStore &store, const Setting<forms::Count> &counter);
 
 /// The pairs of a section in the order of the store; none if there is no such section.

@@ -20,7 +20,7 @@ constexpr int patienceAtEnd = 1000; ///< ms to wait when changes are brought bac
 const QString inMemory = QStringLiteral(":memory:");
 const QString logSuffix = QStringLiteral("-wal");
 
-/// What the user is told behind the reason.
+/// What follows the reason in the message to the user.
 QString sessionOnly() {
     return QStringLiteral("\r\nWhat you change in this session may be lost at its end.");
 }
@@ -260,7 +260,7 @@ void SettingsStore::Database::bringBackToFile() {
         for (const Change &change : std::as_const(m_unsafe))
             change(rows);
         rows.connection().execute("COMMIT");
-    } catch (const SqliteError &) { // the user has been told
+    } catch (const SqliteError &) { // the user has had the message
     } catch (const SchemaRefusal &) {
     } catch (const Failure &) {
     }

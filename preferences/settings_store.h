@@ -16,10 +16,10 @@ namespace tolvo {
 /// written. Every operation is atomic by itself and durable when it returns.
 ///
 /// A store that can't be opened or written goes on in memory, with what can still be read of the file;
-/// takeTrouble() then tells why, once. If others were only holding the file, or its disk was full, what was
-/// written meanwhile is brought into the file at the end, if it can be written then. A damaged file is set
-/// aside under another name and never overwritten; a new one takes over what can be read of it. A file of a
-/// newer schema is left alone.
+/// takeTrouble() then gives the reason, once. If others were only holding the file, or its disk was full,
+/// what was written meanwhile is brought into the file at the end, if it can be written then. A damaged file
+/// is set aside under another name and never overwritten; a new one takes over what can be read of it. A file
+/// of a newer schema is left alone.
 class SettingsStore {
   public:
     /// Opens or makes the file at `path`; ":memory:" is a store of its own in memory. Never throws: see
@@ -33,7 +33,7 @@ class SettingsStore {
     [[nodiscard]] static QString defaultPath();
 
     /// A sentence for the user about what went wrong with the file since the last call, empty if nothing did.
-    /// Each trouble is told once.
+    /// Each trouble is given once.
     [[nodiscard]] QString takeTrouble();
 
     /// The stored string, or the default if the key or a level above it doesn't exist.
@@ -62,7 +62,7 @@ class SettingsStore {
                                                             const QString &section) const;
 
     /// Adds 1 to a counter (default 0) in one statement: a count is never lost, whoever else counts. A stored
-    /// text that is no number is a Failure (13).
+    /// text that is not a number is a Failure (13).
     void increment(const QString &application, const QString &section, const QString &key);
 
     /// Whether the section exists, and the names of its direct subsections in order. The empty section is the

@@ -64,7 +64,7 @@ class SqliteStatement {
     void bind(int index, qint64 number);
     /// Takes over a column of another statement, whatever it holds.
     void bindColumn(int index, const SqliteStatement &other, int column);
-    /// Steps to the next row; false behind the last one.
+    /// Steps to the next row; false after the last one.
     bool next();
     /// Runs a statement without rows to its end and makes it ready for the next use.
     void run();

@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "base/strings.h"
 #include "platform/report_error.h"
+#include "search/escaped_text.h"
 #include "search/result_lines.h"
 
 namespace tolvo {
@@ -70,6 +71,12 @@ void CSearch::replaceAll(const SearchRequest &request, bool silent) {
         replaceLiterals(request, silent);
     else
         replaceExpressions(request, silent);
+}
+
+QString CSearch::translateSpecialChars(QString &text, bool crlf) {
+    QString result;
+    reported("replaceHex", [&] { result = unescaped(text, crlf); });
+    return text = result;
 }
 
 bool CSearch::guarded(const char *operation, const std::function<void()> &action) {

@@ -16,7 +16,7 @@
 namespace tolvo {
 
 enum class SearchedBy {
-    Window,     ///< the first press of Replace only selects, and Replace All tells how many
+    Window,     ///< the first press of Replace only selects, and Replace All says how many
     PowerButton ///< one step finds and replaces, in silence
 };
 
@@ -31,7 +31,16 @@ class CSearch {
     /// Find All shows its list. Nothing for an empty search text.
     void run(SearchVerb verb, const SearchRequest &request, SearchedBy by = SearchedBy::Window);
 
-    // The operations by their names (search_operations.cpp). Each is one request.
+    /// The regular expression for a wildcard pattern, as shown to the user; empty after an error, which has
+    /// been shown.
+    [[nodiscard]] QString translateWildcardsToRegExp(const QString &pattern, bool specialChars,
+                                                     const WildcardOptions &options);
+    /// The text that its escapes stand for (escaped_text.h), which also stands in `text`. An escape without
+    /// hexadecimal digits is reported and empties the text.
+    QString translateSpecialChars(QString &text, bool crlf);
+
+    // What lives for a fixed name alone (search_operations.cpp): the program itself calls run(). Each makes a
+    // request of its arguments and carries it out.
 
     /// True if a match is now selected. `fromStart` is set on a failed search.
     bool SimpleSearch(QString find, bool specialChars, bool up, bool down, bool &fromStart, bool matchCase,
@@ -44,6 +53,7 @@ class CSearch {
     void SimpleReplaceAll(QString find, QString replace, bool specialChars, bool matchCase, bool wholeWords,
                           bool smartReplace, bool silent);
 
+    // The same by wildcards. The number of results for Find All, which fills the list but shows nothing.
     void WildcardSearch(const QString &find, bool specialChars, bool up, bool fromStart, bool matchCase,
                         const WildcardOptions &options);
     int WildcardFindAll(const QString &find, bool specialChars, bool matchCase,
@@ -53,6 +63,8 @@ class CSearch {
                          bool replaceAfterFind);
     void WildcardReplaceAll(const QString &find, const QString &replace, bool specialChars, bool matchCase,
                             bool smartReplace, const WildcardOptions &options, bool silent);
+
+    // The same by regular expression.
 
     /// Selects a match. `text` is that of the text box, and "\n" in the pattern (backslash, n) is its CR LF.
     void RegExpSearch(const QString &text, QString pattern, bool up, bool fromStart, bool matchCase);
@@ -64,13 +76,7 @@ class CSearch {
     void RegExpReplaceAll(const QString &pattern, QString replace, bool matchCase, bool smartReplace,
                           bool silent);
 
-    /// The regular expression for a wildcard pattern, as shown to the user; empty after an error, which has
-    /// been shown.
-    [[nodiscard]] QString translateWildcardsToRegExp(const QString &pattern, bool specialChars,
-                                                     const WildcardOptions &options);
-    /// The text that its escapes stand for (escaped_text.h), which also stands in `text`. An escape without
-    /// hexadecimal digits is reported and empties the text.
-    QString translateSpecialChars(QString &text, bool crlf);
+    /// One kind of escape: see withHexEscapes() in escaped_text.h. The result also stands in `text`.
     QString replaceHex(QString &text, QStringView prefix, int digits);
 
   private:
@@ -105,7 +111,8 @@ class CSearch {
                      MatchBudget &budget);
     int listMatches(const RegularExpression &expression, const QString &text);
 
-    /// Runs an operation; a failure is told under its name, a bad escape with a hint. False after a failure.
+    /// Runs an operation; a failure is reported under its name, a bad escape with a hint. False after a
+    /// failure.
     bool guarded(const char *operation, const std::function<void()> &action);
     /// The same without the hint.
     bool reported(const char *operation, const std::function<void()> &action);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int highestRepeat = 65535;
 
-/// Number of capturing groups. What looks like one inside a set or behind a backslash is none.
+/// Number of capturing groups. What looks like one inside a set or after a backslash doesn't count.
 int countGroups(QStringView pattern) {
     int groups = 0;
     bool inSet = false;
@@ -121,7 +121,7 @@ void Translator::openGroup() {
         write(m_in.sliced(m_at, 2), Term::None);
         m_at += 2;
     } else {
-        fail(u"a group begins with (? and no :, = or ! behind it");
+        fail(u"a group begins with (? and no :, = or ! after it");
     }
 }
 

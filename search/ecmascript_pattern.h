@@ -18,6 +18,7 @@ struct TranslatedPattern {
 
 /// Refused: look-behind and every other group that begins with "(?", apart from "(?:", "(?=" and "(?!"; a
 /// quantifier on nothing, on an assertion or on a quantifier. Repeat counts above 65,535 are taken as 65,535.
+/// A pattern that is refused has an `error`.
 [[nodiscard]] TranslatedPattern translateEcmaScript(QStringView pattern, bool matchCase);
 
 } // namespace tolvo

@@ -17,26 +17,26 @@ extern const QStringView lineEndAssertion;
 extern const QStringView wordBoundary;
 extern const QStringView noWordBoundary;
 
-/// The members of \d, \D, \w, \W, \s and \S as they stand inside a set, by the letter behind the backslash;
+/// The members of \d, \D, \w, \W, \s and \S as they stand inside a set, by the letter after the backslash;
 /// empty for any other letter.
 [[nodiscard]] QStringView classMembers(char16_t letter);
 
 struct CharacterEscape {
     char16_t unit;
-    qsizetype length; ///< units behind the backslash that belong to it
+    qsizetype length; ///< units after the backslash that belong to it
 };
 
-/// The escape of one character, `text` beginning behind its backslash and not empty: control characters,
+/// The escape of one character, `text` beginning after its backslash and not empty: control characters,
 /// \cX, octal, \xHH, \uHHHH; every other character stands for itself.
 [[nodiscard]] CharacterEscape readCharacterEscape(QStringView text);
 
 struct TranslatedSet {
     QString pattern;
     QString error;
-    qsizetype length = 0; ///< units behind the "[" that belong to the set, its "]" included
+    qsizetype length = 0; ///< units after the "[" that belong to the set, its "]" included
 };
 
-/// A set, `text` beginning behind its "[".
+/// A set, `text` beginning after its "[".
 [[nodiscard]] TranslatedSet translateSet(QStringView text, bool matchCase);
 
 } // namespace tolvo

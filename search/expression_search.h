@@ -17,11 +17,11 @@ namespace tolvo {
 [[nodiscard]] WildcardTranslation expressionOf(const SearchRequest &request);
 
 /// The pattern for a text with CR LF as its line end, where other texts have LF: each "\n" (backslash, n)
-/// becomes
-/// "\r\n". An escaped backslash before the n is widened as well.
+/// becomes "\r\n". An escaped backslash before the n is widened as well.
+///   widened(u"a\\nb") == u"a\\r\\nb"
 [[nodiscard]] QString widened(QString pattern);
 
-/// Whether it is valid is the caller's business.
+/// The pattern as an expression, which may be invalid: see requireValid().
 [[nodiscard]] RegularExpression compiled(const QString &pattern, bool matchCase);
 /// Fails with invalidPattern.
 void requireValid(const RegularExpression &expression);
@@ -29,6 +29,7 @@ void requireValid(const RegularExpression &expression);
 /// forEachMatch() that fails when the budget is spent.
 void walkMatches(const RegularExpression &expression, QStringView text, MatchBudget &budget,
                  const RegularExpression::Visitor &visit);
+/// All matches, in order.
 [[nodiscard]] QList<RegularExpression::Span> matchesOf(const RegularExpression &expression, QStringView text,
                                                        MatchBudget &budget);
 [[nodiscard]] bool hasMatch(const RegularExpression &expression, QStringView text, MatchBudget &budget);

@@ -8,7 +8,8 @@
 
 namespace tolvo {
 
-/// The pieces one behind the other.
+/// The pieces in a row.
+///   joined({u"a", u"b"}) == u"ab"
 [[nodiscard]] inline QString joined(std::initializer_list<QStringView> pieces) {
     qsizetype length = 0;
     for (const QStringView piece : pieces)

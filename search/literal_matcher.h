@@ -13,10 +13,12 @@ class LiteralMatcher {
     /// Without `matchCase` units compare without regard to case.
     LiteralMatcher(QStringView find, bool matchCase);
 
+    /// Whether the whole text is the one looked for.
     [[nodiscard]] bool equals(QStringView text) const;
 
-    /// Calls `visit(index)` for every occurrence that begins at index `from` (from 0) or behind, overlapping
-    /// ones included, in order; `visit` returns false to end the walk. An empty text is found nowhere.
+    /// Calls `visit(index)` for every occurrence that begins at index `from` (from 0) or after it,
+    /// overlapping ones included, in order; `visit` returns false to end the walk. An empty text is found
+    /// nowhere.
     template <class Visitor>
     void forEachOccurrence(QStringView text, qsizetype from, Visitor visit) const {
         if (m_find.isEmpty())

@@ -20,7 +20,7 @@ struct ReplacedText {
 
 class LiteralPattern {
   public:
-    /// `engine` tells where words begin and end, and gives a smart replacement its capitals.
+    /// `engine` knows where words begin and end, and gives a smart replacement its capitals.
     LiteralPattern(const QString &find, bool matchCase, bool wholeWords, const cTextMethods &engine)
         : m_find(find), m_matcher(find, matchCase), m_wholeWords(wholeWords), m_engine(engine) {}
 
@@ -39,7 +39,7 @@ class LiteralPattern {
     /// Each match replaced, none of them in a replacement. The outcome is that of a text box written after
     /// every single replacement: what no longer has room in `capacity` units is cut off at once and not
     /// searched any more. It stands at the end of the result all the same, for the box to cut it off again
-    /// and tell.
+    /// and report it.
     ///   "a" by "aa" in "aaa" gives "aaaaaa" and 3.
     [[nodiscard]] ReplacedText replaceAll(QStringView text, const QString &replacement, bool smart,
                                           qsizetype capacity) const;

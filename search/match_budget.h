@@ -17,7 +17,7 @@ class MatchBudget {
     /// What a command may take if nobody says otherwise.
     static constexpr std::chrono::seconds usualTime{5};
 
-    /// `interrupted` tells whether the user wants an end; it is asked some twenty times a second.
+    /// `interrupted` gives whether the user wants an end; it is asked some twenty times a second.
     explicit MatchBudget(Interrupted interrupted = {}, Clock::duration time = usualTime);
 
     /// True from the moment on at which the command has to end.

@@ -91,7 +91,7 @@ int CSearch::listExpressions(QString &text, const SearchRequest &request) {
     return count;
 }
 
-/// Without any match the list stays as it was; a match without length is none for the list.
+/// Without any match the list stays as it was; a match without length is not listed.
 int CSearch::listMatches(const RegularExpression &expression, const QString &text) {
     MatchBudget budget = newBudget();
     const QList<RegularExpression::Span> matches = matchesOf(expression, text, budget);

@@ -55,7 +55,7 @@ struct RegularExpression::Pace {
 
 struct RegularExpression::Compiled {
     pcre2_code_16 *code = nullptr;
-    bool startsAtLines = false;  ///< the engine only tries positions behind a line end
+    bool startsAtLines = false;  ///< the engine only tries positions after a line end
     char16_t firstUnits[2] = {}; ///< what a match begins with, in both cases
     bool hasFirstUnit = false;
 

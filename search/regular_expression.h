@@ -59,7 +59,7 @@ class RegularExpression {
     /// What looks at the matches: false ends the walk.
     using Visitor = std::function<bool(const RegularExpressionMatch &)>;
 
-    /// How a walk ended. LimitReached: the budget is spent, and its reason() tells why.
+    /// How a walk ended. LimitReached: the budget is spent, and its reason() says why.
     enum class Outcome { Completed, LimitReached };
 
     RegularExpression(QStringView pattern, bool matchCase);

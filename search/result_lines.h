@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a Find All tells about each hit.
+// What a Find All says about each hit.
 #pragma once
 
 #include <QString>
@@ -12,7 +12,8 @@ class LineCounter {
   public:
     LineCounter(QStringView text, QStringView lineEnd) : m_text(text), m_lineEnd(lineEnd) {}
 
-    /// The line, from 1, that holds the unit at an index from 0. A line end belongs to the line behind it.
+    /// The line, from 1, that holds the unit at an index from 0. A line end counts as part of
+    /// the next line.
     [[nodiscard]] int lineOf(qsizetype index);
 
   private:
@@ -29,14 +30,17 @@ class LineCounter {
 
 /// A hit as one number: index from 0 times 10000 plus length. Lengths above 9999 spill into the index. Fails
 /// with an overflow beyond 32 bits.
+///   packLocation(123, 5) == 1230005
 [[nodiscard]] qint32 packLocation(qsizetype index, qsizetype length);
+/// What a packed number stands for.
 struct HitLocation {
     int start;
     int length;
 };
 [[nodiscard]] HitLocation unpackLocation(qint32 location);
 
-/// "1 result found for ..." or "n results found for ...".
+/// The caption of the list.
+///   resultsCaption(1, u"x") == u"1 result found for x", resultsCaption(2, u"x") == u"2 results found for x"
 [[nodiscard]] QString resultsCaption(int count, const QString &find);
 
 } // namespace tolvo

@@ -29,7 +29,7 @@ struct SearchForm {
     struct Unkept {
         QString SearchRequest::*text;
         bool needsSpecialChars; ///< the text can be written otherwise, but not with special characters off
-        QString message;        ///< tells the user, with the other way to write it if there is one
+        QString message;        ///< for the user, with the other way to write it if there is one
     };
     [[nodiscard]] std::optional<Unkept> unkeptText(bool replacing) const;
 

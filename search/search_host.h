@@ -9,14 +9,14 @@
 
 namespace tolvo {
 
-/// The list of a Find All, one line per hit with a number: position from 0 times 10000 plus the length.
+/// The list of a Find All, one line per hit with its packed location (result_lines.h).
 class SearchResults {
   public:
     virtual ~SearchResults() = default;
     virtual void clear() = 0;
     virtual void add(const QString &line, qint32 location) = 0;
     virtual void setCaption(const QString &caption) = 0;
-    /// Modal.
+    /// Shows the list, modally: it returns once the list is closed.
     virtual void show() = 0;
 };
 

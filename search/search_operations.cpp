@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The operations by their fixed names, with a flag for each choice. The program itself makes requests.
+// The operations by their fixed names, with a flag for each choice. All but translateWildcardsToRegExp live
+// for their names alone: the program itself makes requests.
 #include "search/CSearch.h"
 
 #include "search/escaped_text.h"
@@ -144,12 +145,6 @@ void CSearch::RegExpReplaceAll(const QString &pattern, QString replace, bool mat
 QString CSearch::translateWildcardsToRegExp(const QString &pattern, bool specialChars,
                                             const WildcardOptions &options) {
     return translated(wildcardRequest(pattern, specialChars, false, options)).shown;
-}
-
-QString CSearch::translateSpecialChars(QString &text, bool crlf) {
-    QString result;
-    reported("replaceHex", [&] { result = unescaped(text, crlf); });
-    return text = result;
 }
 
 QString CSearch::replaceHex(QString &text, QStringView prefix, int digits) {

@@ -35,7 +35,7 @@ struct SearchRequest {
     QString decimalSep = QStringLiteral(".");
     QString groupingSep = QStringLiteral(",");
 
-    /// What Search and Replace do: `replaceAll` tells the two ways of replacing apart.
+    /// What Search and Replace do: `replaceAll` chooses between the two ways of replacing.
     [[nodiscard]] SearchVerb verb(bool replacing) const {
         if (!replacing)
             return SearchVerb::Search;

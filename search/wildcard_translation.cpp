@@ -86,7 +86,7 @@ class WildcardTranslator {
         m_out.compiled += compiled;
     }
     [[nodiscard]] char16_t next() const { return m_at + 1 < m_in.size() ? m_in[m_at + 1].unicode() : u'\0'; }
-    /// One character and what closes its group: by itself, or with a star or plus behind it, which is used
+    /// One character and what closes its group: by itself, or with a star or plus after it, which is used
     /// up.
     void repeatable(QStringView character, QStringView one, QStringView star, QStringView plus) {
         const bool repeated = next() == u'*' || next() == u'+';
@@ -143,7 +143,7 @@ void WildcardTranslator::wildcard() {
     }
 }
 
-/// The star or plus behind the "]" repeats the set and is then a wildcard of its own besides.
+/// The star or plus after the "]" repeats the set and is then a wildcard of its own besides.
 void WildcardTranslator::bracket() {
     const qsizetype end = m_in.indexOf(u']', m_at);
     if (end < 0) {

@@ -23,10 +23,12 @@ struct WildcardTranslation {
     bool bracketMissing = false; ///< a "[" without its "]": both are empty
 };
 
+/// The expression of a wildcard pattern. `specialChars`: "\n", "\t", "\xHH" and "\uHHHH" are escapes in it.
+///   "a?" is shown as "a(.)"
 [[nodiscard]] WildcardTranslation translateWildcards(QStringView pattern, bool specialChars,
                                                      const WildcardOptions &options);
 
-/// What the user is told about wildcards. Line ends stand in it as backslash and n.
+/// The help about wildcards for the user. Line ends stand in it as backslash and n.
 extern const QStringView wildcardHelp;
 
 } // namespace tolvo

@@ -39,7 +39,7 @@ void modMain::start() {
     createSession();
     const ProgramOptions options = loadOptions(m_services.store, m_session->currentFont());
     m_session->useTextBox(options.wordWrap);
-    oTools = Catalogue::read(sAppPath(m_services.programFolder) + QStringLiteral("Tools.dat"));
+    oTools = Catalogue::read(sAppPath(m_services.programFolder) + Catalogue::fileName);
     oToolbox.init(oTools.panelItems());
     loadPowerButtons();
     if (options.showTips)

@@ -118,8 +118,8 @@ class CSpellingErrors {
     [[nodiscard]] CSpellingError &Item(const QString &key) const;
     void Remove(qsizetype index);
     void Remove(const QString &key);
-    void RemoveAll();
     [[nodiscard]] qsizetype Count() const { return m_items.size(); }
+    void RemoveAll(); ///< lives for its fixed name alone
 
     [[nodiscard]] auto begin() const { return m_items.cbegin(); }
     [[nodiscard]] auto end() const { return m_items.cend(); }
@@ -132,7 +132,7 @@ class CSpellingErrors {
     QHash<const CSpellingError *, QString> m_keyOf;
 };
 
-/// True if an error of the list starts at `position`.
+/// True if an error of the list starts at `position`. It lives for its fixed name alone.
 [[nodiscard]] bool errorAtPosition(qsizetype position, const CSpellingErrors &errors);
 
 } // namespace tolvo

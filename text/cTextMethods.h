@@ -59,11 +59,6 @@ class cTextMethods {
     ///   atEndOfWord(u"abc", 2) is false, atEndOfWord(u"abc", 3) is true
     [[nodiscard]] bool atEndOfWord(QStringView text, qsizetype position) const;
 
-    /// True if the list holds the word between two commas, in any case. The first and the last entry of a
-    /// list without a comma at both ends are never found.
-    ///   IsInList(u"B", u",a,b,") is true, IsInList(u"a", u"a,b") is false
-    [[nodiscard]] bool IsInList(QStringView word, QStringView list) const;
-
     /// The replacement with the capitals of the text that it replaces, the model: all upper case if the model
     /// starts with two capitals, an upper-case first character if it starts with one, no change otherwise.
     ///   smartMatch(u"Hello", u"world") == u"World", smartMatch(u"HELLO", u"world") == u"WORLD"
@@ -106,22 +101,9 @@ class cTextMethods {
     ///   TrimTrail(u" a \t|\u00A0|b\r|") == u" a||b|"
     [[nodiscard]] QString TrimTrail(QStringView text) const;
 
-    /// Removes white space at the start of the whole text, blank lines included.
-    ///   LTrimWhiteSpace(u" ||\t\u00A0a |") == u"a |"
-    [[nodiscard]] QString LTrimWhiteSpace(QStringView text) const;
-
     /// Removes white space at both ends of each line. Blank lines become empty and stay.
     ///   TrimWhiteSpace(u"\t\u00A0 | a b\u00A0|") == u"|a b|"
     [[nodiscard]] QString TrimWhiteSpace(QStringView text) const;
-
-    /// Removes stop characters and closing brackets at the end of the whole text; anything else, a blank
-    /// included, ends the removal.
-    ///   TrimStopChars(u".a.?)]} ,;:!") == u".a.?)]} "
-    [[nodiscard]] QString TrimStopChars(QStringView text) const;
-
-    /// Removes quote marks, straight and curly, at both ends of the whole text.
-    ///   TrimQuotes(u"\"‘a'b”’") == u"a'b"
-    [[nodiscard]] QString TrimQuotes(QStringView text) const;
 
     /// Reduces each run of blanks inside a line to one, or to none beside a TAB, and removes white space at
     /// the line's end. The indentation stays. All no-break spaces become blanks first. Blank lines become
@@ -273,6 +255,26 @@ class cTextMethods {
     ///   statistics(u"a b. c d?|", {}) gives 22 bytes, 9 characters, 6 printable, 4 words, 2 lines, 1
     ///   paragraph, 2 sentences, "2 words" a sentence
     [[nodiscard]] TextStatistics statistics(QStringView fullText, QStringView selection) const;
+
+    // What lives for a fixed name alone: the program calls what these are made of.
+
+    /// Removes white space at the start of the whole text, blank lines included.
+    ///   LTrimWhiteSpace(u" ||\t\u00A0a |") == u"a |"
+    [[nodiscard]] QString LTrimWhiteSpace(QStringView text) const;
+
+    /// Removes stop characters and closing brackets at the end of the whole text; anything else, a blank
+    /// included, ends the removal.
+    ///   TrimStopChars(u".a.?)]} ,;:!") == u".a.?)]} "
+    [[nodiscard]] QString TrimStopChars(QStringView text) const;
+
+    /// Removes quote marks, straight and curly, at both ends of the whole text.
+    ///   TrimQuotes(u"\"‘a'b”’") == u"a'b"
+    [[nodiscard]] QString TrimQuotes(QStringView text) const;
+
+    /// True if the list holds the word between two commas, in any case. The first and the last entry of a
+    /// list without a comma at both ends are never found.
+    ///   IsInList(u"B", u",a,b,") is true, IsInList(u"a", u"a,b") is false
+    [[nodiscard]] bool IsInList(QStringView word, QStringView list) const;
 
   private:
     TextHost &m_host;

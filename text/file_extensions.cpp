@@ -22,15 +22,14 @@ const QSet<QString> &FileExtensions::systemExtensions() const {
 }
 
 void FileExtensions::setUserExtensions(const QStringList &extensions) {
-    m_user = extensions;
-    m_userSet.clear();
+    m_user.clear();
     for (const QString &extension : extensions)
-        m_userSet.insert(extension.toCaseFolded());
+        m_user.insert(extension.toCaseFolded());
 }
 
 bool FileExtensions::IsRegisteredExtension(const QString &extension) const {
     const QString folded = extension.toCaseFolded();
-    return !folded.isEmpty() && (m_userSet.contains(folded) || systemExtensions().contains(folded));
+    return !folded.isEmpty() && (m_user.contains(folded) || systemExtensions().contains(folded));
 }
 
 bool FileExtensions::isSystemExtension(const QString &extension) const {

@@ -18,8 +18,6 @@ class FileExtensions {
 
     /// Replaces the user's list.
     void setUserExtensions(const QStringList &extensions);
-    /// The user's list as it was set.
-    [[nodiscard]] const QStringList &userExtensions() const { return m_user; }
 
     /// True for an extension (without its full stop) of either list, in any case; false for the empty one.
     ///   IsRegisteredExtension("DOC") is true
@@ -31,8 +29,7 @@ class FileExtensions {
     [[nodiscard]] const QSet<QString> &systemExtensions() const;
 
     QString m_file;
-    QStringList m_user;
-    QSet<QString> m_userSet;
+    QSet<QString> m_user;
     mutable std::optional<QSet<QString>> m_system;
 };
 

@@ -141,14 +141,6 @@ QStringView WordAfter(QStringView text, qsizetype position, qsizetype last, bool
     return text.sliced(position - 1, end - position);
 }
 
-bool NoLettersBetween(QStringView text, qsizetype from, qsizetype to) {
-    for (qsizetype position = from; position <= to; ++position) {
-        if (isLetterUnit(unitAt(text, position)))
-            return false;
-    }
-    return true;
-}
-
 void AddMessage(QString &list, const QString &message) {
     if (!list.isEmpty())
         list += u"\r\n";

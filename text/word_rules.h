@@ -78,10 +78,6 @@ class WordList {
 ///   WordAfter(u"don't go", 1, 8, true) == u"don't", WordAfter(u"don't go", 1, 2, true) == u"do"
 [[nodiscard]] QStringView WordAfter(QStringView text, qsizetype position, qsizetype last, bool hyphenBreaks);
 
-/// True if no character from position `from` to position `to` is a letter; true too if `from` is above `to`.
-///   NoLettersBetween(u"a 1 b", 2, 4) is true, NoLettersBetween(u"a 1 b", 2, 5) is false
-[[nodiscard]] bool NoLettersBetween(QStringView text, qsizetype from, qsizetype to);
-
 /// Adds a line to a list of messages: to "a" it adds "b" as "a|b". The first line has no line end before it.
 void AddMessage(QString &list, const QString &message);
 

@@ -15,7 +15,7 @@ namespace {
 
 tolvo::Catalogue catalogueBeside(const QString &folder) {
     try {
-        return tolvo::Catalogue::read(tolvo::sAppPath(folder) + QStringLiteral("Tools.dat"));
+        return tolvo::Catalogue::read(tolvo::sAppPath(folder) + tolvo::Catalogue::fileName);
     } catch (const tolvo::Failure &) {
         return {};
     }

@@ -33,7 +33,7 @@ QString blockName(int code) {
     return QString::fromLatin1(name).replace(u'_', u' ');
 }
 
-/// The character that a query tells by itself or by its code; 0 if it does neither.
+/// The character that a query is, or whose code it is; 0 for any other query.
 char32_t characterMeant(const QString &query) {
     const QList<uint> units = query.toUcs4();
     if (units.size() == 1)

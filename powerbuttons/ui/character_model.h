@@ -16,7 +16,7 @@ class CharacterModel : public QAbstractTableModel {
 
     void setCharacters(const QList<char32_t> &characters);
     void setFont(const QFont &font);
-    /// The character of a cell, 0 behind the last one.
+    /// The character of a cell, 0 after the last one.
     [[nodiscard]] char32_t at(const QModelIndex &index) const;
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;

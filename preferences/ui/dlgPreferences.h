@@ -38,7 +38,7 @@ class dlgPreferences : public QDialog {
   public:
     dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWidget *parent = nullptr);
 
-    /// Shows the given state on the dialog's controls, without the extensions that the system knows by now.
+    /// Shows the given state on the dialog's controls, without the extensions that the system knows.
     void init(const ProgramOptions &options, const QString &lastCheck);
     /// What the controls say.
     [[nodiscard]] ProgramOptions options() const;

@@ -98,8 +98,6 @@ TEST_F(Checks, wordsAndTheirPlaces) {
     EXPECT_EQ(WordBefore(u"a re-run", 8, true), QStringView(u"run"));
     EXPECT_EQ(WordAfter(u"don't go", 1, 8, true), QStringView(u"don't"));
     EXPECT_EQ(WordAfter(u"don't go", 1, 2, true), QStringView(u"do"));
-    EXPECT_TRUE(NoLettersBetween(u"a 1 b", 2, 4));
-    EXPECT_FALSE(NoLettersBetween(u"a 1 b", 2, 5));
     EXPECT_EQ(Tokens(u"see (e.g. this)", AddressRules({})).WordAt(6), QStringView(u"(e.g."));
 }
 
