@@ -24,7 +24,7 @@ struct NoNetwork : HttpClient {
     HttpReply post(const QByteArray &, const QByteArray &, const QByteArray &) override { return {}; }
 };
 
-struct World : ProofingHost, TextHost {
+struct World : ProofingHost {
     World() {
         qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
         prepareSpelling(services);

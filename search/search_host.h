@@ -20,6 +20,22 @@ class SearchResults {
     virtual void show() = 0;
 };
 
+/// frmSearch, as the session uses it. It is shown without a lock on the main window.
+class SearchWindow {
+  public:
+    virtual ~SearchWindow() = default;
+    /// What its controls hold, as last used.
+    [[nodiscard]] virtual SearchRequest request() = 0;
+    virtual void setSearchText(const QString &text) = 0;
+    virtual void setSpecialChars(bool on) = 0;
+    /// Makes the larger layout if it isn't there.
+    virtual void expandDialog() = 0;
+    /// Shows the window for replacing or for searching only, and puts it in front.
+    virtual void showDialog(bool bReplace) = 0;
+    /// Searches for what the controls hold.
+    virtual void cmdSearch_Click() = 0;
+};
+
 class SearchHost {
   public:
     virtual ~SearchHost() = default;

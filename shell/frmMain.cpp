@@ -6,14 +6,13 @@
 
 namespace tolvo {
 
-frmMain::frmMain(const SessionServices &services, TextBox &txtText1, TextBox &txtTextWW,
-                 SearchResults &results)
+frmMain::frmMain(const SessionServices &services, TextBox &txtText1, TextBox &txtTextWW)
     : oTextMethods(*this,
                    [&extensions = services.extensions](const QString &extension) {
                        return extensions.IsRegisteredExtension(extension);
                    }),
       oUndo(undoHooks()), m_services(services), m_history(oUndo, services.clock), m_txtText1(txtText1),
-      m_txtTextWW(txtTextWW), m_txtCurrent(&txtText1), m_results(results), m_toolSettings(services.store),
+      m_txtTextWW(txtTextWW), m_txtCurrent(&txtText1), m_toolSettings(services.store),
       m_cuts(services.boxes) {
     listenTo(m_txtText1);
     listenTo(m_txtTextWW);
@@ -103,7 +102,7 @@ void frmMain::warn(const QString &text, const QString &title) {
 }
 
 void frmMain::directionChanged(SearchDirection direction) {
-    m_services.windows.search().setDirection(direction);
+    m_services.dialogs.showSearchDirection(direction);
 }
 
 bool frmMain::interrupted() {

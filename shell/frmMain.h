@@ -46,11 +46,9 @@ struct SessionServices {
     FileExtensions &extensions;
     const Catalogue &oTools;
     CPowerButtonCollection &oPowerButtons;
-    SessionWindows &windows;
     SessionView &view;
-    const SpellingServices &spelling;
-    SpellingWalk &spellingWalk;
-    LanguageChooser &languages;
+    SessionDialogs &dialogs;
+    const SpellingServices &spelling; ///< what a spelling check is built on
 };
 
 /// Bits of iShiftState.
@@ -58,10 +56,10 @@ enum ShiftState { Shift = 1, Ctrl = 2, Alt = 4 };
 
 /// Every procedure that an event may call is guarded: a failure inside it is shown as the error report, and
 /// the session goes on. A tool that fails leaves the text as it was.
-class frmMain : private TextHost, private SearchHost, private ProofingHost {
+class frmMain : private SearchHost, private ProofingHost {
   public:
     /// `txtText1` shows lines as they are, `txtTextWW` wraps them. Starts in txtText1.
-    frmMain(const SessionServices &services, TextBox &txtText1, TextBox &txtTextWW, SearchResults &results);
+    frmMain(const SessionServices &services, TextBox &txtText1, TextBox &txtTextWW);
     ~frmMain() override;
     frmMain(const frmMain &) = delete;
     frmMain &operator=(const frmMain &) = delete;
@@ -88,6 +86,8 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     /// Made when first needed.
     [[nodiscard]] CSearch &oSearch();
     [[nodiscard]] const SessionServices &services() const { return m_services; }
+    /// Sets up the eight images of the PowerButtons.
+    void initIcons();
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
     [[nodiscard]] ToolContext toolContext();
     /// How often a tool has warned of something or refused its text so far.
@@ -184,10 +184,10 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     void guarded(const char16_t *procedure, Action &&action);
 
   private:
-    // TextHost, SearchHost, ProofingHost
+    // SearchHost, ProofingHost
     void warn(const QString &text, const QString &title) override;
     void directionChanged(SearchDirection direction) override;
-    [[nodiscard]] SearchResults &results() override { return m_results; }
+    [[nodiscard]] SearchResults &results() override { return m_services.dialogs.searchResults(); }
     [[nodiscard]] bool interrupted() override;
     void processEvents() override;
     [[nodiscard]] const cTextMethods &textMethods() const override { return oTextMethods; }
@@ -222,7 +222,6 @@ class frmMain : private TextHost, private SearchHost, private ProofingHost {
     TextBox &m_txtText1;
     TextBox &m_txtTextWW;
     TextBox *m_txtCurrent;
-    SearchResults &m_results;
     std::unique_ptr<CSearch> m_search;
     ToolSettingsMemory m_toolSettings;
     QString m_status;

@@ -45,17 +45,12 @@ class SessionWindow {
 
     [[nodiscard]] virtual TextBox &txtText1() = 0;
     [[nodiscard]] virtual TextBox &txtTextWW() = 0;
-    [[nodiscard]] virtual SearchResults &searchResults() = 0;
-    [[nodiscard]] virtual SessionWindows &windows() = 0;
     [[nodiscard]] virtual SessionView &view() = 0;
-    [[nodiscard]] virtual SpellingWalk &spellingWalk() = 0;
-    [[nodiscard]] virtual LanguageChooser &languages() = 0;
+    [[nodiscard]] virtual SessionDialogs &dialogs() = 0;
 
     /// The session exists now; from here on events may reach it. The panel of tools is still empty: `toolbox`
     /// gets its hooks here (its sound is set by the run).
     virtual void attach(frmMain &session, cToolbox &toolbox) = 0;
-    /// Paints the icons of the eight PowerButtons.
-    virtual void initIcons() = 0;
     /// True if the clipboard's text is to be taken once the window is shown: the platform gives it only to a
     /// window that has the focus, or its owner lets us wait.
     [[nodiscard]] virtual bool takesClipboardLater() { return false; }

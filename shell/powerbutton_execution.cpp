@@ -76,8 +76,9 @@ void frmMain::runActions(const QList<std::shared_ptr<CAction>> &actions,
 void frmMain::runPowerButton(int index) {
     if (bRightButton) {
         refreshPowerButtons();
-        m_services.windows.editPowerButton(index);
+        m_services.dialogs.editPowerButton(index);
         m_services.view.powerButtonChanged(index);
+        refreshPowerButtons(); // what others have changed meanwhile
         txtCurrent().setFocus();
         return;
     }
@@ -104,6 +105,11 @@ void frmMain::runPowerButton(int index) {
     }
     sLastTool = QStringLiteral("PB%1").arg(index);
     txtCurrent().setFocus();
+}
+
+void frmMain::initIcons() {
+    for (int index = 0; index < CPowerButtonCollection::buttonCount; ++index)
+        m_services.view.powerButtonChanged(index);
 }
 
 void frmMain::refreshPowerButtons() {

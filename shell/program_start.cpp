@@ -49,7 +49,7 @@ void modMain::start() {
     m_clipboardLater = m_window->takesClipboardLater();
     if (!m_clipboardLater)
         m_session->takeClipboard();
-    m_window->initIcons();
+    m_session->initIcons();
     if (!m_clipboardLater)
         m_session->beginWithText();
     showTroubleOfStore();
@@ -63,21 +63,18 @@ void modMain::windowShown() {
 
 void modMain::createSession() {
     m_window = m_makeWindow();
-    m_session =
-        std::make_unique<frmMain>(SessionServices{.store = m_services.store,
-                                                  .clipboard = m_services.clipboard,
-                                                  .boxes = m_services.boxes,
-                                                  .sound = m_services.sound,
-                                                  .clock = m_services.clock,
-                                                  .extensions = m_services.extensions,
-                                                  .oTools = oTools,
-                                                  .oPowerButtons = oPowerButtons,
-                                                  .windows = m_window->windows(),
-                                                  .view = m_window->view(),
-                                                  .spelling = m_services.spelling,
-                                                  .spellingWalk = m_window->spellingWalk(),
-                                                  .languages = m_window->languages()},
-                                  m_window->txtText1(), m_window->txtTextWW(), m_window->searchResults());
+    m_session = std::make_unique<frmMain>(SessionServices{.store = m_services.store,
+                                                          .clipboard = m_services.clipboard,
+                                                          .boxes = m_services.boxes,
+                                                          .sound = m_services.sound,
+                                                          .clock = m_services.clock,
+                                                          .extensions = m_services.extensions,
+                                                          .oTools = oTools,
+                                                          .oPowerButtons = oPowerButtons,
+                                                          .view = m_window->view(),
+                                                          .dialogs = m_window->dialogs(),
+                                                          .spelling = m_services.spelling},
+                                          m_window->txtText1(), m_window->txtTextWW());
     m_window->attach(*m_session, oToolbox);
     oToolbox.setSound([this] {
         if (m_session->bSounds)

@@ -13,7 +13,7 @@ constexpr int longestSeed = 24; ///< a longer selection is text to work on, not 
 } // namespace
 
 void frmMain::OpenSearchDialog(bool bReplace) {
-    SearchWindow &window = m_services.windows.search();
+    SearchWindow &window = m_services.dialogs.searchWindow();
     const int length = txtCurrent().SelLength();
     if (length >= 1 && length <= longestSeed) {
         const EscapedText seed = escapedControls(txtCurrent().SelText());
@@ -21,15 +21,15 @@ void frmMain::OpenSearchDialog(bool bReplace) {
         if (seed.specialChars)
             window.setSpecialChars(true);
     }
-    if (window.specialChars())
+    if (window.request().specialChars)
         window.expandDialog();
     window.showDialog(bReplace);
 }
 
 void frmMain::FindAgain() {
     guarded(u"FindAgain", [this] {
-        SearchWindow &window = m_services.windows.search();
-        if (window.searchText().isEmpty())
+        SearchWindow &window = m_services.dialogs.searchWindow();
+        if (window.request().find.isEmpty())
             OpenSearchDialog(false);
         else
             window.cmdSearch_Click();
@@ -37,7 +37,7 @@ void frmMain::FindAgain() {
 }
 
 void frmMain::runLastSearch(bool bReplace) {
-    const SearchRequest request = m_services.windows.search().request();
+    const SearchRequest request = m_services.dialogs.searchWindow().request();
     oSearch().run(request.verb(bReplace), request, SearchedBy::PowerButton);
 }
 

@@ -32,7 +32,7 @@ void frmMain::ExtendSelectionToLines() {
 
 void showStatistics(frmMain &session) {
     TextBox &box = session.txtCurrent();
-    session.services().windows.showStatistics(session.oTextMethods.statistics(box.Text(), box.SelText()));
+    session.services().dialogs.showStatistics(session.oTextMethods.statistics(box.Text(), box.SelText()));
 }
 
 void clearSelection(const ToolContext &context) {

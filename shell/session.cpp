@@ -150,12 +150,12 @@ bool frmMain::queryUnload() {
 }
 
 CloseAnswer frmMain::askAboutChanges() {
-    return m_services.windows.confirmClose(QStringLiteral("Changes have been made to the text"));
+    return m_services.dialogs.confirmClose(QStringLiteral("Changes have been made to the text"));
 }
 
 void frmMain::hideWindow() {
     bSessionOver = true;
-    m_services.view.hide();
+    m_services.view.endSession();
 }
 
 // Undo
@@ -215,7 +215,7 @@ void frmMain::imgOptions_Click() {
         if (bRightButton)
             swapFonts();
         else
-            m_services.windows.showOptions();
+            m_services.dialogs.showOptions();
     });
 }
 
@@ -238,7 +238,7 @@ Font frmMain::currentFont() const {
 void frmMain::imgAbout_Click() {
     guarded(u"imgAbout_Click", [this] {
         setStatus({});
-        m_services.windows.showAbout();
+        m_services.dialogs.showAbout();
     });
 }
 

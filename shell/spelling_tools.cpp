@@ -18,7 +18,7 @@ int frmMain::languageOfCheck(const CAction *action) {
         return toInteger(action->Param(QStringLiteral("LangID")));
     if (bRightButton)
         return getOrDefault(m_services.store, settingKeys.spelling.langID);
-    return m_services.languages.GetLangID(languageCancelled, true);
+    return m_services.dialogs.GetLangID(languageCancelled, true);
 }
 
 void frmMain::checkSpelling(bool grammar, const CAction *action) {
@@ -38,7 +38,7 @@ void frmMain::runSpellingCheck(bool grammar, const CAction *action) {
 
     const QString before = txtCurrent().Text();
     QString after = before;
-    Proofing proofing(m_services.spelling, *this, m_services.spellingWalk);
+    Proofing proofing(m_services.spelling, *this, m_services.dialogs);
     const bool complete =
         grammar ? proofing.CheckGrammar(after, language) : proofing.CheckSpelling(after, language);
     bool unchanged = false;

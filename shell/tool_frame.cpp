@@ -97,7 +97,7 @@ std::optional<ToolSettings> settingsFor(frmMain &session, const ToolSettings &de
     if (action)
         return settingsFromAction(defaults, action->params());
     ToolSettings &settings = session.toolSettings().get(defaults);
-    if (!session.bRightButton && !session.services().windows.toolDialogs().ask(settings))
+    if (!session.bRightButton && !session.services().dialogs.askToolSettings(settings))
         return std::nullopt;
     return settings;
 }

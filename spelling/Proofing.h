@@ -3,6 +3,7 @@
 #pragma once
 
 #include "spelling/spelling_services.h"
+#include "text/text_host.h"
 
 #include <QString>
 
@@ -11,11 +12,8 @@ namespace tolvo {
 class cTextMethods;
 
 /// The session around a check: where the check shows its status, and the text engine it uses.
-class ProofingHost {
+class ProofingHost : public TextHost {
   public:
-    virtual ~ProofingHost() = default;
-    /// Replaces the status text.
-    virtual void setStatus(const QString &text) = 0;
     /// Lets pending window events run.
     virtual void processEvents() {}
     [[nodiscard]] virtual const cTextMethods &textMethods() const = 0;
@@ -28,15 +26,6 @@ class SpellingWalk {
     /// Checks `text`, whose lines end in CR alone, and lets the user walk through the errors. True if `text`
     /// holds the corrected text; false if no error was found or the user cancelled.
     virtual bool CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar) = 0;
-};
-
-/// Shows the list of languages.
-class LanguageChooser {
-  public:
-    virtual ~LanguageChooser() = default;
-    /// The number of the chosen language, -2 if the user cancelled. `LangID` is selected at first, where -2
-    /// stands for the stored language. `save` stores the choice.
-    virtual int GetLangID(int LangID, bool save) = 0;
 };
 
 /// Runs one check: the walk through the errors, or Word's own dialog. A failure in it is reported as

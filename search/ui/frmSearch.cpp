@@ -39,10 +39,6 @@ void frmSearch::setSearchText(const QString &text) {
     m_controls.cmbSearchText->setEditText(text);
 }
 
-QString frmSearch::searchText() const {
-    return m_controls.cmbSearchText->currentText();
-}
-
 void frmSearch::setSpecialChars(bool on) {
     m_form.request.specialChars = on;
     applyRules();
@@ -233,8 +229,9 @@ void frmSearch::ConvertToRegExp() {
     if (m_form.request.mode != SearchMode::Wildcard)
         return;
     reportFailures(m_boxes, QStringLiteral("frmSearch"), QStringLiteral("ConvertToRegExp"), [this] {
-        setSearchText(m_search.translateWildcardsToRegExp(searchText(), m_form.request.specialChars,
-                                                          m_form.request.wildcardOptions()));
+        const SearchRequest wildcards = request();
+        setSearchText(m_search.translateWildcardsToRegExp(wildcards.find, wildcards.specialChars,
+                                                          wildcards.wildcardOptions()));
         m_form.request.mode = SearchMode::RegularExpression;
         applyRules();
     });

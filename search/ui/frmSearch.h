@@ -14,30 +14,25 @@ class SettingsStore;
 
 /// The window for search and replace: not modal beside the main window, modal to collect the settings of a
 /// search that runs later.
-class frmSearch final : public QDialog {
+class frmSearch final : public QDialog, public SearchWindow {
     Q_OBJECT
 
   public:
     frmSearch(CSearch &oSearch, SettingsStore &store, MessageBoxes &boxes, QWidget *parent);
     ~frmSearch() override;
 
-    void setSearchText(const QString &text);
-    [[nodiscard]] QString searchText() const;
-    void setSpecialChars(bool on);
-    [[nodiscard]] bool specialChars() const { return m_form.request.specialChars; }
-    void setDirection(SearchDirection direction);
+    // SearchWindow
+    [[nodiscard]] SearchRequest request() override;
+    void setSearchText(const QString &text) override;
+    void setSpecialChars(bool on) override;
+    void expandDialog() override;
+    void showDialog(bool bReplace) override;
+    void cmdSearch_Click() override;
 
-    /// Makes the larger layout if it isn't there.
-    void expandDialog();
-    /// Shows the window for replacing or for searching only, and puts it in front.
-    void showDialog(bool bReplace);
+    void setDirection(SearchDirection direction);
     /// Fills the form from `settings`, lets the user change it, and writes it back. False, and `settings` as
     /// they were, if the user cancelled.
     bool getSettings(QString &settings, bool bReplace);
-    void cmdSearch_Click();
-    /// What the controls hold.
-    [[nodiscard]] SearchRequest request();
-
     /// Writes the state and the lists to the store.
     void saveState();
 

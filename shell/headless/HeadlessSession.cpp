@@ -23,12 +23,10 @@ HeadlessSession::HeadlessSession(SettingsStore &store, const Catalogue &catalogu
                .extensions = fileExtensions,
                .oTools = catalogue,
                .oPowerButtons = oPowerButtons,
-               .windows = windows,
                .view = windows,
-               .spelling = m_spelling,
-               .spellingWalk = windows,
-               .languages = windows},
-              txtText1, txtTextWW, windows) {
+               .dialogs = windows,
+               .spelling = m_spelling},
+              txtText1, txtTextWW) {
     for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number)
         oPowerButtons.Add(std::make_shared<CPowerButton>(), number);
     session.useWordOptions(loadWordOptions(store));

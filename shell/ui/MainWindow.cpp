@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/MainWindow.h"
 
-#include "base/application.h"
-#include "platform/desktop/plain_tool_tip.h"
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
 #include "shell/ui/window_size.h"
 
-#include <QAction>
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QLabel>
-#include <QPushButton>
 #include <QTimer>
-#include <QToolButton>
 
 namespace tolvo {
 
@@ -34,32 +28,6 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox) {
 
 PlainTextBox &MainWindow::shownTextBox() {
     return m_txtTextWW->isHidden() ? *m_txtText1 : *m_txtTextWW;
-}
-
-void MainWindow::showStatus(const QString &text) {
-    m_status = text;
-    showElidedStatus();
-}
-
-void MainWindow::showElidedStatus() {
-    m_labStatus->setText(
-        m_labStatus->fontMetrics().elidedText(m_status, Qt::ElideRight, m_labStatus->width()));
-    m_labStatus->setToolTip(m_labStatus->text() == m_status ? QString() : plainToolTip(m_status));
-    m_labStatus->setAccessibleName(m_status.isEmpty() ? tr("Status") : m_status);
-}
-
-void MainWindow::showUndoRedo(bool undoEnabled, bool redoEnabled) {
-    m_cmdUndo->setEnabled(undoEnabled);
-    m_cmdRedo->setEnabled(redoEnabled);
-    m_undoAction->setEnabled(undoEnabled);
-    m_redoAction->setEnabled(redoEnabled);
-}
-
-void MainWindow::showTextBox(bool wrapped) {
-    // Show before hide: a window without any text box would give the focus to a button for a moment.
-    (wrapped ? m_txtTextWW : m_txtText1)->show();
-    (wrapped ? m_txtText1 : m_txtTextWW)->hide();
-    m_imgWordwrap->setChecked(wrapped);
 }
 
 void MainWindow::delay(int milliseconds) {

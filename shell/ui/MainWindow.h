@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The main window: lays out its controls and passes what the user does to the session. It decides nothing.
+// The main window: lays out its controls, shows what the session says and passes on what the user does. It
+// decides nothing.
 #pragma once
 
 #include "platform/desktop/PlainTextBox.h"
 #include "shell/keyboard.h"
+#include "shell/session_windows.h"
 #include "shell/ui/panel_view.h"
 #include "shell/ui/power_button_bar.h"
 
@@ -19,13 +21,15 @@ class QToolButton;
 
 namespace tolvo {
 
+class EscapeWatch;
 class frmMain;
 class cToolbox;
 
-class MainWindow : public QWidget {
+class MainWindow : public QWidget, public SessionView {
     Q_OBJECT
   public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    /// `escape` notes the key Esc during long searches.
+    explicit MainWindow(EscapeWatch &escape);
 
     /// From here on the controls reach the session.
     void attach(frmMain &session, cToolbox &toolbox);
@@ -34,17 +38,24 @@ class MainWindow : public QWidget {
     [[nodiscard]] PlainTextBox &txtTextWW() { return *m_txtTextWW; }
     [[nodiscard]] PlainTextBox &shownTextBox();
     [[nodiscard]] PanelView &panel() { return *m_panel; }
-    [[nodiscard]] PowerButtonBar &powerButtons() { return *m_powerButtons; }
 
-    void showStatus(const QString &text);
-    void showUndoRedo(bool undoEnabled, bool redoEnabled);
-    void showTextBox(bool wrapped);
+    // SessionView
+    void statusChanged(const QString &text) override;
+    void undoRedoChanged(bool undoEnabled, bool redoEnabled) override;
+    void showTextBox(bool wrapped) override;
+    void setTextFont(bool wrapped, const Font &font) override;
+    [[nodiscard]] Font textFont(bool wrapped) const override;
+    void endSession() override;
+    void bringToFront() override;
+    void processEvents() override;
+    void powerButtonChanged(int index) override;
+    [[nodiscard]] bool interrupted() override;
 
     /// Waits while window events go on (the panel's animation).
     static void delay(int milliseconds);
 
     std::function<void()> onActivated; ///< each time the window becomes active
-    std::function<void()> onClosed;    ///< the close box was used and the session agreed
+    std::function<void()> onClosed;    ///< the session is over
 
   protected:
     void closeEvent(QCloseEvent *event) override;
@@ -71,6 +82,7 @@ class MainWindow : public QWidget {
     bool leaveTextBox(const QKeyEvent &event);
     bool keyPressed(const QKeyEvent &event, bool inTextBox);
 
+    EscapeWatch &m_escape;
     frmMain *m_session = nullptr;
     cToolbox *m_toolbox = nullptr;
     std::optional<KeyboardCommands> m_keys;

@@ -53,8 +53,8 @@ QHBoxLayout *row(QWidget *parent) {
 
 } // namespace
 
-MainWindow::MainWindow(QWidget *parent)
-    : QWidget(parent), m_panel(new PanelView(this)), m_powerButtons(new PowerButtonBar(this)) {
+MainWindow::MainWindow(EscapeWatch &escape)
+    : m_escape(escape), m_panel(new PanelView(this)), m_powerButtons(new PowerButtonBar(this)) {
     QAccessible::installFactory(describeMainWindow);
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(applicationTitle() + u' ' + applicationVersion());
@@ -77,7 +77,7 @@ MainWindow::MainWindow(QWidget *parent)
     columns->setContentsMargins(0, 0, 4, 0);
     arrangeTabOrder();
     offerUndoInTextBoxes();
-    showUndoRedo(false, false);
+    undoRedoChanged(false, false);
     showTextBox(false);
     const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     resize(startSize.boundedTo(screen()->availableSize() - titleBar));

@@ -9,6 +9,7 @@
 #include "search/ui/frmSearchResults.h"
 #include "shell/apply_options.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/dlgConfirmClose.h"
 #include "spelling/ui/dlgDicQuickList.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
@@ -21,19 +22,13 @@
 namespace tolvo {
 
 DesktopDialogs::DesktopDialogs(const RunServices &services, MainWindow &parent)
-    : m_services(services), m_parent(parent), m_options(services) {
-    m_options.onConfigureProvider = [this](int provider) { configureProvider(provider); };
+    : m_services(services), m_parent(parent) {
     m_results = std::make_unique<SearchResultsWindow>(
         [this] { return toQFont(m_session->currentFont()); },
         [this]() -> TextBox & { return m_session->txtCurrent(); }, &m_parent);
 }
 
 DesktopDialogs::~DesktopDialogs() = default;
-
-void DesktopDialogs::attach(frmMain &session) {
-    m_session = &session;
-    m_options.attach(session);
-}
 
 void DesktopDialogs::unload() {
     if (m_search)
@@ -49,13 +44,6 @@ SearchResults &DesktopDialogs::searchResults() {
     return *m_results;
 }
 
-frmSearch &DesktopDialogs::searchForm() {
-    if (!m_search)
-        m_search =
-            std::make_unique<frmSearch>(m_session->oSearch(), m_services.store, m_services.boxes, &m_parent);
-    return *m_search;
-}
-
 dlgDicQuickList &DesktopDialogs::languageForm() {
     if (!m_languageDialog) {
         m_languageDialog = std::make_unique<dlgDicQuickList>(m_services.spelling, &m_parent);
@@ -68,24 +56,26 @@ dlgDicQuickList &DesktopDialogs::languageForm() {
     return *m_languageDialog;
 }
 
-bool DesktopDialogs::LateSpelling::CheckSpelling(ProofingHost &host, QString &text, int LangID,
-                                                 bool grammar) {
-    if (!m_owner.m_spellingDialog)
-        m_owner.m_spellingDialog =
-            std::make_unique<dlgSpelling>(m_owner.m_services.spelling, &m_owner.m_parent);
-    const bool changed = m_owner.m_spellingDialog->CheckSpelling(host, text, LangID, grammar);
-    m_owner.takeKeysBack();
+bool DesktopDialogs::CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar) {
+    if (!m_spellingDialog)
+        m_spellingDialog = std::make_unique<dlgSpelling>(m_services.spelling, &m_parent);
+    const bool changed = m_spellingDialog->CheckSpelling(host, text, LangID, grammar);
+    takeFocusBack();
     return changed;
 }
 
-int DesktopDialogs::LateLanguages::GetLangID(int LangID, bool save) {
-    return m_owner.languageForm().GetLangID(LangID, save);
+int DesktopDialogs::GetLangID(int LangID, bool save) {
+    return languageForm().GetLangID(LangID, save);
 }
 
-/// Behind dialogs that may end with a question of their own: a window manager that sees both windows go at
-/// the same moment can leave the keys with no window at all.
-void DesktopDialogs::takeKeysBack() {
+/// After dialogs that may end with a question of their own: a window manager that sees both windows go at the
+/// same moment can leave the focus with no window at all.
+void DesktopDialogs::takeFocusBack() {
     m_parent.activateWindow();
+}
+
+CloseAnswer DesktopDialogs::confirmClose(const QString &prompt) {
+    return dlgConfirmClose(&m_parent).MsgBox(prompt);
 }
 
 void DesktopDialogs::showOptions() {
@@ -94,8 +84,10 @@ void DesktopDialogs::showOptions() {
 }
 
 void DesktopDialogs::prepareOptions() {
-    if (!m_preferences)
-        m_preferences = std::make_unique<dlgPreferences>(m_options, m_services.boxes, &m_parent);
+    if (!m_preferences) {
+        m_options.emplace(m_services, *m_session, [this](int provider) { configureProvider(provider); });
+        m_preferences = std::make_unique<dlgPreferences>(*m_options, m_services.boxes, &m_parent);
+    }
     const QString startDate = textOf(m_services.store, settingKeys.statistics.startDate);
     m_preferences->init(presentOptions(*m_session), lastCheckText(startDate, m_services.clock.now()));
 }
@@ -130,43 +122,17 @@ void DesktopDialogs::editPowerButton(int index) {
     }
     m_powerButtonEditor->init(index);
     m_powerButtonEditor->exec();
-    takeKeysBack();
+    takeFocusBack();
 }
 
-void DesktopDialogs::setSearchText(const QString &text) {
-    searchForm().setSearchText(text);
+frmSearch &DesktopDialogs::searchWindow() {
+    if (!m_search)
+        m_search =
+            std::make_unique<frmSearch>(m_session->oSearch(), m_services.store, m_services.boxes, &m_parent);
+    return *m_search;
 }
 
-QString DesktopDialogs::searchText() {
-    return searchForm().searchText();
-}
-
-void DesktopDialogs::setSpecialChars(bool on) {
-    searchForm().setSpecialChars(on);
-}
-
-bool DesktopDialogs::specialChars() {
-    return searchForm().specialChars();
-}
-
-void DesktopDialogs::expandDialog() {
-    searchForm().expandDialog();
-}
-
-void DesktopDialogs::showDialog(bool bReplace) {
-    searchForm().showDialog(bReplace);
-}
-
-void DesktopDialogs::cmdSearch_Click() {
-    searchForm().cmdSearch_Click();
-}
-
-SearchRequest DesktopDialogs::request() {
-    return searchForm().request();
-}
-
-void DesktopDialogs::setDirection(SearchDirection direction) {
-    // A PowerButton's search needs no window: what it says about the next direction then reaches nobody.
+void DesktopDialogs::showSearchDirection(SearchDirection direction) {
     if (m_search)
         m_search->setDirection(direction);
 }

@@ -14,11 +14,8 @@ const QString ownName = QStringLiteral("dlgPreferences");
 }
 
 void DesktopOptions::apply(const ProgramOptions &options) {
-    reportFailures(m_services.boxes, ownName, QStringLiteral("cmdApply_Click"), [&] {
-        applyOptions(*m_session, options);
-        if (onApplied)
-            onApplied();
-    });
+    reportFailures(m_services.boxes, ownName, QStringLiteral("cmdApply_Click"),
+                   [&] { applyOptions(m_session, options); });
 }
 
 bool DesktopOptions::isSystemExtension(const QString &extension) const {
@@ -47,13 +44,8 @@ void DesktopOptions::exportPrefs(const QString &file, bool powerButtonsOnly) {
 void DesktopOptions::importPrefs(const QString &file) {
     reportFailures(m_services.boxes, ownName, QStringLiteral("ExportPrefs"), [&] {
         importSettings(m_services.store, file);
-        m_session->refreshPowerButtons();
+        m_session.refreshPowerButtons();
     });
-}
-
-void DesktopOptions::configureProvider(int provider) {
-    if (onConfigureProvider)
-        onConfigureProvider(provider);
 }
 
 } // namespace tolvo

@@ -11,9 +11,9 @@ namespace tolvo {
 /// Does what the Options dialog asks for, on the session and the store.
 class DesktopOptions : public OptionsActions {
   public:
-    explicit DesktopOptions(const RunServices &services) : m_services(services) {}
-
-    void attach(frmMain &session) { m_session = &session; }
+    /// `configureProvider` opens the language list of a provider, 0 to 3.
+    DesktopOptions(const RunServices &services, frmMain &session, std::function<void(int)> configureProvider)
+        : m_services(services), m_session(session), m_configureProvider(std::move(configureProvider)) {}
 
     void apply(const ProgramOptions &options) override;
     [[nodiscard]] bool isSystemExtension(const QString &extension) const override;
@@ -21,14 +21,12 @@ class DesktopOptions : public OptionsActions {
     void viewStatistics() override;
     void exportPrefs(const QString &file, bool powerButtonsOnly) override;
     void importPrefs(const QString &file) override;
-    void configureProvider(int provider) override;
-
-    std::function<void()> onApplied;              ///< windows take over the new fonts
-    std::function<void(int)> onConfigureProvider; ///< opens the language list of a provider
+    void configureProvider(int provider) override { m_configureProvider(provider); }
 
   private:
     RunServices m_services;
-    frmMain *m_session = nullptr;
+    frmMain &m_session;
+    std::function<void(int)> m_configureProvider;
 };
 
 } // namespace tolvo

@@ -2,10 +2,7 @@
 #include "shell/ui/desktop_session.h"
 
 #include "platform/desktop/DesktopClipboard.h"
-#include "platform/desktop/EscapeWatch.h"
-#include "platform/desktop/font_conversion.h"
 #include "shell/ui/MainWindow.h"
-#include "shell/ui/dlgConfirmClose.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -20,8 +17,8 @@ constexpr int timeOfACommit = 200; // milliseconds, with a slow disk
 } // namespace
 
 DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &clipboard, EscapeWatch &escape)
-    : m_services(services), m_clipboard(clipboard), m_escape(escape),
-      m_window(std::make_unique<MainWindow>()), m_dialogs(services, *m_window) {
+    : m_services(services), m_clipboard(clipboard), m_window(std::make_unique<MainWindow>(escape)),
+      m_dialogs(services, *m_window) {
     for (PlainTextBox *box : {&m_window->txtText1(), &m_window->txtTextWW()}) {
         box->setLineEnds(clipboard.lineEnds());
         box->readForPaste = [this](bool selection) {
@@ -47,8 +44,8 @@ TextBox &DesktopSession::txtTextWW() {
     return m_window->txtTextWW();
 }
 
-SearchResults &DesktopSession::searchResults() {
-    return m_dialogs.searchResults();
+SessionView &DesktopSession::view() {
+    return *m_window;
 }
 
 void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
@@ -58,11 +55,6 @@ void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
     m_dialogs.attach(session);
     toolbox.setHooks({.rowsChanged = [this, &toolbox] { m_window->panel().showRows(toolbox); },
                       .delay = [](int milliseconds) { MainWindow::delay(milliseconds); }});
-}
-
-void DesktopSession::initIcons() {
-    for (int i = 0; i < CPowerButtonCollection::buttonCount; ++i)
-        powerButtonChanged(i);
 }
 
 bool DesktopSession::takesClipboardLater() {
@@ -96,86 +88,16 @@ void DesktopSession::takeOverPowerButtons() {
 
 void DesktopSession::showModal(const std::function<void()> &onceShown) {
     m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    m_window->bringToFront();
     onceShown();
     QTimer::singleShot(0, m_window.get(), [this] { watchStore(); });
     if (!m_session->bSessionOver)
         m_loop.exec();
-    m_window->QWidget::hide();
+    m_window->hide();
 }
 
 void DesktopSession::unloadForms() {
     m_dialogs.unload();
-}
-
-void DesktopSession::statusChanged(const QString &text) {
-    m_window->showStatus(text);
-}
-
-void DesktopSession::undoRedoChanged(bool undoEnabled, bool redoEnabled) {
-    m_window->showUndoRedo(undoEnabled, redoEnabled);
-}
-
-void DesktopSession::showTextBox(bool wrapped) {
-    m_window->showTextBox(wrapped);
-}
-
-void DesktopSession::setTextFont(bool wrapped, const Font &font) {
-    (wrapped ? m_window->txtTextWW() : m_window->txtText1()).setFont(toQFont(font));
-}
-
-Font DesktopSession::textFont(bool wrapped) const {
-    return fromQFont((wrapped ? m_window->txtTextWW() : m_window->txtText1()).font());
-}
-
-void DesktopSession::hide() {
-    m_window->hide();
-    m_loop.quit();
-}
-
-void DesktopSession::bringToFront() {
-    m_window->raise();
-    m_window->activateWindow();
-}
-
-void DesktopSession::processEvents() {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-void DesktopSession::powerButtonChanged(int index) {
-    if (const auto button = m_session->services().oPowerButtons.Item(index + 1))
-        m_window->powerButtons().showButton(index, *button);
-}
-
-bool DesktopSession::interrupted() {
-    // Esc lies in the queue of events; while the guard lives no other key or click gets through.
-    const auto guard = m_escape.guard();
-    QCoreApplication::processEvents();
-    return m_escape.escapePressed();
-}
-
-CloseAnswer DesktopSession::confirmClose(const QString &prompt) {
-    dlgConfirmClose dialog(m_window.get());
-    return dialog.MsgBox(prompt);
-}
-
-void DesktopSession::showOptions() {
-    m_dialogs.showOptions();
-}
-
-void DesktopSession::showAbout() {
-    m_dialogs.showAbout();
-}
-
-void DesktopSession::showStatistics(const TextStatistics &statistics) {
-    m_dialogs.showStatistics(statistics);
-}
-
-void DesktopSession::editPowerButton(int index) {
-    m_dialogs.editPowerButton(index);
-    powerButtonChanged(index);
-    takeOverPowerButtons(); // what others have changed meanwhile
 }
 
 } // namespace tolvo

@@ -13,7 +13,7 @@ ToolDialogContext DesktopDialogs::toolDialogContext() {
     return {m_session->oTextMethods, m_services.boxes, &m_parent, m_session->currentFont()};
 }
 
-bool DesktopDialogs::ask(ToolSettings &settings) {
+bool DesktopDialogs::askToolSettings(ToolSettings &settings) {
     return askInToolDialog(settings, toolDialogContext());
 }
 
@@ -40,7 +40,7 @@ std::optional<QString> DesktopDialogs::getSettings(const QString &token, const Q
 
 std::optional<QString> DesktopDialogs::editSearch(const QString &details, bool replace) {
     QString settings = details;
-    return searchForm().getSettings(settings, replace) ? std::optional(settings) : std::nullopt;
+    return searchWindow().getSettings(settings, replace) ? std::optional(settings) : std::nullopt;
 }
 
 std::optional<QString> DesktopDialogs::editLanguage(const QString &details) {

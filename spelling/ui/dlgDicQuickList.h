@@ -2,7 +2,6 @@
 // Asks for the language of a check.
 #pragma once
 
-#include "spelling/Proofing.h"
 #include "spelling/languages.h"
 #include "spelling/spelling_services.h"
 
@@ -16,11 +15,13 @@ class QToolButton;
 
 namespace tolvo {
 
-class dlgDicQuickList : public QDialog, public LanguageChooser {
+class dlgDicQuickList : public QDialog {
   public:
     explicit dlgDicQuickList(const SpellingServices &services, QWidget *parent = nullptr);
 
-    int GetLangID(int LangID, bool save) override;
+    /// The number of the language that the user chooses, -2 for Cancel. `LangID` is selected at first, where
+    /// -2 stands for the stored language. `save` stores the choice.
+    int GetLangID(int LangID, bool save);
 
     /// The same for a settings string: takes `LangID` out of it and gives back "LangID=" and the number, or
     /// leaves it alone and returns false if the user cancelled.

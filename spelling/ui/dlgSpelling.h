@@ -22,12 +22,13 @@ namespace tolvo {
 
 class MarkedTextView;
 
-class dlgSpelling : public QDialog, public SpellingWalk {
+class dlgSpelling : public QDialog {
   public:
     explicit dlgSpelling(const SpellingServices &services, QWidget *parent = nullptr);
     ~dlgSpelling() override;
 
-    bool CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar) override;
+    /// As SpellingWalk::CheckSpelling.
+    bool CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar);
 
     /// The close box and Esc are Cancel.
     void reject() override;

@@ -23,23 +23,21 @@ class Runs : public ::testing::Test {
   protected:
     Runs() { QFile::copy(dataFolder() + "/Tools.dat", folder.filePath("Tools.dat")); }
 
-    class Window final : public SessionWindow {
+    class Window final : public SessionWindow, private HeadlessWindows {
       public:
         explicit Window(Runs &machine) : m_machine(machine) {}
         TextBox &txtText1() override { return m_text1; }
         TextBox &txtTextWW() override { return m_textWW; }
-        SearchResults &searchResults() override { return m_windows; }
-        SessionWindows &windows() override { return m_windows; }
-        SessionView &view() override { return m_windows; }
-        SpellingWalk &spellingWalk() override { return m_windows; }
-        LanguageChooser &languages() override { return m_windows; }
+        SessionView &view() override { return *this; }
+        SessionDialogs &dialogs() override { return *this; }
         void attach(frmMain &session, cToolbox &toolbox) override {
             m_session = &session;
             m_toolbox = &toolbox;
             m_machine.log += "attach";
         }
-        void initIcons() override {
-            m_machine.log += QString("icons of \"%1\"").arg(m_session->txtCurrent().Text());
+        void powerButtonChanged(int index) override {
+            if (index + 1 == CPowerButtonCollection::buttonCount)
+                m_machine.log += QString("icons of \"%1\"").arg(m_session->txtCurrent().Text());
         }
         bool takesClipboardLater() override { return m_machine.clipboardLater; }
         void showModal(const std::function<void()> &onceShown) override {
@@ -54,7 +52,6 @@ class Runs : public ::testing::Test {
         Runs &m_machine;
         MemoryTextBox m_text1;
         MemoryTextBox m_textWW;
-        HeadlessWindows m_windows;
         frmMain *m_session = nullptr;
         cToolbox *m_toolbox = nullptr;
     };

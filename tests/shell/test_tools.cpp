@@ -207,11 +207,11 @@ TEST(Tools, searchWindowBeginsWithAShortSelection) {
                  {"a\rb\n", "a\\x0Db\\x0A", true}};
     for (const auto &row : cases) {
         User user;
-        user.searchBox = "old";
+        user.searchRequest.find = "old";
         user.startsWith("y«" + row.selected + "»");
         user.runs("edREP");
-        EXPECT_EQ(user.searchBox, row.box);
-        EXPECT_EQ(user.special, row.special);
+        EXPECT_EQ(user.searchRequest.find, row.box);
+        EXPECT_EQ(user.searchRequest.specialChars, row.special);
         EXPECT_EQ(user.opened.join(u' '), row.special ? "more replace" : "replace");
     }
 }

@@ -126,6 +126,7 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
 
     // ProofingHost
     void setStatus(const QString &text) override { status += text; }
+    void warn(const QString &, const QString &) override {}
     const cTextMethods &textMethods() const override { return oTextMethods; }
 
     /// The service is asked from now on, and finds these errors.
@@ -190,8 +191,7 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
     NamedBoxes boxes;
     ScriptedHttp http;
     ScriptedWord word;
-    SilentHost silence;
-    cTextMethods oTextMethods{silence, [](const QString &) { return false; }};
+    cTextMethods oTextMethods{*this, [](const QString &) { return false; }};
     SpellingServices services{
         store, boxes, http, word, folder.path() + u("/program"), folder.path() + u("/user"), QString()};
     QStringList status;

@@ -100,7 +100,7 @@ CloseAnswer User::confirmClose(const QString &prompt) {
     return closeAnswer;
 }
 
-bool User::ask(ToolSettings &settings) {
+bool User::askToolSettings(ToolSettings &settings) {
     if (auto *indent = std::get_if<IndentSettings>(&settings)) {
         opened += "Indent";
         indent->choice = IndentSettings::Choice::Text;

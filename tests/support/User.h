@@ -58,12 +58,10 @@ class User : public HeadlessWindows {
     void showAbout() override { opened += "About"; }
     void editPowerButton(int index) override { opened += QString("editor %1").arg(index); }
     void powerButtonChanged(int index) override { repainted += index; }
-    void hide() override { opened += "(hidden)"; }
-    bool ask(ToolSettings &settings) override;
-    void setSearchText(const QString &text) override { searchBox = text; }
-    QString searchText() override { return searchBox; }
-    void setSpecialChars(bool on) override { special = on; }
-    bool specialChars() override { return special; }
+    void endSession() override { opened += "(hidden)"; }
+    bool askToolSettings(ToolSettings &settings) override;
+    void setSearchText(const QString &text) override { searchRequest.find = text; }
+    void setSpecialChars(bool on) override { searchRequest.specialChars = on; }
     void expandDialog() override { opened += "more"; }
     void showDialog(bool replace) override { opened += replace ? "replace" : "search"; }
     void cmdSearch_Click() override { opened += "next"; }
@@ -78,10 +76,8 @@ class User : public HeadlessWindows {
     bool canUndo = false; ///< the two buttons
     bool canRedo = false;
     int chosenLanguage = 2057;
-    QString corrected; ///< what the walk makes of a text; null: it ends without a correction
-    QString searchBox;
-    SearchRequest searchRequest;
-    bool special = false;
+    QString corrected;           ///< what the walk makes of a text; null: it ends without a correction
+    SearchRequest searchRequest; ///< what the search window holds
 
   private:
     [[nodiscard]] MemoryTextBox &inUse() {

@@ -102,7 +102,7 @@ TEST_F(SearchWindow, TakesLineEndsAsEscapes) {
         press(Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(edit.text(), QString(row.shown));
         EXPECT_EQ(edit.cursorPosition(), row.caret);
-        EXPECT_EQ(window->specialChars(), row.specialChars);
+        EXPECT_EQ(window->request().specialChars, row.specialChars);
     }
     edit.undo();
     EXPECT_EQ(edit.text(), "xy");
@@ -158,16 +158,16 @@ TEST_F(SearchWindow, ConvertsWildcardsAndSwops) {
     window->setSearchText("t.o");
     find<QComboBox>("cmbReplaceText").setEditText("$1");
     QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier | Qt::AltModifier);
-    EXPECT_EQ(window->searchText(), "t.o"); // not on this tab
+    EXPECT_EQ(window->request().find, "t.o"); // not on this tab
     find<QTabBar>("TabStrip1").setCurrentIndex(1);
     QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier | Qt::AltModifier);
-    EXPECT_EQ(window->searchText(), "t(.)o");
+    EXPECT_EQ(window->request().find, "t(.)o");
     EXPECT_EQ(find<QTabBar>("TabStrip1").currentIndex(), 2);
     click("cmdReplaceAll");
     EXPECT_EQ(said(), "1 string replaced");
     EXPECT_EQ(picture(), "«»one w One");
     click("imgSwop");
-    EXPECT_EQ(window->searchText(), "$1");
+    EXPECT_EQ(window->request().find, "$1");
     EXPECT_EQ(find<QComboBox>("cmbReplaceText").currentText(), "t(.)o");
 }
 
@@ -210,7 +210,7 @@ TEST_F(SearchWindow, RemembersItsStateAndItsLists) {
     window->saveState();
     EXPECT_EQ(get(store, settingKeys.search.recentFinds).size(), 20);
     reopen();
-    EXPECT_EQ(window->searchText(), "1");
+    EXPECT_EQ(window->request().find, "1");
     QString settings;
     QTimer::singleShot(0, window.get(), [this] { click("cmdOK"); });
     EXPECT_TRUE(window->getSettings(settings, true));
@@ -222,7 +222,7 @@ TEST_F(SearchWindow, CollectsSettings) {
     QString settings = "Mode=3, Find=a=b, c, MatchCase=1, Direction=S, Replace=x, ReplaceAll=1";
     const QString given = settings;
     QTimer::singleShot(0, window.get(), [this] {
-        EXPECT_EQ(window->searchText(), "a=b");
+        EXPECT_EQ(window->request().find, "a=b");
         EXPECT_TRUE(visible("cmdOK") && !visible("cmdSearch") && window->isModal());
         // "Replace All" is there, and so is what else is on.
         EXPECT_TRUE(visible("chkReplaceAll") && find<QCheckBox>("chkReplaceAll").isChecked());
