@@ -2,18 +2,13 @@
 // Undo and redo: whole snapshots of the text.
 #pragma once
 
+#include "shell/text_state.h"
+
 #include <QList>
 #include <QString>
 #include <functional>
 
 namespace tolvo {
-
-/// A text with its selection, as undo keeps it.
-struct TextState {
-    QString text;
-    int selStart = 0;
-    int selLength = 0;
-};
 
 /// Callers hand a state in and write back what comes out. What cUndo says to the window goes through its
 /// hooks.

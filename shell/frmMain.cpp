@@ -2,8 +2,6 @@
 // The session as an object: what it is built on, its status line, what the layers below ask of it.
 #include "shell/frmMain.h"
 
-#include "shell/tool_table.h"
-
 namespace tolvo {
 
 frmMain::frmMain(const SessionServices &services, TextBox &txtText1, TextBox &txtTextWW)
@@ -11,9 +9,9 @@ frmMain::frmMain(const SessionServices &services, TextBox &txtText1, TextBox &tx
                    [&extensions = services.extensions](const QString &extension) {
                        return extensions.IsRegisteredExtension(extension);
                    }),
-      oUndo(undoHooks()), m_services(services), m_history(oUndo, services.clock), m_txtText1(txtText1),
-      m_txtTextWW(txtTextWW), m_txtCurrent(&txtText1), m_toolSettings(services.store),
-      m_cuts(services.boxes) {
+      oUndo(undoHooks()), oSearch(*this, services.boxes, oTextMethods), m_services(services),
+      m_history(oUndo, services.clock), m_txtText1(txtText1), m_txtTextWW(txtTextWW), m_txtCurrent(&txtText1),
+      m_toolSettings(services.store), m_cuts(services.boxes) {
     listenTo(m_txtText1);
     listenTo(m_txtTextWW);
 }
@@ -28,7 +26,7 @@ frmMain::~frmMain() {
 
 void frmMain::listenTo(TextBox &box) {
     box.onChange = [this] { m_dirty = true; };
-    box.onUserEdit = [this](const UserEdit &edit) { m_history.noteUserEdit(edit, textState()); };
+    box.onUserEdit = [this](const UserEdit &edit) { m_history.noteUserEdit(edit, textState(txtCurrent())); };
     box.onCut = [this, &box](qint64 length, TextBox::Writer writer) { m_cuts.note(box, length, writer); };
 }
 
@@ -69,35 +67,8 @@ void frmMain::beep() {
         m_services.sound.beep();
 }
 
-TextState frmMain::textState() {
-    return {txtCurrent().Text(), txtCurrent().SelStart(), txtCurrent().SelLength()};
-}
-
-void frmMain::restore(const TextState &state) {
-    TextBox &box = txtCurrent();
-    const TextEdit edit = changeBetween(box.Text(), state.text);
-    if (edit.removed.size() < box.length()) {
-        select(box, edit.position, static_cast<int>(edit.removed.size()));
-        box.setSelText(edit.inserted);
-    }
-    if (box.Text() != state.text)
-        box.setText(state.text);
-    select(txtCurrent(), state.selStart, state.selLength);
-}
-
-ToolContext frmMain::toolContext() {
-    return {oTextMethods, txtCurrent(), *this};
-}
-
-CSearch &frmMain::oSearch() {
-    if (!m_search)
-        m_search =
-            std::make_unique<CSearch>(static_cast<SearchHost &>(*this), m_services.boxes, oTextMethods);
-    return *m_search;
-}
-
 void frmMain::warn(const QString &text, const QString &title) {
-    noteWarning();
+    ++m_warnings;
     m_services.boxes.show({.text = text, .icon = BoxIcon::Exclamation, .title = title});
 }
 

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "platform/clipboard.h"
-#include "platform/clock.h"
 #include "platform/font.h"
 #include "platform/message_box.h"
 #include "platform/report_error.h"
@@ -12,14 +11,14 @@
 #include "platform/text_box.h"
 #include "powerbuttons/CPowerButton.h"
 #include "powerbuttons/catalogue.h"
-#include "preferences/settings_store.h"
 #include "search/CSearch.h"
 #include "shell/cUndo.h"
 #include "shell/cut_notice.h"
+#include "shell/selection_tools.h"
+#include "shell/session_services.h"
 #include "shell/session_windows.h"
 #include "shell/text_history.h"
 #include "shell/tool_settings_memory.h"
-#include "spelling/Proofing.h"
 #include "text/cTextMethods.h"
 #include "text/file_extensions.h"
 
@@ -33,26 +32,8 @@
 namespace tolvo {
 
 class cToolbox;
-struct ToolContext;
+struct ToolCall;
 struct WordOptions;
-
-/// What a session is built on. All outlive it.
-struct SessionServices {
-    SettingsStore &store;
-    Clipboard &clipboard;
-    MessageBoxes &boxes;
-    SoundPlayer &sound;
-    const Clock &clock;
-    FileExtensions &extensions;
-    const Catalogue &oTools;
-    CPowerButtonCollection &oPowerButtons;
-    SessionView &view;
-    SessionDialogs &dialogs;
-    const SpellingServices &spelling; ///< what a spelling check is built on
-};
-
-/// Bits of iShiftState.
-enum ShiftState { Shift = 1, Ctrl = 2, Alt = 4 };
 
 /// Every procedure that an event may call is guarded: a failure inside it is shown as the error report, and
 /// the session goes on. A tool that fails leaves the text as it was.
@@ -77,31 +58,26 @@ class frmMain : private SearchHost, private ProofingHost {
     bool bSounds = true;
     bool bWordWrap = false;
     bool bSessionOver = false;  ///< the window was hidden or unloaded; the run goes on with its end
-    int iShiftState = 0;        ///< ShiftState bits as the last key event left them
+    int iShiftState = 0;        ///< ShiftState bits (keyboard.h) as the last key event left them
     QString sLastTool;          ///< token of the tool last run, or "PB" and the index of a PowerButton
     std::array<Font, 2> aFonts; ///< 0 the proportional display font, 1 the fixed one
     bool bFontUseProp = true;   ///< the first font option of the Options
     cTextMethods oTextMethods;
     cUndo oUndo;
-    /// Made when first needed.
-    [[nodiscard]] CSearch &oSearch();
+    CSearch oSearch;
     [[nodiscard]] const SessionServices &services() const { return m_services; }
     /// Sets up the eight images of the PowerButtons.
     void initIcons();
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
-    [[nodiscard]] ToolContext toolContext();
+    /// What runToolRow() needs for a tool that runs at once.
+    [[nodiscard]] ToolCall toolCall(const CAction *action = nullptr);
     /// How often a tool has warned of something or refused its text so far.
     [[nodiscard]] int warnings() const { return m_warnings; }
-    void noteWarning() { ++m_warnings; }
 
-    [[nodiscard]] TextState textState();
     /// The text as it stands becomes a state of oUndo.
-    void pushUndo() override { m_history.push(textState()); }
+    void pushUndo() override { m_history.push(textState(txtCurrent())); }
     /// Around a change of the text that is no state of its own: Ctrl-Z takes it back by itself.
-    void noteText() { m_history.note(textState()); }
-    /// Writes text, start and length of the selection, in this order. Where most of the text stays, the view
-    /// stays as well.
-    void restore(const TextState &state);
+    void noteText() { m_history.note(textState(txtCurrent())); }
 
     // The session (session.cpp)
 
@@ -144,23 +120,23 @@ class frmMain : private SearchHost, private ProofingHost {
     /// The font that the text shows in.
     [[nodiscard]] Font currentFont() const;
 
-    // Tools (tool_frame.cpp, moving_lines.cpp, spelling_tools.cpp, search_tools.cpp)
+    // Tools (tool_frame.cpp)
 
+    /// Runs a tool as a command of the user: counts it, and pushes the text before and after it to undo. An
+    /// unknown token gives a box that says so.
     void ToolDespatcher(const QString &token);
     /// A click on a row of the panel or on its mark.
     void lblToolbox_Click(cToolbox &oToolbox, int row);
+    /// A click on a favourite: a token, or a composite of two tools (favourites in cToolbox.h).
     void imgFavourites_Click(const QString &tag);
-    void ExtendSelectionToLines();
-    void moveLinesUp();
-    void moveLinesDown();
-    /// chSPE and chGRA; with an Action its language, without one that of the store or of the language list.
-    void checkSpelling(bool grammar, const CAction *action);
+    /// As extendSelectionToLines(), on the text in use.
+    void ExtendSelectionToLines() { extendSelectionToLines(txtCurrent()); }
+    /// As openSearchDialog(), from the text in use.
     void OpenSearchDialog(bool bReplace);
+    /// F3: searches for what the search window holds, or opens it if that is nothing.
     void FindAgain();
+    /// As runSearchAction().
     void RunSearchAction(bool bReplace, const CAction &action);
-    /// A step of a PowerButton that takes the search window's present settings, without showing it.
-    void runLastSearch(bool bReplace);
-    [[nodiscard]] bool runsPowerButton() const { return !m_runningButtons.isEmpty(); }
 
     // PowerButtons (powerbutton_execution.cpp)
 
@@ -175,8 +151,6 @@ class frmMain : private SearchHost, private ProofingHost {
     /// Takes over the PowerButtons that the store has otherwise than the session, as another run of the
     /// program may have defined them, and has their icons painted. One that runs goes on as it was.
     void refreshPowerButtons();
-    /// The PowerButton that an Action of pbPBT names.
-    void runNestedPowerButton(const CAction &action);
 
     /// Runs `action` where an event enters: a failure that nothing else caught is reported under
     /// "frmMain" and the given procedure, and goes no further.
@@ -201,8 +175,6 @@ class frmMain : private SearchHost, private ProofingHost {
     void showOtherState(bool (TextHistory::*walk)(TextState &));
     void swapFonts();
     void hideWindow();
-    [[nodiscard]] int languageOfCheck(const CAction *action);
-    void runSpellingCheck(bool grammar, const CAction *action);
     void countTool(const QString &token);
     /// ToolDespatcher and imgPower_Click for callers inside the session: failures go on.
     void runTool(const QString &token);
@@ -215,14 +187,12 @@ class frmMain : private SearchHost, private ProofingHost {
     void runWithSettings(const CAction &action);
     void reportTroubleOfStore();
     void listenTo(TextBox &box);
-    [[nodiscard]] std::optional<QString> answered(std::optional<QString> text);
 
     SessionServices m_services;
     TextHistory m_history;
     TextBox &m_txtText1;
     TextBox &m_txtTextWW;
     TextBox *m_txtCurrent;
-    std::unique_ptr<CSearch> m_search;
     ToolSettingsMemory m_toolSettings;
     QString m_status;
     CutNotice m_cuts;
@@ -244,13 +214,13 @@ void frmMain::guarded(const char16_t *procedure, Action &&action) {
 
 template <class Action>
 void frmMain::keepingText(Action &&action) {
-    const TextState before = textState();
+    const TextState before = textState(txtCurrent());
     const bool dirty = m_dirty;
     const qint64 cut = m_cuts.pending();
     try {
         action();
     } catch (...) {
-        restore(before);
+        restore(txtCurrent(), before);
         m_dirty = dirty;
         m_cuts.setPending(cut);
         throw;

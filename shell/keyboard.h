@@ -11,6 +11,13 @@ namespace tolvo {
 
 class frmMain;
 
+/// The bits of frmMain::iShiftState.
+namespace ShiftState {
+inline constexpr int Shift = 1;
+inline constexpr int Ctrl = 2;
+inline constexpr int Alt = 4;
+} // namespace ShiftState
+
 /// Virtual key codes that mean something; letters and digits have their ASCII codes.
 namespace keyCode {
 inline constexpr int Up = 38;

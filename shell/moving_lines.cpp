@@ -1,27 +1,31 @@
 // SPDX-License-Identifier: MIT
-// Moving the line of the caret, or all lines of the selection, by one line.
+#include "shell/moving_lines.h"
+
 #include "base/strings.h"
-#include "shell/frmMain.h"
+#include "platform/text_box.h"
+#include "shell/text_state.h"
+#include "shell/tool_table.h"
+#include "text/cTextMethods.h"
 
 namespace tolvo {
 
 namespace {
 
+/// Lines by their numbers, from 0.
 struct LineRange {
     qsizetype first = 0;
     qsizetype last = 0;
 };
 
-/// The lines, from 0, that the selection touches.
-LineRange selectedLines(const cTextMethods &engine, const QString &text, const QList<QStringView> &lines,
-                        int selStart, int selLength) {
+/// The lines that the selection touches.
+LineRange selectedLines(const cTextMethods &engine, const TextState &state, const QList<QStringView> &lines) {
     int row = 1;
     int column = 1;
-    engine.getColRow(text, selStart, row, column);
+    engine.getColRow(state.text, state.selStart, row, column);
     LineRange range{row - 1, row - 1};
     const qsizetype length = range.first < lines.size() ? lines.at(range.first).size() : 0;
-    if (selLength > 0 && selLength + column - 1 > length) {
-        engine.getColRow(text, selStart + selLength, row, column);
+    if (state.selLength > 0 && state.selLength + column - 1 > length) {
+        engine.getColRow(state.text, state.selStart + state.selLength, row, column);
         range.last = row - 1;
     }
     return range;
@@ -38,30 +42,30 @@ QString joined(const QList<QStringView> &lines, qsizetype size) {
 
 } // namespace
 
-void frmMain::moveLinesUp() {
-    const TextState state = textState();
+void moveLinesUp(const ToolContext &context) {
+    const TextState state = textState(context.box);
     QList<QStringView> lines = splitLines(state.text);
-    const LineRange range = selectedLines(oTextMethods, state.text, lines, state.selStart, state.selLength);
+    const LineRange range = selectedLines(context.engine, state, lines);
     if (range.first == 0) {
-        setStatus(QStringLiteral("Already at the top"));
+        context.host.setStatus(QStringLiteral("Already at the top"));
         return;
     }
     const auto step = static_cast<int>(lines.at(range.first - 1).size()) + 2;
     lines.move(range.first - 1, range.last);
-    restore({joined(lines, state.text.size()), state.selStart - step, state.selLength});
+    restore(context.box, {joined(lines, state.text.size()), state.selStart - step, state.selLength});
 }
 
-void frmMain::moveLinesDown() {
-    const TextState state = textState();
+void moveLinesDown(const ToolContext &context) {
+    const TextState state = textState(context.box);
     QList<QStringView> lines = splitLines(state.text);
-    const LineRange range = selectedLines(oTextMethods, state.text, lines, state.selStart, state.selLength);
+    const LineRange range = selectedLines(context.engine, state, lines);
     if (range.last + 1 >= lines.size()) {
-        setStatus(QStringLiteral("Already at the bottom"));
+        context.host.setStatus(QStringLiteral("Already at the bottom"));
         return;
     }
     const auto step = static_cast<int>(lines.at(range.last + 1).size()) + 2;
     lines.move(range.last + 1, range.first);
-    restore({joined(lines, state.text.size()), state.selStart + step, state.selLength});
+    restore(context.box, {joined(lines, state.text.size()), state.selStart + step, state.selLength});
 }
 
 } // namespace tolvo

@@ -5,7 +5,7 @@
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/circular_check.h"
 #include "shell/frmMain.h"
-#include "shell/tool_table.h"
+#include "shell/tool_call.h"
 
 namespace tolvo {
 
@@ -35,10 +35,10 @@ class Listed {
 
 template <class Action>
 void frmMain::endingCycles(Action &&action) {
-    const auto takeBack = [this, text = textState(), undo = oUndo, history = m_history, status = m_status,
-                           dirty = m_dirty, undoEnabled = m_undoEnabled, redoEnabled = m_redoEnabled,
-                           cut = m_cuts.pending()] {
-        restore(text);
+    const auto takeBack = [this, text = textState(txtCurrent()), undo = oUndo, history = m_history,
+                           status = m_status, dirty = m_dirty, undoEnabled = m_undoEnabled,
+                           redoEnabled = m_redoEnabled, cut = m_cuts.pending()] {
+        restore(txtCurrent(), text);
         oUndo = undo;
         m_history = history;
         m_undoEnabled = undoEnabled;
@@ -144,7 +144,7 @@ void frmMain::runAction(const CAction &action) {
         PowerButtonDespatcher(action);
         break;
     case SettingsFrom::Current:
-        // Stays set for the rest of the run: Actions behind this one run without their dialogs as well, until
+        // Stays set for the rest of the run: Actions after this one run without their dialogs as well, until
         // the next mouse press. Buttons have been put together with this in mind.
         bRightButton = true;
         runTool(tool->Token());
@@ -175,11 +175,12 @@ void frmMain::runWithSettings(const CAction &action) {
             failureNumber::noHandler,
             FillTemplate(QStringLiteral("No handler for Tool '%0' (%1)"), {tool.Name(), tool.Token()}),
             QStringLiteral("PowerButtonDespatcher"));
-    keepingText([&] { runToolRow(*this, *row, &action); });
-}
-
-void frmMain::runNestedPowerButton(const CAction &action) {
-    runPowerButton(toInteger(action.Param(powerButtonKey)) - 1);
+    keepingText([&] {
+        if (row->operation.window == SettingsWindow::PowerButton)
+            runPowerButton(toInteger(action.Param(powerButtonKey)) - 1);
+        else
+            runToolRow(*row, toolCall(&action));
+    });
 }
 
 } // namespace tolvo

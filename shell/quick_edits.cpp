@@ -4,7 +4,7 @@
 #include "base/strings.h"
 #include "shell/frmMain.h"
 #include "shell/keyboard.h"
-#include "shell/tool_table.h"
+#include "shell/tool_call.h"
 
 namespace tolvo {
 
@@ -57,7 +57,7 @@ void KeyboardCommands::convertAtCaret(Convert convert) {
             selectCharacterAtCaret();
         const QString text = box.SelText();
         if (!text.isEmpty())
-            box.setSelText(convert(text)); // the caret goes behind it: repeated presses walk along the text
+            box.setSelText(convert(text)); // the caret is then after it: repeated presses walk along
     });
 }
 
@@ -84,7 +84,7 @@ void KeyboardCommands::doKBInitCaps() {
         if (length == 0)
             selectCharacterAtCaret();
         const int selected = box.SelLength();
-        runToolRow(m_session, *toolRow(u"ccINC"), nullptr);
+        runToolRow(*toolRow(u"ccINC"), m_session.toolCall());
         if (length != 0)
             box.setSelStart(box.SelStart() + box.SelLength());
         else

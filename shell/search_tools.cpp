@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-// How the session reaches search and replace: the search window, and the searches of PowerButtons.
+#include "shell/search_tools.h"
+
+#include "powerbuttons/CAction.h"
+#include "search/CSearch.h"
 #include "search/escaped_text.h"
-#include "search/search_request.h"
-#include "shell/frmMain.h"
+#include "shell/session_windows.h"
+#include "shell/tool_call.h"
 
 namespace tolvo {
 
@@ -10,40 +13,36 @@ namespace {
 
 constexpr int longestSeed = 24; ///< a longer selection is text to work on, not text to look for
 
+void runInOneStep(CSearch &search, bool replace, const SearchRequest &request) {
+    search.run(request.verb(replace), request, SearchedBy::PowerButton);
+}
+
 } // namespace
 
-void frmMain::OpenSearchDialog(bool bReplace) {
-    SearchWindow &window = m_services.dialogs.searchWindow();
-    const int length = txtCurrent().SelLength();
+void runSearchTool(const ToolCall &call, bool replace) {
+    if (call.action)
+        runSearchAction(call.search, replace, *call.action);
+    else if (call.withLastSettings && call.fromPowerButton)
+        runInOneStep(call.search, replace, call.services.dialogs.searchWindow().request());
+    else
+        openSearchDialog(call.services.dialogs.searchWindow(), call.context.box, replace);
+}
+
+void openSearchDialog(SearchWindow &window, const TextBox &box, bool replace) {
+    const int length = box.SelLength();
     if (length >= 1 && length <= longestSeed) {
-        const EscapedText seed = escapedControls(txtCurrent().SelText());
+        const EscapedText seed = escapedControls(box.SelText());
         window.setSearchText(seed.text);
         if (seed.specialChars)
             window.setSpecialChars(true);
     }
     if (window.request().specialChars)
         window.expandDialog();
-    window.showDialog(bReplace);
+    window.showDialog(replace);
 }
 
-void frmMain::FindAgain() {
-    guarded(u"FindAgain", [this] {
-        SearchWindow &window = m_services.dialogs.searchWindow();
-        if (window.request().find.isEmpty())
-            OpenSearchDialog(false);
-        else
-            window.cmdSearch_Click();
-    });
-}
-
-void frmMain::runLastSearch(bool bReplace) {
-    const SearchRequest request = m_services.dialogs.searchWindow().request();
-    oSearch().run(request.verb(bReplace), request, SearchedBy::PowerButton);
-}
-
-void frmMain::RunSearchAction(bool bReplace, const CAction &action) {
-    const SearchRequest request = readRequest(action.params(), bReplace, actionReading());
-    oSearch().run(request.verb(bReplace), request, SearchedBy::PowerButton);
+void runSearchAction(CSearch &search, bool replace, const CAction &action) {
+    runInOneStep(search, replace, readRequest(action.params(), replace, actionReading()));
 }
 
 } // namespace tolvo

@@ -2,8 +2,11 @@
 #include "shell/selection_tools.h"
 
 #include "base/numbers.h"
-#include "shell/frmMain.h"
-#include "shell/tool_table.h"
+#include "platform/clipboard.h"
+#include "platform/text_box.h"
+#include "shell/session_windows.h"
+#include "shell/tool_call.h"
+#include "text/cTextMethods.h"
 
 namespace tolvo {
 
@@ -19,20 +22,13 @@ int endOfLine(QStringView text, int position) {
     return static_cast<int>(end < 0 ? text.size() : end);
 }
 
-void frmMain::ExtendSelectionToLines() {
-    TextBox &box = txtCurrent();
+void extendSelectionToLines(TextBox &box) {
     const int length = box.SelLength();
     if (length == 0)
         return;
     const QString text = box.Text();
     const int start = startOfLine(text, box.SelStart());
-    // A selection that ends exactly at the beginning of a line takes that line in.
     select(box, start, endOfLine(text, box.SelStart() + length) - start);
-}
-
-void showStatistics(frmMain &session) {
-    TextBox &box = session.txtCurrent();
-    session.services().dialogs.showStatistics(session.oTextMethods.statistics(box.Text(), box.SelText()));
 }
 
 void clearSelection(const ToolContext &context) {
@@ -57,36 +53,39 @@ void selectBetweenTags(const ToolContext &context) {
     context.host.setStatus(groupedNumber(length) + QStringLiteral(" characters selected"));
 }
 
-namespace {
+void showStatistics(const ToolCall &call) {
+    const TextBox &box = call.context.box;
+    call.services.dialogs.showStatistics(call.context.engine.statistics(box.Text(), box.SelText()));
+}
 
-void takeSelection(frmMain &session, bool copy, bool remove) {
-    TextBox &box = session.txtCurrent();
-    if (copy)
-        session.services().clipboard.writeText(box.SelText());
-    if (remove)
-        box.setSelText({});
+void copySelection(const ToolCall &call) {
+    TextBox &box = call.context.box;
+    call.services.clipboard.writeText(box.SelText());
     box.setFocus();
 }
 
-} // namespace
-
-void copySelection(frmMain &session) {
-    takeSelection(session, true, false);
+void cutSelection(const ToolCall &call) {
+    copySelection(call);
+    deleteSelection(call);
 }
 
-void cutSelection(frmMain &session) {
-    takeSelection(session, true, true);
+void deleteSelection(const ToolCall &call) {
+    TextBox &box = call.context.box;
+    box.setSelText({});
+    box.setFocus();
 }
 
-void deleteSelection(frmMain &session) {
-    takeSelection(session, false, true);
-}
-
-void pasteAndSelect(frmMain &session) {
-    TextBox &box = session.txtCurrent();
-    if (const std::optional<QString> text = session.clipboardText())
+void pasteAndSelect(const ToolCall &call) {
+    TextBox &box = call.context.box;
+    if (const auto text = answered(call.services.clipboard.readText(), call.context.host))
         replaceAndSelect(box, *text);
     box.setFocus();
+}
+
+std::optional<QString> answered(std::optional<QString> text, TextHost &host) {
+    if (!text)
+        host.setStatus(QStringLiteral("The clipboard did not answer"));
+    return text;
 }
 
 } // namespace tolvo

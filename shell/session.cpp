@@ -7,6 +7,8 @@
 #include "base/strings.h"
 #include "platform/text_positions.h"
 #include "preferences/options.h"
+#include "shell/search_tools.h"
+#include "shell/selection_tools.h"
 #include "text/top_level_domains.h"
 
 namespace tolvo {
@@ -34,20 +36,13 @@ void frmMain::useTextBox(bool wrapped) {
 }
 
 void frmMain::takeClipboard() {
-    if (const std::optional<QString> text = answered(m_services.clipboard.takeText()))
+    if (const std::optional<QString> text = answered(m_services.clipboard.takeText(), *this))
         takeText(*text, tooLong(*text));
 }
 
 std::optional<QString> frmMain::clipboardText(bool selection) {
     Clipboard &clipboard = m_services.clipboard;
-    return answered(selection ? clipboard.readSelection() : clipboard.readText());
-}
-
-/// Says in the status line if the clipboard didn't answer.
-std::optional<QString> frmMain::answered(std::optional<QString> text) {
-    if (!text)
-        setStatus(QStringLiteral("The clipboard did not answer"));
-    return text;
+    return answered(selection ? clipboard.readSelection() : clipboard.readText(), *this);
 }
 
 void frmMain::takeText(const QString &text, bool tellOfCut) {
@@ -74,7 +69,7 @@ void frmMain::beginWithText() {
 
 void frmMain::cmdRefresh_Click() {
     guarded(u"cmdRefresh_Click", [this] {
-        const std::optional<QString> text = answered(m_services.clipboard.takeText());
+        const std::optional<QString> text = answered(m_services.clipboard.takeText(), *this);
         if (!text)
             return;
         pushUndo();
@@ -174,10 +169,10 @@ void frmMain::undoStep() {
 
 void frmMain::showOtherState(bool (TextHistory::*walk)(TextState &)) {
     setStatus({});
-    TextState state = textState();
+    TextState state = textState(txtCurrent());
     if (!(m_history.*walk)(state))
         return;
-    restore(state);
+    restore(txtCurrent(), state);
     m_dirty = true; // also when the text is again the one that came from the clipboard
 }
 
@@ -231,6 +226,26 @@ void frmMain::applyFonts() {
 
 Font frmMain::currentFont() const {
     return m_services.view.textFont(m_txtCurrent == &m_txtTextWW);
+}
+
+// Search
+
+void frmMain::OpenSearchDialog(bool bReplace) {
+    openSearchDialog(m_services.dialogs.searchWindow(), txtCurrent(), bReplace);
+}
+
+void frmMain::FindAgain() {
+    guarded(u"FindAgain", [this] {
+        SearchWindow &window = m_services.dialogs.searchWindow();
+        if (window.request().find.isEmpty())
+            OpenSearchDialog(false);
+        else
+            window.cmdSearch_Click();
+    });
+}
+
+void frmMain::RunSearchAction(bool bReplace, const CAction &action) {
+    runSearchAction(oSearch, bReplace, action);
 }
 
 // About and help

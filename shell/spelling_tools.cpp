@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Spelling and grammar: the language, the check, and what is said when nothing was wrong.
+#include "shell/spelling_tools.h"
+
 #include "base/conversions.h"
 #include "base/strings.h"
+#include "platform/message_box.h"
+#include "platform/report_error.h"
+#include "platform/text_box.h"
+#include "powerbuttons/CAction.h"
 #include "preferences/settings_keys.h"
-#include "shell/frmMain.h"
+#include "shell/session_windows.h"
+#include "shell/tool_call.h"
 
 namespace tolvo {
 
@@ -11,48 +17,51 @@ namespace {
 
 constexpr int languageCancelled = -2; ///< also asks for the stored language
 
-} // namespace
-
-int frmMain::languageOfCheck(const CAction *action) {
-    if (action)
-        return toInteger(action->Param(QStringLiteral("LangID")));
-    if (bRightButton)
-        return getOrDefault(m_services.store, settingKeys.spelling.langID);
-    return m_services.dialogs.GetLangID(languageCancelled, true);
+/// Nothing if the user cancelled.
+std::optional<int> languageOfCheck(const ToolCall &call) {
+    if (call.action)
+        return toInteger(call.action->Param(QStringLiteral("LangID")));
+    if (call.withLastSettings)
+        return getOrDefault(call.services.store, settingKeys.spelling.langID);
+    const int chosen = call.services.dialogs.GetLangID(languageCancelled, true);
+    return chosen == languageCancelled ? std::nullopt : std::optional(chosen);
 }
 
-void frmMain::checkSpelling(bool grammar, const CAction *action) {
-    const auto check = [&] { runSpellingCheck(grammar, action); };
-    if (action) // the despatcher of the PowerButtons reports its failures itself
-        check();
-    else
-        reportFailures(m_services.boxes, QStringLiteral("frmMain"),
-                       grammar ? QStringLiteral("CheckGrammar") : QStringLiteral("CheckSpelling"), check);
-}
-
-void frmMain::runSpellingCheck(bool grammar, const CAction *action) {
-    const bool dirty = m_dirty;
-    const int language = languageOfCheck(action);
-    if (!action && !bRightButton && language == languageCancelled)
+void runCheck(const ToolCall &call, bool grammar) {
+    const bool dirty = call.bDirty;
+    const std::optional<int> language = languageOfCheck(call);
+    if (!language)
         return;
 
-    const QString before = txtCurrent().Text();
+    TextBox &box = call.context.box;
+    const QString before = box.Text();
     QString after = before;
-    Proofing proofing(m_services.spelling, *this, m_services.dialogs);
+    Proofing proofing(call.services.spelling, call.proofing, call.services.dialogs);
     const bool complete =
-        grammar ? proofing.CheckGrammar(after, language) : proofing.CheckSpelling(after, language);
+        grammar ? proofing.CheckGrammar(after, *language) : proofing.CheckSpelling(after, *language);
     bool unchanged = false;
     if (complete) {
         unchanged = StripTrailingEOL(before) == StripTrailingEOL(after);
-        txtCurrent().setText(after);
+        box.setText(after);
         if (unchanged)
-            m_dirty = dirty;
+            call.bDirty = dirty;
     }
-    m_services.view.bringToFront();
+    call.services.view.bringToFront();
     if (unchanged)
-        say(grammar ? QStringLiteral("Spelling and grammar check complete")
-                    : QStringLiteral("Spelling check complete"));
-    m_services.view.bringToFront();
+        call.services.boxes.show({.text = grammar ? QStringLiteral("Spelling and grammar check complete")
+                                                  : QStringLiteral("Spelling check complete"),
+                                  .icon = BoxIcon::Information});
+    call.services.view.bringToFront();
+}
+
+} // namespace
+
+void checkSpelling(const ToolCall &call, bool grammar) {
+    if (call.action)
+        return runCheck(call, grammar);
+    reportFailures(call.services.boxes, QStringLiteral("frmMain"),
+                   grammar ? QStringLiteral("CheckGrammar") : QStringLiteral("CheckSpelling"),
+                   [&] { runCheck(call, grammar); });
 }
 
 } // namespace tolvo

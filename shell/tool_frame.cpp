@@ -3,7 +3,8 @@
 #include "base/failure.h"
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
-#include "shell/tool_table.h"
+#include "shell/selection_tools.h"
+#include "shell/tool_call.h"
 
 #include <limits>
 
@@ -22,27 +23,26 @@ QString removedText(int count) {
 QString statusText(const ToolStatus &status, int lengthBefore, int lengthAfter, bool warned) {
     QString text = QString::fromUtf16(status.text);
     switch (status.kind) {
-    case ToolStatus::None:
+    case ToolStatus::Kind::None:
         break;
-    case ToolStatus::Text:
+    case ToolStatus::Kind::Text:
         return text;
-    case ToolStatus::Length:
+    case ToolStatus::Kind::Length:
         return QString::number(lengthAfter) + text;
-    case ToolStatus::LengthUnwarned:
+    case ToolStatus::Kind::LengthUnwarned:
         return warned ? QString() : QString::number(lengthAfter) + text;
-    case ToolStatus::Removed:
+    case ToolStatus::Kind::Removed:
         return removedText(lengthBefore - lengthAfter);
     }
     return {};
 }
 
-ToolInput toolInput(frmMain &session, const ToolContext &context, const ToolRow &row,
-                    const ToolSettings *settings) {
+ToolInput toolInput(const ToolContext &context, const ToolRow &row, const ToolSettings *settings) {
     TextBox &box = context.box;
     if (box.SelLength() == 0)
         return {context, box.Text(), 0, false, settings};
-    if (row.rule.reach == SelectionRule::WholeLines)
-        session.ExtendSelectionToLines();
+    if (row.rule.reach == SelectionRule::Reach::WholeLines)
+        extendSelectionToLines(box);
     if (row.sixteenBit && box.SelLength() > longestSixteenBit)
         failOverflow();
     return {context, box.SelText(), box.SelStart(), true, settings};
@@ -53,68 +53,79 @@ void writeResult(TextBox &box, const ToolInput &input, const QString &result, Se
         box.setText(result);
         return;
     }
-    if (length == SelectionRule::NewLength) {
+    if (length == SelectionRule::Length::New) {
         replaceAndSelect(box, result);
         return;
     }
     box.setSelText(result);
-    if (length == SelectionRule::OldLength)
+    if (length == SelectionRule::Length::Old)
         select(box, input.start, static_cast<int>(input.text.size()));
 }
 
 /// A sort can't work on the text, which stays.
-void refuse(frmMain &session, const ToolRow &row, bool selected) {
-    const bool tell = row.refusal.when == SortRefusal::Always || !selected;
-    if (!tell || row.refusal.statusToo)
-        session.setStatus(QString::fromUtf16(row.status.text));
-    if (tell) {
-        session.say(QString::fromUtf16(row.refusal.message));
-        session.noteWarning();
+void refuse(const ToolRow &row, const ToolCall &call, bool selected) {
+    const bool saysSo = row.refusal.when == SortRefusal::When::Always || !selected;
+    if (!saysSo || row.refusal.statusToo)
+        call.context.host.setStatus(QString::fromUtf16(row.status.text));
+    if (saysSo) {
+        call.services.boxes.show({.text = QString::fromUtf16(row.refusal.message)});
+        ++call.warnings;
     }
 }
 
-void runTextOperation(frmMain &session, const ToolRow &row, const ToolSettings *settings) {
-    const ToolContext context = session.toolContext();
-    TextBox &box = context.box;
+void runTextOperation(const ToolRow &row, const ToolCall &call, const ToolSettings *settings) {
+    TextBox &box = call.context.box;
     const int lengthBefore = box.length();
-    const int warningsBefore = session.warnings();
-    const ToolInput input = toolInput(session, context, row, settings);
+    const int warningsBefore = call.warnings;
+    const ToolInput input = toolInput(call.context, row, settings);
     const std::optional<QString> result = row.operation.run(input);
     if (!result) {
-        refuse(session, row, input.selected);
+        refuse(row, call, input.selected);
         return;
     }
     writeResult(box, input, *result, row.rule.length);
-    if (row.status.kind != ToolStatus::None)
-        session.setStatus(
-            statusText(row.status, lengthBefore, box.length(), session.warnings() > warningsBefore));
+    const bool warned = call.warnings > warningsBefore;
+    if (row.status.kind != ToolStatus::Kind::None)
+        call.context.host.setStatus(statusText(row.status, lengthBefore, box.length(), warned));
 }
 
-/// The settings of an Action, else those last used, which the user may change first unless the right button
-/// called the tool. Nothing if the user cancelled.
-std::optional<ToolSettings> settingsFor(frmMain &session, const ToolSettings &defaults,
-                                        const CAction *action) {
-    if (action)
-        return settingsFromAction(defaults, action->params());
-    ToolSettings &settings = session.toolSettings().get(defaults);
-    if (!session.bRightButton && !session.services().dialogs.askToolSettings(settings))
+/// The settings of the Action, else those last used, which the user may change first unless the call wants
+/// them as they are. Nothing if the user cancelled.
+std::optional<ToolSettings> settingsFor(const ToolCall &call, const ToolSettings &defaults) {
+    if (call.action)
+        return settingsFromAction(defaults, call.action->params());
+    ToolSettings &settings = call.settings.get(defaults);
+    if (!call.withLastSettings && !call.services.dialogs.askToolSettings(settings))
         return std::nullopt;
     return settings;
 }
 
 } // namespace
 
-void runToolRow(frmMain &session, const ToolRow &row, const CAction *action) {
+void runToolRow(const ToolRow &row, const ToolCall &call) {
     const ToolOperation &operation = row.operation;
     if (operation.procedure) {
-        operation.procedure(session, action);
+        operation.procedure(call);
     } else if (operation.edit) {
-        operation.edit(session.toolContext());
+        operation.edit(call.context);
     } else if (!operation.settings) {
-        runTextOperation(session, row, nullptr);
-    } else if (const auto settings = settingsFor(session, operation.settings(), action)) {
-        runTextOperation(session, row, &*settings);
+        runTextOperation(row, call, nullptr);
+    } else if (const auto settings = settingsFor(call, operation.settings())) {
+        runTextOperation(row, call, &*settings);
     }
+}
+
+ToolCall frmMain::toolCall(const CAction *action) {
+    return {.context = {oTextMethods, txtCurrent(), *this},
+            .services = m_services,
+            .proofing = *this,
+            .search = oSearch,
+            .settings = m_toolSettings,
+            .bDirty = m_dirty,
+            .warnings = m_warnings,
+            .action = action,
+            .withLastSettings = bRightButton,
+            .fromPowerButton = !m_runningButtons.isEmpty()};
 }
 
 void frmMain::ToolDespatcher(const QString &token) {
@@ -128,7 +139,7 @@ void frmMain::runTool(const QString &token) {
     sLastTool = token;
     const ToolRow *row = toolRow(token);
     if (row && !row->operation.powerButtonOnly) {
-        keepingText([&] { runToolRow(*this, *row, nullptr); });
+        keepingText([&] { runToolRow(*row, toolCall()); });
     } else {
         say(QStringLiteral("This tool is not implemented yet"));
         sLastTool.clear();

@@ -2,8 +2,12 @@
 #include "shell/tool_table.h"
 
 #include "base/code_page.h"
-#include "shell/frmMain.h"
+#include "platform/text_box.h"
+#include "shell/moving_lines.h"
+#include "shell/search_tools.h"
 #include "shell/selection_tools.h"
+#include "shell/spelling_tools.h"
+#include "text/cTextMethods.h"
 
 namespace tolvo {
 
@@ -102,7 +106,7 @@ struct Asked<operation> {
     static ToolSettings settings() { return Settings(); }
 };
 
-/// An operation that takes settings; which, its second parameter tells.
+/// An operation that takes settings: those of its second parameter.
 template <auto operation>
 constexpr ToolOperation asked() {
     return {.run = &Asked<operation>::run,
@@ -110,89 +114,77 @@ constexpr ToolOperation asked() {
             .window = SettingsWindow::Dialog};
 }
 
-/// An edit of the text in use, without an operation of the text engine behind it.
+/// An edit of the text in use, without an operation of the text engine.
 template <void (*procedure)(const ToolContext &)>
 constexpr ToolOperation onText() {
     return {.edit = procedure};
 }
 
 /// A procedure of the session that needs no settings.
-template <void (frmMain::*procedure)()>
-constexpr ToolOperation handler() {
-    return {.procedure = [](frmMain &session, const CAction *) { (session.*procedure)(); }};
-}
-
-template <void (*procedure)(frmMain &)>
-constexpr ToolOperation inSession() {
-    return {.procedure = [](frmMain &session, const CAction *) { procedure(session); }};
+constexpr ToolOperation inSession(void (*procedure)(const ToolCall &)) {
+    return {.procedure = procedure};
 }
 
 template <bool replace>
 constexpr ToolOperation searching() {
     return {.window = replace ? SettingsWindow::Replace : SettingsWindow::Search,
-            .procedure = [](frmMain &session, const CAction *action) {
-                if (action)
-                    session.RunSearchAction(replace, *action);
-                else if (session.bRightButton && session.runsPowerButton())
-                    session.runLastSearch(replace);
-                else
-                    session.OpenSearchDialog(replace);
-            }};
+            .procedure = [](const ToolCall &call) { runSearchTool(call, replace); }};
 }
 
 template <bool grammar>
 constexpr ToolOperation spelling() {
-    return {.window = SettingsWindow::Language, .procedure = [](frmMain &session, const CAction *action) {
-                session.checkSpelling(grammar, action);
-            }};
+    return {.window = SettingsWindow::Language,
+            .procedure = [](const ToolCall &call) { checkSpelling(call, grammar); }};
 }
 
 constexpr ToolOperation nothing() {
-    return {.window = SettingsWindow::Missing,
-            .powerButtonOnly = true,
-            .procedure = [](frmMain &, const CAction *) {}};
+    return {.window = SettingsWindow::Missing, .powerButtonOnly = true, .procedure = [](const ToolCall &) {}};
 }
 
+/// Whoever runs the Actions of a PowerButton runs it too.
 constexpr ToolOperation nestedPowerButton() {
-    return {.window = SettingsWindow::PowerButton,
-            .powerButtonOnly = true,
-            .procedure = [](frmMain &session, const CAction *action) {
-                if (action)
-                    session.runNestedPowerButton(*action);
-            }};
+    ToolOperation operation = nothing();
+    operation.window = SettingsWindow::PowerButton;
+    return operation;
 }
 
 // What fills the other columns: selection and selected length (O the old one, N the new one, C only the caret
-// behind the new text), status, and the answers of the sorts
+// after the new text), status, and the answers of the sorts
 
-constexpr SelectionRule O{SelectionRule::AsSelected, SelectionRule::OldLength};
-constexpr SelectionRule N{SelectionRule::AsSelected, SelectionRule::NewLength};
-constexpr SelectionRule C{SelectionRule::AsSelected, SelectionRule::CaretBehind};
-constexpr SelectionRule lines_O{SelectionRule::WholeLines, SelectionRule::OldLength};
-constexpr SelectionRule lines_N{SelectionRule::WholeLines, SelectionRule::NewLength};
-constexpr SelectionRule lines_C{SelectionRule::WholeLines, SelectionRule::CaretBehind};
+using Reach = SelectionRule::Reach;
+using Length = SelectionRule::Length;
+constexpr SelectionRule O{Reach::AsSelected, Length::Old};
+constexpr SelectionRule N{Reach::AsSelected, Length::New};
+constexpr SelectionRule C{Reach::AsSelected, Length::Caret};
+constexpr SelectionRule lines_O{Reach::WholeLines, Length::Old};
+constexpr SelectionRule lines_N{Reach::WholeLines, Length::New};
+constexpr SelectionRule lines_C{Reach::WholeLines, Length::Caret};
 constexpr SelectionRule own{}; // the procedure sees to it
 
-constexpr ToolStatus removed{ToolStatus::Removed};
+constexpr ToolStatus removed{ToolStatus::Kind::Removed};
 constexpr bool sixteenBit = true;
 
 constexpr ToolStatus says(const char16_t *text) {
-    return {ToolStatus::Text, text};
+    return {ToolStatus::Kind::Text, text};
 }
 
 constexpr ToolStatus length(const char16_t *text) {
-    return {ToolStatus::Length, text};
+    return {ToolStatus::Kind::Length, text};
+}
+
+constexpr ToolStatus lengthUnlessWarned(const char16_t *text) {
+    return {ToolStatus::Kind::LengthUnwarned, text};
 }
 
 constexpr SortRefusal noKeywords{
     u"Copy the text you want to sort onto the clipboard (Ctrl-C), separated by commas.\r\n"
     u"Then choose Refresh.",
-    SortRefusal::Always};
+    SortRefusal::When::Always};
 constexpr SortRefusal noLines{u"To sort the lines in a text,\r\n"
                               u"copy the text you want to sort onto the clipboard (Ctrl-C).\r\n"
                               u"Then choose Refresh.",
-                              SortRefusal::WithoutSelection};
-constexpr SortRefusal oneLine{u"Please select more than one line.", SortRefusal::Always, true};
+                              SortRefusal::When::WithoutSelection};
+constexpr SortRefusal oneLine{u"Please select more than one line.", SortRefusal::When::Always, true};
 
 using T = cTextMethods;
 
@@ -203,7 +195,7 @@ constexpr ToolRow table[] = {
     {u"ccLOW",  text<lowerCase>(),                      O,        length(u" characters: lower case"), sixteenBit},
     {u"ccREV",  engine<&T::ReverseCase>(),              O,        length(u" characters: reversed case"), sixteenBit},
     {u"ccINC",  text<initialCaps>(),                    O,        length(u" characters: Initial caps")},
-    {u"ccTIT",  text<titleCase>(),                      O,        {ToolStatus::LengthUnwarned, u" characters: title case"}, sixteenBit},
+    {u"ccTIT",  text<titleCase>(),                      O,        lengthUnlessWarned(u" characters: title case"), sixteenBit},
     {u"ccSEN",  engine<&T::SentenceCase>(),             O,        length(u" characters: sentence case")},
     {u"ccCAP",  text<capitalise>(),                     O,        length(u" characters: sentence case")}, // the same words as ccSEN
 
@@ -211,8 +203,8 @@ constexpr ToolRow table[] = {
     {u"soALP",  engine<&T::sortedLines>(),              lines_O,  says(u"Lines sorted"), sixteenBit, noLines},
     {u"soNUM",  engine<&T::sortedByNumber>(),           lines_O,  says(u"Lines sorted"), sixteenBit, noLines},
     {u"soREV",  engine<&T::reversedLines>(),            lines_O,  says(u"Line order reversed"), false, oneLine},
-    {u"soNUP",  handler<&frmMain::moveLinesUp>(),       own},
-    {u"soNUD",  handler<&frmMain::moveLinesDown>(),     own},
+    {u"soNUP",  onText<moveLinesUp>(),                  own},
+    {u"soNUD",  onText<moveLinesDown>(),                own},
 
     {u"foTRA",  engine<&T::TrimTrail>(),                N,        removed},
     {u"foTRM",  engine<&T::TrimWhiteSpace>(),           N,        removed},
@@ -245,16 +237,16 @@ constexpr ToolRow table[] = {
     {u"chPNC",  text<checkPunctuation>(),               lines_N,  says(u"Punctuation checked")},
     {u"chSPE",  spelling<false>(),                      own},
     {u"chGRA",  spelling<true>(),                       own},
-    {u"chSTAT", inSession<showStatistics>(),            own},
+    {u"chSTAT", inSession(showStatistics),            own},
 
     {u"pbPBT",  nestedPowerButton(),                    own},
     {u"pbCLR",  onText<clearSelection>(),               own},
     {u"pbALL",  onText<selectAll>(),                    own},
     {u"pbTAG",  onText<selectBetweenTags>(),            own},
-    {u"pbCPY",  inSession<copySelection>(),             own},
-    {u"pbCUT",  inSession<cutSelection>(),              own},
-    {u"pbDEL",  inSession<deleteSelection>(),           own},
-    {u"pbPST",  inSession<pasteAndSelect>(),            own},
+    {u"pbCPY",  inSession(copySelection),             own},
+    {u"pbCUT",  inSession(cutSelection),              own},
+    {u"pbDEL",  inSession(deleteSelection),           own},
+    {u"pbPST",  inSession(pasteAndSelect),            own},
 };
 // clang-format on
 

@@ -12,17 +12,16 @@
 
 namespace tolvo {
 
-class CAction;
 class TextBox;
 class TextHost;
 class cTextMethods;
-class frmMain;
+struct ToolCall;
 
-/// What a tool of the text works on: the engine, the text in use, and who hears its status.
+/// What a tool of the text works on.
 struct ToolContext {
     const cTextMethods &engine;
-    TextBox &box;
-    TextHost &host;
+    TextBox &box;   ///< the text in use
+    TextHost &host; ///< hears statuses and warnings
 };
 
 /// What a text operation sees: the selection, or the whole text if there is none.
@@ -47,49 +46,51 @@ enum class SettingsWindow {
     Missing ///< settings that no window gives yet
 };
 
-/// How a tool is run: either as a text operation under the selection rule, or by a procedure.
+/// How a tool is run: by one of `run`, `edit` and `procedure`.
 struct ToolOperation {
-    /// The new text; nothing if it can't work on the text.
+    /// A text operation under the selection rule. Gives the new text; nothing if it can't work on the text.
     std::optional<QString> (*run)(const ToolInput &) = nullptr;
     /// Settings with their defaults, which also say which struct it is; null for a tool without.
     ToolSettings (*settings)() = nullptr;
     SettingsWindow window = SettingsWindow::None;
     bool powerButtonOnly = false; ///< ToolDespatcher doesn't know it
-    /// Does everything on the text in use.
+    /// Does everything, on the text in use.
     void (*edit)(const ToolContext &) = nullptr;
-    /// Does everything; gets the Action that runs it, null for a command of the user.
-    void (*procedure)(frmMain &, const CAction *) = nullptr;
+    /// Does everything, in the session.
+    void (*procedure)(const ToolCall &) = nullptr;
 };
 
 /// What a tool does with a selection. Without one it works on the whole text, and the caret goes to 0.
 struct SelectionRule {
-    enum Reach { AsSelected, WholeLines };
-    enum Length { OldLength, NewLength, CaretBehind };
-    Reach reach = AsSelected;
-    Length length = CaretBehind; ///< how much is selected afterwards
+    enum class Reach { AsSelected, WholeLines };
+    /// As many units as before, all of the new text, or nothing: then the caret is after the new text.
+    enum class Length { Old, New, Caret };
+    Reach reach = Reach::AsSelected;
+    Length length = Length::Caret; ///< how much is selected afterwards
 };
 
 /// What the status line says after the tool.
 struct ToolStatus {
-    enum Kind {
+    enum class Kind {
         None,
         Text,           ///< the text itself
         Length,         ///< the length of the whole text, then the text
         LengthUnwarned, ///< the same, but nothing after a warning of the operation
         Removed         ///< by how many characters the whole text shrank
     };
-    Kind kind = None;
+    Kind kind = Kind::None;
     const char16_t *text = u"";
 };
 
 /// What a sort says to a text that it can't work on; the text stays.
 struct SortRefusal {
-    enum When { Always, WithoutSelection };
+    enum class When { Always, WithoutSelection };
     const char16_t *message = nullptr;
-    When when = Always;
+    When when = When::Always;
     bool statusToo = false; ///< the status is shown although the message comes
 };
 
+/// One tool.
 struct ToolRow {
     const char16_t *token;
     ToolOperation operation;
@@ -106,9 +107,5 @@ struct ToolRow {
 
 /// The row of a token, null for an unknown one.
 [[nodiscard]] const ToolRow *toolRow(QStringView token);
-
-/// Runs a tool on the text in use: its settings, its operation under the selection rule, its status. Counting
-/// and undo are the callers'.
-void runToolRow(frmMain &session, const ToolRow &row, const CAction *action);
 
 } // namespace tolvo

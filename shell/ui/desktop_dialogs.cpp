@@ -128,7 +128,7 @@ void DesktopDialogs::editPowerButton(int index) {
 frmSearch &DesktopDialogs::searchWindow() {
     if (!m_search)
         m_search =
-            std::make_unique<frmSearch>(m_session->oSearch(), m_services.store, m_services.boxes, &m_parent);
+            std::make_unique<frmSearch>(m_session->oSearch, m_services.store, m_services.boxes, &m_parent);
     return *m_search;
 }
 

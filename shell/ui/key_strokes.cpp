@@ -2,7 +2,6 @@
 #include "shell/ui/key_strokes.h"
 
 #include "platform/desktop/CommandKeys.h"
-#include "shell/frmMain.h"
 #include "shell/keyboard.h"
 
 #include <QKeyEvent>
@@ -96,9 +95,9 @@ int character(const QKeyEvent &event, int meaning) {
 } // namespace
 
 int shiftState(Qt::KeyboardModifiers modifiers) {
-    return (modifiers.testFlag(Qt::ShiftModifier) ? Shift : 0) |
-           (modifiers.testFlag(Qt::ControlModifier) ? Ctrl : 0) |
-           (modifiers.testFlag(Qt::AltModifier) ? Alt : 0);
+    return (modifiers.testFlag(Qt::ShiftModifier) ? ShiftState::Shift : 0) |
+           (modifiers.testFlag(Qt::ControlModifier) ? ShiftState::Ctrl : 0) |
+           (modifiers.testFlag(Qt::AltModifier) ? ShiftState::Alt : 0);
 }
 
 KeyStroke keyStroke(const QKeyEvent &event) {

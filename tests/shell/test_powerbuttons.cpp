@@ -122,7 +122,7 @@ TEST(PowerButtons, aCycleEndsInOneReportAndAllStaysAsItWas) {
     User user("a«b»");
     user.runs("ccUPP");
     user.session.cmdUndo_Click(); // what Redo offers stays as well
-    user.session.restore(stateOf("a«b»"));
+    restore(user.session.txtCurrent(), stateOf("a«b»"));
     user.session.setDirty(false);
     user.session.setStatus("status");
     const auto run = [](int number) {
@@ -140,7 +140,7 @@ TEST(PowerButtons, aCycleEndsInOneReportAndAllStaysAsItWas) {
     user.session.cmdUndo_Click();
     user.session.cmdUndo_Click();
     user.sees("«»ab", "Reached end of Undo buffer");
-    user.session.restore(stateOf("a«b»"));
+    restore(user.session.txtCurrent(), stateOf("a«b»"));
     user.defines(2, {User::action("ccUPP")});
     user.session.imgPower_Click(0); // nothing of the cycle is left behind
     user.sees("a«B»");

@@ -29,7 +29,7 @@ void User::startsWith(const QString &picture) {
     const TextState state = stateOf(picture);
     headless.clipboard.text = state.text;
     session.beginWithClipboard();
-    session.restore(state);
+    restore(session.txtCurrent(), state);
     session.setDirty(false);
 }
 

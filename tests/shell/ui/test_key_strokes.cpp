@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/CommandKeys.h"
-#include "shell/frmMain.h"
+#include "shell/keyboard.h"
 #include "shell/ui/key_strokes.h"
 
 #include <QCoreApplication>
@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace tolvo;
+using namespace tolvo::ShiftState;
 
 namespace {
 
