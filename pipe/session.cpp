@@ -2,7 +2,6 @@
 #include "pipe/session.h"
 
 #include "pipe/text.h"
-#include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/circular_check.h"
 #include "shell/headless/HeadlessSession.h"
 #include "shell/tool_table.h"
@@ -85,12 +84,6 @@ class WindowCheck {
     QSet<int> m_seen;
 };
 
-void loadPowerButtons(const PipeWorld &world, CPowerButtonCollection &buttons, MessageBoxes &boxes) {
-    CPowerButtonMethods methods(world.store, world.catalogue, boxes);
-    for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number)
-        methods.ReadPBSettings(*buttons.Item(number), number);
-}
-
 QString messageJson(const Box &box) {
     static constexpr const char *icons[] = {"none", "information", "exclamation", "question", "critical"};
     return QStringLiteral("{\"icon\":\"") + QLatin1StringView(icons[static_cast<int>(box.icon)]) +
@@ -135,7 +128,7 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
         return action->Tool()->Token() == powerButtonToken;
     });
     if (runsButtons)
-        loadPowerButtons(world, headless.oPowerButtons, boxes);
+        headless.session.loadPowerButtons();
     WindowCheck windowCheck(headless.oPowerButtons);
     for (const ActionPtr &action : actions)
         windowCheck.check(*action);

@@ -13,15 +13,19 @@ ProgramOptions presentOptions(const frmMain &session) {
     return options;
 }
 
-void applyOptions(frmMain &session, const ProgramOptions &options) {
+void useOptions(frmMain &session, const ProgramOptions &options) {
     session.aFonts = options.fonts;
     session.bFontUseProp = options.useProportional;
     session.applyFonts();
+    session.bSounds = options.sounds;
+    session.useWordOptions(options);
+}
+
+void applyOptions(frmMain &session, const ProgramOptions &options) {
+    useOptions(session, options);
     if (options.wordWrap != session.bWordWrap)
         session.imgWordwrap_Click();
     saveOptions(session.services().store, options);
-    session.bSounds = options.sounds;
-    session.useWordOptions(options);
 }
 
 } // namespace tolvo

@@ -33,6 +33,7 @@ inline constexpr std::array<Favourite, 11> favourites{{
     {u"foBOTH", u"Trim trailing space and single space"},
 }};
 
+/// The model. Rows count from 1.
 class cToolbox {
   public:
     static constexpr int rowCount = 18;
@@ -42,6 +43,7 @@ class cToolbox {
     enum class Mark { Hidden, Closed, Open };
     enum class Colour { Category, Tool };
 
+    /// What a row shows, and what a click on it means.
     struct Row {
         QString text;
         QString tag; ///< a token, or "LAY" and the number of a category from 1
@@ -56,7 +58,7 @@ class cToolbox {
 
     /// What the panel asks of its surroundings; each may be empty.
     struct Hooks {
-        std::function<void()> rowsChanged;           ///< show rows() now
+        std::function<void()> rowsChanged;           ///< shows them
         std::function<void(int milliseconds)> delay; ///< waits while window events go on
     };
 
@@ -76,15 +78,13 @@ class cToolbox {
 
     /// The tree is being rebuilt; clicks on rows are ignored meanwhile.
     [[nodiscard]] bool rolling() const { return m_rolling; }
-    /// Number of the open category, 0 when all are closed.
-    [[nodiscard]] int openLayer() const { return m_openLayer; }
 
     /// A row by its number, 1 to 18.
     [[nodiscard]] const Row &row(int number) const { return m_rows.at(static_cast<size_t>(number - 1)); }
 
   private:
     void rollUp();
-    /// Shows the tools from item `item` on at row `row`, one step each; both then stand behind the last.
+    /// Shows the tools from item `item` on at row `row`, one step each; both are then after the last.
     void rollOut(qsizetype &item, int &row);
     void showCategoriesBelow(qsizetype item, int row);
     /// Rows beyond the last are not shown.
@@ -96,7 +96,7 @@ class cToolbox {
     std::function<void()> m_playSound;
     QList<Catalogue::PanelItem> m_items;
     std::array<Row, rowCount> m_rows;
-    int m_openLayer = 0;
+    int m_openLayer = 0; ///< number of the open category, 0 when all are closed
     bool m_rolling = false;
 };
 

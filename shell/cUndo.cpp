@@ -7,7 +7,7 @@ cUndo::cUndo(Hooks hooks) : m_hooks(std::move(hooks)) {
 }
 
 void cUndo::store(const TextState &state) {
-    m_states.resize(m_next); // what Redo could reach is out of reach now
+    m_states.resize(m_next); // what Redo could reach is lost
     m_states.append(state);
     m_last = m_next;
     ++m_next;

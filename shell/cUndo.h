@@ -10,8 +10,8 @@
 
 namespace tolvo {
 
-/// Callers hand a state in and write back what comes out. What cUndo says to the window goes through its
-/// hooks.
+/// The buffer of states. Callers hand a state in and write back what comes out. What cUndo says to the window
+/// goes through its hooks.
 class cUndo {
   public:
     struct Hooks {
@@ -24,15 +24,16 @@ class cUndo {
 
     explicit cUndo(Hooks hooks);
 
-    /// True if a state was added. A text equal to the current state's is none: the selection alone is no new
-    /// state.
+    /// True if a state was added. A text equal to the current state's adds nothing: the selection alone makes
+    /// no new state.
     bool Push(const TextState &state);
-    /// True if `state` now holds what to show. Typing since the last state is saved first, so that Redo
-    /// brings it back.
+    /// Replaces `state`, the text as it stands, by the state before it. Typing since the last state is saved
+    /// first, so that Redo brings it back. False at the end of the buffer, which the status line then says.
     bool Pull(TextState &state);
+    /// The same in the other direction. Asks first if the text has changed since its state; No gives false.
     bool Redo(TextState &state);
 
-    // For TextHistory, which knows the ways between the states
+    // For TextHistory, which knows the steps between the states
 
     [[nodiscard]] bool isEmpty() const { return m_next == 0; }
     /// Index, from 0, of the state at which the text stands or from which it has been changed since. Not for

@@ -23,15 +23,15 @@ void CutNotice::note(const TextBox &box, qint64 length, TextBox::Writer writer) 
     m_length = std::max(m_length, length);
     m_capacity = box.capacity();
     if (m_commands == 0)
-        tell();
+        report();
 }
 
 void CutNotice::commandEnds() {
     if (--m_commands == 0)
-        tell();
+        report();
 }
 
-void CutNotice::tell() {
+void CutNotice::report() {
     const qint64 length = std::exchange(m_length, 0);
     if (length == 0)
         return;

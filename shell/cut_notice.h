@@ -7,7 +7,7 @@
 
 namespace tolvo {
 
-/// Tells of each loss once: what a tool or a whole PowerButton lost when the command is over, what the user
+/// Reports each loss once: what a tool or a whole PowerButton lost when the command is over, what the user
 /// brought in at once. Lengths count UTF-16 units.
 class CutNotice {
   public:
@@ -16,16 +16,16 @@ class CutNotice {
     /// `box` has cut a text of that length to its capacity.
     void note(const TextBox &box, qint64 length, TextBox::Writer writer);
 
-    /// Commands nest; what is noted meanwhile is told at the end of the outermost one.
+    /// Commands nest; what is noted meanwhile is reported at the end of the outermost one.
     void commandBegins() { ++m_commands; }
     void commandEnds();
 
-    /// What is noted and not told yet; to be put back if the text is put back.
+    /// The length that is noted and not reported yet, 0 for none; to be put back if the text is put back.
     [[nodiscard]] qint64 pending() const { return m_length; }
     void setPending(qint64 length) { m_length = length; }
 
   private:
-    void tell();
+    void report();
 
     MessageBoxes &m_boxes;
     int m_commands = 0;

@@ -50,7 +50,7 @@ class frmMain : private SearchHost, private ProofingHost {
     [[nodiscard]] TextBox &txtCurrent() override { return *m_txtCurrent; }
     [[nodiscard]] const QString &labStatus() const { return m_status; }
     void setStatus(const QString &text) override;
-    /// A box with the application's title.
+    /// Shows a box with the application's title.
     void say(const QString &text, BoxIcon icon = BoxIcon::Information);
     [[nodiscard]] bool bDirty() const { return m_dirty; }
     void setDirty(bool dirty) { m_dirty = dirty; }
@@ -66,8 +66,6 @@ class frmMain : private SearchHost, private ProofingHost {
     cUndo oUndo;
     CSearch oSearch;
     [[nodiscard]] const SessionServices &services() const { return m_services; }
-    /// Sets up the eight images of the PowerButtons.
-    void initIcons();
     [[nodiscard]] ToolSettingsMemory &toolSettings() { return m_toolSettings; }
     /// What runToolRow() needs for a tool that runs at once.
     [[nodiscard]] ToolCall toolCall(const CAction *action = nullptr);
@@ -97,15 +95,20 @@ class frmMain : private SearchHost, private ProofingHost {
     void beginWithClipboard();
     /// The present text becomes the bottom state of undo, with nothing dirty.
     void beginWithText();
+    /// Copy and Close: the text goes to the clipboard, and the session is over.
     void cmdClose_Click();
+    /// Ends the session; asks first if bDirty.
     void cmdCancel_Click();
     /// The close box: true if the window may go; the session is over then.
     [[nodiscard]] bool queryUnload();
+    /// Replaces the text by that of the clipboard, as a step that undo takes back.
     void cmdRefresh_Click();
+    /// The states of undo: back, and forward again.
     void cmdUndo_Click();
     void cmdRedo_Click();
     /// Takes back the last word that was typed, quick edit or tool (Ctrl-Z).
     void undoStep();
+    /// Inverts bWordWrap.
     void imgWordwrap_Click();
     /// Shows the text wrapped or not and stores the choice; text, selection and bDirty stay.
     void toggleWordwrap(bool bOn);
@@ -140,17 +143,24 @@ class frmMain : private SearchHost, private ProofingHost {
 
     // PowerButtons (powerbutton_execution.cpp)
 
+    /// Reads the eight from the store.
+    void loadPowerButtons();
+    /// Has their icons painted.
+    void initIcons();
     /// Runs, or with bRightButton edits, the PowerButton of an index from 0.
     void imgPower_Click(int index);
     /// Runs one Action with its stored settings. Failures are reported and go no further.
     void PowerButtonDespatcher(const CAction &action);
     /// Runs Actions one after another, each the way that its tool and its dialog option say; `beforeEach` is
-    /// called in front of each. A failure is reported and ends the run.
+    /// called before each. A failure is reported and ends the run.
     void runActions(const QList<std::shared_ptr<CAction>> &actions, const std::function<void()> &beforeEach);
 
     /// Takes over the PowerButtons that the store has otherwise than the session, as another run of the
     /// program may have defined them, and has their icons painted. One that runs goes on as it was.
     void refreshPowerButtons();
+
+    /// Shows what the store has to say of lost or refused writes, once.
+    void reportTroubleOfStore();
 
     /// Runs `action` where an event enters: a failure that nothing else caught is reported under
     /// "frmMain" and the given procedure, and goes no further.
@@ -185,7 +195,6 @@ class frmMain : private SearchHost, private ProofingHost {
     template <class Action>
     void endingCycles(Action &&action);
     void runWithSettings(const CAction &action);
-    void reportTroubleOfStore();
     void listenTo(TextBox &box);
 
     SessionServices m_services;
@@ -196,7 +205,7 @@ class frmMain : private SearchHost, private ProofingHost {
     ToolSettingsMemory m_toolSettings;
     QString m_status;
     CutNotice m_cuts;
-    QList<int> m_runningButtons; ///< indices of the PowerButtons that run now, outermost first
+    QList<int> m_runningButtons; ///< indices of the PowerButtons that run, outermost first
     int m_warnings = 0;
     bool m_dirty = false;
     bool m_undoEnabled = false;

@@ -36,21 +36,24 @@ inline constexpr int Slash = 191;
 inline constexpr std::array AltLetters{D, Q, W};
 } // namespace keyCode
 
-/// Every operation that returns a flag tells whether the key is consumed: the window must then do nothing
-/// more with it. Failures of what a key runs are reported and go no further.
+/// Every operation that returns a flag says whether the key is consumed: the window must then do nothing more
+/// with it. Failures of what a key runs are reported and go no further.
 class KeyboardCommands {
   public:
     explicit KeyboardCommands(frmMain &session) : m_session(session) {}
 
     // The window's stage. `shiftState` holds ShiftState bits.
 
+    /// Runs the command of a key, if it has one.
     bool formKeyDown(int code, int shiftState);
+    /// Only takes over the state of the modifiers.
     void formKeyUp(int shiftState);
     /// The paste check of Ctrl-V (character code 22).
     bool formKeyPress(int charCode);
 
     // The text box's stage, for keys that the window's stage left alone.
 
+    /// Ctrl-/ shows the character at the caret.
     bool textKeyDown(int code);
     /// `charCode` is the character; Ctrl and a letter give the letter's position in the alphabet. Call it for
     /// every character, typed or not.
@@ -58,12 +61,16 @@ class KeyboardCommands {
 
     // Quick edits at the caret, not counted in the usage statistics
 
+    /// Change the case of the selection, or of the character after the caret, and put the caret after it.
     void doKBUpperCase();
     void doKBLowerCase();
     void doKBSwopCase();
     void doKBInitCaps();
+    /// The characters before and after the caret change places. Nothing at either end of the text.
     void doKBTranspose();
+    /// Selects the partner of the bracket beside the caret; a box says if there is none.
     void MatchBracket();
+    /// Shows place and code of the character after the caret, which there must be.
     void ShowCharacterInfo();
 
   private:
@@ -76,7 +83,7 @@ class KeyboardCommands {
     void quickEdit(int length, Edit edit);
     template <class Convert>
     void convertAtCaret(Convert convert);
-    /// With a bare caret, the character behind it becomes the selection: both halves of a surrogate pair.
+    /// With a bare caret, the character after it becomes the selection: both halves of a surrogate pair.
     void selectCharacterAtCaret();
 
     frmMain &m_session;

@@ -22,8 +22,6 @@
 
 namespace tolvo {
 
-struct ProgramOptions;
-
 /// What a run needs of its platform. All outlive it.
 struct RunServices {
     SettingsStore &store;
@@ -48,8 +46,8 @@ class SessionWindow {
     [[nodiscard]] virtual SessionView &view() = 0;
     [[nodiscard]] virtual SessionDialogs &dialogs() = 0;
 
-    /// The session exists now; from here on events may reach it. The panel of tools is still empty: `toolbox`
-    /// gets its hooks here (its sound is set by the run).
+    /// Called as soon as the session exists: from here on events may reach it. The panel of tools is still
+    /// empty. `toolbox` gets its hooks here; its sound is set by the run.
     virtual void attach(frmMain &session, cToolbox &toolbox) = 0;
     /// True if the clipboard's text is to be taken once the window is shown: the platform gives it only to a
     /// window that has the focus, or its owner lets us wait.
@@ -63,6 +61,7 @@ class SessionWindow {
 
 using SessionWindowFactory = std::function<std::unique_ptr<SessionWindow>()>;
 
+/// The run and what lives as long as it does.
 class modMain {
   public:
     modMain(const RunServices &services, SessionWindowFactory makeWindow);
@@ -82,13 +81,10 @@ class modMain {
   private:
     void start();
     void createSession();
-    void loadPowerButtons();
     void showTips();
-    void useOptions(const ProgramOptions &options);
     void countStart();
     /// What is left of the start once the main window is shown.
     void windowShown();
-    void showTroubleOfStore();
     void finish();
     void sendStatistics();
 

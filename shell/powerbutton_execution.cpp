@@ -107,17 +107,24 @@ void frmMain::runPowerButton(int index) {
     txtCurrent().setFocus();
 }
 
+void frmMain::loadPowerButtons() {
+    for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number) {
+        const auto button = std::make_shared<CPowerButton>();
+        m_services.oPowerButtons.Add(button, number);
+        m_services.oPBMethods.ReadPBSettings(*button, number);
+    }
+}
+
 void frmMain::initIcons() {
     for (int index = 0; index < CPowerButtonCollection::buttonCount; ++index)
         m_services.view.powerButtonChanged(index);
 }
 
 void frmMain::refreshPowerButtons() {
-    CPowerButtonMethods methods(m_services.store, m_services.oTools, m_services.boxes);
     for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number) {
         const std::shared_ptr<CPowerButton> shown = m_services.oPowerButtons.Item(number);
         const std::shared_ptr<CPowerButton> stored =
-            methods.changedInStore(shown ? *shown : CPowerButton(), number);
+            m_services.oPBMethods.changedInStore(shown ? *shown : CPowerButton(), number);
         if (!stored)
             continue;
         m_services.oPowerButtons.Add(stored, number);

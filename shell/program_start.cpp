@@ -6,7 +6,7 @@
 #include "base/paths.h"
 #include "platform/check_for_updates.h"
 #include "platform/report_error.h"
-#include "preferences/options.h"
+#include "shell/apply_options.h"
 #include "shell/modMain.h"
 
 namespace tolvo {
@@ -41,10 +41,10 @@ void modMain::start() {
     m_session->useTextBox(options.wordWrap);
     oTools = Catalogue::read(sAppPath(m_services.programFolder) + Catalogue::fileName);
     oToolbox.init(oTools.panelItems());
-    loadPowerButtons();
+    m_session->loadPowerButtons();
     if (options.showTips)
         showTips();
-    useOptions(options);
+    useOptions(*m_session, options);
     countStart();
     m_clipboardLater = m_window->takesClipboardLater();
     if (!m_clipboardLater)
@@ -52,7 +52,7 @@ void modMain::start() {
     m_session->initIcons();
     if (!m_clipboardLater)
         m_session->beginWithText();
-    showTroubleOfStore();
+    m_session->reportTroubleOfStore();
 }
 
 void modMain::windowShown() {
@@ -71,6 +71,7 @@ void modMain::createSession() {
                                                           .extensions = m_services.extensions,
                                                           .oTools = oTools,
                                                           .oPowerButtons = oPowerButtons,
+                                                          .oPBMethods = oPBMethods,
                                                           .view = m_window->view(),
                                                           .dialogs = m_window->dialogs(),
                                                           .spelling = m_services.spelling},
@@ -83,27 +84,11 @@ void modMain::createSession() {
     });
 }
 
-void modMain::loadPowerButtons() {
-    for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number) {
-        const auto button = std::make_shared<CPowerButton>();
-        oPowerButtons.Add(button, number);
-        oPBMethods.ReadPBSettings(*button, number);
-    }
-}
-
 void modMain::showTips() {
     // It stands beside the window and over nothing: what the start has to say comes first.
     m_services.processes.start({.program = sAppPath(m_services.programFolder) + QStringLiteral("Advisor.exe"),
                                 .mode = WindowMode::NormalWithoutFocus,
                                 .heldBack = true});
-}
-
-void modMain::useOptions(const ProgramOptions &options) {
-    m_session->aFonts = options.fonts;
-    m_session->bFontUseProp = options.useProportional;
-    m_session->applyFonts();
-    m_session->useWordOptions(options);
-    m_session->bSounds = options.sounds;
 }
 
 void modMain::countStart() {
@@ -113,27 +98,20 @@ void modMain::countStart() {
     increment(m_services.store, statistics.starts);
 }
 
-void modMain::showTroubleOfStore() {
-    const QString trouble = m_services.store.takeTrouble();
-    if (!trouble.isEmpty())
-        m_services.boxes.show({.text = trouble, .icon = BoxIcon::Exclamation});
-}
-
 void modMain::finish() {
     sendStatistics();
     m_session->toolSettings().unload();
     m_window->unloadForms();
-    showTroubleOfStore();
+    m_session->reportTroubleOfStore();
 }
 
 void modMain::sendStatistics() {
-    const bool update = loadOptions(m_services.store).allowStats;
-    const bool stats = update; // one preference allows both
-    if (!update && !stats)
+    const bool allowed = loadOptions(m_services.store).allowStats; // updates as well as counters
+    if (!allowed)
         return;
     const QDateTime started = get(m_services.store, settingKeys.statistics.startDate);
     if (started.addDays(daysWithoutReport) < m_services.clock.now())
-        runCheckForUpdates(m_services.processes, m_services.boxes, m_services.programFolder, update, stats,
+        runCheckForUpdates(m_services.processes, m_services.boxes, m_services.programFolder, true, true,
                            true);
 }
 

@@ -4,6 +4,7 @@
 namespace tolvo {
 
 class CPowerButtonCollection;
+class CPowerButtonMethods;
 class Catalogue;
 class Clipboard;
 class Clock;
@@ -25,6 +26,7 @@ struct SessionServices {
     FileExtensions &extensions;
     const Catalogue &oTools;
     CPowerButtonCollection &oPowerButtons;
+    CPowerButtonMethods &oPBMethods;
     SessionView &view;
     SessionDialogs &dialogs;
     const SpellingServices &spelling;

@@ -89,8 +89,8 @@ bool TextHistory::undoState(TextState &state) {
     const int from = m_undo->currentIndex();
     if (!m_undo->Pull(state))
         return false;
-    if (m_undo->currentIndex() ==
-        from) { // the text had changed since that state, and is the one after it now
+    const bool addedState = m_undo->currentIndex() == from; // of what had changed since the last one
+    if (addedState) {
         m_places.resize(from + 1);
         m_places.append(m_done);
     }

@@ -16,7 +16,7 @@ namespace tolvo {
 /// undo that has not been retraced, whichever it was. A change made after an undo ends that; the buffer's
 /// states stay in reach of Redo, which then asks, until a tool changes the text.
 ///
-/// The history follows the text: every caller hands in how the text stands now, and whatever has changed it
+/// The history follows the text: every caller hands in how the text stands, and whatever has changed it
 /// since the last call becomes a step. Callers write back what comes out. `undo` and `clock` outlive it; a
 /// copy shares them.
 class TextHistory {
@@ -31,7 +31,7 @@ class TextHistory {
     /// Call it after each edit of the user: `present` is what has become of `edit.before`.
     void noteUserEdit(const UserEdit &edit, const TextState &present);
 
-    // True if `state` now holds what to show
+    // Each replaces `state`, the text as it stands, by what to show. False if there is nothing to show.
 
     /// Back to the state before, as the button does (cUndo::Pull).
     bool undoState(TextState &state);
@@ -50,7 +50,7 @@ class TextHistory {
         Selection before;
         Selection after;
     };
-    static constexpr int offTheWay = -1; ///< place of a state that no step leads to any more
+    static constexpr int offTheWay = -1; ///< place of a state that no step leads to
 
     void record(const TextEdit &edit, const TextState &present);
     [[nodiscard]] bool continuesTyping(const UserEdit &edit, const QDateTime &now) const;

@@ -32,6 +32,7 @@ struct ToolInput {
     bool selected = false;
     const ToolSettings *settings = nullptr; ///< those of the row's kind, null for a tool without settings
 
+    /// The text that `text` is a part of.
     [[nodiscard]] QString wholeText() const;
 };
 
@@ -103,6 +104,7 @@ struct ToolRow {
     [[nodiscard]] bool gotDialog() const { return operation.window != SettingsWindow::None; }
 };
 
+/// All tools.
 [[nodiscard]] std::span<const ToolRow> toolTable();
 
 /// The row of a token, null for an unknown one.

@@ -7,6 +7,7 @@
 #include "platform/headless/SilentSound.h"
 #include "platform/headless/StandingClock.h"
 #include "platform/http_client.h"
+#include "powerbuttons/CPowerButtonMethods.h"
 #include "shell/frmMain.h"
 #include "shell/headless/HeadlessWindows.h"
 #include "spelling/word_automation.h"
@@ -20,6 +21,7 @@ class NoNetwork final : public HttpClient {
     HttpReply post(const QByteArray &, const QByteArray &, const QByteArray &) override { return {}; }
 };
 
+/// What a session is built on, and the session. Its PowerButtons are empty.
 class HeadlessSession {
   public:
     /// `boxes` and `windows` hear what the session says; `capacity` is that of the text box.
@@ -33,6 +35,7 @@ class HeadlessSession {
     SilentSound sound;
     StandingClock clock;
     CPowerButtonCollection oPowerButtons;
+    CPowerButtonMethods oPBMethods;
 
   private:
     NoNetwork m_network;

@@ -36,6 +36,7 @@ class MainWindow : public QWidget, public SessionView {
 
     [[nodiscard]] PlainTextBox &txtText1() { return *m_txtText1; }
     [[nodiscard]] PlainTextBox &txtTextWW() { return *m_txtTextWW; }
+    /// The one in use.
     [[nodiscard]] PlainTextBox &shownTextBox();
     [[nodiscard]] PanelView &panel() { return *m_panel; }
 

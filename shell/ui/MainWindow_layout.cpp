@@ -38,7 +38,7 @@ Font textFontAtFirst() {
     return {.name = QStringLiteral("Arial"), .size = 10};
 }
 
-/// A bare widget would be told to screen readers as a part without a meaning.
+/// Screen readers take a bare widget for a part without a meaning.
 QAccessibleInterface *describeMainWindow(const QString &className, QObject *object) {
     auto *window =
         className == QLatin1StringView("tolvo::MainWindow") ? qobject_cast<QWidget *>(object) : nullptr;
@@ -105,7 +105,7 @@ QPushButton *MainWindow::button(const char *name, const QString &caption, const 
     auto *result = new QPushButton(caption);
     result->setObjectName(QLatin1StringView(name));
     result->setToolTip(tip);
-    result->setFocusPolicy(Qt::TabFocus); // a click leaves the keys with the text
+    result->setFocusPolicy(Qt::TabFocus); // a click leaves the focus with the text
     connect(result, &QPushButton::clicked, this, [this, clicked = std::move(clicked)] {
         if (m_session)
             clicked();

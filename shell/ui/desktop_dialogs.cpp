@@ -10,6 +10,7 @@
 #include "shell/apply_options.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/dlgConfirmClose.h"
+#include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgDicQuickList.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
@@ -93,7 +94,7 @@ void DesktopDialogs::prepareOptions() {
 }
 
 void DesktopDialogs::configureProvider(int provider) {
-    if (provider == 0) {
+    if (provider == providerType::word) {
         dlgSpellLanguage(m_services.spelling, m_preferences.get()).DictionaryQuickList();
         // The quick list may have changed: the language list reads it anew.
         m_languageDialog.reset();
@@ -114,10 +115,8 @@ void DesktopDialogs::showStatistics(const TextStatistics &statistics) {
 void DesktopDialogs::editPowerButton(int index) {
     if (!m_powerButtonEditor) {
         const SessionServices &session = m_session->services();
-        m_powerButtonMethods =
-            std::make_unique<CPowerButtonMethods>(m_services.store, session.oTools, m_services.boxes);
         m_powerButtonEditor = std::make_unique<frmPowerButton>(
-            session.oPowerButtons, *m_powerButtonMethods, session.oTools, m_services.boxes,
+            session.oPowerButtons, session.oPBMethods, session.oTools, m_services.boxes,
             static_cast<ActionSettings &>(*this), &m_parent);
     }
     m_powerButtonEditor->init(index);

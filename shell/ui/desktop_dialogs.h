@@ -58,7 +58,6 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     MainWindow &m_parent;
     frmMain *m_session = nullptr;
     std::optional<DesktopOptions> m_options;
-    std::unique_ptr<CPowerButtonMethods> m_powerButtonMethods;
     // The dialogs; the main window is their parent, and they go before it.
     std::unique_ptr<dlgPreferences> m_preferences;
     std::unique_ptr<frmPowerButton> m_powerButtonEditor;

@@ -59,11 +59,7 @@ int virtualKey(const QKeyEvent &event, int meaning) {
 
 /// Ctrl and a letter or a bracket.
 int controlCharacter(int meaning) {
-    if (isLetter(meaning))
-        return meaning - 'A' + 1;
-    if (meaning == '[')
-        return 27;
-    return meaning == ']' ? 29 : -1;
+    return isLetter(meaning) || meaning == '[' || meaning == ']' ? meaning - 'A' + 1 : -1;
 }
 
 int character(const QKeyEvent &event, int meaning) {

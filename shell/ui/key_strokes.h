@@ -10,7 +10,7 @@ namespace tolvo {
 /// A key press in the terms of KeyboardCommands.
 struct KeyStroke {
     int code = 0;       ///< virtual key code, 0 for a key without a meaning here
-    int shiftState = 0; ///< ShiftState bits; AltGr is none of them
+    int shiftState = 0; ///< ShiftState bits; AltGr has none
     int character = -1; ///< character code, -1 if the key types none
 };
 

@@ -102,17 +102,17 @@ PanelView::PanelView(QWidget *parent) : QFrame(parent) {
     layout->addStretch(1);
 }
 
-/// While rows slide, the keys stay with the row that has them, wherever it goes.
+/// While rows slide, the focus stays with the row that has it, wherever it goes.
 void PanelView::showRows(const cToolbox &toolbox) {
-    QString withKeys;
+    QString focused;
     for (const PanelRowButton *row : m_rows) {
         if (row->hasFocus())
-            withKeys = row->accessibleName();
+            focused = row->accessibleName();
     }
     for (int i = 0; i < cToolbox::rowCount; ++i)
         m_rows[static_cast<std::size_t>(i)]->showRow(toolbox.row(i + 1));
     for (PanelRowButton *row : m_rows) {
-        if (row->isEnabled() && !withKeys.isEmpty() && row->accessibleName() == withKeys)
+        if (row->isEnabled() && !focused.isEmpty() && row->accessibleName() == focused)
             row->setFocus(Qt::TabFocusReason);
     }
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel of tools: eighteen rows that show what cToolbox tells.
+// The panel of tools: the rows of cToolbox in the window.
 #pragma once
 
 #include "shell/cToolbox.h"

@@ -16,9 +16,9 @@ inline constexpr int twipsPerPixel = 15;
 [[nodiscard]] QSize allowedOuterSize(QSize twips);
 
 /// The outer size for a pointer at `pointer` inside the drag handle, all in twips: the handle's left plus X,
-/// and its top plus Y plus its height. The width gets no such term; users know the corner to stick to the
-/// pointer that way. Nothing if that is below 7905 by 4965: these bounds lie below those of allowedOuterSize,
-/// which has the last word.
+/// and its top plus Y plus its height. The width gets no such term, so that the corner sticks to the
+/// pointer as users know it. Nothing if that is below 7905 by 4965: these bounds lie below those of
+/// allowedOuterSize, which has the last word.
 [[nodiscard]] std::optional<QSize> draggedOuterSize(QPoint handle, int handleHeight, QPoint pointer);
 
 /// imgResize: the handle in the lower right corner. It does nothing while the window is maximised.

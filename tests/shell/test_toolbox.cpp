@@ -55,7 +55,6 @@ TEST_F(Panel, rollsOneStepForEachTool) {
     EXPECT_EQ(steps.join(u'|'), "-A *b +C +D|-A +C +D|+A -C *c +D");
     box.Layout(2);
     EXPECT_EQ(pictureOf(box), "+A +C +D");
-    EXPECT_EQ(box.openLayer(), 0);
     EXPECT_FALSE(box.rolling());
     EXPECT_EQ(sounds, 4);
 }
