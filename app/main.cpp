@@ -90,7 +90,7 @@ int runOnce() {
 } // namespace
 
 int main(int argc, char **argv) {
-    // The fork behind this call has to come before anything of the toolkit exists.
+    // This call forks, which has to come before anything of the toolkit exists.
     return runAsClipboardKeeper([&](KeeperSession &keeper) {
         const Application application(argc, argv);
         const CommandKeys commandKeys;

@@ -18,7 +18,7 @@ bool saysYes(const HttpReply &reply) {
     return reply.status >= 200 && reply.status < 300;
 }
 
-/// What to tell about an answer that was no yes.
+/// What to say about an answer that isn't a success.
 QString refusal(const HttpReply &reply) {
     if (reply.status == 0)
         return QStringLiteral("The server can't be reached: %1.").arg(reply.statusText);

@@ -15,6 +15,7 @@
 
 namespace tolvo {
 
+/// What the command line asks for.
 struct RefreshTask {
     bool update = false; ///< /update: look for a newer version
     bool stats = false;  ///< /stats: send the counters and begin a new period
@@ -27,6 +28,7 @@ struct RefreshTask {
 /// $TOLVO_UPDATE_URL, else the address of the build. Empty: there is none.
 [[nodiscard]] QByteArray updateAddress();
 
+/// What came of it.
 struct RefreshOutcome {
     bool done = true;          ///< everything asked for has come to its end
     QStringList messages = {}; ///< for the user
@@ -34,6 +36,7 @@ struct RefreshOutcome {
     QString download = {};     ///< web address of a newer version, empty if there is none
 };
 
+/// Carries the task out. What the server refused, or why it could not be asked, stands in the messages.
 [[nodiscard]] RefreshOutcome refresh(const RefreshTask &task, const QByteArray &address, SettingsStore &store,
                                      HttpClient &client, const Clock &clock);
 

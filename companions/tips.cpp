@@ -100,7 +100,7 @@ constexpr Tip collection[] = {
      u"A step can be another PowerButton. Build a small one for each chore, and one that runs them all."},
     {u"Only what stands between the tags",
      u"The step Select between tags of a PowerButton looks for text between \\[ and \\] and selects it. The "
-     u"steps behind it work on that part only."},
+     u"steps after it work on that part only."},
     {u"File names stay as they are", u"A word that ends in a known file extension keeps its capitals. In the "
                                      u"Options, under Extensions, you can "
                                      u"add those that Tolvo doesn't know."},

@@ -9,17 +9,19 @@ namespace tolvo {
 
 class SettingsStore;
 
+/// A tip as its window shows it.
 struct Tip {
     const char16_t *title;
     const char16_t *text;
 };
 
+/// All tips, in the order in which they are shown.
 [[nodiscard]] std::span<const Tip> tips();
 
 /// Which tip is shown: a place in tips() that goes round at both ends, remembered in the store.
 class TipWalk {
   public:
-    /// Begins behind the tip that was shown last; with the first one if there was none.
+    /// Begins with the tip after the one that was shown last, at first with the first.
     explicit TipWalk(SettingsStore &store);
 
     [[nodiscard]] int place() const { return m_place; }

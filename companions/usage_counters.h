@@ -19,7 +19,7 @@ struct ToolCount {
 };
 
 /// The counts of tools used by hand and in any other way, or from PowerButtons only; in the order in which
-/// the tools were first used. A stored text that is no number counts as 0.
+/// the tools were first used. A stored text that is not a number counts as 0.
 [[nodiscard]] QList<ToolCount> toolCounts(const SettingsStore &store, bool fromPowerButtons);
 
 /// The counters of the present period.
@@ -29,6 +29,7 @@ struct UsagePeriod {
     QHash<QString, double> tools;
     QHash<QString, double> powerButtonTools;
 };
+/// Reads them.
 [[nodiscard]] UsagePeriod usagePeriod(const SettingsStore &store);
 
 /// Begins a new period: takes the counts of the old one off the counters, so that what was counted since they

@@ -19,20 +19,20 @@ bool readSelection(const QString &value, PipeArguments &result) {
     return startOk && lengthOk && result.selStart >= 0 && result.selLength >= 0;
 }
 
-/// Takes one option; false for an unknown one. `next` gives the argument behind it.
+/// Takes one option; false for an unknown one. `next` gives the argument after it.
 bool readOption(const QString &option, PipeArguments &result, const std::function<QString()> &next) {
     if (option == QLatin1StringView("--raw"))
         result.raw = true;
     else if (option == QLatin1StringView("--json"))
         result.json = true;
     else if (option == QLatin1StringView("--batch"))
-        result.mode = PipeArguments::Batch;
+        result.mode = PipeArguments::Mode::Batch;
     else if (option == QLatin1StringView("--list-tools"))
-        result.mode = PipeArguments::ListTools;
+        result.mode = PipeArguments::Mode::ListTools;
     else if (option == QLatin1StringView("--help") || option == QLatin1StringView("-h"))
-        result.mode = PipeArguments::Help;
+        result.mode = PipeArguments::Mode::Help;
     else if (option == QLatin1StringView("--version"))
-        result.mode = PipeArguments::Version;
+        result.mode = PipeArguments::Mode::Version;
     else if (option == QLatin1StringView("--select")) {
         if (!readSelection(next(), result))
             result.error = QStringLiteral("--select needs START,LENGTH, two numbers from 0");
@@ -58,9 +58,9 @@ PipeArguments readArguments(const QStringList &arguments) {
         else if (!readOption(argument, result, [&] { return arguments.value(++i); }))
             result.error = QStringLiteral("unknown option \"%1\"").arg(argument);
     }
-    if (result.error.isEmpty() && result.mode == PipeArguments::Steps && result.steps.isEmpty())
+    if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Steps && result.steps.isEmpty())
         result.error = QStringLiteral("no steps; --help tells how to use it");
-    if (result.error.isEmpty() && result.mode == PipeArguments::Batch && !result.steps.isEmpty())
+    if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Batch && !result.steps.isEmpty())
         result.error = QStringLiteral("--batch reads its steps from standard input");
     return result;
 }

@@ -7,20 +7,23 @@
 
 namespace tolvo {
 
+/// What the command line asks for.
 struct PipeArguments {
-    enum Mode { Steps, Batch, ListTools, Help, Version };
-    Mode mode = Steps;
+    enum class Mode { Steps, Batch, ListTools, Help, Version };
+    Mode mode = Mode::Steps;
     QStringList steps;
     bool raw = false;
     bool json = false;
-    int selStart = 0;
+    int selStart = 0; ///< in UTF-16 units, from 0
     int selLength = 0;
     QString error; ///< why the command line is wrong; empty if it isn't
 };
 
-/// `arguments` without the program's name.
+/// Reads `arguments`, which don't hold the program's name. What is wrong with them stands in `error`.
+///   {"--select", "0,3", "ccUPP"} gives selLength 3 and the step ccUPP
 [[nodiscard]] PipeArguments readArguments(const QStringList &arguments);
 
+/// What --help prints.
 [[nodiscard]] QString helpText();
 
 } // namespace tolvo

@@ -20,7 +20,12 @@ namespace tolvo {
 
 namespace {
 
-enum ExitCode { Done = 0, Warned = 1, BadUsage = 2, InternalError = 3 };
+namespace exitCode {
+constexpr int done = 0;
+constexpr int warned = 1;
+constexpr int badUsage = 2;
+constexpr int internalError = 3;
+} // namespace exitCode
 
 void complain(const QString &text) {
     ConsoleBoxes().say(text);
@@ -51,7 +56,7 @@ int runSteps(const PipeWorld &world, const PipeArguments &arguments) {
         for (const StatisticsRow &row : reply.statistics->rows)
             console.say(row.name + u'\t' + row.fullText + u'\t' + row.selection);
     }
-    return reply.warned() ? Warned : Done;
+    return reply.warned() ? exitCode::warned : exitCode::done;
 }
 
 int runBatch(const PipeWorld &world) {
@@ -61,7 +66,7 @@ int runBatch(const PipeWorld &world) {
     for (;;) {
         const QByteArray line = input.readLine();
         if (line.isEmpty())
-            return Done;
+            return exitCode::done;
         if (!line.trimmed().isEmpty())
             writeStandardOutput(answerRequest(world, line) + u'\n');
     }
@@ -81,9 +86,9 @@ void listTools(const Catalogue &catalogue) {
 int runWithCatalogue(const PipeArguments &arguments) {
     const QString folder = QCoreApplication::applicationDirPath();
     const Catalogue catalogue = Catalogue::read(sAppPath(folder) + Catalogue::fileName);
-    if (arguments.mode == PipeArguments::ListTools) {
+    if (arguments.mode == PipeArguments::Mode::ListTools) {
         listTools(catalogue);
-        return Done;
+        return exitCode::done;
     }
     FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
     SettingsStore store(SettingsStore::defaultPath());
@@ -91,7 +96,7 @@ int runWithCatalogue(const PipeArguments &arguments) {
         .store = store, .catalogue = catalogue, .extensions = extensions, .programFolder = folder};
     if (const QString trouble = store.takeTrouble(); !trouble.isEmpty())
         complain(trouble);
-    return arguments.mode == PipeArguments::Batch ? runBatch(world) : runSteps(world, arguments);
+    return arguments.mode == PipeArguments::Mode::Batch ? runBatch(world) : runSteps(world, arguments);
 }
 
 int run(const QStringList &commandLine) {
@@ -99,12 +104,12 @@ int run(const QStringList &commandLine) {
     if (!arguments.error.isEmpty())
         throw BadRequest(arguments.error);
     switch (arguments.mode) {
-    case PipeArguments::Help:
+    case PipeArguments::Mode::Help:
         writeStandardOutput(helpText());
-        return Done;
-    case PipeArguments::Version:
+        return exitCode::done;
+    case PipeArguments::Mode::Version:
         writeStandardOutput(QStringLiteral("tolvo-pipe %1\n").arg(applicationVersion()));
-        return Done;
+        return exitCode::done;
     default:
         return runWithCatalogue(arguments);
     }
@@ -122,9 +127,9 @@ int main(int argc, char **argv) {
         return tolvo::run(QCoreApplication::arguments().sliced(1));
     } catch (const tolvo::BadRequest &refusal) {
         tolvo::complain(QString::fromUtf8(refusal.what()));
-        return tolvo::BadUsage;
+        return tolvo::exitCode::badUsage;
     } catch (const std::exception &failure) {
         tolvo::complain(QString::fromUtf8(failure.what()));
-        return tolvo::InternalError;
+        return tolvo::exitCode::internalError;
     }
 }

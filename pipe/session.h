@@ -28,6 +28,7 @@ struct PipeWorld {
     QString programFolder;
 };
 
+/// A text and the steps that run on it.
 struct PipeRequest {
     QString text; ///< as the session holds it
     int selStart = 0;
@@ -37,6 +38,7 @@ struct PipeRequest {
     int capacity = textLimit;
 };
 
+/// How the session ended. Positions count UTF-16 units from 0.
 struct PipeReply {
     QString text;
     int selStart = 0;
@@ -59,7 +61,7 @@ class BadRequest : public std::runtime_error {
 };
 
 /// Runs the steps as the Actions of one PowerButton. `boxes` hears every message, `sayStatus` every status
-/// text. Throws BadRequest for a step that is none or that needs a window.
+/// text. Throws BadRequest for a step that is not a tool or that needs a window.
 [[nodiscard]] PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
                                 const std::function<void(const QString &)> &sayStatus = {});
 

@@ -15,7 +15,7 @@ int lengthByFirstByte(Byte first) {
     return first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
 }
 
-/// Bytes of the sequence at `bytes`, of which `left` are there; 0 if it is none.
+/// The length of the sequence at `bytes`, of which `left` bytes are there; 0 for bytes that aren't one.
 int sequenceLength(const Byte *bytes, qsizetype left) {
     const Byte first = bytes[0];
     const int length = lengthByFirstByte(first);

@@ -8,7 +8,8 @@
 
 namespace tolvo {
 
-/// The offset of the first byte that is no UTF-8, a sequence cut at the end included; nothing if all is well.
+/// The offset of the first byte that is not UTF-8, a sequence cut at the end included; nothing if all is
+/// well.
 [[nodiscard]] std::optional<qsizetype> firstBadByte(QByteArrayView bytes);
 
 /// The number of bytes up to a sequence that the end cuts off, and whose rest may still come; all if none is

@@ -21,7 +21,7 @@ class NumberBox : public QAbstractSpinBox {
         bool takesMinus = false;
     };
 
-    /// `name` is the object name of the text in the box; `meaning` tells what the number is for, to those who
+    /// `name` is the object name of the text in the box; `meaning` says what the number is for, to those who
     /// don't see the labels around it.
     NumberBox(const QString &name, const QString &meaning, Limits limits, QWidget *parent);
 

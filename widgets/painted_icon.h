@@ -10,8 +10,10 @@ class QRect;
 
 namespace tolvo {
 
+/// Paints the icon into a square or any other rectangle.
 using PaintIcon = std::function<void(QPainter &, const QRect &, QIcon::Mode)>;
 
+/// An icon that calls `paint` each time.
 [[nodiscard]] QIcon paintedIcon(PaintIcon paint);
 
 } // namespace tolvo
