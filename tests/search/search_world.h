@@ -12,11 +12,6 @@
 
 namespace tolvo::test {
 
-/// Whether a row's options hold a letter.
-inline bool has(const char *options, char option) {
-    return QLatin1StringView(options).contains(QLatin1Char(option));
-}
-
 struct KeptResults : SearchResults {
     void clear() override {
         lines.clear();

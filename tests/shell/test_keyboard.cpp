@@ -6,29 +6,6 @@ using namespace tolvo::test;
 
 namespace {
 
-TEST(Keyboard, editsAndWalksAtTheCaret) {
-    // The key with Ctrl, before, afterwards, what is told
-    for (const char16_t *example :
-         {u"U→«»abcd→A«»bcd", u"U→a«bc»d→aBC«»d", u"U→ab«»→ab«»", u"U→a«»|b→a|«»b",
-          u"U→«»\U0001F600b→\U0001F600«»b", // never half a pair
-          u"L→«»ABC→a«»BC", u"S→«aB»c→Ab«»c", u"K→«»abc def→A«»bc def", u"K→«abc def»→Abc Def«»",
-          u"K→abc def«»→Abc Def«»", // nothing to select: the whole text
-          u"T→a«»b→ba«»", u"T→«»ab→«»ab", u"T→ab«»→ab«»", u"T→a«»\U0001F600c→\U0001F600a«»c",
-          u"T→a«bc»d→ba«»cd", u"T→a«»|b→|a«»b", u"A→a«»|b→«a|b»",
-          // The partner of a bracket
-          u"[→«»(a(b)c)→(a(b)c«)»", u"[→(a(b)c)«»→«(»a(b)c)", u"[→(a(b)«»c)→(a«(»b)c)", u"[→a <«»b>→a <b«>»",
-          u"[→[(«»])→«[»(])", // the right side first
-          u"[→«»(→«»(→No matching )", u"[→«»)→«»)→No matching (", u"[→a«»b→a«»b", u"[→«»→«»"}) {
-        const QStringList parts = QString::fromUtf16(example).split(u'→');
-        SCOPED_TRACE(shown(parts[0] + parts[1]));
-        User user(parts[1]);
-        user.presses(parts[0].front().toLatin1());
-        if (parts.size() > 3)
-            user.isTold(parts[3]);
-        user.sees(parts[2]);
-    }
-}
-
 TEST(Keyboard, walksAlongTheTextWithOneUndoStateAtMost) {
     User user("«»abcd");
     for (int i = 0; i < 5; ++i)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The rows of examples.txt, which says what they are.
+#include "tests/support/examples.h"
 #include "tests/text/engine.h"
 
-#include <QFile>
 #include <map>
 
 using namespace tolvo;
@@ -10,15 +10,6 @@ using namespace tolvo::test;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString textOf(QString picture) {
-    const QString signs = u"␍␊⇥⍽␠"_s;
-    const QString units = u"\r\n\t\u00A0 "_s;
-    picture.replace(u'|', u"\r\n"_s);
-    for (qsizetype i = 0; i < signs.size(); ++i)
-        picture.replace(signs[i], units[i]);
-    return picture;
-}
 
 struct Examples : Engine {
     /// A tool that takes nothing but the text.
@@ -71,21 +62,11 @@ struct Examples : Engine {
 
 TEST_F(Examples, comeOutAsTheFileSays) {
     engine.setTopLevelDomains(u",com,org,"_s);
-    QFile file(qEnvironmentVariable("TOLVO_SOURCE") + u"/tests/text/examples.txt"_s);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    int rows = 0;
-    QString tool;
-    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n')) {
-        const QStringList sides = line.split(u'→');
-        if (sides.size() == 2) {
-            EXPECT_EQ(result(tool, textOf(sides[0])), textOf(sides[1]))
-                << shown(tool) << ": " << shown(sides[0]);
-            ++rows;
-        } else if (line.startsWith(u'[')) {
-            tool = line.sliced(1).chopped(1);
-        }
-    }
-    EXPECT_EQ(rows, 449);
+    forEachExample("/tests/text/examples.txt", 449, [this](const QString &tool, QStringList sides) {
+        for (QString &side : sides)
+            side.replace(u'|', u"\r\n"_s);
+        EXPECT_EQ(result(tool, sides[0]), sides[1]);
+    });
 }
 
 } // namespace
