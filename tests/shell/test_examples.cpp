@@ -20,7 +20,7 @@ void plays(User &user, const QString &word) {
     else if (word == "Redo^")
         user.presses('Z', ShiftState::Ctrl | ShiftState::Shift);
     else if (word.startsWith(u'@'))
-        user.session.restore(stateOf(rest)); // another selection
+        restore(user.session.txtCurrent(), stateOf(rest)); // another selection
     else if (word.startsWith(u'>'))
         user.pastes(rest);
     else if (word == "Undo")
