@@ -24,13 +24,16 @@ class CAction {
 
     /// The value of a key of Details, "" if it isn't there.
     [[nodiscard]] QString Param(const QString &key) const { return m_params.arg(key); }
+    /// All pairs of Details.
     [[nodiscard]] const CParams &params() const { return m_params; }
+    /// Sets all three and parses `details`.
     void init(ToolPtr tool, SettingsFrom dlgOption, const QString &details);
 
     /// Setting Details parses them.
     void setDetails(const QString &details);
     [[nodiscard]] const QString &Details() const { return m_details; }
     void setTool(ToolPtr tool) { m_tool = std::move(tool); }
+    /// Null for a blank Action.
     [[nodiscard]] const ToolPtr &Tool() const { return m_tool; }
     void setDlgOption(SettingsFrom option) { m_dlgOption = option; }
     [[nodiscard]] SettingsFrom DlgOption() const { return m_dlgOption; }

@@ -59,6 +59,7 @@ class CPowerButtonCollection {
     void Add(std::shared_ptr<CPowerButton> button, int number);
     /// Nothing for an unknown number.
     [[nodiscard]] std::shared_ptr<CPowerButton> Item(int number) const;
+    /// How many numbers have a button.
     [[nodiscard]] int Count() const;
     void Remove(int number);
 

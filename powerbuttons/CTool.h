@@ -31,6 +31,7 @@ class CTool {
 /// Entries are shared between the catalogue and the Actions.
 using ToolPtr = std::shared_ptr<const CTool>;
 
+/// An entry for the catalogue: see CTool::init().
 [[nodiscard]] ToolPtr makeTool(const QString &name, const QString &token, const QString &tooltip,
                                bool gotDialog);
 

@@ -31,6 +31,7 @@ class Catalogue {
     [[nodiscard]] static Catalogue read(const QString &path);
     [[nodiscard]] static Catalogue read(QIODevice &file, const QString &name = fileName);
 
+    /// All entries, in file order, "toolNULL" at the end.
     [[nodiscard]] const QList<ToolPtr> &tools() const { return m_tools; }
     /// The tool of a token (or of ">" and a heading's name); null if there is none.
     [[nodiscard]] ToolPtr tool(const QString &key) const { return m_byKey.value(key); }

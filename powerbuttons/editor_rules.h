@@ -37,14 +37,18 @@ class EditorRules {
     /// Begins with the button of an index from 0. A button without Actions gets a blank one.
     void init(int index);
 
+    /// Of the button, from 1.
     [[nodiscard]] int number() const { return m_number; }
+    /// "Edit PowerButton 3"
     [[nodiscard]] QString caption() const;
     [[nodiscard]] CPowerButton &button() const { return *m_button; }
+    /// Of the current Action, from 1.
     [[nodiscard]] int position() const { return m_position; }
     [[nodiscard]] Form form() const;
 
     /// A leaf of the tool tree was chosen: a blank Action takes the tool at once, another asks first.
     void chooseTool(const QString &token);
+    /// Chooses it on the form; the Action takes it when the user leaves it or saves.
     void chooseOption(SettingsFrom option);
     /// Asks for the settings of the current Action; new ones select "custom".
     void chooseSettings();
@@ -66,6 +70,7 @@ class EditorRules {
     enum class Saved { Yes, NoAction, NoName };
     /// Validates, then stores the button under the name. NoName: the window puts the focus there.
     Saved save(const QString &name);
+    /// Takes back everything since the last save.
     void cancel();
     /// Asks, then puts an undefined button in place of this one, in the store too. True: the editor closes.
     bool destroy();

@@ -31,6 +31,7 @@ struct ButtonIcon {
     bool operator==(const ButtonIcon &) const = default;
 };
 
+/// The icon of a button, and the other way round.
 [[nodiscard]] ButtonIcon iconOf(const CPowerButton &button);
 void setIcon(CPowerButton &button, const ButtonIcon &icon);
 

@@ -25,6 +25,7 @@ struct RegistryPlace {
     QString application;
     QString section;
 };
+///   registryPlace("HKEY_CURRENT_USER", "Software\\Tolvo Settings\\Tolvo\\Search") is {"Tolvo", "Search"}
 [[nodiscard]] std::optional<RegistryPlace> registryPlace(const QString &root, const QString &path);
 
 /// One value of a key.

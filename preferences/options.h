@@ -39,6 +39,7 @@ struct ProgramOptions : WordOptions {
 /// say of the proportional one. A provider that can't be read is the default: what can't be read must not
 /// keep the user from the dialog that would put it right.
 [[nodiscard]] ProgramOptions loadOptions(const SettingsStore &store, const Font &ownFont = {});
+/// The part of them that the text engine needs.
 [[nodiscard]] WordOptions loadWordOptions(const SettingsStore &store);
 
 /// Writes everything but word wrap, whose toggle writes itself.

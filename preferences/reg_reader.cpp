@@ -183,11 +183,16 @@ QString Reader::readQuoted(QStringView &rest) const {
     fail(QStringLiteral("the closing quotation mark is missing"));
 }
 
+/// The line up to a semicolon.
+QStringView withoutComment(QStringView line) {
+    const qsizetype comment = line.indexOf(u';');
+    return comment < 0 ? line : line.first(comment);
+}
+
 /// Hexadecimal bytes between commas, going on in the next line after a backslash.
 QString Reader::readHex(QStringView data) {
     QByteArray bytes;
-    const qsizetype comment = data.indexOf(u';');
-    QStringView rest = comment < 0 ? data : data.first(comment);
+    QStringView rest = withoutComment(data);
     bool complete = rest.trimmed().isEmpty();
     while (!complete) {
         const qsizetype comma = rest.indexOf(u',');
@@ -195,9 +200,7 @@ QString Reader::readHex(QStringView data) {
         if (comma < 0 && (field == u"\\" || field.isEmpty())) {
             if (field.isEmpty() || m_lines.atEnd())
                 fail(QStringLiteral("the bytes of the value are cut off"));
-            rest = m_lines.next();
-            if (const qsizetype semicolon = rest.indexOf(u';'); semicolon >= 0)
-                rest = rest.first(semicolon);
+            rest = withoutComment(m_lines.next());
             continue;
         }
         bool ok = false;

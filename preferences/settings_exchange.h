@@ -12,9 +12,10 @@ class SettingsStore;
 /// What is written: the whole settings tree, or its section PowerButtons alone. Statistics are never written.
 enum class ExportScope { Everything, PowerButtons };
 
+/// The bytes of such a file.
 [[nodiscard]] QByteArray exportedSettings(const SettingsStore &store, ExportScope scope);
 /// Writes the file, all or nothing: where that fails, a file that was there stays as it was. Throws a Failure
-/// in words.
+/// that says why.
 void exportSettings(const SettingsStore &store, ExportScope scope, const QString &fileName);
 
 /// Merges the file into the store, in one transaction. Throws a Failure whose description names the line: an

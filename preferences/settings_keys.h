@@ -69,6 +69,7 @@ struct SearchKeys {
 struct ButtonSection {
     static constexpr auto tree = SettingsTree::Settings;
     static constexpr QStringView parent = u"PowerButtons"; ///< of the sections of all PowerButtons
+    /// path(3) is "PowerButtons\Button 3".
     [[nodiscard]] static QString path(int number) {
         return QStringLiteral("%1\\Button %2").arg(parent).arg(number);
     }
@@ -77,6 +78,7 @@ struct ButtonSection {
 /// Where the keys of an Action lie: the section of the PowerButton, and the name of the Action's own.
 struct ActionSection {
     static constexpr auto tree = SettingsTree::Settings;
+    /// path(3, "1") is "PowerButtons\Button 3\1".
     [[nodiscard]] static QString path(int number, const QString &action) {
         return ButtonSection::path(number) + u'\\' + action;
     }

@@ -31,15 +31,19 @@ class SettingsRows {
   public:
     SettingsRows(const QString &path, int busyMilliseconds);
 
+    /// Nothing if there is no such key.
     [[nodiscard]] std::optional<QString> value(const SectionAddress &section, const QString &foldedKey);
+    /// Keys and texts, and the names of sections, in the order in which they were first written.
     [[nodiscard]] QList<std::pair<QString, QString>> values(const SectionAddress &section);
     [[nodiscard]] QStringList subsections(const SectionAddress &section);
     [[nodiscard]] bool hasSection(const SectionAddress &section);
 
+    /// Makes the section if it isn't there.
     void save(const SectionAddress &section, const QString &key, const QString &text);
     /// Adds 1. Throws a Failure for a stored text that is not a number.
     void increment(const SectionAddress &section, const QString &key);
     void addSection(const SectionAddress &section);
+    /// With all that lies below it.
     void removeSection(const SectionAddress &section);
     void removeValue(const SectionAddress &section, const QString &foldedKey);
 

@@ -39,6 +39,7 @@ class SettingsStore {
     /// The stored string, or the default if the key or a level above it doesn't exist.
     [[nodiscard]] QString GetSetting(const QString &application, const QString &section, const QString &key,
                                      const QString &defaultValue = {}) const;
+    /// A number and a flag as the default live for their fixed form alone: keys have typed ones (setting.h).
     [[nodiscard]] QString GetSetting(const QString &application, const QString &section, const QString &key,
                                      int defaultValue) const;
     [[nodiscard]] QString GetSetting(const QString &application, const QString &section, const QString &key,

@@ -32,6 +32,7 @@ void walkMatches(const RegularExpression &expression, QStringView text, MatchBud
 /// All matches, in order.
 [[nodiscard]] QList<RegularExpression::Span> matchesOf(const RegularExpression &expression, QStringView text,
                                                        MatchBudget &budget);
+/// Whether there is a match anywhere in the text.
 [[nodiscard]] bool hasMatch(const RegularExpression &expression, QStringView text, MatchBudget &budget);
 /// True if the text, as a whole, is the one match in it.
 [[nodiscard]] bool isOneMatch(const RegularExpression &expression, QStringView text, MatchBudget &budget);

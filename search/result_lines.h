@@ -37,6 +37,7 @@ struct HitLocation {
     int start;
     int length;
 };
+/// unpackLocation(1230005) is {123, 5}.
 [[nodiscard]] HitLocation unpackLocation(qint32 location);
 
 /// The caption of the list.

@@ -13,6 +13,7 @@ namespace tolvo {
 class SearchResults {
   public:
     virtual ~SearchResults() = default;
+    /// Empties the list.
     virtual void clear() = 0;
     virtual void add(const QString &line, qint32 location) = 0;
     virtual void setCaption(const QString &caption) = 0;

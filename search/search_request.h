@@ -41,6 +41,7 @@ struct SearchRequest {
             return SearchVerb::Search;
         return replaceAll ? SearchVerb::ReplaceAll : SearchVerb::Replace;
     }
+    /// What the translation of wildcards needs of it.
     [[nodiscard]] WildcardOptions wildcardOptions() const {
         return {
             .wholeWords = wholeWords, .anchor = anchor, .decimalSep = decimalSep, .groupingSep = groupingSep};

@@ -23,8 +23,10 @@ class MessageBoxes;
 class OptionsActions {
   public:
     virtual ~OptionsActions() = default;
+    /// Stores the options and puts them into effect.
     virtual void apply(const ProgramOptions &options) = 0;
     [[nodiscard]] virtual bool isSystemExtension(const QString &extension) const = 0;
+    /// Looks for an update.
     virtual void checkNow() = 0;
     virtual void viewStatistics() = 0;
     virtual void exportPrefs(const QString &file, bool powerButtonsOnly) = 0;
