@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pages of the Options dialog, and its controls' state.
+// The pages of the Options dialog.
 #include "preferences/ui/dlgPreferences.h"
 
 #include "platform/message_box.h"
@@ -255,51 +255,6 @@ QWidget *dlgPreferences::buttonRow() {
     for (QPushButton *button : {ok, cancel, apply})
         layout->addWidget(button);
     return row;
-}
-
-void dlgPreferences::init(const ProgramOptions &options, const QString &lastCheck) {
-    m_options = options;
-    for (std::size_t i = 0; i < 2; ++i)
-        m_txtFont[i]->setText(FontDescription(options.fonts[i]));
-    m_optProp[options.useProportional ? 0 : 1]->setChecked(true);
-    m_chkWordwrap->setChecked(options.wordWrap);
-    m_lstExtensions->clear();
-    for (const QString &extension : options.extensions) {
-        if (!m_actions.isSystemExtension(extension))
-            m_lstExtensions->addItem(extension);
-    }
-    m_txtExt->clear();
-    m_optTLDs[options.fullDomainList ? 0 : 1]->setChecked(true);
-    m_chkShowTips->setChecked(options.showTips);
-    m_chkSounds->setChecked(options.sounds);
-    m_chkUpdates->setChecked(options.checkUpdates);
-    m_chkUsageStats->setChecked(options.allowStats);
-    m_labLastCheck->setText(lastCheck);
-    for (std::size_t i = 0; i < m_optSpellingProvider.size(); ++i) {
-        // Without this a number outside the list would leave the option of the time before ticked.
-        m_optSpellingProvider[i]->setAutoExclusive(false);
-        m_optSpellingProvider[i]->setChecked(static_cast<int>(i) == options.provider);
-        m_optSpellingProvider[i]->setAutoExclusive(true);
-    }
-}
-
-ProgramOptions dlgPreferences::options() const {
-    ProgramOptions options = m_options;
-    options.useProportional = m_optProp[0]->isChecked();
-    options.wordWrap = m_chkWordwrap->isChecked();
-    options.extensions.clear();
-    for (int row = 0; row < m_lstExtensions->count(); ++row)
-        options.extensions += m_lstExtensions->item(row)->text();
-    options.fullDomainList = m_optTLDs[0]->isChecked();
-    options.showTips = m_chkShowTips->isChecked();
-    options.sounds = m_chkSounds->isChecked();
-    options.checkUpdates = m_chkUpdates->isChecked();
-    options.allowStats = m_chkUsageStats->isChecked();
-    for (std::size_t i = 0; i < m_optSpellingProvider.size(); ++i) {
-        if (m_optSpellingProvider[i]->isChecked())
-            options.provider = static_cast<int>(i);
-    }
-    return options;
 }
 
 } // namespace tolvo
