@@ -13,14 +13,14 @@ namespace tolvo {
 /// The most blanks that any tool puts before a line or after a mark.
 inline constexpr int mostSpaces = 255;
 
-/// The styles of a numbered list, in the order of the dialog's list. The first five have one level; the
-/// outline has as many as its indentation.
+/// The styles of a numbered list, by the numbers in the store and of the dialog's list. The first five have
+/// one level; the outline has as many as its indentation.
 enum class ListStyle { Decimal, LowerLetters, UpperLetters, LowerRoman, UpperRoman, Outline };
 inline constexpr int lastListStyle = static_cast<int>(ListStyle::Outline);
 inline constexpr std::array<QStringView, 6> listStyleNames = {
     u"1 2 3 4", u"a b c d", u"A B C D", u"i  ii  iii  iv", u"I  II  III  IV", u"1.2  1.3  1.4"};
 
-/// What stands around a number, in the order of the dialog's list.
+/// What stands around a number, by the numbers in the store and of the dialog's list.
 enum class FollowChar { None, Stop, Bracket, Brackets };
 /// A choice of FollowChar: the entry of the list, and the characters.
 struct FollowCharacters {

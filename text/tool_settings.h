@@ -20,6 +20,7 @@ namespace tolvo {
 class SettingsStore;
 
 struct IndentSettings {
+    /// By the numbers in settings strings and of the dialog's options.
     enum class Choice { Tab, Spaces, Text };
     static constexpr int mostRecentTexts = 20;
     Choice choice = Choice::Tab;
