@@ -10,33 +10,6 @@ namespace {
 
 using WordWrap = Engine;
 
-struct Case {
-    int width;
-    const char16_t *text, *expected;
-    bool hanging = false;
-    bool tab = true;
-};
-
-TEST_F(WordWrap, breaksLinesAtBlanks) {
-    for (const Case &c :
-         {Case{20, u"aaaa bbbb cccc dddd eeee ", u"aaaa bbbb cccc dddd|eeee"},
-          {12, u"short|text ", u"short|text"},
-          {12, u"short text|", u"short text|"},
-          {12, u"", u""},
-          {12, u"a  b   c", u"a  b   c"},
-          {12, u"  ab c", u"ab c"},
-          {12, u"aaaaaaaaaaaa b", u"|aaaaaaaaaaaa|b"},
-          {12, u"a bbbbbbbbbbbbbbb c d", u"a|bbbbbbbbbbbbbbb|c d"},
-          {12, u"a\tb ccc", u"a\tb|ccc"},
-          {12, u"aaaaaaaaa \tb c", u"aaaaaaaaa |\tb c"},
-          {12, u"aaaa bbbb cccc dddd eeee", u"aaaa bbbb|\tcccc|\tdddd|\teeee", true},
-          {13, u"aaaa bbbb cccc dddd|e ", u"aaaa bbbb|        cccc|        dddd|e", true, false},
-          // After the last blank everything is one word, line ends included.
-          {12, u"aaaa bb|c|d", u"aaaa|bb|c|d"},
-          {12, u"aaaa|bbbbbbbbbbbbbbbbbbbbbb", u"|aaaa|bbbbbbbbbbbbbbbbbbbbbb"}})
-        EXPECT_EQ(engine.WordWrap(lines(c.text), c.width, c.hanging, c.tab, false), lines(c.expected));
-}
-
 qsizetype widthOnScreen(QStringView line) {
     qsizetype column = 0;
     for (const QChar unit : line)
