@@ -29,18 +29,26 @@ class Examples : public SearchWorld {
     }
     void replaces(const QString &section, const QStringList &sides) {
         const auto has = [&](char16_t option) { return sides[3].contains(option); };
+        int changes = 0;
+        box.onChange = [&] { ++changes; };
         if (section == u"SimpleReplace")
             search.SimpleReplace(sides[1], sides[2], has(u'x'), has(u'u'), has(u'd'), has(u's'), has(u'c'),
                                  has(u'w'), has(u'm'), has(u'a'));
+        else if (section == u"SimpleReplaceAll")
+            search.SimpleReplaceAll(sides[1], sides[2], has(u'x'), has(u'c'), has(u'w'), has(u'm'), false);
+        else if (section == u"RegExpReplaceAll")
+            search.RegExpReplaceAll(sides[1], sides[2], false, has(u'm'), false);
         else
             search.RegExpReplace(sides[1], sides[2], has(u'u'), has(u's'), false, has(u'm'), has(u'a'));
+        box.onChange = {};
+        EXPECT_LE(changes, 1);
     }
 };
 
 TEST_F(Examples, comeOutAsTheFileSays) {
     forEachExample(
-        "/tests/search/examples.txt", 62, [this](const QString &section, const QStringList &sides) {
-            const bool isReplacement = section.endsWith(u"Replace");
+        "/tests/search/examples.txt", 81, [this](const QString &section, const QStringList &sides) {
+            const bool isReplacement = section.contains(u"Replace");
             test::show(box, sides[0]);
             isReplacement ? replaces(section, sides) : finds(section, sides);
             EXPECT_EQ(picture(), sides[isReplacement ? 4 : 3]);

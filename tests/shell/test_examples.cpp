@@ -39,8 +39,8 @@ void plays(User &user, const QString &word) {
 }
 
 TEST(Examples, comeOutAsTheFileSays) {
-    forEachExample("/tests/shell/examples.txt", 100, [](const QString &section, const QStringList &sides) {
-        User user(sides[section == "Tools" || section == "Keys" ? 1 : 0]);
+    forEachExample("/tests/shell/examples.txt", 110, [](const QString &section, const QStringList &sides) {
+        User user(sides[section == "StoredSearches" ? 2 : section == "Tools" || section == "Keys" ? 1 : 0]);
         if (section == "Tools") {
             const QString before = user.session.txtCurrent().Text();
             user.runs(sides[0]);
@@ -54,7 +54,13 @@ TEST(Examples, comeOutAsTheFileSays) {
             user.presses(sides[0].front().toLatin1());
             user.sees(sides[2]);
             EXPECT_EQ(user.boxes.said(), sides[3]);
+        } else if (section == "StoredSearches") {
+            user.session.PowerButtonDespatcher(*User::action(sides[0], Custom, sides[1]));
+            const bool withSelection = sides[3].contains(u'«');
+            EXPECT_EQ(withSelection ? pictureOf(user.session.txtCurrent()) : user.session.txtCurrent().Text(),
+                      sides[3]);
         } else {
+            EXPECT_EQ(section, "Undo");
             for (const QString &word : sides[1].split(u' '))
                 plays(user, word);
         }

@@ -146,36 +146,7 @@ TEST(PowerButtons, aCycleEndsInOneReportAndAllStaysAsItWas) {
     user.sees("a«B»");
 }
 
-TEST(PowerButtons, searchWithStoredSettings) {
-    const struct {
-        const char16_t *details;
-        bool replace;
-        const char16_t *before, *after;
-    } cases[] = {
-        {u"Mode=1, Find=b, MatchCase=0, Direction=S", false, u"a«»b", u"a«b»"},
-        {u"Mode=1, Find=b, Direction=D, Replace=xx", true, u"«»ab b", u"axx b"},
-        {u"Mode=1, Find=b, Replace=xx, ReplaceAll=1", true, u"ab b", u"axx xx"},
-        // A missing mode is simple search, and what is missing otherwise is off: SmartReplace too.
-        {u"Find=., Direction=S", false, u"a.«»b", u"a«.»b"},
-        {u"Mode=1, Find=B, Direction=S, Replace=x", true, u"aB", u"ax"},
-        {u"Mode=2, Find=b, Direction=S, Replace=x", true, u"b a«»", u"x a"},
-        // Only here D begins at the top and S goes on from the caret.
-        {u"Mode=3, Find=b, Direction=D, Replace=x", true, u"b «»b", u"x b"},
-        {u"Mode=3, Find=b, Direction=S, Replace=x", true, u"b «»b", u"b x"},
-        {u"Mode=3, Find=b, Direction=S", false, u"b «»b", u"«b» b"},
-        // The separator that the window stores is not the one that is read.
-        {u"Mode=2, Find=#, DecimalSep=., GroupingSep=,, Replace=n, ReplaceAll=1", true, u"1,234", u"n,n"}};
-    for (const auto &row : cases) {
-        SCOPED_TRACE(QString::fromUtf16(row.details).toStdString());
-        User user(QString::fromUtf16(row.before));
-        user.session.PowerButtonDespatcher(
-            *User::action(row.replace ? "edREP" : "edSRC", Custom, QString::fromUtf16(row.details)));
-        const QString picture = QString::fromUtf16(row.after);
-        if (picture.contains(u'«'))
-            user.sees(picture);
-        else
-            EXPECT_EQ(user.session.txtCurrent().Text(), picture);
-    }
+TEST(PowerButtons, refuseAModeThatIsNotThere) {
     User user("ab");
     user.session.PowerButtonDespatcher(*User::action("edSRC", Custom, "Mode=4, Find=b, Direction=S"));
     user.sees("«»ab");
