@@ -55,7 +55,7 @@ TEST(Examples, comeOutAsTheFileSays) {
             user.sees(sides[2]);
             EXPECT_EQ(user.boxes.said(), sides[3]);
         } else if (section == "StoredSearches") {
-            user.session.PowerButtonDespatcher(*User::action(sides[0], Custom, sides[1]));
+            user.session.PowerButtonDespatcher(*User::action(sides[0], SettingsFrom::Custom, sides[1]));
             const bool withSelection = sides[3].contains(u'«');
             EXPECT_EQ(withSelection ? pictureOf(user.session.txtCurrent()) : user.session.txtCurrent().Text(),
                       sides[3]);

@@ -66,7 +66,7 @@ struct Examples : Engine {
         const int second = settings.value(1).toInt();
         const int third = settings.value(2).toInt();
         if (tool == u"number")
-            return engine.number(text, first, second, 1, third == 0, third);
+            return engine.number(text, first, ListStyle{second}, FollowChar::Stop, third == 0, third);
         EXPECT_EQ(tool, u"LineNumber");
         return engine.LineNumber(text, first, second, third, flags.contains(u'b'), flags.contains(u'p'),
                                  flags.contains(u'r'));
