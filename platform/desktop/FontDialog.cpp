@@ -41,18 +41,18 @@ Control *named(Control *control, const char *name) {
 FontDialog::FontDialog(const Font &font, QWidget *parent)
     : QDialog(parent), m_given(font), m_shownFamily(QFontInfo(toQFont(font)).family()),
       cmbFamily(named(new QFontComboBox(this), "cmbFamily")), txtSize(named(new SizeBox(this), "txtSize")),
-      chkBold(named(new QCheckBox(tr("&Bold"), this), "chkBold")),
-      chkItalic(named(new QCheckBox(tr("&Italic"), this), "chkItalic")),
-      txtSample(named(new QLineEdit(tr("The quick brown fox, 0123456789"), this), "txtSample")) {
+      chkBold(named(new QCheckBox(QStringLiteral("&Bold"), this), "chkBold")),
+      chkItalic(named(new QCheckBox(QStringLiteral("&Italic"), this), "chkItalic")),
+      txtSample(named(new QLineEdit(QStringLiteral("The quick brown fox, 0123456789"), this), "txtSample")) {
     setObjectName(QStringLiteral("cmnDialog"));
-    setWindowTitle(tr("Choose font"));
+    setWindowTitle(QStringLiteral("Choose font"));
     cmbFamily->setEditable(false);
     cmbFamily->setWritingSystem(QFontDatabase::Latin);
     cmbFamily->setCurrentFont(QFont(m_shownFamily));
     txtSize->setValue(font.size > 0 ? font.size : fromQFont(toQFont(font)).size);
     chkBold->setChecked(font.bold);
     chkItalic->setChecked(font.italic);
-    txtSample->setAccessibleName(tr("Sample"));
+    txtSample->setAccessibleName(QStringLiteral("Sample"));
     layOut();
     connect(cmbFamily, &QFontComboBox::currentFontChanged, this, &FontDialog::showSample);
     connect(txtSize, &QDoubleSpinBox::valueChanged, this, &FontDialog::showSample);
@@ -73,17 +73,17 @@ void FontDialog::layOut() {
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto *form = new QFormLayout(this);
-    form->addRow(tr("&Font:"), cmbFamily);
+    form->addRow(QStringLiteral("&Font:"), cmbFamily);
     if (m_shownFamily.compare(m_given.name, Qt::CaseInsensitive) != 0) {
-        auto *note = named(
-            new QLabel(tr("%1 is not installed here: %2 stands in for it.").arg(m_given.name, m_shownFamily),
-                       this),
-            "labStandIn");
+        auto *note = named(new QLabel(QStringLiteral("%1 is not installed here: %2 stands in for it.")
+                                          .arg(m_given.name, m_shownFamily),
+                                      this),
+                           "labStandIn");
         note->setTextFormat(Qt::PlainText);
         note->setWordWrap(true);
         form->addRow(QString(), note);
     }
-    form->addRow(tr("&Size:"), txtSize);
+    form->addRow(QStringLiteral("&Size:"), txtSize);
     form->addRow(QString(), style);
     form->addRow(txtSample);
     form->addRow(buttons);

@@ -46,9 +46,9 @@ class NumberBox : public QSpinBox {
 
 dlgChoosePB::dlgChoosePB(const CPowerButtonCollection &buttons, QWidget *parent)
     : QDialog(parent), m_buttons(buttons), m_number(new NumberBox(this)), m_name(new QLineEdit(this)),
-      m_refusal(new QLabel(tr("You cannot add a button to itself"), this)) {
+      m_refusal(new QLabel(QStringLiteral("You cannot add a button to itself"), this)) {
     setObjectName(QStringLiteral("dlgChoosePB"));
-    setWindowTitle(tr("Choose PowerButton"));
+    setWindowTitle(QStringLiteral("Choose PowerButton"));
     m_name->setObjectName(QStringLiteral("txtName"));
     m_name->setReadOnly(true);
     m_name->setFocusPolicy(Qt::NoFocus);
@@ -67,8 +67,8 @@ dlgChoosePB::dlgChoosePB(const CPowerButtonCollection &buttons, QWidget *parent)
     connect(m_number, &QSpinBox::valueChanged, this, &dlgChoosePB::follow);
 
     auto *form = new QFormLayout;
-    form->addRow(tr("Power&Button:"), m_number);
-    form->addRow(tr("Name:"), m_name);
+    form->addRow(QStringLiteral("Power&Button:"), m_number);
+    form->addRow(QStringLiteral("Name:"), m_name);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(m_refusal);

@@ -41,7 +41,7 @@ dlgEditIcon::dlgEditIcon(QStringList &recentCharacters, QWidget *parent)
       m_size(new QScrollBar(Qt::Horizontal, this)), m_fontLabel(new QLabel(this)),
       m_preview(new IconPreview(previewMagnification, this)), m_small(new IconPreview(1, this)) {
     setObjectName(QStringLiteral("dlgEditIcon"));
-    setWindowTitle(tr("Edit Button Icon"));
+    setWindowTitle(QStringLiteral("Edit Button Icon"));
     makeControls();
     arrange();
     connect(m_symbol, &QLineEdit::textChanged, this, [this](const QString &text) {
@@ -59,7 +59,7 @@ dlgEditIcon::dlgEditIcon(QStringList &recentCharacters, QWidget *parent)
 void dlgEditIcon::makeControls() {
     m_symbol->setObjectName(QStringLiteral("txtSymbol"));
     m_size->setObjectName(QStringLiteral("FlatScrollBar1"));
-    m_size->setAccessibleName(tr("Size of the font"));
+    m_size->setAccessibleName(QStringLiteral("Size of the font"));
     m_size->setRange(smallestIconFont, largestIconFont);
     m_size->setPageStep(4);
     // A scroll bar inverts its keys, which is right only for one that stands upright.
@@ -69,9 +69,9 @@ void dlgEditIcon::makeControls() {
     m_fontLabel->setObjectName(QStringLiteral("labFont"));
     m_fontLabel->setTextFormat(Qt::PlainText);
     m_preview->setObjectName(QStringLiteral("picPreview"));
-    m_preview->setAccessibleName(tr("Preview"));
+    m_preview->setAccessibleName(QStringLiteral("Preview"));
     m_small->setObjectName(QStringLiteral("picSmall"));
-    m_small->setAccessibleName(tr("Preview at the size of the button"));
+    m_small->setAccessibleName(QStringLiteral("Preview at the size of the button"));
 }
 
 QToolButton *dlgEditIcon::makeArrow(const char *name, Qt::ArrowType arrow, const QString &accessibleName,
@@ -92,18 +92,23 @@ QToolButton *dlgEditIcon::makeArrow(const char *name, Qt::ArrowType arrow, const
 }
 
 void dlgEditIcon::arrange() {
-    auto *frame = new QGroupBox(tr("Preview"), this);
+    auto *frame = new QGroupBox(QStringLiteral("Preview"), this);
     frame->setObjectName(QStringLiteral("frmPreview"));
     auto *grid = new QGridLayout(frame);
-    grid->addWidget(makeArrow("AdjustUp", Qt::UpArrow, tr("Move up"), 0, -1), 0, 1, Qt::AlignCenter);
-    grid->addWidget(makeArrow("AdjustLeft", Qt::LeftArrow, tr("Move left"), -1, 0), 1, 0, Qt::AlignCenter);
+    grid->addWidget(makeArrow("AdjustUp", Qt::UpArrow, QStringLiteral("Move up"), 0, -1), 0, 1,
+                    Qt::AlignCenter);
+    grid->addWidget(makeArrow("AdjustLeft", Qt::LeftArrow, QStringLiteral("Move left"), -1, 0), 1, 0,
+                    Qt::AlignCenter);
     grid->addWidget(m_preview, 1, 1, Qt::AlignCenter);
-    grid->addWidget(makeArrow("AdjustRight", Qt::RightArrow, tr("Move right"), 1, 0), 1, 2, Qt::AlignCenter);
-    grid->addWidget(makeArrow("AdjustDown", Qt::DownArrow, tr("Move down"), 0, 1), 2, 1, Qt::AlignCenter);
+    grid->addWidget(makeArrow("AdjustRight", Qt::RightArrow, QStringLiteral("Move right"), 1, 0), 1, 2,
+                    Qt::AlignCenter);
+    grid->addWidget(makeArrow("AdjustDown", Qt::DownArrow, QStringLiteral("Move down"), 0, 1), 2, 1,
+                    Qt::AlignCenter);
 
-    QToolButton *symbol = makeTextButton(this, "imgGetSymbol", "choose-symbol", tr("Choose s&ymbol..."));
-    QToolButton *font = makeTextButton(this, "imgSetFont", "choose-font", tr("Choose &font..."));
-    auto *centreButton = new QPushButton(tr("C&entre"), this);
+    QToolButton *symbol =
+        makeTextButton(this, "imgGetSymbol", "choose-symbol", QStringLiteral("Choose s&ymbol..."));
+    QToolButton *font = makeTextButton(this, "imgSetFont", "choose-font", QStringLiteral("Choose &font..."));
+    auto *centreButton = new QPushButton(QStringLiteral("C&entre"), this);
     centreButton->setObjectName(QStringLiteral("cmdCentre"));
     centreButton->setAutoDefault(false);
     connect(symbol, &QToolButton::clicked, this, &dlgEditIcon::getSymbol);
@@ -114,13 +119,13 @@ void dlgEditIcon::arrange() {
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->setVerticalSpacing(10);
     form->setHorizontalSpacing(12);
-    form->addRow(tr("&Text, up to 3 characters:"), m_symbol);
+    form->addRow(QStringLiteral("&Text, up to 3 characters:"), m_symbol);
     form->addRow({}, symbol);
-    form->addRow(tr("Font:"), m_fontLabel);
+    form->addRow(QStringLiteral("Font:"), m_fontLabel);
     form->addRow({}, font);
-    form->addRow(tr("&Size:"), m_size);
-    form->addRow(tr("Position:"), centreButton);
-    form->addRow(tr("On the button:"), m_small);
+    form->addRow(QStringLiteral("&Size:"), m_size);
+    form->addRow(QStringLiteral("Position:"), centreButton);
+    form->addRow(QStringLiteral("On the button:"), m_small);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));

@@ -58,7 +58,7 @@ dlgPickCharacter::dlgPickCharacter(const QString &fontName, QStringList &recent,
       m_recentCharacters(new CharacterModel(columns, this)), m_large(new QLabel(this)),
       m_name(new QLabel(this)), m_chosen(new QLineEdit(this)) {
     setObjectName(QStringLiteral("dlgPickCharacter"));
-    setWindowTitle(tr("Choose Symbol"));
+    setWindowTitle(QStringLiteral("Choose Symbol"));
     makeTables();
     arrange();
 
@@ -84,10 +84,10 @@ void dlgPickCharacter::makeTables() {
     const int cell = fontMetrics().height() * 9 / 5;
     m_table = makeTable(this, m_characters, cell, visibleRows);
     m_table->setObjectName(QStringLiteral("tblCharacters"));
-    m_table->setAccessibleName(tr("Characters"));
+    m_table->setAccessibleName(QStringLiteral("Characters"));
     m_recentTable = makeTable(this, m_recentCharacters, cell, 1);
     m_recentTable->setObjectName(QStringLiteral("tblRecent"));
-    m_recentTable->setAccessibleName(tr("Characters chosen last"));
+    m_recentTable->setAccessibleName(QStringLiteral("Characters chosen last"));
     QList<char32_t> recent;
     for (const QString &character : m_recent)
         recent.append(static_cast<char32_t>(character.toUcs4().value(0)));
@@ -108,11 +108,11 @@ void dlgPickCharacter::makeTables() {
 void dlgPickCharacter::arrange() {
     m_font->setObjectName(QStringLiteral("cmbFont"));
     m_find->setObjectName(QStringLiteral("txtFind"));
-    m_find->setPlaceholderText(tr("Name or code: arrow, mail, 2192"));
+    m_find->setPlaceholderText(QStringLiteral("Name or code: arrow, mail, 2192"));
     m_find->setClearButtonEnabled(true);
     m_block->setObjectName(QStringLiteral("cmbBlock"));
     m_chosen->setObjectName(QStringLiteral("txtChosen"));
-    m_chosen->setPlaceholderText(tr("Up to three: double-click, or press Enter, to add"));
+    m_chosen->setPlaceholderText(QStringLiteral("Up to three: double-click, or press Enter, to add"));
     m_name->setObjectName(QStringLiteral("labCharacter"));
     m_name->setWordWrap(true);
     m_large->setAlignment(Qt::AlignCenter);
@@ -123,17 +123,17 @@ void dlgPickCharacter::arrange() {
 
     auto *form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->addRow(tr("&Find:"), m_find);
-    form->addRow(tr("&Block:"), m_block);
-    form->addRow(tr("F&ont:"), m_font);
+    form->addRow(QStringLiteral("&Find:"), m_find);
+    form->addRow(QStringLiteral("&Block:"), m_block);
+    form->addRow(QStringLiteral("F&ont:"), m_font);
     auto *current = new QHBoxLayout;
     current->addWidget(m_large);
     current->addWidget(m_name, 1);
-    auto *recentLabel = new QLabel(tr("&Recent:"), this);
+    auto *recentLabel = new QLabel(QStringLiteral("&Recent:"), this);
     recentLabel->setBuddy(m_recentTable);
     auto *chosen = new QFormLayout;
     chosen->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    chosen->addRow(tr("&Chosen:"), m_chosen);
+    chosen->addRow(QStringLiteral("&Chosen:"), m_chosen);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
@@ -178,7 +178,7 @@ void dlgPickCharacter::showFont() {
 void dlgPickCharacter::showCharacter(const QModelIndex &index) {
     m_large->setText(index.data(Qt::DisplayRole).toString());
     m_name->setText(index.isValid() && !m_large->text().isEmpty() ? index.data(Qt::ToolTipRole).toString()
-                                                                  : tr("No such character"));
+                                                                  : QStringLiteral("No such character"));
 }
 
 void dlgPickCharacter::take(const QString &character) {

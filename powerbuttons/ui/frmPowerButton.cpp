@@ -48,7 +48,7 @@ void frmPowerButton::init(int index) {
 void frmPowerButton::fill() {
     const EditorRules::Form form = m_rules.form();
     m_frame->setTitle(form.frameCaption);
-    m_tool->setText(form.toolName.isEmpty() ? tr("Choose a tool on the left") : form.toolName);
+    m_tool->setText(form.toolName.isEmpty() ? QStringLiteral("Choose a tool on the left") : form.toolName);
     m_tool->setEnabled(!form.toolName.isEmpty());
     m_toolTip->setText(form.toolTip);
     m_details->setText(form.details);

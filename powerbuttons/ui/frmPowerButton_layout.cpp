@@ -57,7 +57,7 @@ QLabel *makeLabel(QWidget *parent, const char *name) {
 void frmPowerButton::makeTree(const Catalogue &tools) {
     m_tree = new QTreeWidget(this);
     m_tree->setObjectName(QStringLiteral("tvwTools"));
-    m_tree->setAccessibleName(tr("Tools"));
+    m_tree->setAccessibleName(QStringLiteral("Tools"));
     m_tree->setHeaderHidden(true);
     m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
     m_tree->setMinimumHeight(fontMetrics().height() * 18);
@@ -83,15 +83,16 @@ void frmPowerButton::makeTree(const Catalogue &tools) {
 
 void frmPowerButton::makeHead() {
     m_head = new QWidget(this);
-    auto *label = new QLabel(tr("Enter a name for your PowerButton:"), m_head);
+    auto *label = new QLabel(QStringLiteral("Enter a name for your PowerButton:"), m_head);
     m_name = new QLineEdit(m_head);
     m_name->setObjectName(QStringLiteral("txtName"));
     m_name->installEventFilter(this);
     label->setBuddy(m_name);
-    m_icon = makeImageButton(m_head, "picIcon", tr("Click to edit icon (Alt-I)"), Qt::Key_I, iconSide);
+    m_icon =
+        makeImageButton(m_head, "picIcon", QStringLiteral("Click to edit icon (Alt-I)"), Qt::Key_I, iconSide);
     connect(m_icon, &QToolButton::clicked, this, &frmPowerButton::editIcon);
-    QToolButton *trash = makeImageButton(m_head, "imgTrash", tr("Destroy this PowerButton and Exit (Alt-X)"),
-                                         Qt::Key_X, iconSide);
+    QToolButton *trash = makeImageButton(
+        m_head, "imgTrash", QStringLiteral("Destroy this PowerButton and Exit (Alt-X)"), Qt::Key_X, iconSide);
     trash->setIcon(themedIcon(QStringLiteral("trash")));
     connect(trash, &QToolButton::clicked, this, [this] {
         if (m_rules.destroy())
@@ -141,13 +142,13 @@ void frmPowerButton::makeAction() {
         connect(button, &QRadioButton::clicked, this, [this, value] { m_rules.chooseOption(value); });
         return button;
     };
-    m_current = option("optCurrent", tr("&Use current settings"), SettingsFrom::Current);
-    m_current->setToolTip(tr("Run with the settings that the tool was used with last"));
-    m_prompt = option("optPrompt", tr("&Prompt for settings"), SettingsFrom::Prompt);
-    m_prompt->setToolTip(tr("Ask for the settings each time"));
-    m_custom = option("optCustom", tr("&Custom settings:"), SettingsFrom::Custom);
-    m_custom->setToolTip(tr("Run with the settings below"));
-    m_askSettings = makeButton("cmdSettings", tr("&Settings..."));
+    m_current = option("optCurrent", QStringLiteral("&Use current settings"), SettingsFrom::Current);
+    m_current->setToolTip(QStringLiteral("Run with the settings that the tool was used with last"));
+    m_prompt = option("optPrompt", QStringLiteral("&Prompt for settings"), SettingsFrom::Prompt);
+    m_prompt->setToolTip(QStringLiteral("Ask for the settings each time"));
+    m_custom = option("optCustom", QStringLiteral("&Custom settings:"), SettingsFrom::Custom);
+    m_custom->setToolTip(QStringLiteral("Run with the settings below"));
+    m_askSettings = makeButton("cmdSettings", QStringLiteral("&Settings..."));
     connect(m_askSettings, &QPushButton::clicked, this, [this] { m_rules.chooseSettings(), fill(); });
 
     auto *settings = new QHBoxLayout;
@@ -170,12 +171,12 @@ void frmPowerButton::makeMenus(const Catalogue &tools) {
         QAction *action = m_addMenu->addAction(caption, this, [this, add] { (m_rules.*add)(), fill(); });
         action->setObjectName(QLatin1StringView(name));
     };
-    entry("mnuAddBefore", tr("Add before"), &EditorRules::addBefore);
-    entry("mnuAddAfter", tr("Add after"), &EditorRules::addAfter);
-    entry("mnuAddAtEnd", tr("Add at end"), &EditorRules::addAtEnd);
+    entry("mnuAddBefore", QStringLiteral("Add before"), &EditorRules::addBefore);
+    entry("mnuAddAfter", QStringLiteral("Add after"), &EditorRules::addAfter);
+    entry("mnuAddAtEnd", QStringLiteral("Add at end"), &EditorRules::addAtEnd);
 
-    m_examples = makeButton("cmdLoadExample", tr("Load exa&mple"));
-    m_examples->setToolTip(tr("Begin with a ready-made PowerButton"));
+    m_examples = makeButton("cmdLoadExample", QStringLiteral("Load exa&mple"));
+    m_examples->setToolTip(QStringLiteral("Begin with a ready-made PowerButton"));
     auto *examples = new QMenu(m_examples);
     for (const auto &example : exampleButtons(tools))
         examples->addAction(toQIcon(iconOf(*example)), example->Name, this,
@@ -185,14 +186,14 @@ void frmPowerButton::makeMenus(const Catalogue &tools) {
 }
 
 QWidget *frmPowerButton::makeFoot() {
-    m_left = makeButton("cmdLeft", tr("Previous Action"));
+    m_left = makeButton("cmdLeft", QStringLiteral("Previous Action"));
     m_left->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Left));
-    m_left->setToolTip(tr("Previous Action (Alt-Left)"));
-    m_right = makeButton("cmdRight", tr("Next Action"));
+    m_left->setToolTip(QStringLiteral("Previous Action (Alt-Left)"));
+    m_right = makeButton("cmdRight", QStringLiteral("Next Action"));
     m_right->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Right));
-    m_right->setToolTip(tr("Next Action (Alt-Right)"));
-    m_add = makeButton("cmdAddAction", tr("&Add Action"));
-    m_delete = makeButton("cmdDeleteAction", tr("&Delete Action"));
+    m_right->setToolTip(QStringLiteral("Next Action (Alt-Right)"));
+    m_add = makeButton("cmdAddAction", QStringLiteral("&Add Action"));
+    m_delete = makeButton("cmdDeleteAction", QStringLiteral("&Delete Action"));
     connect(m_left, &QPushButton::clicked, this, [this] { m_rules.goLeft(), fill(); });
     connect(m_right, &QPushButton::clicked, this, [this] { m_rules.goRight(), fill(); });
     connect(m_add, &QPushButton::clicked, this, [this] {
@@ -212,12 +213,13 @@ QWidget *frmPowerButton::makeFoot() {
 }
 
 void frmPowerButton::arrange(QWidget *foot) {
-    QPushButton *help = makeButton("cmdHelp", tr("&Help"));
-    QPushButton *apply = makeButton("cmdApply", tr("Save Changes"));
-    QPushButton *ok = makeButton("cmdOK", tr("OK"));
-    QPushButton *cancel = makeButton("cmdCancel", tr("Cancel"));
+    QPushButton *help = makeButton("cmdHelp", QStringLiteral("&Help"));
+    QPushButton *apply = makeButton("cmdApply", QStringLiteral("Save Changes"));
+    QPushButton *ok = makeButton("cmdOK", QStringLiteral("OK"));
+    QPushButton *cancel = makeButton("cmdCancel", QStringLiteral("Cancel"));
     ok->setDefault(true);
-    connect(help, &QPushButton::clicked, this, [this] { m_boxes.show({tr("Help is not implemented yet")}); });
+    connect(help, &QPushButton::clicked, this,
+            [this] { m_boxes.show({QStringLiteral("Help is not implemented yet")}); });
     connect(apply, &QPushButton::clicked, this, [this] { save(), fill(); });
     connect(ok, &QPushButton::clicked, this, [this] {
         if (save())

@@ -166,8 +166,8 @@ void dlgPreferences::rememberFolder(const QString &file) {
 }
 
 void dlgPreferences::exportPrefs(bool powerButtonsOnly) {
-    const QString title =
-        powerButtonsOnly ? tr("Export PowerButtons") : tr("Export Preferences and PowerButtons");
+    const QString title = powerButtonsOnly ? QStringLiteral("Export PowerButtons")
+                                           : QStringLiteral("Export Preferences and PowerButtons");
     const QString file = QFileDialog::getSaveFileName(this, title, folder(), fileFilter());
     if (file.isEmpty())
         return;
@@ -176,7 +176,8 @@ void dlgPreferences::exportPrefs(bool powerButtonsOnly) {
 }
 
 void dlgPreferences::cmdImport_Click() {
-    const QString file = QFileDialog::getOpenFileName(this, tr("Import Preferences"), folder(), fileFilter());
+    const QString file =
+        QFileDialog::getOpenFileName(this, QStringLiteral("Import Preferences"), folder(), fileFilter());
     if (file.isEmpty())
         return;
     rememberFolder(file);

@@ -73,12 +73,12 @@ QLabel *note(const QString &text) {
 dlgPreferences::dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWidget *parent)
     : QDialog(parent), m_actions(actions), m_boxes(boxes) {
     setObjectName(QStringLiteral("dlgPreferences"));
-    setWindowTitle(tr("Options"));
+    setWindowTitle(QStringLiteral("Options"));
     m_tabs = named(new QTabWidget, QStringLiteral("SSTab1"));
-    m_tabs->addTab(displayPage(), tr("Display"));
-    m_tabs->addTab(extensionsPage(), tr("Extensions"));
-    m_tabs->addTab(generalPage(), tr("General"));
-    m_tabs->addTab(spellingPage(), tr("Spelling"));
+    m_tabs->addTab(displayPage(), QStringLiteral("Display"));
+    m_tabs->addTab(extensionsPage(), QStringLiteral("Extensions"));
+    m_tabs->addTab(generalPage(), QStringLiteral("General"));
+    m_tabs->addTab(spellingPage(), QStringLiteral("Spelling"));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs, 1);
     layout->addWidget(buttonRow());
@@ -88,18 +88,20 @@ dlgPreferences::dlgPreferences(OptionsActions &actions, MessageBoxes &boxes, QWi
 QWidget *dlgPreferences::displayPage() {
     auto *page = new QWidget;
     auto *grid = new QGridLayout;
-    const std::array<QString, 2> captions{tr("Use &Proportional font"), tr("Use &Fixed font")};
-    const std::array<QString, 2> labels{tr("Proportional Font:"), tr("Fixed-width Font:")};
-    auto *fontBox = new QGroupBox(tr("Font of the text"));
+    const std::array<QString, 2> captions{QStringLiteral("Use &Proportional font"),
+                                          QStringLiteral("Use &Fixed font")};
+    const std::array<QString, 2> labels{QStringLiteral("Proportional Font:"),
+                                        QStringLiteral("Fixed-width Font:")};
+    auto *fontBox = new QGroupBox(QStringLiteral("Font of the text"));
     for (int i = 0; i < 2; ++i) {
         const auto at = static_cast<std::size_t>(i);
         m_optProp[at] = named(new QRadioButton(captions[at]), QStringLiteral("optProp_%1").arg(i));
         m_txtFont[at] = named(new QLineEdit, QStringLiteral("txtFont_%1").arg(i));
         m_txtFont[at]->setReadOnly(true);
         m_txtFont[at]->setAccessibleName(labels[at]);
-        auto *choose =
-            imageButton(QStringLiteral("Image1_%1").arg(i), QStringLiteral("choose-font"), tr("Choose font"),
-                        i == 0 ? tr("Choose proportional font") : tr("Choose fixed-width font"));
+        auto *choose = imageButton(
+            QStringLiteral("Image1_%1").arg(i), QStringLiteral("choose-font"), QStringLiteral("Choose font"),
+            i == 0 ? QStringLiteral("Choose proportional font") : QStringLiteral("Choose fixed-width font"));
         connect(choose, &QToolButton::clicked, this, [this, i] { chooseFont(i); });
         grid->addWidget(m_optProp[at], i * 2, 0, 1, 3);
         auto *label = new QLabel(labels[at]);
@@ -111,7 +113,7 @@ QWidget *dlgPreferences::displayPage() {
     grid->setColumnStretch(1, 1);
     grid->setVerticalSpacing(8);
     fontBox->setLayout(grid);
-    m_chkWordwrap = make<QCheckBox>("chkWordwrap", tr("Word wrap (display only)"));
+    m_chkWordwrap = make<QCheckBox>("chkWordwrap", QStringLiteral("Word wrap (display only)"));
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(fontBox);
     layout->addWidget(m_chkWordwrap);
@@ -121,14 +123,14 @@ QWidget *dlgPreferences::displayPage() {
 
 QWidget *dlgPreferences::extensionsPage() {
     auto *page = new QWidget;
-    auto *extensions = new QGroupBox(tr("File extensions"));
+    auto *extensions = new QGroupBox(QStringLiteral("File extensions"));
     m_lstExtensions = named(new QListWidget, QStringLiteral("lstExtensions"));
-    m_lstExtensions->setAccessibleName(tr("File extensions"));
+    m_lstExtensions->setAccessibleName(QStringLiteral("File extensions"));
     m_txtExt = named(new QLineEdit, QStringLiteral("txtExt"));
-    m_txtExt->setAccessibleName(tr("File extension"));
-    m_txtExt->setPlaceholderText(tr("for instance: xyz"));
-    m_cmdAdd = make<QPushButton>("cmdAdd", tr("A&dd"));
-    m_cmdRemove = make<QPushButton>("cmdRemove", tr("&Remove"));
+    m_txtExt->setAccessibleName(QStringLiteral("File extension"));
+    m_txtExt->setPlaceholderText(QStringLiteral("for instance: xyz"));
+    m_cmdAdd = make<QPushButton>("cmdAdd", QStringLiteral("A&dd"));
+    m_cmdRemove = make<QPushButton>("cmdRemove", QStringLiteral("&Remove"));
     m_cmdAdd->setEnabled(false);
     m_cmdRemove->setEnabled(false);
     m_txtExt->setValidator(new ExtensionValidator(m_txtExt));
@@ -140,18 +142,20 @@ QWidget *dlgPreferences::extensionsPage() {
             [this](int row) { m_cmdRemove->setEnabled(row >= 0); });
     auto *grid = new QGridLayout(extensions);
     grid->addWidget(
-        note(tr("Words that end in one of these count as file names: their full stop ends no sentence.")), 0,
-        0, 1, 2);
+        note(QStringLiteral(
+            "Words that end in one of these count as file names: their full stop ends no sentence.")),
+        0, 0, 1, 2);
     grid->addWidget(m_txtExt, 1, 0);
     grid->addWidget(m_cmdAdd, 1, 1);
     grid->addWidget(m_lstExtensions, 2, 0, 2, 1);
     grid->addWidget(m_cmdRemove, 2, 1);
     grid->setRowStretch(3, 1);
 
-    auto *domains = new QGroupBox(tr("Internet addresses"));
-    m_optTLDs[0] = make<QRadioButton>("optTLDs_0", tr("Use full list of Internet Top Level Domains"));
-    m_optTLDs[1] = make<QRadioButton>("optTLDs_1",
-                                      tr("Use list of Internet TLDs excluding English words (recommended)"));
+    auto *domains = new QGroupBox(QStringLiteral("Internet addresses"));
+    m_optTLDs[0] =
+        make<QRadioButton>("optTLDs_0", QStringLiteral("Use full list of Internet Top Level Domains"));
+    m_optTLDs[1] = make<QRadioButton>(
+        "optTLDs_1", QStringLiteral("Use list of Internet TLDs excluding English words (recommended)"));
     auto *domainLayout = new QVBoxLayout(domains);
     domainLayout->addWidget(m_optTLDs[0]);
     domainLayout->addWidget(m_optTLDs[1]);
@@ -164,37 +168,41 @@ QWidget *dlgPreferences::extensionsPage() {
 
 QWidget *dlgPreferences::generalPage() {
     auto *page = new QWidget;
-    m_chkShowTips = make<QCheckBox>("chkShowTips", tr("Show &Tips at startup"));
-    m_chkSounds = make<QCheckBox>("chkSounds", tr("Enable &sounds"));
-    m_chkUpdates = make<QCheckBox>("chkUpdates", tr("&Check weekly for product updates"));
-    m_chkUsageStats = make<QCheckBox>("chkUsageStats", tr("&Upload usage statistics"));
+    m_chkShowTips = make<QCheckBox>("chkShowTips", QStringLiteral("Show &Tips at startup"));
+    m_chkSounds = make<QCheckBox>("chkSounds", QStringLiteral("Enable &sounds"));
+    m_chkUpdates = make<QCheckBox>("chkUpdates", QStringLiteral("&Check weekly for product updates"));
+    m_chkUsageStats = make<QCheckBox>("chkUsageStats", QStringLiteral("&Upload usage statistics"));
     m_labLastCheck = named(new QLabel, QStringLiteral("labLastCheck"));
     const auto button = [this](const char *name, const QString &caption, auto action) {
         auto *result = make<QPushButton>(name, caption);
         connect(result, &QPushButton::clicked, this, action);
         return result;
     };
-    auto *updates = new QGroupBox(tr("Updates and statistics"));
+    auto *updates = new QGroupBox(QStringLiteral("Updates and statistics"));
     auto *grid = new QGridLayout(updates);
     grid->addWidget(m_chkUpdates, 0, 0);
-    grid->addWidget(button("cmdCheckNow", tr("Check now"), [this] { m_actions.checkNow(); }), 0, 1);
+    grid->addWidget(button("cmdCheckNow", QStringLiteral("Check now"), [this] { m_actions.checkNow(); }), 0,
+                    1);
     grid->addWidget(m_labLastCheck, 1, 0, 1, 2);
     grid->addWidget(m_chkUsageStats, 2, 0);
-    grid->addWidget(button("cmdViewStats", tr("View statistics..."), [this] { m_actions.viewStatistics(); }),
-                    2, 1);
     grid->addWidget(
-        note(tr("Only anonymous usage statistics are gathered and used to improve the product. No personally "
-                "identifiable information or personal data are collected.")),
+        button("cmdViewStats", QStringLiteral("View statistics..."), [this] { m_actions.viewStatistics(); }),
+        2, 1);
+    grid->addWidget(
+        note(QStringLiteral(
+            "Only anonymous usage statistics are gathered and used to improve the product. No personally "
+            "identifiable information or personal data are collected.")),
         3, 0, 1, 2);
     grid->setColumnStretch(0, 1);
 
-    auto *files = new QGroupBox(tr("Export and import"));
+    auto *files = new QGroupBox(QStringLiteral("Export and import"));
     auto *fileLayout = new QVBoxLayout(files);
+    fileLayout->addWidget(button("cmdExport", QStringLiteral("Export Preferences and PowerButtons..."),
+                                 [this] { exportPrefs(false); }));
     fileLayout->addWidget(
-        button("cmdExport", tr("Export Preferences and PowerButtons..."), [this] { exportPrefs(false); }));
+        button("cmdExportPB", QStringLiteral("Export PowerButtons only..."), [this] { exportPrefs(true); }));
     fileLayout->addWidget(
-        button("cmdExportPB", tr("Export PowerButtons only..."), [this] { exportPrefs(true); }));
-    fileLayout->addWidget(button("cmdImport", tr("Import Preferences..."), [this] { cmdImport_Click(); }));
+        button("cmdImport", QStringLiteral("Import Preferences..."), [this] { cmdImport_Click(); }));
 
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(m_chkShowTips);
@@ -210,7 +218,7 @@ QWidget *dlgPreferences::spellingPage() {
     const std::array<QString, 4> captions{QStringLiteral("Microsoft Word"), QStringLiteral("Hunspell"),
                                           QStringLiteral("After the Deadline"),
                                           QStringLiteral("Ginger - Grammar, Spelling and Proofreading")};
-    auto *box = new QGroupBox(tr("Spelling and grammar by"));
+    auto *box = new QGroupBox(QStringLiteral("Spelling and grammar by"));
     auto *grid = new QGridLayout(box);
     grid->setColumnStretch(0, 1);
     grid->setVerticalSpacing(8);
@@ -220,16 +228,17 @@ QWidget *dlgPreferences::spellingPage() {
             named(new QRadioButton(captions[at]), QStringLiteral("optSpellingProvider_%1").arg(i));
         auto *browse =
             imageButton(i == 0 ? QStringLiteral("imgBrowse") : QStringLiteral("imgBrowse_%1").arg(i),
-                        QStringLiteral("options"), tr("Configure"), tr("Configure %1").arg(captions[at]));
+                        QStringLiteral("options"), QStringLiteral("Configure"),
+                        QStringLiteral("Configure %1").arg(captions[at]));
         connect(browse, &QToolButton::clicked, this, [this, i] { m_actions.configureProvider(i); });
         grid->addWidget(m_optSpellingProvider[at], i, 0);
         grid->addWidget(browse, i, 1);
     }
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(box);
-    layout->addWidget(
-        note(tr("After the Deadline sends the text to a web service. The other providers leave it on this "
-                "computer.")));
+    layout->addWidget(note(QStringLiteral(
+        "After the Deadline sends the text to a web service. The other providers leave it on this "
+        "computer.")));
     layout->addStretch(1);
     return page;
 }
@@ -238,10 +247,10 @@ QWidget *dlgPreferences::buttonRow() {
     auto *row = new QWidget;
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto *help = make<QPushButton>("cmdHelp", tr("&Help"));
-    auto *ok = make<QPushButton>("OKButton", tr("OK"));
-    auto *cancel = make<QPushButton>("CancelButton", tr("Cancel"));
-    auto *apply = make<QPushButton>("cmdApply", tr("&Apply"));
+    auto *help = make<QPushButton>("cmdHelp", QStringLiteral("&Help"));
+    auto *ok = make<QPushButton>("OKButton", QStringLiteral("OK"));
+    auto *cancel = make<QPushButton>("CancelButton", QStringLiteral("Cancel"));
+    auto *apply = make<QPushButton>("cmdApply", QStringLiteral("&Apply"));
     connect(help, &QPushButton::clicked, this,
             [this] { m_boxes.show({.text = QStringLiteral("Help is not implemented yet")}); });
     connect(ok, &QPushButton::clicked, this, [this] {

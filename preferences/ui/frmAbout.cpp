@@ -33,8 +33,8 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
                                         QLocale().toString(built, QLocale::ShortFormat)));
     version->setObjectName(QStringLiteral("lblVersion"));
     version->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto *copyright =
-        new QLabel(tr("Copyright %1 The Tolvo developers").arg(built.toString(QStringLiteral("yyyy"))));
+    auto *copyright = new QLabel(
+        QStringLiteral("Copyright %1 The Tolvo developers").arg(built.toString(QStringLiteral("yyyy"))));
     copyright->setObjectName(QStringLiteral("lblCopyright"));
 
     auto *text = new QVBoxLayout;
@@ -49,10 +49,10 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
     top->addWidget(picture, 0, Qt::AlignTop);
     top->addLayout(text, 1);
 
-    auto *sysInfo = new QPushButton(tr("&System Info..."));
+    auto *sysInfo = new QPushButton(QStringLiteral("&System Info..."));
     sysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
     connect(sysInfo, &QPushButton::clicked, this, &frmAbout::cmdSysInfo_Click);
-    auto *ok = new QPushButton(tr("OK"));
+    auto *ok = new QPushButton(QStringLiteral("OK"));
     ok->setObjectName(QStringLiteral("cmdOK"));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);

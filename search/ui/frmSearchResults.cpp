@@ -19,10 +19,10 @@ frmSearchResults::frmSearchResults(const QFont &textFont, std::function<TextBox 
       lstResults(new QListView(this)), m_lines(new QStringListModel(this)) {
     setObjectName(QStringLiteral("frmSearchResults"));
     labResults->setObjectName(QStringLiteral("labResults"));
-    labResults->setText(tr("Choose a line to &see it in the text:"));
+    labResults->setText(QStringLiteral("Choose a line to &see it in the text:"));
     labResults->setBuddy(lstResults);
     lstResults->setObjectName(QStringLiteral("lstResults"));
-    lstResults->setAccessibleName(tr("Search results"));
+    lstResults->setAccessibleName(QStringLiteral("Search results"));
     lstResults->setFont(textFont);
     lstResults->setModel(m_lines);
     lstResults->setUniformItemSizes(true);
@@ -54,7 +54,7 @@ void frmSearchResults::setOldHits(const QStringList &lines) {
     setHits(lines, {});
     lstResults->setEnabled(lines.isEmpty());
     if (!lines.isEmpty())
-        labResults->setText(tr("These lines are from an earlier search:"));
+        labResults->setText(QStringLiteral("These lines are from an earlier search:"));
 }
 
 /// The first arrow key chooses the line where the list stands.

@@ -127,24 +127,25 @@ QWidget *MainWindow::topBar() {
                                       }));
     }
     layout->addStretch(1);
-    m_imgWordwrap = imageButton("imgWordwrap", "word-wrap", tr("Toggle word wrap"), [this](bool) {
+    m_imgWordwrap = imageButton("imgWordwrap", "word-wrap", QStringLiteral("Toggle word wrap"), [this](bool) {
         m_session->imgWordwrap_Click();
         m_imgWordwrap->setChecked(m_session->bWordWrap);
     });
-    m_imgWordwrap->setToolTip(tr("Toggle word wrap (Alt-W)"));
+    m_imgWordwrap->setToolTip(QStringLiteral("Toggle word wrap (Alt-W)"));
     m_imgWordwrap->setCheckable(true);
     layout->addWidget(m_imgWordwrap);
-    auto *options = imageButton("imgOptions", "options", tr("Options"), [this](bool right) {
+    auto *options = imageButton("imgOptions", "options", QStringLiteral("Options"), [this](bool right) {
         m_session->bRightButton = right;
         m_session->imgOptions_Click();
     });
-    options->setToolTip(tr("Options (Ctrl-O)\nRight click: switch the font"));
+    options->setToolTip(QStringLiteral("Options (Ctrl-O)\nRight click: switch the font"));
     layout->addWidget(options);
-    auto *help = imageButton("imgHelp", "help", tr("Help"), [this](bool) { m_session->imgHelp_Click(); });
-    help->setToolTip(tr("Help (F1)"));
+    auto *help =
+        imageButton("imgHelp", "help", QStringLiteral("Help"), [this](bool) { m_session->imgHelp_Click(); });
+    help->setToolTip(QStringLiteral("Help (F1)"));
     layout->addWidget(help);
-    layout->addWidget(
-        imageButton("imgAbout", "about", tr("About"), [this](bool) { m_session->imgAbout_Click(); }));
+    layout->addWidget(imageButton("imgAbout", "about", QStringLiteral("About"),
+                                  [this](bool) { m_session->imgAbout_Click(); }));
     return bar;
 }
 
@@ -156,7 +157,7 @@ QWidget *MainWindow::textArea() {
         auto *result =
             new PlainTextBox(wrapped ? PlainTextBox::Lines::Wrapped : PlainTextBox::Lines::AsTheyAre);
         result->setObjectName(QLatin1StringView(name));
-        result->setAccessibleName(tr("Text"));
+        result->setAccessibleName(QStringLiteral("Text"));
         result->setMinimumHeight(120);
         result->setFont(toQFont(textFontAtFirst()));
         result->installEventFilter(this);
@@ -173,11 +174,13 @@ QWidget *MainWindow::powerRow() {
     auto *layout = row(bar);
     layout->addWidget(m_powerButtons);
     layout->addStretch(1);
-    m_cmdUndo = button("cmdUndo", tr("&Undo"),
-                       tr("Take back the last tool, or all that was typed after it (Ctrl-Z: step by step)"),
-                       [this] { m_session->cmdUndo_Click(); });
-    m_cmdRedo = button("cmdRedo", tr("&Redo"), tr("Bring back what Undo took (Ctrl-Y)"),
-                       [this] { m_session->cmdRedo_Click(); });
+    m_cmdUndo = button(
+        "cmdUndo", QStringLiteral("&Undo"),
+        QStringLiteral("Take back the last tool, or all that was typed after it (Ctrl-Z: step by step)"),
+        [this] { m_session->cmdUndo_Click(); });
+    m_cmdRedo =
+        button("cmdRedo", QStringLiteral("&Redo"), QStringLiteral("Bring back what Undo took (Ctrl-Y)"),
+               [this] { m_session->cmdRedo_Click(); });
     m_cmdUndo->setIcon(themedIcon(QStringLiteral("undo")));
     m_cmdRedo->setIcon(themedIcon(QStringLiteral("redo")));
     layout->addWidget(m_cmdUndo);
@@ -192,8 +195,8 @@ void MainWindow::offerUndoInTextBoxes() {
         connect(result, &QAction::triggered, this, [this, command] { std::invoke(command, m_session); });
         return result;
     };
-    m_undoAction = action(*m_cmdUndo, tr("&Undo\tCtrl+Z"), &frmMain::undoStep);
-    m_redoAction = action(*m_cmdRedo, tr("&Redo\tCtrl+Y"), &frmMain::cmdRedo_Click);
+    m_undoAction = action(*m_cmdUndo, QStringLiteral("&Undo\tCtrl+Z"), &frmMain::undoStep);
+    m_redoAction = action(*m_cmdRedo, QStringLiteral("&Redo\tCtrl+Y"), &frmMain::cmdRedo_Click);
     for (PlainTextBox *box : {m_txtText1, m_txtTextWW})
         box->setUndoActions(*m_undoAction, *m_redoAction);
 }
@@ -201,17 +204,20 @@ void MainWindow::offerUndoInTextBoxes() {
 QWidget *MainWindow::buttonRow() {
     auto *bar = new QWidget;
     auto *layout = row(bar);
-    auto *refresh = button("cmdRefresh", tr("Re&fresh with current Clipboard"),
-                           tr("Replace the text by what is on the clipboard now; Undo brings it back"),
-                           [this] { m_session->cmdRefresh_Click(); });
+    auto *refresh =
+        button("cmdRefresh", QStringLiteral("Re&fresh with current Clipboard"),
+               QStringLiteral("Replace the text by what is on the clipboard now; Undo brings it back"),
+               [this] { m_session->cmdRefresh_Click(); });
     refresh->setIcon(themedIcon(QStringLiteral("refresh")));
     layout->addWidget(refresh);
     layout->addStretch(1);
-    layout->addWidget(button("cmdCancel", tr("Cancel"), tr("Close and leave the clipboard as it is (Alt-Q)"),
+    layout->addWidget(button("cmdCancel", QStringLiteral("Cancel"),
+                             QStringLiteral("Close and leave the clipboard as it is (Alt-Q)"),
                              [this] { m_session->cmdCancel_Click(); }));
-    auto *close = button("cmdClose", tr("Copy and Close"),
-                         tr("Put the whole text on the clipboard and close (Alt-D or Ctrl-Shift-C)"),
-                         [this] { m_session->cmdClose_Click(); });
+    auto *close =
+        button("cmdClose", QStringLiteral("Copy and Close"),
+               QStringLiteral("Put the whole text on the clipboard and close (Alt-D or Ctrl-Shift-C)"),
+               [this] { m_session->cmdClose_Click(); });
     close->setDefault(true); // stands out; Return works in the text as ever
     layout->addWidget(close);
     return bar;

@@ -27,7 +27,7 @@ DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &cl
     }
     clipboard.onWaiting = [this](bool waiting) {
         if (m_session)
-            m_session->setStatus(waiting ? MainWindow::tr("Waiting for the clipboard... Esc ends the wait")
+            m_session->setStatus(waiting ? QStringLiteral("Waiting for the clipboard... Esc ends the wait")
                                          : QString());
     };
     m_window->onClosed = [this] { m_loop.quit(); };

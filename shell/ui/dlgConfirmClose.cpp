@@ -11,7 +11,7 @@ namespace tolvo {
 
 dlgConfirmClose::dlgConfirmClose(QWidget *parent) : QDialog(parent), m_prompt(new QLabel(this)) {
     setObjectName(QStringLiteral("dlgConfirmClose"));
-    setWindowTitle(tr("Confirm close"));
+    setWindowTitle(QStringLiteral("Confirm close"));
     m_prompt->setObjectName(QStringLiteral("Label1"));
     auto *sign = new QLabel(this);
     const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
@@ -30,9 +30,9 @@ dlgConfirmClose::dlgConfirmClose(QWidget *parent) : QDialog(parent), m_prompt(ne
         buttons->addWidget(button);
         return button;
     };
-    add("OKButton", tr("Discard changes"), CloseAnswer::Discard);
-    add("cmdCopyClose", tr("Copy && Close"), CloseAnswer::CopyAndClose)->setDefault(true);
-    add("CancelButton", tr("Cancel"), CloseAnswer::Cancel);
+    add("OKButton", QStringLiteral("Discard changes"), CloseAnswer::Discard);
+    add("cmdCopyClose", QStringLiteral("Copy && Close"), CloseAnswer::CopyAndClose)->setDefault(true);
+    add("CancelButton", QStringLiteral("Cancel"), CloseAnswer::Cancel);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(18, 18, 18, 14);

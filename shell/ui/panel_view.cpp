@@ -81,7 +81,7 @@ void PanelRowButton::paintEvent(QPaintEvent *) {
 
 PanelView::PanelView(QWidget *parent) : QFrame(parent) {
     setObjectName(QStringLiteral("Picture1"));
-    setAccessibleName(tr("Tools"));
+    setAccessibleName(QStringLiteral("Tools"));
     setFrameShape(QFrame::StyledPanel);
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);

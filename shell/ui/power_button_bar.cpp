@@ -43,8 +43,8 @@ void PowerButtonImage::showButton(const CPowerButton &button) {
     const QString tip = tooltip(button, m_number);
     setToolTip(plainToolTip(tip));
     setAccessibleDescription(tip);
-    setAccessibleName(button.isDefined() ? tr("PowerButton %1: %2").arg(m_number).arg(button.Name)
-                                         : tr("PowerButton %1, not defined").arg(m_number));
+    setAccessibleName(button.isDefined() ? QStringLiteral("PowerButton %1: %2").arg(m_number).arg(button.Name)
+                                         : QStringLiteral("PowerButton %1, not defined").arg(m_number));
     update();
 }
 
@@ -78,7 +78,7 @@ void PowerButtonImage::paintEvent(QPaintEvent *) {
 
 PowerButtonBar::PowerButtonBar(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("frmIcontray"));
-    setAccessibleName(tr("PowerButtons"));
+    setAccessibleName(QStringLiteral("PowerButtons"));
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);

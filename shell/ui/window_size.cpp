@@ -28,7 +28,7 @@ std::optional<QSize> draggedOuterSize(QPoint handle, int handleHeight, QPoint po
 
 ResizeHandle::ResizeHandle(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("imgResize"));
-    setAccessibleName(tr("Resize the window"));
+    setAccessibleName(QStringLiteral("Resize the window"));
     setCursor(Qt::SizeFDiagCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

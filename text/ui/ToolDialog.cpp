@@ -38,7 +38,7 @@ void ToolDialog::accept() {
         QDialog::accept();
         return;
     }
-    m_boxes.show({CParams::refusal(tr("Please enter another text")), BoxIcon::Information});
+    m_boxes.show({CParams::refusal(QStringLiteral("Please enter another text")), BoxIcon::Information});
     m_text->setFocus();
     m_text->lineEdit()->selectAll();
 }

@@ -14,8 +14,6 @@ namespace tolvo {
 namespace {
 
 class dlgBullet : public SettingsDialog<BulletSettings> {
-    Q_DECLARE_TR_FUNCTIONS(dlgBullet)
-
   public:
     dlgBullet(const BulletSettings &settings, const ToolDialogContext &context);
 
@@ -33,8 +31,8 @@ class dlgBullet : public SettingsDialog<BulletSettings> {
 
 dlgBullet::dlgBullet(const BulletSettings &settings, const ToolDialogContext &context)
     : SettingsDialog(context), m_text(makeTextList(QStringLiteral("cmbBulletChar"))),
-      m_tab(QStringLiteral("optTab"), {tr("&Tab"), tr("&Spaces")}, this),
-      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Follow by spaces"),
+      m_tab(QStringLiteral("optTab"), {QStringLiteral("&Tab"), QStringLiteral("&Spaces")}, this),
+      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), QStringLiteral("Follow by spaces"),
                              {0, BulletSettings::mostTypedSpaces}, this)),
       m_sample(makeSample(4)) {
     for (const QChar bullet : bulletMarks)
@@ -47,15 +45,15 @@ dlgBullet::dlgBullet(const BulletSettings &settings, const ToolDialogContext &co
     follow->addWidget(m_spaces);
     follow->addStretch();
     auto *grid = new QGridLayout;
-    grid->addWidget(labelFor(m_text, tr("Bullet character:")), 0, 0);
+    grid->addWidget(labelFor(m_text, QStringLiteral("Bullet character:")), 0, 0);
     grid->addWidget(m_text, 0, 1);
-    grid->addWidget(new QLabel(tr("Follow by:"), this), 1, 0);
+    grid->addWidget(new QLabel(QStringLiteral("Follow by:"), this), 1, 0);
     grid->addLayout(follow, 1, 1);
-    grid->addWidget(labelFor(m_sample, tr("Sample:")), 2, 0, 1, 2);
+    grid->addWidget(labelFor(m_sample, QStringLiteral("Sample:")), 2, 0, 1, 2);
     grid->addWidget(m_sample, 3, 0, 1, 2);
     grid->setRowStretch(3, 1);
     grid->setColumnStretch(1, 1);
-    finishDialog(*this, QStringLiteral("dlgBullet"), tr("Bullet List Style"), grid);
+    finishDialog(*this, QStringLiteral("dlgBullet"), QStringLiteral("Bullet List Style"), grid);
     setSettings(settings);
 
     connect(m_text, &QComboBox::editTextChanged, this, &dlgBullet::refreshSample);
@@ -78,8 +76,8 @@ void dlgBullet::setSettings(const BulletSettings &settings) {
 }
 
 void dlgBullet::refreshSample() {
-    m_sample->setSample(
-        engine().Indent(tr("First list item\r\nSecond list item\r\nThird list item"), settings().prefix()));
+    m_sample->setSample(engine().Indent(
+        QStringLiteral("First list item\r\nSecond list item\r\nThird list item"), settings().prefix()));
 }
 
 } // namespace

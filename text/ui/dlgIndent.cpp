@@ -18,8 +18,6 @@ namespace {
 using Choice = IndentSettings::Choice;
 
 class dlgIndent : public SettingsDialog<IndentSettings> {
-    Q_DECLARE_TR_FUNCTIONS(dlgIndent)
-
   public:
     dlgIndent(const IndentSettings &settings, const ToolDialogContext &context);
 
@@ -41,14 +39,15 @@ class dlgIndent : public SettingsDialog<IndentSettings> {
 
 dlgIndent::dlgIndent(const IndentSettings &settings, const ToolDialogContext &context)
     : SettingsDialog(context),
-      m_option(QStringLiteral("optTab"), {tr("&Tab"), tr("&Spaces"), tr("This te&xt:")}, this),
-      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Spaces"), {0, mostSpaces}, this)),
+      m_option(QStringLiteral("optTab"),
+               {QStringLiteral("&Tab"), QStringLiteral("&Spaces"), QStringLiteral("This te&xt:")}, this),
+      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), QStringLiteral("Spaces"), {0, mostSpaces}, this)),
       m_text(makeTextList(QStringLiteral("cmbIndentText"))) {
-    m_text->setAccessibleName(tr("Indent text"));
+    m_text->setAccessibleName(QStringLiteral("Indent text"));
     m_text->setMinimumContentsLength(24);
     m_text->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 
-    auto *frame = new QGroupBox(tr("Options"), this);
+    auto *frame = new QGroupBox(QStringLiteral("Options"), this);
     auto *options = new QGridLayout(frame);
     options->addWidget(m_option.button(Choice::Tab), 0, 0);
     options->addWidget(m_option.button(Choice::Spaces), 1, 0);
@@ -63,10 +62,10 @@ dlgIndent::dlgIndent(const IndentSettings &settings, const ToolDialogContext &co
         setTabOrder(order.at(i - 1), order.at(i));
 
     auto *contents = new QVBoxLayout;
-    contents->addWidget(new QLabel(tr("Indent with:"), this));
+    contents->addWidget(new QLabel(QStringLiteral("Indent with:"), this));
     contents->addWidget(frame);
     contents->addStretch();
-    finishDialog(*this, QStringLiteral("dlgIndent"), tr("Indent"), contents);
+    finishDialog(*this, QStringLiteral("dlgIndent"), QStringLiteral("Indent"), contents);
     setSettings(settings);
 
     const auto chooseText = [this] { m_option.choose(Choice::Text); };

@@ -22,8 +22,6 @@ constexpr const char *filler =
 constexpr NumberBox::Limits lineNumber{.lowest = 1, .takesMinus = true};
 
 class dlgNumLines : public SettingsDialog<LineNumberSettings> {
-    Q_DECLARE_TR_FUNCTIONS(dlgNumLines)
-
   public:
     dlgNumLines(const LineNumberSettings &settings, const ToolDialogContext &context);
 
@@ -46,12 +44,15 @@ class dlgNumLines : public SettingsDialog<LineNumberSettings> {
 
 dlgNumLines::dlgNumLines(const LineNumberSettings &settings, const ToolDialogContext &context)
     : SettingsDialog(context),
-      m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"), lineNumber, this)),
-      m_step(new NumberBox(QStringLiteral("txtStep"), tr("Increment"), lineNumber, this)),
-      m_every(new NumberBox(QStringLiteral("txtEvery"), tr("Every how many lines"), lineNumber, this)),
-      m_ignoreBlanks(new QCheckBox(tr("Ignore blank lines"), this)),
-      m_renumber(new QCheckBox(tr("Renumber"), this)), m_pad(new QCheckBox(tr("Pad with spaces"), this)),
-      m_range(QStringLiteral("optRange"), {tr("Range &left"), tr("Range &right")}, this),
+      m_start(new NumberBox(QStringLiteral("txtStart"), QStringLiteral("Start"), lineNumber, this)),
+      m_step(new NumberBox(QStringLiteral("txtStep"), QStringLiteral("Increment"), lineNumber, this)),
+      m_every(new NumberBox(QStringLiteral("txtEvery"), QStringLiteral("Every how many lines"), lineNumber,
+                            this)),
+      m_ignoreBlanks(new QCheckBox(QStringLiteral("Ignore blank lines"), this)),
+      m_renumber(new QCheckBox(QStringLiteral("Renumber"), this)),
+      m_pad(new QCheckBox(QStringLiteral("Pad with spaces"), this)),
+      m_range(QStringLiteral("optRange"), {QStringLiteral("Range &left"), QStringLiteral("Range &right")},
+              this),
       m_sample(makeSample(9)) {
     m_ignoreBlanks->setObjectName(QStringLiteral("chkIgnoreBlanks"));
     m_renumber->setObjectName(QStringLiteral("chkRenumber"));
@@ -69,7 +70,7 @@ dlgNumLines::dlgNumLines(const LineNumberSettings &settings, const ToolDialogCon
 void dlgNumLines::arrange() {
     auto *every = new QHBoxLayout;
     every->addWidget(m_every);
-    every->addWidget(new QLabel(tr("lines."), this));
+    every->addWidget(new QLabel(QStringLiteral("lines."), this));
     every->addStretch();
     auto *ranges = new QVBoxLayout;
     ranges->setContentsMargins(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
@@ -79,11 +80,11 @@ void dlgNumLines::arrange() {
     ranges->addWidget(m_range.button(true));
 
     auto *grid = new QGridLayout;
-    grid->addWidget(labelFor(m_start, tr("Start:")), 0, 0);
+    grid->addWidget(labelFor(m_start, QStringLiteral("Start:")), 0, 0);
     grid->addWidget(m_start, 0, 1);
-    grid->addWidget(labelFor(m_step, tr("Increment:")), 1, 0);
+    grid->addWidget(labelFor(m_step, QStringLiteral("Increment:")), 1, 0);
     grid->addWidget(m_step, 1, 1);
-    grid->addWidget(labelFor(m_every, tr("Every")), 2, 0);
+    grid->addWidget(labelFor(m_every, QStringLiteral("Every")), 2, 0);
     grid->addLayout(every, 2, 1);
     auto *boxes = new QVBoxLayout;
     boxes->addWidget(m_ignoreBlanks);
@@ -93,12 +94,12 @@ void dlgNumLines::arrange() {
     boxes->addStretch();
     grid->setColumnMinimumWidth(2, fontMetrics().averageCharWidth() * 3);
     grid->addLayout(boxes, 0, 3, 4, 1);
-    grid->addWidget(labelFor(m_sample, tr("Sample:")), 4, 0, 1, 4);
+    grid->addWidget(labelFor(m_sample, QStringLiteral("Sample:")), 4, 0, 1, 4);
     grid->addWidget(m_sample, 5, 0, 1, 4);
     grid->setRowStretch(3, 1); // what the check boxes need more than the numbers
     grid->setRowStretch(5, 100);
     grid->setColumnStretch(3, 1);
-    finishDialog(*this, QStringLiteral("dlgNumLines"), tr("Line Numbering"), grid);
+    finishDialog(*this, QStringLiteral("dlgNumLines"), QStringLiteral("Line Numbering"), grid);
 }
 
 LineNumberSettings dlgNumLines::settings() const {

@@ -18,8 +18,6 @@ namespace {
 constexpr int fewestOutlineSpaces = 4;
 
 class dlgNumberStyle : public SettingsDialog<NumberListSettings> {
-    Q_DECLARE_TR_FUNCTIONS(dlgNumberStyle)
-
   public:
     dlgNumberStyle(const NumberListSettings &settings, const ToolDialogContext &context);
 
@@ -44,12 +42,12 @@ class dlgNumberStyle : public SettingsDialog<NumberListSettings> {
 
 dlgNumberStyle::dlgNumberStyle(const NumberListSettings &settings, const ToolDialogContext &context)
     : SettingsDialog(context), m_style(new QComboBox(this)),
-      m_start(new NumberBox(QStringLiteral("txtStart"), tr("Start"),
+      m_start(new NumberBox(QStringLiteral("txtStart"), QStringLiteral("Start"),
                             {1, NumberListSettings::highestTypedStart}, this)),
-      m_renumber(new QCheckBox(tr("Renumber"), this)), m_followChar(new QComboBox(this)),
-      m_followCharLabel(labelFor(m_followChar, tr("Punctuation:"))),
-      m_tab(QStringLiteral("optTab"), {tr("&Tab after"), tr("&Pad to")}, this),
-      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), tr("Pad to spaces"),
+      m_renumber(new QCheckBox(QStringLiteral("Renumber"), this)), m_followChar(new QComboBox(this)),
+      m_followCharLabel(labelFor(m_followChar, QStringLiteral("Punctuation:"))),
+      m_tab(QStringLiteral("optTab"), {QStringLiteral("&Tab after"), QStringLiteral("&Pad to")}, this),
+      m_spaces(new NumberBox(QStringLiteral("txtSpaces"), QStringLiteral("Pad to spaces"),
                              {0, NumberListSettings::mostTypedSpaces}, this)),
       m_sample(makeSample(7)) {
     m_style->setObjectName(QStringLiteral("cmbStyle"));
@@ -76,7 +74,7 @@ void dlgNumberStyle::arrange() {
     auto *pad = new QHBoxLayout;
     pad->addWidget(m_tab.button(Filler::Blanks));
     pad->addWidget(m_spaces);
-    pad->addWidget(new QLabel(tr("spaces"), this));
+    pad->addWidget(new QLabel(QStringLiteral("spaces"), this));
     pad->addStretch();
     auto *choices = new QVBoxLayout(separator);
     choices->addWidget(m_tab.button(Filler::Tab));
@@ -88,18 +86,18 @@ void dlgNumberStyle::arrange() {
     start->addWidget(m_renumber);
     start->addStretch();
     auto *grid = new QGridLayout;
-    grid->addWidget(labelFor(m_style, tr("Style:")), 0, 0);
+    grid->addWidget(labelFor(m_style, QStringLiteral("Style:")), 0, 0);
     grid->addWidget(m_style, 0, 1);
-    grid->addWidget(labelFor(m_start, tr("Start:")), 1, 0);
+    grid->addWidget(labelFor(m_start, QStringLiteral("Start:")), 1, 0);
     grid->addLayout(start, 1, 1);
     grid->addWidget(m_followCharLabel, 2, 0);
     grid->addWidget(m_followChar, 2, 1);
     grid->addWidget(separator, 3, 0, 1, 2);
-    grid->addWidget(labelFor(m_sample, tr("Sample:")), 4, 0, 1, 2);
+    grid->addWidget(labelFor(m_sample, QStringLiteral("Sample:")), 4, 0, 1, 2);
     grid->addWidget(m_sample, 5, 0, 1, 2);
     grid->setRowStretch(5, 1);
     grid->setColumnStretch(1, 1);
-    finishDialog(*this, QStringLiteral("dlgNumberStyle"), tr("Number List Style"), grid);
+    finishDialog(*this, QStringLiteral("dlgNumberStyle"), QStringLiteral("Number List Style"), grid);
 }
 
 NumberListSettings dlgNumberStyle::settings() const {
@@ -133,14 +131,16 @@ void dlgNumberStyle::styleChosen() {
 }
 
 QString dlgNumberStyle::sampleText() const {
-    const QString item = tr("%1 list item\r\n");
-    const QString first = item.arg(tr("First"));
-    const QString others = item.arg(tr("Second")) + item.arg(tr("Third")) + item.arg(tr("Fourth")).chopped(2);
+    const QString item = QStringLiteral("%1 list item\r\n");
+    const QString first = item.arg(QStringLiteral("First"));
+    const QString others = item.arg(QStringLiteral("Second")) + item.arg(QStringLiteral("Third")) +
+                           item.arg(QStringLiteral("Fourth")).chopped(2);
     if (settings().style != ListStyle::Outline)
         return first + others;
     const QString deeper =
         m_tab.choice() == Filler::Tab ? QStringLiteral("\t") : QString(std::max(m_spaces->value(), 1), u' ');
-    return first + deeper + tr("First sublist item\r\n") + deeper + tr("Second sublist item\r\n") + others;
+    return first + deeper + QStringLiteral("First sublist item\r\n") + deeper +
+           QStringLiteral("Second sublist item\r\n") + others;
 }
 
 void dlgNumberStyle::refreshSample() {

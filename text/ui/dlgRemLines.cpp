@@ -9,8 +9,6 @@ namespace tolvo {
 namespace {
 
 class dlgRemLines : public SettingsDialog<RemoveLinesSettings> {
-    Q_DECLARE_TR_FUNCTIONS(dlgRemLines)
-
   public:
     dlgRemLines(const RemoveLinesSettings &settings, const ToolDialogContext &context);
 
@@ -23,12 +21,14 @@ class dlgRemLines : public SettingsDialog<RemoveLinesSettings> {
 };
 
 dlgRemLines::dlgRemLines(const RemoveLinesSettings &settings, const ToolDialogContext &context)
-    : SettingsDialog(context), m_single(new QCheckBox(tr("Remove single blank lines"), this)),
-      m_multiple(new QCheckBox(tr("Reduce multiple blank lines to a single one"), this)) {
+    : SettingsDialog(context), m_single(new QCheckBox(QStringLiteral("Remove single blank lines"), this)),
+      m_multiple(new QCheckBox(QStringLiteral("Reduce multiple blank lines to a single one"), this)) {
     m_single->setObjectName(QStringLiteral("chkSingle"));
     m_multiple->setObjectName(QStringLiteral("chkMultiple"));
     auto *note = new QLabel(
-        tr("A blank line is a line (or paragraph) that is empty or consists only of white space."), this);
+        QStringLiteral(
+            "A blank line is a line (or paragraph) that is empty or consists only of white space."),
+        this);
     note->setWordWrap(true);
     note->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
 
@@ -38,7 +38,7 @@ dlgRemLines::dlgRemLines(const RemoveLinesSettings &settings, const ToolDialogCo
     contents->addSpacing(fontMetrics().height() / 2);
     contents->addWidget(note);
     contents->addStretch();
-    finishDialog(*this, QStringLiteral("dlgRemLines"), tr("Remove Lines"), contents);
+    finishDialog(*this, QStringLiteral("dlgRemLines"), QStringLiteral("Remove Lines"), contents);
     setSettings(settings);
 }
 

@@ -15,8 +15,6 @@ namespace tolvo {
 namespace {
 
 class dlgWordWrap : public SettingsDialog<WordWrapSettings> {
-    Q_DECLARE_TR_FUNCTIONS(dlgWordWrap)
-
   public:
     dlgWordWrap(const WordWrapSettings &settings, const ToolDialogContext &context);
 
@@ -34,18 +32,18 @@ class dlgWordWrap : public SettingsDialog<WordWrapSettings> {
 
 dlgWordWrap::dlgWordWrap(const WordWrapSettings &settings, const ToolDialogContext &context)
     : SettingsDialog(context),
-      m_width(new NumberBox(QStringLiteral("txtWidth"), tr("Page width"),
+      m_width(new NumberBox(QStringLiteral("txtWidth"), QStringLiteral("Page width"),
                             {WordWrapSettings::narrowest, WordWrapSettings::widest, true, true}, this)),
-      m_justify(new QCheckBox(tr("&Justify (no ragged right margin)"), this)),
-      m_hanging(new QCheckBox(tr("&Hanging indent"), this)),
-      m_tab(QStringLiteral("optTab"), {tr("&Tab"), tr("Eight &spaces")}, this) {
+      m_justify(new QCheckBox(QStringLiteral("&Justify (no ragged right margin)"), this)),
+      m_hanging(new QCheckBox(QStringLiteral("&Hanging indent"), this)),
+      m_tab(QStringLiteral("optTab"), {QStringLiteral("&Tab"), QStringLiteral("Eight &spaces")}, this) {
     m_justify->setObjectName(QStringLiteral("chkJustify"));
     m_hanging->setObjectName(QStringLiteral("chkHanging"));
 
     auto *width = new QHBoxLayout;
-    width->addWidget(labelFor(m_width, tr("Page width:")));
+    width->addWidget(labelFor(m_width, QStringLiteral("Page width:")));
     width->addWidget(m_width);
-    width->addWidget(new QLabel(tr("characters"), this));
+    width->addWidget(new QLabel(QStringLiteral("characters"), this));
     width->addStretch();
     auto *indents = new QVBoxLayout;
     indents->setContentsMargins(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
@@ -59,7 +57,7 @@ dlgWordWrap::dlgWordWrap(const WordWrapSettings &settings, const ToolDialogConte
     contents->addWidget(m_hanging);
     contents->addLayout(indents);
     contents->addStretch();
-    finishDialog(*this, QStringLiteral("dlgWordWrap"), tr("Word Wrap"), contents);
+    finishDialog(*this, QStringLiteral("dlgWordWrap"), QStringLiteral("Word Wrap"), contents);
 
     connect(m_hanging, &QCheckBox::toggled, this, [this](bool on) { m_tab.setEnabled(on); });
     setSettings(settings);
@@ -84,7 +82,7 @@ void dlgWordWrap::accept() {
         ToolDialog::accept();
         return;
     }
-    boxes().show({FillTemplate(tr("Page width must lie between %0 and %1 inclusive"),
+    boxes().show({FillTemplate(QStringLiteral("Page width must lie between %0 and %1 inclusive"),
                                {QString::number(WordWrapSettings::narrowest),
                                 QString::number(WordWrapSettings::widest)}),
                   BoxIcon::Information});

@@ -30,24 +30,24 @@ void addRow(QTreeWidget *list, const QStringList &cells, bool bold) {
 frmStats::frmStats(MessageBoxes &boxes, const TextStatistics &statistics, QWidget *parent)
     : QDialog(parent), m_list(new QTreeWidget(this)) {
     setObjectName(QStringLiteral("frmStats"));
-    setWindowTitle(tr("Statistics"));
+    setWindowTitle(QStringLiteral("Statistics"));
     m_list->setObjectName(QStringLiteral("lvwStats"));
-    m_list->setAccessibleName(tr("Statistics"));
-    m_list->setHeaderLabels({QString(), tr("Full text"), tr("Selected")});
+    m_list->setAccessibleName(QStringLiteral("Statistics"));
+    m_list->setHeaderLabels({QString(), QStringLiteral("Full text"), QStringLiteral("Selected")});
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     fill(statistics);
     fitList();
 
-    auto *close = new QPushButton(tr("Close"), this);
+    auto *close = new QPushButton(QStringLiteral("Close"), this);
     close->setObjectName(QStringLiteral("cmdClose"));
     close->setDefault(true);
-    auto *help = new QPushButton(tr("Help"), this);
+    auto *help = new QPushButton(QStringLiteral("Help"), this);
     help->setObjectName(QStringLiteral("cmdHelp"));
     help->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     connect(help, &QPushButton::clicked, this, [&boxes] {
-        boxes.show({tr("Help is not implemented yet"), BoxIcon::Information});
+        boxes.show({QStringLiteral("Help is not implemented yet"), BoxIcon::Information});
     });
 
     auto *buttons = new QHBoxLayout;
@@ -61,7 +61,7 @@ frmStats::frmStats(MessageBoxes &boxes, const TextStatistics &statistics, QWidge
 }
 
 void frmStats::fill(const TextStatistics &statistics) {
-    addRow(m_list, {QString(), tr("Full text"), tr("Selection")}, true);
+    addRow(m_list, {QString(), QStringLiteral("Full text"), QStringLiteral("Selection")}, true);
     addRow(m_list, {QString(), QString(), QString()}, false);
     for (const StatisticsRow &row : statistics.rows) {
         const QString selection = statistics.hasSelection ? row.selection : QString();
