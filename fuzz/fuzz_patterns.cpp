@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Regular expressions: what the translation lets through the engine accepts or finds too large, and every
-// match lies in the text, behind the one before it.
+// match lies in the text, after the one before it.
 #include "fuzz/fuzz.h"
 #include "search/ecmascript_pattern.h"
 #include "search/regular_expression.h"

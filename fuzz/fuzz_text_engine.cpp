@@ -9,7 +9,7 @@
 
 using namespace tolvo;
 
-/// The first byte tells how the others become text: as UTF-16, or one byte a character.
+/// The first byte says how the others become text: as UTF-16, or one byte a character.
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
     if (size == 0)
         return 0;

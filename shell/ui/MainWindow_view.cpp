@@ -23,7 +23,7 @@ void MainWindow::showElidedStatus() {
     m_labStatus->setText(
         m_labStatus->fontMetrics().elidedText(m_status, Qt::ElideRight, m_labStatus->width()));
     m_labStatus->setToolTip(m_labStatus->text() == m_status ? QString() : plainToolTip(m_status));
-    m_labStatus->setAccessibleName(m_status.isEmpty() ? tr("Status") : m_status);
+    m_labStatus->setAccessibleName(m_status.isEmpty() ? QStringLiteral("Status") : m_status);
 }
 
 void MainWindow::undoRedoChanged(bool undoEnabled, bool redoEnabled) {

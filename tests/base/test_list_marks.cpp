@@ -10,7 +10,7 @@ using namespace tolvo;
 
 namespace {
 
-/// Examples "line→number length tenths"; nothing behind the arrow: no mark.
+/// Examples "line→number length tenths"; nothing after the arrow: no mark.
 void expectMarks(std::optional<ListMark> (*parse)(QStringView), std::initializer_list<QStringView> examples) {
     for (const QStringView example : examples) {
         const qsizetype arrow = example.indexOf(u'→');
@@ -30,7 +30,7 @@ TEST(ListMarks, areNumbersAndNumerals) {
                  u"iii\tz→iii 4 7", u"i said→", u"(i. x→", u"iiii. x→", u"ivxlcdm→", u"()→", u"→"});
 }
 
-TEST(ListMarks, romanNumeralsAreTold) {
+TEST(ListMarks, romanNumeralsAreRecognised) {
     for (int number = 1; number < 4000; ++number) {
         EXPECT_TRUE(IsRomanNumeral(ToRoman(number))) << number;
         EXPECT_TRUE(IsRomanNumeral(toLower(ToRoman(number)))) << number;

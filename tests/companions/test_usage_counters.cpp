@@ -53,7 +53,7 @@ TEST(Tips, GoRoundAndAreRemembered) {
     EXPECT_EQ(first.place(), 0);
     first.previous();
     EXPECT_EQ(first.place(), static_cast<int>(tips().size()) - 1);
-    EXPECT_EQ(TipWalk(store).place(), 0) << "behind the last one comes the first";
+    EXPECT_EQ(TipWalk(store).place(), 0) << "after the last one comes the first";
     EXPECT_EQ(TipWalk(store).place(), 1);
     store.SaveSetting(u"Tolvo"_s, u"Advisor"_s, u"LastTip"_s, u"no number"_s);
     EXPECT_EQ(TipWalk(store).place(), 0);

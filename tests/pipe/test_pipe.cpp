@@ -85,7 +85,7 @@ TEST_F(Pipe, hasNoTextLimit) {
         EXPECT_TRUE(run({"ccUPP"}, text + end).err.contains("byte 1100000")) << end;
 }
 
-TEST_F(Pipe, tellsWhatItCanDo) {
+TEST_F(Pipe, saysWhatItCanDo) {
     EXPECT_EQ(run({"--version"}).out, "tolvo-pipe " + applicationVersion().toUtf8() + '\n');
     EXPECT_TRUE(run({"--help"}).out.startsWith("Usage: tolvo-pipe"));
     EXPECT_TRUE(run({"--list-tools"}).out.contains("\nccLOW\tlower case\t"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The clipboard behind the end of the program, on an X server of the test's own, with xclip as the other
+// The clipboard after the end of the program, on an X server of the test's own, with xclip as the other
 // program.
 #include <gtest/gtest.h>
 

@@ -115,7 +115,7 @@ TEST_F(User, TypesUpToTheCapacity) {
     select(box, 0, 1);
     types(u"X"_s);
     EXPECT_EQ(box.Text(), u"Xbcd\r\n"_s);
-    // One unit of room is none for a line end.
+    // One unit of room is not enough for a line end.
     presses(Qt::Key_Backspace);
     presses(Qt::Key_Return);
     EXPECT_EQ(box.Text(), u"bcd\r\n"_s);
@@ -131,7 +131,7 @@ TEST_F(User, GetsOfPasteDropAndInputMethodWhatFits) {
     box.setText(u"12"_s);
     commits(u"abcdef"_s);
     EXPECT_EQ(box.Text(), u"abc12"_s);
-    // What goes round all doors is cut behind the fact.
+    // What goes round all doors is cut afterwards.
     box.setText(u"12"_s);
     box.textCursor().insertText(u"a\nbcdef"_s);
     EXPECT_EQ(box.Text(), u"a\r\n12"_s);

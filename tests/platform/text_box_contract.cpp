@@ -152,7 +152,7 @@ TEST_P(TextBoxContract, CutsAtItsCapacity) {
     EXPECT_EQ(box->Text(), u"xy4"_s);
 }
 
-TEST_P(TextBoxContract, TellsWhatItCutsAndTakesNoPairApart) {
+TEST_P(TextBoxContract, ReportsWhatItCutsAndTakesNoPairApart) {
     box->onCut = [this](qint64 length, TextBox::Writer writer) {
         EXPECT_EQ(writer, TextBox::Writer::Code);
         cuts += length;

@@ -50,7 +50,7 @@ TEST(PowerButtons, areThoseOfTheStoreWhenTheEditorOpens) {
     user.sees("«»# A");
 }
 
-TEST(PowerButtons, settingsLastUsedHoldForTheActionsBehind) {
+TEST(PowerButtons, settingsLastUsedHoldForTheActionsAfter) {
     User user("a");
     user.defines(1, {User::action("foIND", Prompt)});
     user.defines(2, {User::action("foIND", Current), User::action("foIND", Prompt)});
@@ -98,7 +98,7 @@ TEST(PowerButtons, goOnAfterAnActionThatFailed) {
     user.sees("«»A");
 }
 
-TEST(PowerButtons, tellWhenATokenHasNoStoredSettings) {
+TEST(PowerButtons, reportATokenWithoutStoredSettings) {
     User user("a");
     user.session.PowerButtonDespatcher(*User::action("ccUPP", Custom));
     user.isToldSomethingLike("No handler for Tool 'UPPER CASE' (ccUPP)");

@@ -165,7 +165,7 @@ TEST_F(Runs, endAfterAFailureAtTheStart) {
     }
 }
 
-TEST_F(Runs, aStartDateThatIsNoneIsAFailureOfTheEnd) {
+TEST_F(Runs, aStartDateThatCannotBeReadIsAFailureOfTheEnd) {
     store.SaveSetting("Tolvo-Stats", "Usage", "StartDate", "yesterday");
     EXPECT_EQ(run(), 1);
     EXPECT_EQ(log.last(), "show, tips held back");

@@ -90,7 +90,7 @@ TEST(Tools, takeStoredSettingsThatCantBeReadFor0) {
     EXPECT_TRUE(user.session.txtCurrent().Text().startsWith(u'0'));
 }
 
-TEST(Tools, areCountedAndUnknownOnesAreTold) {
+TEST(Tools, areCountedAndUnknownOnesAreReported) {
     User user(QString(""));
     user.runs("ccUPP");
     user.runs("ccUPP");

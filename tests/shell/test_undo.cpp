@@ -21,7 +21,7 @@ TEST(Undo, saysWhereItsBuffersEnd) {
     EXPECT_EQ(user.headless.sound.beeps, 2);
 }
 
-/// What a history must know, told without one: the texts that stood there, the states among them, where the
+/// What a history must know, kept without one: the texts that stood there, the states among them, where the
 /// user is, where each undo began that was not retraced, and states that new changes have led away from.
 struct Told {
     QStringList texts;

@@ -80,7 +80,7 @@ TEST_F(AfterTheDeadline_, TakesWhatTheLocalDictionaryConfirms) {
         {"a fox", "<error><string>fox</string></error>",
          "(failure 91 The reply of After the Deadline holds an error without 'type')"},
         {"zqx a fox", error("fox", "grammar", "a") + error("f(ox", "grammar", "a"),
-         "zqx 0-3 1 / fox 6-9 3"}, // an invalid pattern behind the first suggestions
+         "zqx 0-3 1 / fox 6-9 3"}, // an invalid pattern after the first suggestions
     };
     for (const Case &one : cases) {
         EXPECT_EQ(checkReply(one.text, one.reply).join(u(" / ")), u(one.errors)) << one.reply.constData();

@@ -22,7 +22,7 @@ TEST_F(Ginger, CutsChunks) {
         {"{\"a\":1},{\"b\":2}", "\"a\":1},", "{\"b\":2}"},
         {"{ab}", "ab}", ""},
         {"[a[b]c],d", "a[b]c],", "d"},
-        {"[a[b][c]d],e", "a[b][c]d", "],e"}, // a bracket right behind another one is not seen
+        {"[a[b][c]d],e", "a[b][c]d", "],e"}, // a bracket right after another one is not seen
         {"{\"}\"},x", "\"}\"},", "x"},
         {"{\"\\\"}\"},x", "\"\\\"}\"", "},x"}, // escaped quotes are not recognised
         {"(", "", ""},

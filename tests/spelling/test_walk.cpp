@@ -125,14 +125,14 @@ TEST_F(Walk, ChecksABadReplacement) {
     EXPECT_EQ(mistake(), u("(over)"));
 }
 
-TEST_F(Walk, ResumesBehindTheListWhenItsFirstErrorLiesBehind) {
+TEST_F(Walk, EndsWhenTheOnlyNewErrorStandsAfterTheCaret) {
     ASSERT_TRUE(start("the hte a zqx"));
-    change("the xzj"); // the new error stands behind the caret's place
+    change("the xzj"); // the new error stands after the caret's place
     EXPECT_EQ(mistake(), u("(over)"));
     EXPECT_EQ(picture(), u("the {the xzj} a zqx"));
 }
 
-TEST_F(Walk, DeletesAWordWithTheBlanksBehindIt) {
+TEST_F(Walk, DeletesAWordWithTheBlanksAfterIt) {
     service(error("is", "grammar", "fox", {"(omit)", "a"}, "Style"));
     ASSERT_TRUE(start("the fox is   a dog"));
     EXPECT_EQ(walk.controls().labErrorType, u("Grammar error:"));
@@ -149,7 +149,7 @@ TEST_F(Walk, DeletesAWordWithTheBlanksBehindIt) {
     EXPECT_EQ(picture(), u("the fox {a} a dog"));
 }
 
-TEST_F(Walk, TellsARepeatedWord) {
+TEST_F(Walk, ReportsARepeatedWord) {
     service(error("fox", "grammar", "", {}, "Twice"));
     ASSERT_TRUE(start("fox"));
     EXPECT_EQ(walk.controls().lstSuggestions, QStringList(u("Twice")));

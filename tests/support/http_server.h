@@ -9,7 +9,7 @@
 
 namespace tolvo::test {
 
-/// A server on this machine: keeps what it is asked, and answers as it is told.
+/// A server on this machine: keeps what it is asked, and answers as it is asked to.
 class HttpServer {
   public:
     using Answer = std::function<void(QTcpSocket &)>;

@@ -24,7 +24,7 @@ TEST_F(Sorting, refusesWhatItCannotSort) {
     }
 }
 
-/// The partition steps as they are told, one swap at a time.
+/// The partition step by step, one swap at a time.
 void partitionSort(std::vector<std::int32_t> &keys, std::vector<std::int32_t> &order, int first, int last) {
     const auto swap = [&](int a, int b) {
         std::swap(keys[a], keys[b]);

@@ -176,7 +176,7 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     EXPECT_EQ(again, actions.applied[0]);
     again.extensions = {QStringLiteral("TXT"), QStringLiteral("mine")};
     dialog.init(again, {});
-    EXPECT_EQ(extensions(), QStringList{QStringLiteral("mine")}) << "the system knows the other one by now";
+    EXPECT_EQ(extensions(), QStringList{QStringLiteral("mine")}) << "the system knows the other one";
 }
 
 TEST_F(OptionsStory, openOnAnyStore) {
@@ -223,7 +223,7 @@ TEST(Options, sayTheLastCheckInWholeDays) {
     EXPECT_EQ(lastCheckText(QStringLiteral("yesterday"), now), lastCheckText({}, now));
 }
 
-TEST(About, tellsVersionDateAndOpensTheAddress) {
+TEST(About, showsVersionAndDateAndOpensTheAddress) {
     test::RecordingProcesses processes;
     test::NamedBoxes boxes;
     frmAbout about(processes, boxes, QDate(2026, 5, 4));

@@ -16,7 +16,6 @@
 #include <QTabBar>
 
 namespace tolvo::test {
-
 namespace {
 
 class SearchWindow : public SearchWorld {
@@ -71,21 +70,15 @@ TEST_F(SearchWindow, GivesTheBoxItsSelectionBack) {
         EXPECT_EQ(edit.selectedText(), "on") << key;
     }
     EXPECT_EQ(said(), "Text not found/Text not found/Text not found/2 strings replaced");
-    press(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_FALSE(visible("cmdReplace"));
-    EXPECT_EQ(edit.selectedText(), "one");
-    press(Qt::Key_H, Qt::ControlModifier);
-    EXPECT_TRUE(visible("cmdReplace"));
-    EXPECT_EQ(edit.selectedText(), "one");
+    for (const Qt::Key key : {Qt::Key_F, Qt::Key_H}) {
+        press(key, Qt::ControlModifier);
+        EXPECT_EQ(visible("cmdReplace"), key == Qt::Key_H);
+        EXPECT_EQ(edit.selectedText(), "one");
+    }
 }
 
 TEST_F(SearchWindow, TakesLineEndsAsEscapes) {
-    const struct {
-        int tab;
-        const char *text, *pasted, *shown;
-        int caret;
-        bool specialChars;
-    } rows[] = {
+    const std::tuple<int, const char *, const char *, const char *, int, bool> rows[] = {
         {0, "", "a\nb", "a\\nb", 4, true},
         {0, "xy", "a\r\n\tb\r\n", "xa\\n\\tb\\ny", 9, true},
         {0, "xy", "\ta", "x\tay", 3, false},
@@ -93,16 +86,16 @@ TEST_F(SearchWindow, TakesLineEndsAsEscapes) {
     };
     open(true);
     QLineEdit &edit = *find<QComboBox>("cmbSearchText").lineEdit();
-    for (const auto &row : rows) {
+    for (const auto &[tab, text, pasted, shown, caret, specialChars] : rows) {
         window->setSpecialChars(false);
-        find<QTabBar>("TabStrip1").setCurrentIndex(row.tab);
-        edit.setText(row.text);
+        find<QTabBar>("TabStrip1").setCurrentIndex(tab);
+        edit.setText(text);
         edit.setCursorPosition(1);
-        QApplication::clipboard()->setText(row.pasted);
+        QApplication::clipboard()->setText(pasted);
         press(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(edit.text(), QString(row.shown));
-        EXPECT_EQ(edit.cursorPosition(), row.caret);
-        EXPECT_EQ(window->request().specialChars, row.specialChars);
+        EXPECT_EQ(edit.text(), QString(shown));
+        EXPECT_EQ(edit.cursorPosition(), caret);
+        EXPECT_EQ(window->request().specialChars, specialChars);
     }
     edit.undo();
     EXPECT_EQ(edit.text(), "xy");
@@ -268,7 +261,7 @@ TEST_F(SearchWindow, SaysWhatSettingsCannotHold) {
         {"Mode=2, SpecialChars=0", "cmbReplaceText", ", ", otherwise},
         {"Mode=2", "cmbThousandsSep", ", ", refusal + "Please enter another separator"},
     };
-    for (const auto &row : rows) {
+    for (const Row &row : rows) {
         QString settings = QString::fromLatin1(row.settings) + ", Find=x, Replace=y, GroupingSep=.";
         QTimer::singleShot(0, window.get(), [&, this] {
             activate(*window);
@@ -308,5 +301,4 @@ TEST_F(SearchWindow, SurvivesAnOddStore) {
 }
 
 } // namespace
-
 } // namespace tolvo::test

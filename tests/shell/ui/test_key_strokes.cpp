@@ -36,7 +36,7 @@ TEST(KeyStrokes, areFoundByMeaning) {
     constexpr int slash = 191;
     struct Row {
         const char *layout;
-        int key; ///< as the toolkit tells it
+        int key; ///< as the toolkit reports it
         Qt::KeyboardModifiers held;
         quint32 place;
         const char *text;

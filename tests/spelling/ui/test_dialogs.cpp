@@ -22,7 +22,7 @@ QString mistake(QWidget &window) {
 
 class Dialogs : public SpellingWorld {
   public:
-    /// A check of the text, told by its result: the text, or "(cancelled)".
+    /// A check of the text and its result: the text, or "(cancelled)".
     QString check(const char *text, const std::function<void(QDialog &)> &story) {
         QString corrected = u(text);
         withModal<QDialog>(story);
