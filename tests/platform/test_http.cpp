@@ -49,15 +49,6 @@ TEST(Http, IsLoadedOnDemand) {
     EXPECT_TRUE(none.statusText.contains("tolvo-network"));
 }
 
-TEST(Http, PostsABody) {
-    HttpServer server(httpReply("200 OK"));
-    NetworkHttpClient client;
-    EXPECT_EQ(client.post(server.url(), "k=v&", "application/x-www-form-urlencoded").status, 200);
-    ASSERT_EQ(server.requests.size(), 1);
-    EXPECT_TRUE(server.requests[0].startsWith("POST / "));
-    EXPECT_TRUE(server.requests[0].endsWith("k=v&"));
-}
-
 TEST(Http, WhatIsNoAnswerHasStatusZeroAndSaysWhy) {
     const QByteArray refusing = HttpServer().url();
     HttpServer silent;

@@ -15,15 +15,6 @@ namespace {
 
 using Sorting = Engine;
 
-TEST_F(Sorting, refusesWhatItCannotSort) {
-    for (const char16_t *text : {u"", u"  ", u"one line", u"a\nb", u"a\rb"}) {
-        EXPECT_EQ(engine.Sort(QStringView(text)), sortError);
-        EXPECT_EQ(engine.Numsort(QStringView(text)), sortError);
-        EXPECT_EQ(engine.SortReverse(QStringView(text)), sortError);
-        EXPECT_EQ(engine.KeywordSort(QStringView(text)), sortError);
-    }
-}
-
 /// The partition step by step, one swap at a time.
 void partitionSort(std::vector<std::int32_t> &keys, std::vector<std::int32_t> &order, int first, int last) {
     const auto swap = [&](int a, int b) {
@@ -62,10 +53,8 @@ TEST(PartitionOrder, isThatOfTheSteps) {
     }
 }
 
-TEST_F(Sorting, equalKeysKeepTheOrderOfTheSteps) {
+TEST(PartitionOrder, bringsTheMiddleOfEqualKeysToTheFront) {
     // The middle one comes to the front, and again in the rest.
-    EXPECT_EQ(engine.Sort(lines(u"a|A| a|a ")), lines(u" a|a|A|a "));
-    EXPECT_EQ(engine.KeywordSort(u"a,A,AA,b"), u"a, A, AA, b");
     EXPECT_EQ(partitionOrder({0, 0, 0, 0}), (std::vector<std::int32_t>{2, 0, 1, 3}));
 }
 
