@@ -51,6 +51,10 @@ struct Examples : Engine {
             const qsizetype length = text.indexOf(u'»') - start - 1;
             return engine.TitleCase(text.remove(u'«').remove(u'»'), start, length);
         }
+        if (tool == u"Indent")
+            return engine.Indent(text, u"> ");
+        if (tool == u"Unindent")
+            return engine.Unindent(text, u"> ");
         if (tool == u"statistics") {
             QStringList column;
             for (const StatisticsRow &row : engine.statistics(text, {}).rows)
@@ -63,7 +67,11 @@ struct Examples : Engine {
         const QString &flags = settings.last();
         if (tool == u"WordWrap")
             return engine.WordWrap(text, first, flags.contains(u'h'), flags.contains(u't'), false);
+        if (tool == u"removeExtraLines")
+            return engine.removeExtraLines(text, flags.contains(u's'), flags.contains(u'm'));
         const int second = settings.value(1).toInt();
+        if (tool == u"Tab2space")
+            return engine.Tab2space(text, first, second);
         const int third = settings.value(2).toInt();
         if (tool == u"number")
             return engine.number(text, first, ListStyle{second}, FollowChar::Stop, third == 0, third);
@@ -75,7 +83,7 @@ struct Examples : Engine {
 
 TEST_F(Examples, comeOutAsTheFileSays) {
     engine.setTopLevelDomains(u",com,org,"_s);
-    forEachExample("/tests/text/examples.txt", 519, [this](const QString &tool, QStringList sides) {
+    forEachExample("/tests/text/examples.txt", 534, [this](const QString &tool, QStringList sides) {
         for (QString &side : sides)
             side.replace(u'|', u"\r\n"_s);
         said = {};
