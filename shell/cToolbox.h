@@ -58,7 +58,7 @@ class cToolbox {
 
     /// What the panel asks of its surroundings; each may be empty.
     struct Hooks {
-        std::function<void()> rowsChanged;           ///< shows them
+        std::function<void()> rowsChanged;           ///< shows the rows
         std::function<void(int milliseconds)> delay; ///< waits while window events go on
     };
 

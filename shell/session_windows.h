@@ -51,8 +51,8 @@ class SessionDialogs : public SpellingWalk {
     virtual void showStatistics(const TextStatistics &statistics) = 0;
     /// frmPowerButton for the button of an index from 0.
     virtual void editPowerButton(int index) = 0;
-    /// Shows the list of languages. Gives the number of the chosen one, -2 if the user cancelled. `LangID` is
-    /// selected at first, where -2 stands for the stored language. `save` stores the choice.
+    /// Shows the list of languages. Gives the number of the chosen one, or languageCancelled. `LangID` is
+    /// selected at first; languageCancelled stands for the stored one. `save` stores the choice.
     virtual int GetLangID(int LangID, bool save) = 0;
     /// Made at the first call.
     [[nodiscard]] virtual SearchWindow &searchWindow() = 0;

@@ -7,22 +7,20 @@
 #include "platform/report_error.h"
 #include "platform/text_box.h"
 #include "powerbuttons/CAction.h"
-#include "preferences/settings_keys.h"
 #include "shell/session_windows.h"
 #include "shell/tool_call.h"
+#include "spelling/languages.h"
 
 namespace tolvo {
 
 namespace {
-
-constexpr int languageCancelled = -2; ///< also asks for the stored language
 
 /// Nothing if the user cancelled.
 std::optional<int> languageOfCheck(const ToolCall &call) {
     if (call.action)
         return toInteger(call.action->Param(QStringLiteral("LangID")));
     if (call.withLastSettings)
-        return getOrDefault(call.services.store, settingKeys.spelling.langID);
+        return LanguageList(call.services.store).storedLangID();
     const int chosen = call.services.dialogs.GetLangID(languageCancelled, true);
     return chosen == languageCancelled ? std::nullopt : std::optional(chosen);
 }

@@ -14,6 +14,9 @@ class Locales;
 class SettingsStore;
 class WordAutomation;
 
+/// In place of a language number: as an answer, the user cancelled; as a question, the stored language.
+inline constexpr int languageCancelled = -2;
+
 /// A language to choose for a check.
 struct CSpellLanguage {
     QString LangLocal;   ///< what the language calls itself

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/session_windows.h"
+#include "spelling/languages.h"
 
 #include <array>
 #include <optional>
@@ -32,7 +33,7 @@ class HeadlessWindows : public SessionView, public SessionDialogs, public Search
     void showAbout() override {}
     void showStatistics(const TextStatistics &shown) override { statistics = shown; }
     void editPowerButton(int) override {}
-    int GetLangID(int, bool) override { return -2; }
+    int GetLangID(int, bool) override { return languageCancelled; }
     bool CheckSpelling(ProofingHost &, QString &, int, bool) override { return false; }
     SearchWindow &searchWindow() override { return *this; }
     void showSearchDirection(SearchDirection) override {}

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// The window side of one run: the main window, and the dialogs that it opens, each made at its first use.
 #pragma once
 
 #include "shell/modMain.h"
@@ -16,6 +15,7 @@ class DesktopClipboard;
 class EscapeWatch;
 class MainWindow;
 
+/// The window side of one run: the main window, and the dialogs that it opens.
 class DesktopSession : public SessionWindow {
   public:
     /// `escape` notes the key Esc during long searches and web requests.

@@ -22,12 +22,6 @@
 
 namespace tolvo {
 
-namespace {
-
-constexpr int cancelledChoice = -2; ///< as an answer; as a question it means the stored language
-
-} // namespace
-
 dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *parent)
     : QDialog(parent), m_services(services), cmbQuickList(new QComboBox(this)), labProvider(new QLabel(this)),
       labChange(new QLabel(this)), imgBrowse(new QToolButton(this)) {
@@ -138,13 +132,13 @@ void dlgDicQuickList::selectLanguage(int LangID) {
 
 int dlgDicQuickList::GetLangID(int LangID, bool save) {
     LanguageList lists(m_services.store);
-    const int asked = LangID == cancelledChoice ? lists.storedLangID() : LangID;
+    const int asked = LangID == languageCancelled ? lists.storedLangID() : LangID;
     showProvider();
     FillSpelling();
     selectLanguage(asked);
     cmbQuickList->setFocus();
     if (exec() != Accepted)
-        return cancelledChoice;
+        return languageCancelled;
     const int row = cmbQuickList->currentIndex();
     // A list without rows leaves the language as it is.
     const int chosen = row < 0 ? asked : m_languages[row].ID;
@@ -157,8 +151,8 @@ bool dlgDicQuickList::getSettings(QString &settings) {
     const QString stored = CParams(settings).arg(QStringLiteral("LangID"));
     bool isNumber = false;
     const int number = stored.toInt(&isNumber);
-    const int chosen = GetLangID(isNumber ? number : cancelledChoice, false);
-    if (chosen == cancelledChoice)
+    const int chosen = GetLangID(isNumber ? number : languageCancelled, false);
+    if (chosen == languageCancelled)
         return false;
     settings = QStringLiteral("LangID=") + QString::number(chosen);
     return true;

@@ -19,8 +19,8 @@ class dlgDicQuickList : public QDialog {
   public:
     explicit dlgDicQuickList(const SpellingServices &services, QWidget *parent = nullptr);
 
-    /// The number of the language that the user chooses, -2 for Cancel. `LangID` is selected at first, where
-    /// -2 stands for the stored language. `save` stores the choice.
+    /// The number of the language that the user chooses, or languageCancelled. `LangID` is selected at first;
+    /// languageCancelled stands for the stored one. `save` stores the choice.
     int GetLangID(int LangID, bool save);
 
     /// The same for a settings string: takes `LangID` out of it and gives back "LangID=" and the number, or
