@@ -98,7 +98,7 @@ def main():
     program, *builds = sys.argv[1:]
     CACHE.mkdir(parents=True, exist_ok=True)
     ours = {source for source in output("git", "ls-files", "*.cpp", cwd=TOP).split() if not source.startswith("fuzz/")}
-    rules = output(program, "--version") + (TOP / ".clang-tidy").read_text()
+    rules = output(program, "--version") + "".join((TOP / name).read_text() for name in (".clang-tidy", "tests/.clang-tidy"))
     wanted = {}  # a source of several build folders is looked at in the first of them
     for build in map(pathlib.Path, builds):
         for source, key in keys_of(build.resolve(), ours, rules):

@@ -55,7 +55,7 @@ QString PlainTextBox::fitting(const QString &text, int replaced) const {
 /// The part of a text from the user that fits in. A cut is reported after the event, since a message box
 /// within it would block the program that drops. Repeated keys into a full text are reported once.
 QString PlainTextBox::fittingOfUser(const QString &text, int replaced, bool typed) {
-    const QString kept = fitting(text, replaced);
+    QString kept = fitting(text, replaced);
     if (kept.size() == text.size() || (typed && m_fullIsTold))
         return kept;
     m_fullIsTold = true;

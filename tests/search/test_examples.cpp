@@ -46,14 +46,13 @@ class Examples : public SearchWorld {
 };
 
 TEST_F(Examples, comeOutAsTheFileSays) {
-    forEachExample(
-        "/tests/search/examples.txt", 81, [this](const QString &section, const QStringList &sides) {
-            const bool isReplacement = section.contains(u"Replace");
-            test::show(box, sides[0]);
-            isReplacement ? replaces(section, sides) : finds(section, sides);
-            EXPECT_EQ(picture(), sides[isReplacement ? 4 : 3]);
-            EXPECT_EQ(said(), QString(sides[isReplacement ? 5 : 4]).replace(u'|', QStringLiteral("\r\n")));
-        });
+    forEachExample("/tests/search/examples.txt", [this](const QString &section, const QStringList &sides) {
+        const bool isReplacement = section.contains(u"Replace");
+        test::show(box, sides[0]);
+        isReplacement ? replaces(section, sides) : finds(section, sides);
+        EXPECT_EQ(picture(), sides[isReplacement ? 4 : 3]);
+        EXPECT_EQ(said(), QString(sides[isReplacement ? 5 : 4]).replace(u'|', QStringLiteral("\r\n")));
+    });
 }
 
 } // namespace

@@ -39,7 +39,7 @@ void plays(User &user, const QString &word) {
 }
 
 TEST(Examples, comeOutAsTheFileSays) {
-    forEachExample("/tests/shell/examples.txt", 110, [](const QString &section, const QStringList &sides) {
+    forEachExample("/tests/shell/examples.txt", [](const QString &section, const QStringList &sides) {
         User user(sides[section == "StoredSearches" ? 2 : section == "Tools" || section == "Keys" ? 1 : 0]);
         if (section == "Tools") {
             const QString before = user.session.txtCurrent().Text();

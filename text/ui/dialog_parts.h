@@ -4,6 +4,7 @@
 
 #include "platform/font.h"
 
+#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QDialog>
 #include <QLabel>
