@@ -50,7 +50,8 @@ def main():
     names = subprocess.run(["c++filt"], input="\n".join(sorted(defined)), capture_output=True, text=True, check=True).stdout
     patterns = [pattern for reason in ALLOWED.values() for pattern in reason]
     unused = [name for name in names.splitlines() if not any(re.search(pattern, name) for pattern in patterns)]
-    print(*unused, sep="\n")
+    for name in unused:
+        print(name)
     print(f"{len(unused)} functions without a caller")
     return 1 if unused else 0
 
