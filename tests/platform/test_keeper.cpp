@@ -182,9 +182,9 @@ TEST_F(Keeper, TakesTextOfEveryForm) {
         otherProgramCopies(other, text, QString::fromLatin1(target));
         QByteArray output;
         EXPECT_TRUE(waitUntil(5000,
-                              [&] {
+                              [&, said = '[' + taken + "]\n"] {
                                   EXPECT_EQ(probe(0, {u"take"_s}, &output), 0);
-                                  return output == '[' + taken + "]\n";
+                                  return output == said;
                               }))
             << target << output.left(100).toStdString();
         other.kill();

@@ -80,7 +80,7 @@ TEST_F(StoreTroubles, WhatCanBeReadOfADamagedFileIsKept) {
         transaction.commit();
     }
     const qint64 size = QFileInfo(path).size();
-    overwrite(path, size / 2 / 4096 * 4096, QByteArray(4 * 4096, '\xA5'));
+    overwrite(path, size / 2 / 4096 * 4096, QByteArray(qsizetype{4} * 4096, '\xA5'));
     SettingsStore store(path);
     (void)store.GetAllSettings(app, u"Many"_s); // comes upon the damage
     const auto kept = store.GetAllSettings(app, u"Many"_s);
