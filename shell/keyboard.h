@@ -10,6 +10,7 @@
 namespace tolvo {
 
 class frmMain;
+struct KeyRow;
 
 /// The bits of frmMain::iShiftState.
 namespace ShiftState {
@@ -53,11 +54,15 @@ class KeyboardCommands {
 
     // The text box's stage, for keys that the window's stage left alone.
 
-    /// Ctrl-/ shows the character at the caret.
+    /// Keys that are known by their virtual key code.
     bool textKeyDown(int code);
     /// `charCode` is the character; Ctrl and a letter give the letter's position in the alphabet. Call it for
     /// every character, typed or not.
     bool textKeyPress(int charCode);
+
+    /// The commands of the text box's stage for a key that another control of the window has no use for. It
+    /// types nothing, and an unknown key leaves the status line as it is. `charCode` may be -1.
+    bool commandFromElsewhere(int code, int charCode);
 
     // Quick edits at the caret, not counted in the usage statistics
 
@@ -72,12 +77,13 @@ class KeyboardCommands {
     void MatchBracket();
     /// Shows place and code of the character after the caret, which there must be.
     void ShowCharacterInfo();
+    /// The same, with a word in the status line if there is no such character.
+    void describeCharacter();
+    /// Runs the tool or PowerButton of frmMain::sLastTool again, without its dialog; false if there is none.
+    bool repeatLastTool();
 
   private:
-    bool powerButtonKey(int code);
-    bool commandKey(int code);
-    bool controlCharacter(int charCode);
-    bool repeatLastTool();
+    bool run(const KeyRow *row, int code);
     /// Runs an edit of `length` characters as one step of the history.
     template <class Edit>
     void quickEdit(int length, Edit edit);

@@ -49,6 +49,8 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     /// The actions at the top of the context menu. Both must outlive the box.
     void setUndoActions(QAction &undo, QAction &redo) { m_undoActions = {&undo, &redo}; }
     [[nodiscard]] std::unique_ptr<QMenu> contextMenu();
+    /// Adds to the end of each context menu.
+    std::function<void(QMenu &)> extendMenu;
 
     /// The line ends of text that is copied or dragged to other programs. The rule must outlive the box;
     /// without one, line ends go out as LF.

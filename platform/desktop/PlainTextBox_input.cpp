@@ -142,6 +142,8 @@ std::unique_ptr<QMenu> PlainTextBox::contextMenu() {
     for (const auto &name : {QStringLiteral("edit-undo"), QStringLiteral("edit-redo")})
         delete menu->findChild<QAction *>(name);
     menu->insertActions(menu->actions().value(0), m_undoActions);
+    if (extendMenu)
+        extendMenu(*menu);
     return menu;
 }
 

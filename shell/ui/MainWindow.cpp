@@ -16,6 +16,7 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox) {
     m_toolbox = &toolbox;
     m_keys.emplace(session);
     connectAltLetters();
+    watchButtons();
     m_panel->onClick = [this](int row, bool right) {
         m_session->bRightButton = right;
         m_session->lblToolbox_Click(*m_toolbox, row);

@@ -7,15 +7,18 @@
 #include "shell/keyboard.h"
 #include "shell/session_windows.h"
 #include "shell/ui/panel_view.h"
+#include "shell/ui/part_walk.h"
 #include "shell/ui/power_button_bar.h"
 
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <span>
 
 class QAction;
 class QKeyEvent;
 class QLabel;
+class QMenu;
 class QPushButton;
 class QToolButton;
 
@@ -77,10 +80,21 @@ class MainWindow : public QWidget, public SessionView {
     QPushButton *button(const char *name, const QString &caption, const QString &tip,
                         std::function<void()> clicked);
     void arrangeTabOrder();
+    void oneStop(const QString &name, int count);
     void offerUndoInTextBoxes();
     void showElidedStatus();
     void connectAltLetters();
+    struct OwnKey;
+    [[nodiscard]] static std::span<const OwnKey> ownKeys();
+    bool ownKeyPressed(const QKeyEvent &event);
+    bool controlKeyPressed(const QKeyEvent &event);
     bool leaveTextBox(const QKeyEvent &event);
+    void watchButtons();
+    QList<WindowPart> parts();
+    void nextPart();
+    void partBefore();
+    void showKeySheet();
+    void extendMenu(QMenu &menu);
     bool keyPressed(const QKeyEvent &event, bool inTextBox);
 
     EscapeWatch &m_escape;
@@ -88,6 +102,10 @@ class MainWindow : public QWidget, public SessionView {
     cToolbox *m_toolbox = nullptr;
     std::optional<KeyboardCommands> m_keys;
 
+    QWidget *m_topBar = nullptr;
+    QWidget *m_textArea = nullptr;
+    QWidget *m_powerRow = nullptr;
+    QWidget *m_buttonRow = nullptr;
     PanelView *m_panel;
     PowerButtonBar *m_powerButtons;
     PlainTextBox *m_txtText1 = nullptr;

@@ -7,12 +7,14 @@
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/any_click.h"
 #include "shell/ui/window_size.h"
+#include "widgets/roving_focus.h"
 #include "widgets/themed_icon.h"
 
 #include <QAccessibleWidget>
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -61,10 +63,14 @@ MainWindow::MainWindow(EscapeWatch &escape)
 
     auto *right = new QVBoxLayout;
     right->setSpacing(6);
-    right->addWidget(topBar());
-    right->addWidget(textArea(), 1);
-    right->addWidget(powerRow());
-    right->addWidget(buttonRow());
+    m_topBar = topBar();
+    m_textArea = textArea();
+    m_powerRow = powerRow();
+    m_buttonRow = buttonRow();
+    right->addWidget(m_topBar);
+    right->addWidget(m_textArea, 1);
+    right->addWidget(m_powerRow);
+    right->addWidget(m_buttonRow);
     auto *columns = new QHBoxLayout;
     columns->setSpacing(8);
     columns->addWidget(m_panel);
@@ -161,6 +167,7 @@ QWidget *MainWindow::textArea() {
         result->setMinimumHeight(120);
         result->setFont(toQFont(textFontAtFirst()));
         result->installEventFilter(this);
+        result->extendMenu = [this](QMenu &menu) { extendMenu(menu); };
         layout->addWidget(result);
         return result;
     };
@@ -199,6 +206,22 @@ void MainWindow::offerUndoInTextBoxes() {
     m_redoAction = action(*m_cmdRedo, QStringLiteral("&Redo\tCtrl+Y"), &frmMain::cmdRedo_Click);
     for (PlainTextBox *box : {m_txtText1, m_txtTextWW})
         box->setUndoActions(*m_undoAction, *m_redoAction);
+}
+
+/// Below what the text box itself offers.
+void MainWindow::extendMenu(QMenu &menu) {
+    menu.addSeparator();
+    for (std::size_t i = 0; i < favourites.size(); ++i) {
+        const QString tag = QString::fromUtf16(favourites.at(i).tag);
+        menu.addAction(themedIcon(QLatin1StringView(favouriteIcons.at(i))),
+                       QString::fromUtf16(favourites.at(i).tooltip), this, [this, tag] {
+                           m_session->bRightButton = false;
+                           m_session->imgFavourites_Click(tag);
+                       });
+    }
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Copy and Close\tAlt+D"), this, [this] { m_session->cmdClose_Click(); });
+    menu.addAction(QStringLiteral("Keyboard shortcuts\tCtrl+?"), this, &MainWindow::showKeySheet);
 }
 
 QWidget *MainWindow::buttonRow() {
@@ -254,6 +277,16 @@ void MainWindow::arrangeTabOrder() {
         follow(QStringLiteral("imgFavourites_%1").arg(i));
     for (const char *name : {"imgWordwrap", "imgOptions", "imgHelp", "imgAbout"})
         follow(QLatin1StringView(name));
+    oneStop(QStringLiteral("imgFavourites_%1"), static_cast<int>(favourites.size()));
+    oneStop(QStringLiteral("imgPower_%1"), CPowerButtonCollection::buttonCount);
+}
+
+/// Makes controls one stop of the Tab key; `name` holds "%1" for their number from 0.
+void MainWindow::oneStop(const QString &name, int count) {
+    QList<QWidget *> members;
+    for (int i = 0; i < count; ++i)
+        members += findChild<QWidget *>(name.arg(i));
+    new RovingFocus(members, this);
 }
 
 } // namespace tolvo

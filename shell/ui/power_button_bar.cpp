@@ -7,7 +7,6 @@
 #include "widgets/themed_icon.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QPainter>
 
 namespace tolvo {
@@ -46,13 +45,6 @@ void PowerButtonImage::showButton(const CPowerButton &button) {
     setAccessibleName(button.isDefined() ? QStringLiteral("PowerButton %1: %2").arg(m_number).arg(button.Name)
                                          : QStringLiteral("PowerButton %1, not defined").arg(m_number));
     update();
-}
-
-void PowerButtonImage::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
 }
 
 void PowerButtonImage::paintEvent(QPaintEvent *) {

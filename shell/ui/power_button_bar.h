@@ -10,7 +10,7 @@
 
 namespace tolvo {
 
-/// One PowerButton: its text icon on white, or its number if it has none. Enter runs it as Space does.
+/// One PowerButton: its text icon on white, or its number if it has none.
 class PowerButtonImage : public QAbstractButton {
     Q_OBJECT
   public:
@@ -19,7 +19,6 @@ class PowerButtonImage : public QAbstractButton {
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
-    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
   private:
