@@ -20,6 +20,7 @@ class QKeyEvent;
 class QLabel;
 class QMenu;
 class QPushButton;
+class QSplitter;
 class QToolButton;
 
 namespace tolvo {
@@ -79,6 +80,8 @@ class MainWindow : public QWidget, public SessionView {
                              std::function<void(bool)> clicked);
     QPushButton *button(const char *name, const QString &caption, const QString &tip,
                         std::function<void()> clicked);
+    QPushButton *prepare(QPushButton *result, const char *name, const QString &tip,
+                         std::function<void()> clicked);
     void arrangeTabOrder();
     void oneStop(const QString &name, int count);
     void offerUndoInTextBoxes();
@@ -102,6 +105,7 @@ class MainWindow : public QWidget, public SessionView {
     cToolbox *m_toolbox = nullptr;
     std::optional<KeyboardCommands> m_keys;
 
+    QSplitter *m_splitter = nullptr;
     QWidget *m_topBar = nullptr;
     QWidget *m_textArea = nullptr;
     QWidget *m_powerRow = nullptr;

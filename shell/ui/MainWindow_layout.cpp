@@ -5,8 +5,9 @@
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
-#include "shell/ui/any_click.h"
 #include "shell/ui/window_size.h"
+#include "widgets/PrimaryButton.h"
+#include "widgets/grid.h"
 #include "widgets/roving_focus.h"
 #include "widgets/themed_icon.h"
 
@@ -14,13 +15,11 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
+#include <QSplitter>
 #include <QStyle>
-#include <QToolButton>
 #include <QVBoxLayout>
-#include <array>
 #include <functional>
 
 namespace tolvo {
@@ -28,13 +27,6 @@ namespace tolvo {
 namespace {
 
 constexpr QSize startSize{820, 560};
-constexpr int iconPixels = 20;
-
-/// Icons of the favourites, in the order of the bar.
-constexpr std::array<const char *, favourites.size()> favouriteIcons{
-    "indent",    "unindent",     "title-case",    "plain-punctuation", "trim",          "spelling",
-    "paragraph", "remove-lines", "numbered-list", "bullet-list",       "trim-and-space"};
-
 /// The proportional font as long as the Options name no other.
 Font textFontAtFirst() {
     return {.name = QStringLiteral("Arial"), .size = 10};
@@ -50,6 +42,7 @@ QAccessibleInterface *describeMainWindow(const QString &className, QObject *obje
 QHBoxLayout *row(QWidget *parent) {
     auto *layout = new QHBoxLayout(parent);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Grid(*parent).gap());
     return layout;
 }
 
@@ -61,26 +54,31 @@ MainWindow::MainWindow(EscapeWatch &escape)
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(applicationTitle() + u' ' + applicationVersion());
 
-    auto *right = new QVBoxLayout;
-    right->setSpacing(6);
+    const Grid grid(*this);
     m_topBar = topBar();
     m_textArea = textArea();
     m_powerRow = powerRow();
     m_buttonRow = buttonRow();
+    auto *rightSide = new QWidget;
+    auto *right = new QVBoxLayout(rightSide);
+    right->setContentsMargins(0, 0, 0, 0);
+    right->setSpacing(grid.gap());
     right->addWidget(m_topBar);
     right->addWidget(m_textArea, 1);
     right->addWidget(m_powerRow);
     right->addWidget(m_buttonRow);
-    auto *columns = new QHBoxLayout;
-    columns->setSpacing(8);
-    columns->addWidget(m_panel);
-    columns->addLayout(right, 1);
+    m_splitter = new QSplitter;
+    m_splitter->setObjectName(QStringLiteral("panelSplitter"));
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setHandleWidth(grid.gap());
+    m_splitter->addWidget(m_panel);
+    m_splitter->addWidget(rightSide);
+    m_splitter->setStretchFactor(1, 1);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 6, 4, 2);
-    layout->setSpacing(4);
-    layout->addLayout(columns, 1);
+    layout->setContentsMargins(grid.margin(), grid.gap(), grid.margin(), grid.smallGap());
+    layout->setSpacing(grid.smallGap());
+    layout->addWidget(m_splitter, 1);
     layout->addWidget(statusRow());
-    columns->setContentsMargins(0, 0, 4, 0);
     arrangeTabOrder();
     offerUndoInTextBoxes();
     undoRedoChanged(false, false);
@@ -89,26 +87,14 @@ MainWindow::MainWindow(EscapeWatch &escape)
     resize(startSize.boundedTo(screen()->availableSize() - titleBar));
 }
 
-QToolButton *MainWindow::imageButton(const char *name, const char *icon, const QString &tip,
-                                     std::function<void(bool)> clicked) {
-    auto *image = new QToolButton;
-    image->setObjectName(QLatin1StringView(name));
-    image->setIcon(themedIcon(QLatin1StringView(icon)));
-    image->setIconSize({iconPixels, iconPixels});
-    image->setAutoRaise(true);
-    image->setFocusPolicy(Qt::TabFocus);
-    image->setToolTip(tip);
-    image->setAccessibleName(tip);
-    new AnyClick(image, [this, clicked = std::move(clicked)](bool right) {
-        if (m_session)
-            clicked(right);
-    });
-    return image;
-}
-
 QPushButton *MainWindow::button(const char *name, const QString &caption, const QString &tip,
                                 std::function<void()> clicked) {
-    auto *result = new QPushButton(caption);
+    return prepare(new QPushButton(caption), name, tip, std::move(clicked));
+}
+
+QPushButton *MainWindow::prepare(QPushButton *result, const char *name, const QString &tip,
+                                 std::function<void()> clicked) {
+    result->setMinimumHeight(Grid(*result).target());
     result->setObjectName(QLatin1StringView(name));
     result->setToolTip(tip);
     result->setFocusPolicy(Qt::TabFocus); // a click leaves the focus with the text
@@ -117,42 +103,6 @@ QPushButton *MainWindow::button(const char *name, const QString &caption, const 
             clicked();
     });
     return result;
-}
-
-QWidget *MainWindow::topBar() {
-    auto *bar = new QWidget;
-    auto *layout = row(bar);
-    layout->setSpacing(1);
-    for (std::size_t i = 0; i < favourites.size(); ++i) {
-        const QString tag = QString::fromUtf16(favourites.at(i).tag);
-        layout->addWidget(imageButton(QStringLiteral("imgFavourites_%1").arg(i).toLatin1().constData(),
-                                      favouriteIcons.at(i), QString::fromUtf16(favourites.at(i).tooltip),
-                                      [this, tag](bool right) {
-                                          m_session->bRightButton = right;
-                                          m_session->imgFavourites_Click(tag);
-                                      }));
-    }
-    layout->addStretch(1);
-    m_imgWordwrap = imageButton("imgWordwrap", "word-wrap", QStringLiteral("Toggle word wrap"), [this](bool) {
-        m_session->imgWordwrap_Click();
-        m_imgWordwrap->setChecked(m_session->bWordWrap);
-    });
-    m_imgWordwrap->setToolTip(QStringLiteral("Toggle word wrap (Alt-W)"));
-    m_imgWordwrap->setCheckable(true);
-    layout->addWidget(m_imgWordwrap);
-    auto *options = imageButton("imgOptions", "options", QStringLiteral("Options"), [this](bool right) {
-        m_session->bRightButton = right;
-        m_session->imgOptions_Click();
-    });
-    options->setToolTip(QStringLiteral("Options (Ctrl-O)\nRight click: switch the font"));
-    layout->addWidget(options);
-    auto *help =
-        imageButton("imgHelp", "help", QStringLiteral("Help"), [this](bool) { m_session->imgHelp_Click(); });
-    help->setToolTip(QStringLiteral("Help (F1)"));
-    layout->addWidget(help);
-    layout->addWidget(imageButton("imgAbout", "about", QStringLiteral("About"),
-                                  [this](bool) { m_session->imgAbout_Click(); }));
-    return bar;
 }
 
 QWidget *MainWindow::textArea() {
@@ -208,22 +158,6 @@ void MainWindow::offerUndoInTextBoxes() {
         box->setUndoActions(*m_undoAction, *m_redoAction);
 }
 
-/// Below what the text box itself offers.
-void MainWindow::extendMenu(QMenu &menu) {
-    menu.addSeparator();
-    for (std::size_t i = 0; i < favourites.size(); ++i) {
-        const QString tag = QString::fromUtf16(favourites.at(i).tag);
-        menu.addAction(themedIcon(QLatin1StringView(favouriteIcons.at(i))),
-                       QString::fromUtf16(favourites.at(i).tooltip), this, [this, tag] {
-                           m_session->bRightButton = false;
-                           m_session->imgFavourites_Click(tag);
-                       });
-    }
-    menu.addSeparator();
-    menu.addAction(QStringLiteral("Copy and Close\tAlt+D"), this, [this] { m_session->cmdClose_Click(); });
-    menu.addAction(QStringLiteral("Keyboard shortcuts\tCtrl+?"), this, &MainWindow::showKeySheet);
-}
-
 QWidget *MainWindow::buttonRow() {
     auto *bar = new QWidget;
     auto *layout = row(bar);
@@ -238,9 +172,9 @@ QWidget *MainWindow::buttonRow() {
                              QStringLiteral("Close and leave the clipboard as it is (Alt-Q)"),
                              [this] { m_session->cmdCancel_Click(); }));
     auto *close =
-        button("cmdClose", QStringLiteral("Copy and Close"),
-               QStringLiteral("Put the whole text on the clipboard and close (Alt-D or Ctrl-Shift-C)"),
-               [this] { m_session->cmdClose_Click(); });
+        prepare(new PrimaryButton(QStringLiteral("Copy and Close")), "cmdClose",
+                QStringLiteral("Put the whole text on the clipboard and close (Alt-D or Ctrl-Shift-C)"),
+                [this] { m_session->cmdClose_Click(); });
     close->setDefault(true); // stands out; Return works in the text as ever
     layout->addWidget(close);
     return bar;

@@ -2,12 +2,18 @@
 #include "shell/ui/power_button_bar.h"
 
 #include "platform/desktop/plain_tool_tip.h"
+#include "powerbuttons/step_words.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "shell/ui/any_click.h"
+#include "widgets/contrast.h"
+#include "widgets/grid.h"
 #include "widgets/themed_icon.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
 
 namespace tolvo {
 
@@ -15,13 +21,14 @@ namespace {
 
 constexpr int frame = 2;
 
-/// The tool tip, which names the keys: those of the function row, and the second set for desktops that keep
-/// some of the first for themselves.
+/// The tool tip, which names the steps and the keys: those of the function row, and the second set for
+/// desktops that keep some of the first for themselves.
 QString tooltip(const CPowerButton &button, int number) {
     if (!button.isDefined())
         return QStringLiteral("Right click to define this PowerButton (Shift-Alt-F%1)\nor Ctrl-Shift-%1")
             .arg(number);
-    return QStringLiteral("%2 (Alt-F%1)\nor Ctrl-%1").arg(number).arg(button.Name);
+    const QString keys = QStringLiteral("%2 (Alt-F%1)\nor Ctrl-%1").arg(number).arg(button.Name);
+    return button.Count() == 0 ? keys : keys + u'\n' + stepWords(button);
 }
 
 } // namespace
@@ -30,11 +37,16 @@ PowerButtonImage::PowerButtonImage(int number, QWidget *parent) : QAbstractButto
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 QSize PowerButtonImage::sizeHint() const {
-    return {iconSide + 2 * frame, iconSide + 2 * frame};
+    const int side = std::max(iconSide, Grid(*this).target()) + 2 * frame;
+    return {side, side};
+}
+
+QSize PowerButtonImage::minimumSizeHint() const {
+    return {iconSide + 2 * frame, sizeHint().height()};
 }
 
 void PowerButtonImage::showButton(const CPowerButton &button) {
@@ -50,22 +62,62 @@ void PowerButtonImage::showButton(const CPowerButton &button) {
 void PowerButtonImage::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRect icon(frame, frame, iconSide, iconSide);
+    const int side = std::min(width(), height());
+    QRectF tile(0, 0, side, side);
+    tile.moveCenter(QRectF(rect()).center());
+    const bool chosen = underMouse() || hasFocus() || isDown();
+    QPen edge(chosen ? accent(palette()) : edgeColour(palette()), chosen ? 2 : 1);
     if (m_button.isDefined()) {
+        const QRectF icon = tile.adjusted(frame, frame, -frame, -frame);
+        QPainterPath rounded;
+        rounded.addRoundedRect(icon, frame, frame);
+        painter.setClipPath(rounded);
         paintIcon(painter, icon, shownIcon(m_button, m_number));
+        painter.setClipping(false);
     } else {
-        painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
-        painter.drawText(icon, Qt::AlignCenter, QString::number(m_number));
+        paintEmpty(painter, tile);
     }
-    QColor line = palette().color(QPalette::Mid);
-    if (underMouse() || hasFocus() || isDown())
-        line = accent(palette());
-    QPen pen(line, isDown() ? 2 : 1);
-    if (!m_button.isDefined() && !underMouse() && !hasFocus())
-        pen.setStyle(Qt::DotLine);
-    painter.setPen(pen);
+    if (!m_button.isDefined() && !chosen)
+        edge.setDashPattern({3, 2});
+    if (isDown())
+        edge.setWidth(3);
+    painter.setPen(edge);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    const qreal inset = edge.widthF() / 2;
+    painter.drawRoundedRect(tile.adjusted(inset, inset, -inset, -inset), 4, 4);
+    if (m_button.isDefined() && !iconOf(m_button).text.trimmed().isEmpty())
+        paintBadge(painter, tile); // without a text the number is the icon
+}
+
+/// The number in the corner. The icon's ground is white under every theme, and so the badge has the same
+/// colours under all of them.
+void PowerButtonImage::paintBadge(QPainter &painter, const QRectF &tile) const {
+    const qreal size = std::round(tile.width() * 0.4);
+    const QRectF badge(tile.right() - size - 0.5, tile.bottom() - size - 0.5, size, size);
+    painter.setPen(QPen(Qt::white, 1));
+    painter.setBrush(accent(QPalette(Qt::white)));
+    painter.drawEllipse(badge);
+    QFont digits = font();
+    digits.setBold(true);
+    digits.setPixelSize(static_cast<int>(size * 0.75));
+    painter.setFont(digits);
+    painter.setPen(Qt::white);
+    painter.drawText(badge, Qt::AlignCenter, QString::number(m_number));
+}
+
+/// The number; a plus where a click will define the button.
+void PowerButtonImage::paintEmpty(QPainter &painter, const QRectF &tile) const {
+    if (!underMouse()) {
+        painter.setPen(mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText),
+                             textContrast + 0.5));
+        painter.drawText(tile, Qt::AlignCenter, QString::number(m_number));
+        return;
+    }
+    const qreal arm = tile.width() / 5;
+    const QPointF middle = tile.center();
+    painter.setPen(QPen(accent(palette()), 2));
+    painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
+    painter.drawLine(middle - QPointF(0, arm), middle + QPointF(0, arm));
 }
 
 PowerButtonBar::PowerButtonBar(QWidget *parent) : QWidget(parent) {

@@ -10,18 +10,23 @@
 
 namespace tolvo {
 
-/// One PowerButton: its text icon on white, or its number if it has none.
+/// One PowerButton: its text icon on white with its number in a badge, or a dashed place with the number
+/// alone.
 class PowerButtonImage : public QAbstractButton {
     Q_OBJECT
   public:
     PowerButtonImage(int number, QWidget *parent);
     void showButton(const CPowerButton &button);
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent *event) override;
 
   private:
+    void paintBadge(QPainter &painter, const QRectF &tile) const;
+    void paintEmpty(QPainter &painter, const QRectF &tile) const;
+
     int m_number;
     CPowerButton m_button;
 };

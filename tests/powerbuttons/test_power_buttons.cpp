@@ -3,6 +3,7 @@
 #include "base/application.h"
 #include "powerbuttons/example_buttons.h"
 #include "powerbuttons/icon_geometry.h"
+#include "powerbuttons/step_words.h"
 #include "tests/powerbuttons/world.h"
 
 #include <functional>
@@ -141,6 +142,19 @@ TEST_F(PowerButtons, haveReadyMadeExamples) {
             EXPECT_EQ(step->Tool()->gotDialog(), !step->Details().isEmpty()); // they run without asking
         }
     }
+}
+
+TEST_F(PowerButtons, sayTheirStepsInWords) {
+    CPowerButton button;
+    EXPECT_EQ(stepWords(button), QString());
+    for (const char *token : {"foTRA", "foIND"})
+        button.Add(action(token));
+    EXPECT_EQ(stepWords(button), "1. Trim line ends, 2. Indent");
+    button.Add(std::make_shared<CAction>());
+    EXPECT_TRUE(stepWords(button).endsWith(", 3. unknown tool"));
+    while (button.Count() < 12)
+        button.Add(action("ccUPP"));
+    EXPECT_TRUE(stepWords(button).endsWith(", 8. UPPER CASE, and 4 more"));
 }
 
 TEST(IconText, isCutAsReadersCount) {

@@ -58,7 +58,7 @@ TEST_F(MainWindowStory, fitsOnTheScreenAndOffersUndoInItsMenu) {
         auto &button = child<QWidget>(*window(), "imgPower_0");
         EXPECT_TRUE(Qt::mightBeRichText(button.toolTip()));
         EXPECT_EQ(QTextDocumentFragment::fromHtml(button.toolTip()).toPlainText(),
-                  QStringLiteral("<b>Loud (Alt-F1)\nor Ctrl-1"))
+                  QStringLiteral("<b>Loud (Alt-F1)\nor Ctrl-1\n1. UPPER CASE"))
             << "as it was typed";
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Return);
