@@ -101,6 +101,21 @@ struct ActionKeys {
     Setting<forms::Integer, ActionSection> dlgOption{{}, u"DlgOption"};
 };
 
+/// Where the keys of windows on one kind of screen lie; `screen` is what screenName() gives.
+struct ScreenSection {
+    static constexpr auto tree = SettingsTree::Settings;
+    /// path("1920x1080@1") is "Windows\1920x1080@1".
+    [[nodiscard]] static QString path(const QString &screen) { return QStringLiteral("Windows\\") + screen; }
+};
+
+/// The places of windows, as in shell/window_place.h.
+struct WindowKeys {
+    Setting<forms::Text, ScreenSection> main{{}, u"Main", u""};
+    Setting<forms::Text, ScreenSection> search{{}, u"Search", u""};
+    Setting<forms::Nearest<0, 9999>, ScreenSection> panelWidth{
+        {}, u"PanelWidth", 0}; // pixels; 0: as at first
+};
+
 struct AdvisorKeys {
     Setting<forms::LeadingNumber> lastTip{{u"Advisor"}, u"LastTip", 0}; // from 1
 };
@@ -124,6 +139,7 @@ struct Keys {
     PowerButtonKeys powerButton;
     ActionKeys action;
     AdvisorKeys advisor;
+    WindowKeys windows;
     StatisticsKeys statistics;
 };
 

@@ -43,6 +43,9 @@ class MainWindow : public QWidget, public SessionView {
     /// The one in use.
     [[nodiscard]] PlainTextBox &shownTextBox();
     [[nodiscard]] PanelView &panel() { return *m_panel; }
+    /// The width of the column left of the text, in pixels.
+    [[nodiscard]] int panelWidth() const;
+    void setPanelWidth(int width);
 
     // SessionView
     void statusChanged(const QString &text) override;
@@ -60,7 +63,7 @@ class MainWindow : public QWidget, public SessionView {
     static void delay(int milliseconds);
 
     std::function<void()> onActivated; ///< each time the window becomes active
-    std::function<void()> onClosed;    ///< the session is over
+    std::function<void()> onClosed;    ///< the session is over; the window still stands
 
   protected:
     void closeEvent(QCloseEvent *event) override;

@@ -6,6 +6,7 @@
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/window_size.h"
+#include "shell/window_place.h"
 #include "widgets/PrimaryButton.h"
 #include "widgets/grid.h"
 #include "widgets/roving_focus.h"
@@ -26,7 +27,6 @@ namespace tolvo {
 
 namespace {
 
-constexpr QSize startSize{820, 560};
 /// The proportional font as long as the Options name no other.
 Font textFontAtFirst() {
     return {.name = QStringLiteral("Arial"), .size = 10};
@@ -83,8 +83,19 @@ MainWindow::MainWindow(EscapeWatch &escape)
     offerUndoInTextBoxes();
     undoRedoChanged(false, false);
     showTextBox(false);
-    const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    resize(startSize.boundedTo(screen()->availableSize() - titleBar));
+    constexpr int edge = 4; // of a window manager's frame, which is not known yet
+    resize(firstSize(screen()->availableSize(),
+                     {2 * edge, style()->pixelMetric(QStyle::PM_TitleBarHeight) + edge}));
+    setPanelWidth(std::max(m_panel->sizeHint().width(), 7 * grid.target()));
+}
+
+int MainWindow::panelWidth() const {
+    return m_splitter->sizes().front();
+}
+
+void MainWindow::setPanelWidth(int width) {
+    layout()->activate();
+    m_splitter->setSizes({width, m_splitter->width() - width});
 }
 
 QPushButton *MainWindow::button(const char *name, const QString &caption, const QString &tip,

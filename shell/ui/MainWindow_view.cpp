@@ -49,9 +49,9 @@ Font MainWindow::textFont(bool wrapped) const {
 }
 
 void MainWindow::endSession() {
-    hide();
     if (onClosed)
         onClosed();
+    hide();
 }
 
 void MainWindow::bringToFront() {

@@ -10,6 +10,7 @@
 #include "shell/apply_options.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/dlgConfirmClose.h"
+#include "shell/ui/window_memory.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgDicQuickList.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
@@ -32,8 +33,10 @@ DesktopDialogs::DesktopDialogs(const RunServices &services, MainWindow &parent)
 DesktopDialogs::~DesktopDialogs() = default;
 
 void DesktopDialogs::unload() {
-    if (m_search)
+    if (m_search) {
+        keepPlace(m_services.store, settingKeys.windows.search, placeOf(*m_search));
         m_search->saveState();
+    }
     m_search.reset();
     m_preferences.reset();
     m_powerButtonEditor.reset();
@@ -125,9 +128,11 @@ void DesktopDialogs::editPowerButton(int index) {
 }
 
 frmSearch &DesktopDialogs::searchWindow() {
-    if (!m_search)
+    if (!m_search) {
         m_search =
             std::make_unique<frmSearch>(m_session->oSearch, m_services.store, m_services.boxes, &m_parent);
+        bringBackCorner(*m_search, m_services.store, settingKeys.windows.search);
+    }
     return *m_search;
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/desktop/DesktopClipboard.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/window_memory.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -30,7 +31,10 @@ DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &cl
             m_session->setStatus(waiting ? QStringLiteral("Waiting for the clipboard... Esc ends the wait")
                                          : QString());
     };
-    m_window->onClosed = [this] { m_loop.quit(); };
+    m_window->onClosed = [this] {
+        m_lastPlace = placeOf(*m_window);
+        m_loop.quit();
+    };
     m_window->onActivated = [this] { takeOverPowerButtons(); };
 }
 
@@ -86,7 +90,22 @@ void DesktopSession::takeOverPowerButtons() {
     });
 }
 
+void DesktopSession::bringBackWindow() {
+    const SettingsStore &store = m_services.store;
+    bringBack(*m_window, store, settingKeys.windows.main);
+    if (const int width = get(store, settingKeys.windows.panelWidth, presentScreen()); width > 0)
+        m_window->setPanelWidth(width);
+    m_panelWidth = m_window->panelWidth();
+}
+
+void DesktopSession::keepWindow() {
+    keepPlace(m_services.store, settingKeys.windows.main, m_lastPlace);
+    if (m_window->panelWidth() != m_panelWidth)
+        set(m_services.store, settingKeys.windows.panelWidth, m_window->panelWidth(), presentScreen());
+}
+
 void DesktopSession::showModal(const std::function<void()> &onceShown) {
+    m_session->guarded(u"bringBackWindow", [this] { bringBackWindow(); });
     m_window->show();
     m_window->bringToFront();
     onceShown();
@@ -94,6 +113,7 @@ void DesktopSession::showModal(const std::function<void()> &onceShown) {
     if (!m_session->bSessionOver)
         m_loop.exec();
     m_window->hide();
+    m_session->guarded(u"keepWindow", [this] { keepWindow(); });
 }
 
 void DesktopSession::unloadForms() {

@@ -36,6 +36,8 @@ class DesktopSession : public SessionWindow {
   private:
     void watchStore();
     void takeOverPowerButtons();
+    void bringBackWindow();
+    void keepWindow();
 
     RunServices m_services;
     DesktopClipboard &m_clipboard;
@@ -43,6 +45,8 @@ class DesktopSession : public SessionWindow {
     DesktopDialogs m_dialogs;
     frmMain *m_session = nullptr;
     QEventLoop m_loop;
+    QString m_lastPlace;  ///< of the main window when the session ended
+    int m_panelWidth = 0; ///< as the window came up
     QFileSystemWatcher m_storeWatch;
     QTimer m_storeChanged;
     qint64 m_seenChanges = 0; ///< of the store by others, as of the last look at the PowerButtons

@@ -46,7 +46,8 @@ QSize PowerButtonImage::sizeHint() const {
 }
 
 QSize PowerButtonImage::minimumSizeHint() const {
-    return {iconSide + 2 * frame, sizeHint().height()};
+    constexpr int smallest = 28; // in a window as narrow as it can be
+    return {smallest, sizeHint().height()};
 }
 
 void PowerButtonImage::showButton(const CPowerButton &button) {

@@ -69,14 +69,20 @@ QString pathOf(ButtonSection section) {
 QString pathOf(ActionSection section) {
     return section.path(1, u"1"_s);
 }
+QString pathOf(ScreenSection section) {
+    return section.path(u"800x600@1"_s);
+}
 
-/// Calls with what follows the key where it is read: nothing, or the numbers of a PowerButton and an Action.
+/// Calls with what follows the key where it is read: nothing, the numbers of a PowerButton and an Action, or
+/// a screen.
 template <class Form, class Place>
 void withPlace(const Setting<Form, Place> &, auto call) {
     if constexpr (std::is_same_v<Place, Section>)
         call();
     else if constexpr (std::is_same_v<Place, ButtonSection>)
         call(1);
+    else if constexpr (std::is_same_v<Place, ScreenSection>)
+        call(u"800x600@1"_s);
     else
         call(1, u"1"_s);
 }
@@ -147,6 +153,9 @@ TEST(SettingsKeys, HaveTheirPlacesAndDefaults) {
         u"Stats Usage|"_s,
         u"Stats Usage|Count=0"_s,
         u"Stats Usage|StartDate="_s,
+        u"Windows\\800x600@1|Main="_s,
+        u"Windows\\800x600@1|PanelWidth=0"_s,
+        u"Windows\\800x600@1|Search="_s,
     };
     EXPECT_EQ(rows, expected);
 }

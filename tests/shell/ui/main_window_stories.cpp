@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The main window offscreen: its size, its panel, its keys.
 #include "platform/desktop/PlainTextBox.h"
+#include "shell/ui/window_memory.h"
 #include "shell/ui/window_size.h"
 #include "tests/shell/ui/MainWindowStory.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QScreen>
+#include <QSplitter>
 #include <QTextDocumentFragment>
 
 using namespace tolvo;
@@ -36,6 +38,9 @@ TEST_F(MainWindowStory, fitsOnTheScreenAndOffersUndoInItsMenu) {
         const QSize screen = window()->screen()->availableSize();
         EXPECT_LE(window()->width(), screen.width());
         EXPECT_LT(window()->height(), screen.height());
+        const QSize smallest = window()->minimumSizeHint();
+        EXPECT_LE(smallest.width(), 632) << "half of 1280, less the frame";
+        EXPECT_LE(smallest.height(), 400);
 
         const auto menu = [](const char *item) {
             const auto shown = static_cast<PlainTextBox *>(text())->contextMenu();
@@ -65,6 +70,36 @@ TEST_F(MainWindowStory, fitsOnTheScreenAndOffersUndoInItsMenu) {
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
     });
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("ONE TWOABC"));
+}
+
+TEST_F(MainWindowStory, remembersItsPlaceAndThePanelWhereTheyStillFit) {
+    const auto leave = [] { QTest::keyClick(text(), Qt::Key_Q, Qt::AltModifier); };
+    const auto &place = settingKeys.windows.main;
+    QSize first;
+    int panel = 0;
+    run({}, [&] {
+        first = window()->size();
+        window()->move(20, 30);
+        window()->resize(720, 480);
+        auto &splitter = child<QSplitter>(*window(), "panelSplitter");
+        splitter.setSizes({180, splitter.width() - 180});
+        panel = splitter.sizes().front();
+        leave();
+    });
+    EXPECT_EQ(get(store, place, presentScreen()), QStringLiteral("20,30,720,480"));
+    run({}, [&] {
+        EXPECT_EQ(window()->size(), QSize(720, 480));
+        EXPECT_EQ(window()->pos(), QPoint(20, 30));
+        EXPECT_EQ(child<QSplitter>(*window(), "panelSplitter").sizes().front(), panel);
+        leave();
+    });
+    for (const char *gone : {"5000,30,720,480", "20,30,9000,480", "nonsense"}) {
+        set(store, place, QLatin1StringView(gone), presentScreen());
+        run({}, [&] {
+            EXPECT_EQ(window()->size(), first) << gone;
+            leave();
+        });
+    }
 }
 
 } // namespace
