@@ -18,6 +18,8 @@ class SessionView {
   public:
     virtual ~SessionView() = default;
     virtual void statusChanged(const QString &text) = 0;
+    /// Shows a hint beside the status; an empty status takes it away.
+    virtual void hintChanged(const QString &) {}
     virtual void undoRedoChanged(bool undoEnabled, bool redoEnabled) = 0;
     /// Shows txtTextWW (wrapped) or txtText1 and hides the other.
     virtual void showTextBox(bool wrapped) = 0;

@@ -87,6 +87,8 @@ void runTextOperation(const ToolRow &row, const ToolCall &call, const ToolSettin
     const bool warned = call.warnings > warningsBefore;
     if (row.status.kind != ToolStatus::Kind::None)
         call.context.host.setStatus(statusText(row.status, lengthBefore, box.length(), warned));
+    if (!call.fromPowerButton && *result == input.text)
+        call.services.view.hintChanged(QStringLiteral("Nothing changed"));
 }
 
 /// The settings of the Action, else those last used, which the user may change first unless the call wants
@@ -166,6 +168,7 @@ void frmMain::lblToolbox_Click(cToolbox &oToolbox, int row) {
 
 void frmMain::imgFavourites_Click(const QString &tag) {
     guarded(u"imgFavourites_Click", [&] {
+        const QString before = txtCurrent().Text();
         if (tag == QLatin1StringView("foBOTH")) {
             const int lengthBefore = txtCurrent().length();
             runTool(QStringLiteral("foTRA"));
@@ -177,6 +180,8 @@ void frmMain::imgFavourites_Click(const QString &tag) {
         } else {
             runTool(tag);
         }
+        if (txtCurrent().Text() != before)
+            m_services.view.hintChanged({}); // the second of two tools may have had nothing to do
     });
 }
 

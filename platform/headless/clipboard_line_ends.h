@@ -21,6 +21,9 @@ class ClipboardLineEnds {
     /// Converts a text of the text area for other programs; to LF if no text was taken in yet.
     [[nodiscard]] QString goOut(const QString &own) const;
 
+    /// Whether line ends go out as LF, not as CR LF.
+    [[nodiscard]] bool lineFeeds() const { return m_lineFeeds; }
+
   private:
     bool m_lineFeeds = true;
 };

@@ -3,6 +3,7 @@
 
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
+#include "shell/ui/text_view.h"
 #include "shell/ui/window_size.h"
 
 #include <QCloseEvent>
@@ -11,10 +12,11 @@
 
 namespace tolvo {
 
-void MainWindow::attach(frmMain &session, cToolbox &toolbox) {
+void MainWindow::attach(frmMain &session, cToolbox &toolbox, const ClipboardLineEnds &lineEnds) {
     m_session = &session;
     m_toolbox = &toolbox;
     m_keys.emplace(session);
+    m_textView = new TextView(session, {m_txtText1, m_txtTextWW}, *m_statusBar, lineEnds);
     connectAltLetters();
     watchButtons();
     m_panel->onClick = [this](int row, bool right) {
@@ -61,19 +63,12 @@ bool MainWindow::event(QEvent *event) {
     return QWidget::event(event);
 }
 
-void MainWindow::changeEvent(QEvent *event) {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
-        showElidedStatus();
-    QWidget::changeEvent(event);
-}
-
 void MainWindow::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
     if (isMinimized())
         return;
     const QSize frame = frameGeometry().size() - size();
     setMinimumSize(minimumSizeHint().expandedTo(allowedOuterSize(QSize()) / twipsPerPixel - frame));
-    showElidedStatus();
 }
 
 } // namespace tolvo

@@ -17,7 +17,6 @@
 
 class QAction;
 class QKeyEvent;
-class QLabel;
 class QMenu;
 class QPushButton;
 class QSplitter;
@@ -25,7 +24,10 @@ class QToolButton;
 
 namespace tolvo {
 
+class ClipboardLineEnds;
 class EscapeWatch;
+class StatusBar;
+class TextView;
 class frmMain;
 class cToolbox;
 
@@ -36,7 +38,7 @@ class MainWindow : public QWidget, public SessionView {
     explicit MainWindow(EscapeWatch &escape);
 
     /// From here on the controls reach the session.
-    void attach(frmMain &session, cToolbox &toolbox);
+    void attach(frmMain &session, cToolbox &toolbox, const ClipboardLineEnds &lineEnds);
 
     [[nodiscard]] PlainTextBox &txtText1() { return *m_txtText1; }
     [[nodiscard]] PlainTextBox &txtTextWW() { return *m_txtTextWW; }
@@ -49,6 +51,7 @@ class MainWindow : public QWidget, public SessionView {
 
     // SessionView
     void statusChanged(const QString &text) override;
+    void hintChanged(const QString &text) override;
     void undoRedoChanged(bool undoEnabled, bool redoEnabled) override;
     void showTextBox(bool wrapped) override;
     void setTextFont(bool wrapped, const Font &font) override;
@@ -67,7 +70,6 @@ class MainWindow : public QWidget, public SessionView {
 
   protected:
     void closeEvent(QCloseEvent *event) override;
-    void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -78,7 +80,6 @@ class MainWindow : public QWidget, public SessionView {
     QWidget *textArea();
     QWidget *powerRow();
     QWidget *buttonRow();
-    QWidget *statusRow();
     QToolButton *imageButton(const char *name, const char *icon, const QString &tip,
                              std::function<void(bool)> clicked);
     QPushButton *button(const char *name, const QString &caption, const QString &tip,
@@ -88,7 +89,6 @@ class MainWindow : public QWidget, public SessionView {
     void arrangeTabOrder();
     void oneStop(const QString &name, int count);
     void offerUndoInTextBoxes();
-    void showElidedStatus();
     void connectAltLetters();
     struct OwnKey;
     [[nodiscard]] static std::span<const OwnKey> ownKeys();
@@ -117,8 +117,8 @@ class MainWindow : public QWidget, public SessionView {
     PowerButtonBar *m_powerButtons;
     PlainTextBox *m_txtText1 = nullptr;
     PlainTextBox *m_txtTextWW = nullptr;
-    QLabel *m_labStatus = nullptr;
-    QString m_status;
+    StatusBar *m_statusBar = nullptr;
+    TextView *m_textView = nullptr; ///< once the session is there
     QToolButton *m_imgWordwrap = nullptr;
     QPushButton *m_cmdUndo = nullptr;
     QPushButton *m_cmdRedo = nullptr;

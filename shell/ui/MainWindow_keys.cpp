@@ -6,6 +6,7 @@
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/key_strokes.h"
 #include "shell/ui/part_walk.h"
+#include "shell/ui/text_view.h"
 
 #include <QAbstractButton>
 #include <QGuiApplication>
@@ -87,7 +88,7 @@ bool MainWindow::keyPressed(const QKeyEvent &event, bool inTextBox) {
     if (inTextBox && m_keys->textKeyDown(stroke.code))
         return true;
     // A command of the layout's own place goes first: some have the question mark on a digit.
-    if (ownKeyPressed(event))
+    if (ownKeyPressed(event) || m_textView->keyPressed(event))
         return true;
     if (stroke.character >= 0 && m_keys->formKeyPress(stroke.character))
         return true;

@@ -5,6 +5,7 @@
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/status_bar.h"
 #include "shell/ui/window_size.h"
 #include "shell/window_place.h"
 #include "widgets/PrimaryButton.h"
@@ -15,7 +16,6 @@
 #include <QAccessibleWidget>
 #include <QAction>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
@@ -78,7 +78,8 @@ MainWindow::MainWindow(EscapeWatch &escape)
     layout->setContentsMargins(grid.margin(), grid.gap(), grid.margin(), grid.smallGap());
     layout->setSpacing(grid.smallGap());
     layout->addWidget(m_splitter, 1);
-    layout->addWidget(statusRow());
+    m_statusBar = new StatusBar(new ResizeHandle(this));
+    layout->addWidget(m_statusBar);
     arrangeTabOrder();
     offerUndoInTextBoxes();
     undoRedoChanged(false, false);
@@ -191,19 +192,6 @@ QWidget *MainWindow::buttonRow() {
     return bar;
 }
 
-QWidget *MainWindow::statusRow() {
-    auto *bar = new QWidget;
-    auto *layout = row(bar);
-    m_labStatus = new QLabel;
-    m_labStatus->setObjectName(QStringLiteral("labStatus"));
-    m_labStatus->setTextFormat(Qt::PlainText);
-    m_labStatus->setMinimumWidth(60);
-    m_labStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    layout->addWidget(m_labStatus, 1);
-    layout->addWidget(new ResizeHandle(this), 0, Qt::AlignBottom);
-    return bar;
-}
-
 void MainWindow::arrangeTabOrder() {
     QWidget *before = m_txtTextWW;
     setTabOrder(m_txtText1, m_txtTextWW);
@@ -220,7 +208,7 @@ void MainWindow::arrangeTabOrder() {
         follow(QStringLiteral("lblToolbox_%1").arg(i));
     for (std::size_t i = 0; i < favourites.size(); ++i)
         follow(QStringLiteral("imgFavourites_%1").arg(i));
-    for (const char *name : {"imgWordwrap", "imgOptions", "imgHelp", "imgAbout"})
+    for (const char *name : {"imgWordwrap", "imgOptions", "imgHelp", "imgAbout", "cmdPlace"})
         follow(QLatin1StringView(name));
     oneStop(QStringLiteral("imgFavourites_%1"), static_cast<int>(favourites.size()));
     oneStop(QStringLiteral("imgPower_%1"), CPowerButtonCollection::buttonCount);

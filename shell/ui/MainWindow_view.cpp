@@ -2,28 +2,26 @@
 // What the main window shows of the session.
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/font_conversion.h"
-#include "platform/desktop/plain_tool_tip.h"
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/status_bar.h"
+#include "shell/ui/text_view.h"
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
 
 namespace tolvo {
 
 void MainWindow::statusChanged(const QString &text) {
-    m_status = text;
-    showElidedStatus();
+    m_statusBar->showStatus(text);
+    if (m_textView)
+        m_textView->refresh();
 }
 
-void MainWindow::showElidedStatus() {
-    m_labStatus->setText(
-        m_labStatus->fontMetrics().elidedText(m_status, Qt::ElideRight, m_labStatus->width()));
-    m_labStatus->setToolTip(m_labStatus->text() == m_status ? QString() : plainToolTip(m_status));
-    m_labStatus->setAccessibleName(m_status.isEmpty() ? QStringLiteral("Status") : m_status);
+void MainWindow::hintChanged(const QString &text) {
+    m_statusBar->showHint(text);
 }
 
 void MainWindow::undoRedoChanged(bool undoEnabled, bool redoEnabled) {

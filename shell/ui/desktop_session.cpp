@@ -55,7 +55,7 @@ SessionView &DesktopSession::view() {
 void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
     m_session = &session;
     m_seenChanges = m_services.store.changesByOthers();
-    m_window->attach(session, toolbox);
+    m_window->attach(session, toolbox, m_clipboard.lineEnds());
     m_dialogs.attach(session);
     toolbox.setHooks({.rowsChanged = [this, &toolbox] { m_window->panel().showRows(toolbox); },
                       .delay = [](int milliseconds) { MainWindow::delay(milliseconds); }});

@@ -52,6 +52,8 @@ class User : public HeadlessWindows {
         canRedo = redoEnabled;
     }
 
+    void hintChanged(const QString &text) override { hint = text; }
+
     // What the windows are asked
     CloseAnswer confirmClose(const QString &prompt) override;
     void showOptions() override { opened += "Options"; }
@@ -73,6 +75,7 @@ class User : public HeadlessWindows {
     CloseAnswer closeAnswer = CloseAnswer::Cancel;
     QList<int> repainted; ///< indices of PowerButtons
     bool cancelsDialogs = false;
+    QString hint;         ///< beside the status
     bool canUndo = false; ///< the two buttons
     bool canRedo = false;
     int chosenLanguage = 2057;

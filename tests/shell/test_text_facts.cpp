@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// What the status bar says about the text.
+#include "shell/text_facts.h"
+#include "tests/support/User.h"
+#include "tests/support/pictures.h"
+
+using namespace tolvo;
+using namespace tolvo::test;
+
+namespace {
+
+QString said(const TextFacts &facts) {
+    return QStringList{selectionText(facts), placeText(facts), lengthText(facts)}.join(u'#');
+}
+
+TEST(TextFacts, sayWhereTheSelectionIs) {
+    const std::pair<const char *, const char *> rows[] = {
+        {"«»", "#Ln 1, Col 1#0 / 65,535"},
+        {"ab|c«»d|", "#Ln 2, Col 2#8 / 65,535"},
+        {"ab|cd|«»", "#Ln 3, Col 1#8 / 65,535"},
+        {"a«b|cd|»", "7 selected#Ln 1, Col 2#8 / 65,535"},
+        {"\xF0\x9F\x98\x80«»", "#Ln 1, Col 3#2 / 65,535"},
+    };
+    for (const auto &[picture, expected] : rows) {
+        const User user(QString::fromUtf8(picture));
+        EXPECT_EQ(said(textFacts(user.session.oTextMethods, user.session.txtCurrent())), expected) << picture;
+    }
+    EXPECT_EQ(said({.selected = 12345, .line = 1000, .column = 2000, .length = 65535}),
+              "12,345 selected#Ln 1,000, Col 2,000#65,535 / 65,535");
+}
+
+TEST(TextFacts, warnBeforeTheTextIsFull) {
+    const std::tuple<int, int, Fill, bool> rows[] = {
+        {0, 65535, Fill::Roomy, false},   {58981, 65535, Fill::Roomy, false},
+        {58982, 65535, Fill::Near, true}, {64879, 65535, Fill::Near, true},
+        {64880, 65535, Fill::Full, true}, {65535, 65535, Fill::Full, true},
+        {65536, 65535, Fill::Full, true},
+    };
+    for (const auto &[length, capacity, fill, tells] : rows) {
+        const TextFacts facts{.length = length, .capacity = capacity};
+        EXPECT_EQ(fillOf(facts), fill) << length;
+        EXPECT_EQ(lengthTip(facts).contains("Room for"), tells) << length;
+    }
+    EXPECT_TRUE(lengthTip({.length = 65536}).endsWith("Room for 0 more"));
+}
+
+TEST(TextFacts, findTheStartOfALine) {
+    const QString text = "ab\r\n\r\ncd\ne\r\n";
+    const std::pair<int, std::optional<int>> rows[] = {{-1, {}}, {0, {}}, {1, 0}, {2, 4},
+                                                       {3, 6},   {4, 12}, {5, {}}};
+    for (const auto &[line, start] : rows)
+        EXPECT_EQ(placeOfLine(text, line), start) << line;
+    EXPECT_EQ(lineCount(text), 4);
+    EXPECT_EQ(lineCount({}), 1);
+}
+
+TEST(Hint, tellsOfAToolThatLeftTheTextAlone) {
+    struct Row {
+        const char *token;
+        const char *text;
+        const char *hint;
+    };
+    const Row rows[] = {
+        {"ccUPP", "ab", ""},    {"ccUPP", "AB", "Nothing changed"}, {"ccUPP", "a«B»", "Nothing changed"},
+        {"foBOTH", "a  b", ""}, {"foBOTH", "a b  |c", ""},          {"foBOTH", "a b", "Nothing changed"},
+    };
+    for (const Row &row : rows) {
+        User user(QString::fromUtf8(row.text));
+        user.session.imgFavourites_Click(row.token);
+        EXPECT_EQ(user.hint, row.hint) << row.token << ' ' << row.text;
+    }
+}
+
+} // namespace
