@@ -7,6 +7,9 @@
 
 namespace tolvo {
 
+/// What a clipboard holds, by what a user would call it.
+enum class ClipboardContent { Text, Nothing, Picture, Files, Other };
+
 /// Texts have the form of the text area, with CR LF line ends; an implementation converts them to what other
 /// programs of its platform use. Reading gives the empty string if the clipboard holds no text, and nothing
 /// if its owner doesn't answer or the user ends the wait.

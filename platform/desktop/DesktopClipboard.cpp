@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace tolvo {
 
 namespace {
@@ -68,6 +70,23 @@ std::optional<QString> textOfToolkit(QClipboard::Mode mode) {
     return text;
 }
 
+/// What there is instead of a text. The owner has answered a moment ago.
+ClipboardContent contentWithoutText() {
+    const QMimeData *data = clipboardOffers() ? QGuiApplication::clipboard()->mimeData() : nullptr;
+    const QStringList formats = data ? data->formats() : QStringList();
+    if (formats.isEmpty())
+        return ClipboardContent::Nothing;
+    const bool picture = std::any_of(formats.begin(), formats.end(), [](const QString &format) {
+        return format.startsWith(QLatin1StringView("image/")) ||
+               format == QLatin1StringView("application/x-qt-image");
+    });
+    if (picture)
+        return ClipboardContent::Picture;
+    if (data->hasUrls())
+        return ClipboardContent::Files;
+    return data->hasText() ? ClipboardContent::Nothing : ClipboardContent::Other; // an empty text
+}
+
 using Selection = X11TextTransfer::Selection;
 
 /// A transfer from another program's selection; none where the toolkit does the reading.
@@ -95,9 +114,11 @@ std::optional<QString> DesktopClipboard::takeText() {
     waitForFirstOffer();
     std::optional<QString> text =
         m_begun ? fetch(std::move(m_begun), 0) : fetch(transferOf(Selection::Clipboard));
-    if (text)
-        text = m_lineEnds.takeIn(*std::move(text));
-    return text;
+    if (!text)
+        return text;
+    if (onTaken)
+        onTaken(text->isEmpty() ? contentWithoutText() : ClipboardContent::Text);
+    return m_lineEnds.takeIn(*std::move(text));
 }
 
 std::optional<QString> DesktopClipboard::readText() {

@@ -36,6 +36,8 @@ class DesktopClipboard final : public Clipboard {
     /// Called with true when the wait for the clipboard's owner begins, so that the window can say so, and
     /// with false when it is over.
     std::function<void(bool)> onWaiting;
+    /// Called after each take with what the clipboard held: Text if a text came.
+    std::function<void(ClipboardContent)> onTaken;
     /// Keeps the user's input away for as long as the result lives.
     std::function<std::shared_ptr<void>()> guardInput;
     /// Whether the user has cancelled the wait; asked only under the guard.

@@ -44,6 +44,8 @@ class MainWindow : public QWidget, public SessionView {
     [[nodiscard]] PlainTextBox &txtTextWW() { return *m_txtTextWW; }
     /// The one in use.
     [[nodiscard]] PlainTextBox &shownTextBox();
+    /// Shows a hint where there is no text.
+    void showEmptyTextHint(const QString &hint);
     [[nodiscard]] PanelView &panel() { return *m_panel; }
     /// The width of the column left of the text, in pixels.
     [[nodiscard]] int panelWidth() const;

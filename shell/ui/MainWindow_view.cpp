@@ -24,6 +24,13 @@ void MainWindow::hintChanged(const QString &text) {
     m_statusBar->showHint(text);
 }
 
+void MainWindow::showEmptyTextHint(const QString &hint) {
+    for (PlainTextBox *box : {m_txtText1, m_txtTextWW})
+        box->setPlaceholderText(hint);
+    if (m_textView)
+        m_textView->refresh();
+}
+
 void MainWindow::undoRedoChanged(bool undoEnabled, bool redoEnabled) {
     m_cmdUndo->setEnabled(undoEnabled);
     m_cmdRedo->setEnabled(redoEnabled);

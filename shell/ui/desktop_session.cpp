@@ -2,6 +2,7 @@
 #include "shell/ui/desktop_session.h"
 
 #include "platform/desktop/DesktopClipboard.h"
+#include "shell/empty_text.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/window_memory.h"
 
@@ -26,6 +27,9 @@ DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &cl
             return m_session ? m_session->clipboardText(selection) : std::nullopt;
         };
     }
+    const auto showHint = [this](ClipboardContent held) { m_window->showEmptyTextHint(emptyTextHint(held)); };
+    showHint(ClipboardContent::Text);
+    clipboard.onTaken = showHint;
     clipboard.onWaiting = [this](bool waiting) {
         if (m_session)
             m_session->setStatus(waiting ? QStringLiteral("Waiting for the clipboard... Esc ends the wait")

@@ -22,6 +22,7 @@ TextView::TextView(frmMain &session, std::array<PlainTextBox *, 2> boxes, Status
         connect(box, &QPlainTextEdit::cursorPositionChanged, this, &TextView::refresh);
     }
     statusBar.onGoToLine = [this] { goToLine(); };
+    refresh();
 }
 
 void TextView::showFacts() {
@@ -29,6 +30,11 @@ void TextView::showFacts() {
         return;
     m_statusBar.showFacts(textFacts(m_session.oTextMethods, m_session.txtCurrent()));
     m_statusBar.showLineEnds(m_lineEnds.lineFeeds());
+    for (PlainTextBox *box : m_boxes) {
+        const QString description = box->length() == 0 ? box->placeholderText() : QString();
+        if (box->accessibleDescription() != description)
+            box->setAccessibleDescription(description); // the hint is painted only
+    }
 }
 
 bool TextView::keyPressed(const QKeyEvent &event) {

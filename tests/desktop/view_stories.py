@@ -3,7 +3,7 @@
 
 import unittest
 
-from desk import Atspi, Story, keys, set_clipboard, wait_for
+from desk import Atspi, Story, get_clipboard, keys, set_clipboard, type_text, wait_for
 from gi.repository import GLib
 
 
@@ -26,6 +26,27 @@ class ViewStories(Story):
         run.tool("Capitals", "UPPER CASE")
         wait_for(lambda: run.shows("Nothing changed"), "a hint beside the status")
         run.status_becomes("7 characters: upper case")
+
+    def test_an_empty_text_says_what_to_do(self):
+        picture = b"\x89PNG\r\n\x1a\n"
+        held = [("", "UTF8_STRING", "The clipboard was empty."), (picture, "image/png", "The clipboard held a picture."),
+                (b"bits", "application/x-thing", "The clipboard held no text.")]
+        for content, target, words in held:
+            with self.subTest(words):
+                set_clipboard(content, target)
+                run = self.start(None)
+
+                def hint():
+                    return run.text_node().get_description()
+
+                wait_for(lambda: hint().startswith(words) and "Tools on the left" in hint(), lambda: f"a hint, it is {hint()!r}")
+                self.assertEqual(run.text(), "")
+                type_text("x")
+                run.text_becomes("x")
+                wait_for(lambda: hint() == "", "the hint to go")
+                keys("BackSpace", "alt+d")
+                run.ends()
+                self.assertFalse(get_clipboard())
 
     def test_going_to_a_line(self):
         run = self.start("one\ntwo\nthree")

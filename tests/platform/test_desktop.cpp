@@ -34,6 +34,28 @@ TEST(DesktopClipboard, TakesAndWritesInTheLineEndsOfTheOthers) {
     EXPECT_EQ(clipboard.takeText(), QString());
 }
 
+TEST(DesktopClipboard, SaysWhatItHeldInsteadOfAText) {
+    using enum ClipboardContent;
+    const std::pair<QString, ClipboardContent> rows[] = {
+        {u"text/plain"_s, Text},
+        {u"image/png"_s, Picture},
+        {u"application/x-qt-image"_s, Picture},
+        {u"application/x-thing"_s, Other},
+        {{}, Nothing},
+    };
+    for (const auto &[format, content] : rows) {
+        DesktopClipboard clipboard;
+        std::optional<ClipboardContent> told;
+        clipboard.onTaken = [&](ClipboardContent held) { told = held; };
+        auto *data = new QMimeData;
+        if (!format.isEmpty())
+            data->setData(format, "x");
+        QApplication::clipboard()->setMimeData(data);
+        EXPECT_TRUE(clipboard.takeText().has_value());
+        EXPECT_EQ(told, content) << format.toStdString();
+    }
+}
+
 TEST(DesktopMessageBoxes, ShowTheTextAsItIsAndAnswerByNoUnlessTold) {
     const QString text = u"<b>&bold</b>\r\nnext"_s;
     const std::tuple<Box, Qt::Key, BoxAnswer> rows[] = {
