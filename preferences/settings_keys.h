@@ -120,6 +120,14 @@ struct AdvisorKeys {
     Setting<forms::LeadingNumber> lastTip{{u"Advisor"}, u"LastTip", 0}; // from 1
 };
 
+/// How the text is looked at.
+struct ViewKeys {
+    static constexpr Section section{u"View"};
+
+    Setting<forms::Bounded<50, 400, 100>> zoom{section, u"Zoom", 100}; // percent of the font's size
+    Setting<forms::Check> marks{section, u"Marks", false};             // for blanks and line ends
+};
+
 /// The statistics tree. All counters but those of the totals begin anew with each period.
 struct StatisticsKeys {
     static constexpr Section usage{u"Usage", SettingsTree::Statistics};
@@ -141,6 +149,7 @@ struct Keys {
     AdvisorKeys advisor;
     WindowKeys windows;
     StatisticsKeys statistics;
+    ViewKeys view;
 };
 
 inline constexpr Keys settingKeys{};

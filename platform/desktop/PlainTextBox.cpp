@@ -44,6 +44,7 @@ PlainTextBox::PlainTextBox(Lines lines, QWidget *parent) : QPlainTextEdit(parent
     if (lines == Lines::Wrapped)
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setUndoRedoEnabled(false);
+    m_textFont = font();
     chooseLayout({});
     placeTabStops();
     connect(document(), &QTextDocument::contentsChange, this, [this](int from, int, int added) {

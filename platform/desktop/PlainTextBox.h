@@ -48,6 +48,8 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
 
     /// The actions at the top of the context menu. Both must outlive the box.
     void setUndoActions(QAction &undo, QAction &redo) { m_undoActions = {&undo, &redo}; }
+    /// The actions at its end. They must outlive the box.
+    void setViewActions(const QList<QAction *> &actions) { m_viewActions = actions; }
     [[nodiscard]] std::unique_ptr<QMenu> contextMenu();
     /// Adds to the end of each context menu.
     std::function<void(QMenu &)> extendMenu;
@@ -55,6 +57,19 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     /// The line ends of text that is copied or dragged to other programs. The rule must outlive the box;
     /// without one, line ends go out as LF.
     void setLineEnds(const ClipboardLineEnds &rule) { m_lineEnds = &rule; }
+
+    // How the text is looked at (PlainTextBox_view.cpp)
+
+    /// The font of the text at 100 %.
+    void setTextFont(const QFont &font);
+    [[nodiscard]] const QFont &textFont() const { return m_textFont; }
+    /// Shows the text in that share of its font's size; 100 is its own size.
+    void setZoom(int percent);
+    /// Shows blanks, tabs, line ends and characters without a shape of their own.
+    void setMarks(bool on);
+    /// Called when the wheel is turned with Ctrl held: 1 for each step away from the user, -1 for each step
+    /// back.
+    std::function<void(int steps)> onZoom;
 
     /// Reads what is pasted: the clipboard's text, or with `selection` that of the middle mouse button, with
     /// CR LF line ends; nothing if its owner doesn't answer. If this is not set, the toolkit reads and waits
@@ -67,6 +82,8 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     void dropEvent(QDropEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
     [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
@@ -103,6 +120,11 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     bool m_editing = false;    ///< the document is being changed; the selection is not final yet
     UserEdit m_userEdit;       ///< the report of the user's next edit
     QList<QAction *> m_undoActions;
+    QList<QAction *> m_viewActions;
+    QFont m_textFont;
+    int m_zoom = 100;
+    int m_wheel = 0; ///< eighths of a degree that have not made a step yet
+    bool m_marks = false;
 };
 
 } // namespace tolvo

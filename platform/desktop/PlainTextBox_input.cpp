@@ -142,6 +142,10 @@ std::unique_ptr<QMenu> PlainTextBox::contextMenu() {
     for (const auto &name : {QStringLiteral("edit-undo"), QStringLiteral("edit-redo")})
         delete menu->findChild<QAction *>(name);
     menu->insertActions(menu->actions().value(0), m_undoActions);
+    if (!m_viewActions.isEmpty()) {
+        menu->addSeparator();
+        menu->addActions(m_viewActions);
+    }
     if (extendMenu)
         extendMenu(*menu);
     return menu;

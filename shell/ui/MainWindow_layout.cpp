@@ -127,7 +127,7 @@ QWidget *MainWindow::textArea() {
         result->setObjectName(QLatin1StringView(name));
         result->setAccessibleName(QStringLiteral("Text"));
         result->setMinimumHeight(120);
-        result->setFont(toQFont(textFontAtFirst()));
+        result->setTextFont(toQFont(textFontAtFirst()));
         result->installEventFilter(this);
         result->extendMenu = [this](QMenu &menu) { extendMenu(menu); };
         layout->addWidget(result);
@@ -208,7 +208,7 @@ void MainWindow::arrangeTabOrder() {
         follow(QStringLiteral("lblToolbox_%1").arg(i));
     for (std::size_t i = 0; i < favourites.size(); ++i)
         follow(QStringLiteral("imgFavourites_%1").arg(i));
-    for (const char *name : {"imgWordwrap", "imgOptions", "imgHelp", "imgAbout", "cmdPlace"})
+    for (const char *name : {"imgWordwrap", "imgOptions", "imgHelp", "imgAbout", "cmdZoom", "cmdPlace"})
         follow(QLatin1StringView(name));
     oneStop(QStringLiteral("imgFavourites_%1"), static_cast<int>(favourites.size()));
     oneStop(QStringLiteral("imgPower_%1"), CPowerButtonCollection::buttonCount);

@@ -46,11 +46,11 @@ void MainWindow::showTextBox(bool wrapped) {
 }
 
 void MainWindow::setTextFont(bool wrapped, const Font &font) {
-    (wrapped ? m_txtTextWW : m_txtText1)->setFont(toQFont(font));
+    (wrapped ? m_txtTextWW : m_txtText1)->setTextFont(toQFont(font));
 }
 
 Font MainWindow::textFont(bool wrapped) const {
-    return fromQFont((wrapped ? m_txtTextWW : m_txtText1)->font());
+    return fromQFont((wrapped ? m_txtTextWW : m_txtText1)->textFont());
 }
 
 void MainWindow::endSession() {

@@ -2,6 +2,7 @@
 #include "shell/ui/status_bar.h"
 
 #include "shell/ui/ElidedLabel.h"
+#include "shell/zoom_levels.h"
 #include "widgets/announce.h"
 #include "widgets/themed_icon.h"
 
@@ -50,23 +51,20 @@ QColor fillColor(Fill fill, const QPalette &palette) {
 StatusBar::StatusBar(QWidget *corner)
     : m_labStatus(new ElidedLabel(QStringLiteral("labStatus"), QStringLiteral("Status"))),
       m_labHint(new ElidedLabel(QStringLiteral("labHint"), QStringLiteral("Hint"))),
-      m_labSelected(label("labSelected")), m_cmdPlace(new QToolButton), m_labLength(label("labLength")),
-      m_labLineEnds(label("labLineEnds")) {
+      m_cmdZoom(button("cmdZoom", QStringLiteral("Size of the text; click for its own size (Ctrl-0)"),
+                       &StatusBar::onOwnSize)),
+      m_labSelected(label("labSelected")),
+      m_cmdPlace(button("cmdPlace",
+                        QStringLiteral("Line and column of the caret; click to go to a line (Ctrl-G)"),
+                        &StatusBar::onGoToLine)),
+      m_labLength(label("labLength")), m_labLineEnds(label("labLineEnds")) {
     setObjectName(QStringLiteral("statusBar"));
-    m_cmdPlace->setObjectName(QStringLiteral("cmdPlace"));
-    m_cmdPlace->setAutoRaise(true);
-    m_cmdPlace->setFocusPolicy(Qt::TabFocus);
-    m_cmdPlace->setToolTip(QStringLiteral("Line and column of the caret; click to go to a line (Ctrl-G)"));
-    connect(m_cmdPlace, &QToolButton::clicked, this, [this] {
-        if (onGoToLine)
-            onGoToLine();
-    });
-
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(m_labStatus);
     row->addWidget(m_labHint);
     row->addStretch(1);
+    m_zoomPart = addPart(*row, m_cmdZoom);
     m_selectedPart = addPart(*row, m_labSelected);
     addPart(*row, m_cmdPlace);
     addPart(*row, m_labLength);
@@ -80,12 +78,27 @@ StatusBar::StatusBar(QWidget *corner)
     m_labHint->hide();
     showFacts({});
     showLineEnds(true);
+    showZoom(ownSize);
 }
 
 QLabel *StatusBar::label(const char *name) {
     auto *result = new QLabel;
     result->setObjectName(QLatin1StringView(name));
     result->setTextFormat(Qt::PlainText);
+    return result;
+}
+
+QToolButton *StatusBar::button(const char *name, const QString &tip,
+                               std::function<void()> StatusBar::*clicked) {
+    auto *result = new QToolButton;
+    result->setObjectName(QLatin1StringView(name));
+    result->setAutoRaise(true);
+    result->setFocusPolicy(Qt::TabFocus);
+    result->setToolTip(tip);
+    connect(result, &QToolButton::clicked, this, [this, clicked] {
+        if (this->*clicked)
+            (this->*clicked)();
+    });
     return result;
 }
 
@@ -132,6 +145,11 @@ void StatusBar::showLineEnds(bool lineFeeds) {
                   : QStringLiteral("Lines leave with CR LF at their ends: the clipboard's text held a CR"));
 }
 
+void StatusBar::showZoom(int percent) {
+    m_cmdZoom->setText(QStringLiteral("%1 %").arg(percent));
+    m_zoomPart->setVisible(percent != ownSize);
+}
+
 void StatusBar::changeEvent(QEvent *event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
@@ -147,8 +165,9 @@ void StatusBar::dress() {
         colours.setColor(QPalette::ButtonText, color);
         part->setPalette(colours);
     };
-    for (QWidget *part : {static_cast<QWidget *>(m_labHint), static_cast<QWidget *>(m_labSelected),
-                          static_cast<QWidget *>(m_cmdPlace), static_cast<QWidget *>(m_labLineEnds)})
+    for (QWidget *part : {static_cast<QWidget *>(m_labHint), static_cast<QWidget *>(m_cmdZoom),
+                          static_cast<QWidget *>(m_labSelected), static_cast<QWidget *>(m_cmdPlace),
+                          static_cast<QWidget *>(m_labLineEnds)})
         paint(part, Fill::Roomy);
     const Fill fill = fillOf(*m_facts);
     paint(m_labLength, fill);

@@ -32,7 +32,11 @@ class StatusBar : public QWidget {
     /// The line ends with which the text leaves: LF alone, or CR LF.
     void showLineEnds(bool lineFeeds);
 
+    /// The size of the text in percent; nothing is shown for its own size.
+    void showZoom(int percent);
+
     std::function<void()> onGoToLine; ///< the place was clicked
+    std::function<void()> onOwnSize;  ///< the size was clicked
 
   protected:
     void changeEvent(QEvent *event) override;
@@ -41,14 +45,17 @@ class StatusBar : public QWidget {
     /// A part at the right, after a thin line.
     QWidget *addPart(QHBoxLayout &layout, QWidget *content);
     QLabel *label(const char *name);
+    QToolButton *button(const char *name, const QString &tip, std::function<void()> StatusBar::*clicked);
     void dress();
 
     ElidedLabel *m_labStatus;
     ElidedLabel *m_labHint;
+    QToolButton *m_cmdZoom;
     QLabel *m_labSelected;
     QToolButton *m_cmdPlace;
     QLabel *m_labLength;
     QLabel *m_labLineEnds;
+    QWidget *m_zoomPart;
     QWidget *m_selectedPart;
     std::optional<TextFacts> m_facts; ///< as they are shown
 };

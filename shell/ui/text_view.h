@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <array>
 
+class QAction;
 class QKeyEvent;
 
 namespace tolvo {
@@ -14,8 +15,8 @@ class PlainTextBox;
 class StatusBar;
 class frmMain;
 
-/// How the text is looked at: keeps the facts in the status bar true, and walks to a line. Nothing here
-/// changes the text.
+/// How the text is looked at: keeps the facts in the status bar true, walks to a line, shows the text larger
+/// or smaller and with marks for blanks. Nothing here changes the text or the fonts of the Options.
 class TextView : public QObject {
     Q_OBJECT
   public:
@@ -27,17 +28,29 @@ class TextView : public QObject {
     void refresh() { m_refresh.start(); }
     /// Carries out a key of the view. Only keys that the session has no use for may come here.
     ///   Ctrl-G: go to a line
+    ///   Ctrl-+ and Ctrl--: larger and smaller text, Ctrl-0: its own size
+    ///   Ctrl-B: marks for blanks and line ends
     [[nodiscard]] bool keyPressed(const QKeyEvent &event);
     /// Asks for the number of a line and puts the caret at its start.
     void goToLine();
+    /// Shows the text in that many percent of its own size, and stores the choice.
+    void zoomTo(int percent);
+    /// Shows marks or not, and stores the choice.
+    void showMarks(bool on);
 
   private:
+    void offerInMenu();
+    void applyZoom();
+    void applyMarks();
     void showFacts();
 
     frmMain &m_session;
     std::array<PlainTextBox *, 2> m_boxes;
     StatusBar &m_statusBar;
     const ClipboardLineEnds &m_lineEnds;
+    QAction *m_marksAction = nullptr;
+    int m_zoom;
+    bool m_marks;
     QTimer m_refresh; ///< one reading for all changes of one event
 };
 

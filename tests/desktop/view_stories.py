@@ -1,9 +1,10 @@
 # SPDX-License-Identifier: MIT
 """How the text is looked at: the status bar, the way to a line, hints, size and marks."""
 
+import subprocess
 import unittest
 
-from desk import Atspi, Story, get_clipboard, keys, set_clipboard, type_text, wait_for
+from desk import Atspi, Story, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text, wait_for
 from gi.repository import GLib
 
 
@@ -64,6 +65,38 @@ class ViewStories(Story):
         run.main_is_active()
         keys("x")
         run.text_becomes("xone\ntwo\nthree")
+
+    def test_size_and_marks_are_remembered_and_leave_the_text_alone(self):
+        text = "some\u200b words\tand a tab\nnext"
+        run = self.start(text)
+        run.main_is_active()
+        before = run.text()
+        for stroke, size in ("ctrl+plus", "110 %"), ("ctrl+KP_Add", "125 %"), ("ctrl+equal", "150 %"), ("ctrl+minus", "125 %"):
+            keys(stroke)
+            wait_for(lambda: run.shows(size), size)
+        keys("ctrl+b")
+        wait_for(lambda: self.settings.read("Tolvo", "View", "Marks") == "1", "the marks in the store")
+        self.assertEqual(run.text(), before)
+        self.assertEqual(self.settings.read("Tolvo", "Preferences", "Prop_FontSize"), "")
+        keys("alt+d")
+        run.ends()
+        clipboard_becomes(text)
+        run = self.start(None)
+        wait_for(lambda: run.shows("125 %"), "the size of the run before")
+        run.click_on(run.text_node(), 3)
+        keys("b")  # the letter of its entry in the menu
+        wait_for(lambda: self.settings.read("Tolvo", "View", "Marks") == "0", "no marks in the store")
+        run.click("125 %")
+        wait_for(lambda: self.settings.read("Tolvo", "View", "Zoom") == "100", "the text's own size in the store")
+        self.assertFalse(run.shows("125 %"))
+
+    def test_a_power_button_has_its_key_where_the_minus_lies_on_it(self):
+        self.addCleanup(subprocess.run, ["setxkbmap", "us"], check=True)
+        subprocess.run(["setxkbmap", "fr"], check=True)
+        run = self.start("text")
+        run.main_is_active()
+        keys("37+15")  # Ctrl with the key of - and 6
+        run.box_says("There are no actions defined for this PowerButton")
 
     def test_screen_readers_hear_of_the_status(self):
         run = self.start("some words")

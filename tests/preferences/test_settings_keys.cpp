@@ -19,6 +19,9 @@ auto membersOf(const Struct &all) {
     if constexpr (count == 1) {
         const auto &[a] = all;
         return std::tie(a);
+    } else if constexpr (count == 2) {
+        const auto &[a, b] = all;
+        return std::tie(a, b);
     } else if constexpr (count == 3) {
         const auto &[a, b, c] = all;
         return std::tie(a, b, c);
@@ -153,6 +156,8 @@ TEST(SettingsKeys, HaveTheirPlacesAndDefaults) {
         u"Stats Usage|"_s,
         u"Stats Usage|Count=0"_s,
         u"Stats Usage|StartDate="_s,
+        u"View|Marks=0"_s,
+        u"View|Zoom=100"_s,
         u"Windows\\800x600@1|Main="_s,
         u"Windows\\800x600@1|PanelWidth=0"_s,
         u"Windows\\800x600@1|Search="_s,

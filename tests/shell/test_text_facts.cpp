@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the status bar says about the text.
+// What the status bar says about the text, and the sizes in which it is shown.
 #include "shell/text_facts.h"
+#include "shell/zoom_levels.h"
 #include "tests/support/User.h"
 #include "tests/support/pictures.h"
 
@@ -52,6 +53,14 @@ TEST(TextFacts, findTheStartOfALine) {
         EXPECT_EQ(placeOfLine(text, line), start) << line;
     EXPECT_EQ(lineCount(text), 4);
     EXPECT_EQ(lineCount({}), 1);
+}
+
+TEST(Zoom, goesFromSizeToSize) {
+    const std::tuple<int, int, int> rows[] = {{100, 1, 110},  {100, -1, 90}, {105, 1, 110}, {105, -1, 100},
+                                              {100, 3, 150},  {400, 1, 400}, {50, -1, 50},  {50, 100, 400},
+                                              {400, -99, 50}, {120, 0, 120}};
+    for (const auto &[from, steps, to] : rows)
+        EXPECT_EQ(zoomed(from, steps), to) << from << ' ' << steps;
 }
 
 TEST(Hint, tellsOfAToolThatLeftTheTextAlone) {
