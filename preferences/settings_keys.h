@@ -116,6 +116,11 @@ struct WindowKeys {
         {}, u"PanelWidth", 0}; // pixels; 0: as at first
 };
 
+/// The field that finds tools.
+struct FinderKeys {
+    Setting<forms::Text> lastUsed{{u"Finder"}, u"LastUsed", u""}; // ids between "|", the latest first
+};
+
 struct AdvisorKeys {
     Setting<forms::LeadingNumber> lastTip{{u"Advisor"}, u"LastTip", 0}; // from 1
 };
@@ -146,6 +151,7 @@ struct Keys {
     SearchKeys search;
     PowerButtonKeys powerButton;
     ActionKeys action;
+    FinderKeys finder;
     AdvisorKeys advisor;
     WindowKeys windows;
     StatisticsKeys statistics;

@@ -4,6 +4,7 @@
 #include "base/strings.h"
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/circular_check.h"
+#include "shell/finder_entries.h"
 #include "shell/frmMain.h"
 #include "shell/tool_call.h"
 
@@ -58,7 +59,11 @@ void frmMain::endingCycles(Action &&action) {
 }
 
 void frmMain::imgPower_Click(int index) {
-    guarded(u"imgPower_Click", [&] { endingCycles([&] { runPowerButton(index); }); });
+    guarded(u"imgPower_Click", [&] {
+        if (!bRightButton)
+            noteUse(m_services.store, powerButtonId(index));
+        endingCycles([&] { runPowerButton(index); });
+    });
 }
 
 void frmMain::runActions(const QList<std::shared_ptr<CAction>> &actions,

@@ -2,6 +2,7 @@
 // The frame through which every tool runs: undo, counters, status, and the selection rule.
 #include "base/failure.h"
 #include "shell/cToolbox.h"
+#include "shell/finder_entries.h"
 #include "shell/frmMain.h"
 #include "shell/selection_tools.h"
 #include "shell/tool_call.h"
@@ -131,7 +132,11 @@ ToolCall frmMain::toolCall(const CAction *action) {
 }
 
 void frmMain::ToolDespatcher(const QString &token) {
-    guarded(u"ToolDespatcher", [&] { runTool(token); });
+    guarded(u"ToolDespatcher", [&] {
+        runTool(token);
+        if (!sLastTool.isEmpty())
+            noteUse(m_services.store, token);
+    });
 }
 
 void frmMain::runTool(const QString &token) {
@@ -182,6 +187,7 @@ void frmMain::imgFavourites_Click(const QString &tag) {
         }
         if (txtCurrent().Text() != before)
             m_services.view.hintChanged({}); // the second of two tools may have had nothing to do
+        noteUse(m_services.store, favouriteId(tag));
     });
 }
 

@@ -103,6 +103,7 @@ TEST(SettingsKeys, HaveTheirPlacesAndDefaults) {
     rows.sort();
     const QStringList expected = {
         u"Advisor|LastTip=0"_s,
+        u"Finder|LastUsed="_s,
         u"PowerButtons\\Button 1\\1|Details="_s,
         u"PowerButtons\\Button 1\\1|DlgOption="_s,
         u"PowerButtons\\Button 1\\1|Token="_s,
