@@ -152,7 +152,7 @@ void runFound(frmMain &session, const QString &id, bool right) {
     session.bRightButton = right;
     for (const WindowCommand &command : windowCommands()) {
         if (command.id == id) {
-            noteUse(session.services().store, id);
+            session.guarded(u"runFound", [&] { noteUse(session.services().store, id); });
             std::invoke(command.run, session);
             session.bRightButton = false;
             return;

@@ -9,6 +9,7 @@
 #include "shell/ui/panel_view.h"
 #include "shell/ui/part_walk.h"
 #include "shell/ui/power_button_bar.h"
+#include "shell/ui/tool_finder_view.h"
 
 #include <QWidget>
 #include <functional>
@@ -47,6 +48,7 @@ class MainWindow : public QWidget, public SessionView {
     /// Shows a hint where there is no text.
     void showEmptyTextHint(const QString &hint);
     [[nodiscard]] PanelView &panel() { return *m_panel; }
+    [[nodiscard]] ToolFinderView &toolFinder() { return *m_toolFinder; }
     /// The width of the column left of the text, in pixels.
     [[nodiscard]] int panelWidth() const;
     void setPanelWidth(int width);
@@ -116,6 +118,7 @@ class MainWindow : public QWidget, public SessionView {
     QWidget *m_powerRow = nullptr;
     QWidget *m_buttonRow = nullptr;
     PanelView *m_panel;
+    ToolFinderView *m_toolFinder;
     PowerButtonBar *m_powerButtons;
     PlainTextBox *m_txtText1 = nullptr;
     PlainTextBox *m_txtTextWW = nullptr;

@@ -80,6 +80,10 @@ bool MainWindow::controlKeyPressed(const QKeyEvent &event) {
 }
 
 bool MainWindow::keyPressed(const QKeyEvent &event, bool inTextBox) {
+    if (ToolFinderView::isKey(event)) {
+        m_toolFinder->begin();
+        return true;
+    }
     if (!inTextBox && controlKeyPressed(event))
         return true;
     const KeyStroke stroke = keyStroke(event);
@@ -103,7 +107,7 @@ QList<WindowPart> MainWindow::parts() {
     };
     return {{m_textArea, [this] { return &shownTextBox(); }},
             part(m_topBar, m_topBar),
-            part(m_panel, m_panel),
+            part(m_toolFinder, m_panel),
             part(m_powerRow, m_powerButtons),
             part(m_buttonRow, m_buttonRow)};
 }
@@ -128,6 +132,7 @@ void MainWindow::showKeySheet() {
         add(KeyGroup::Edit, QKeySequence(key).toString(), QString::fromUtf16(does));
     for (const OwnKey &own : ownKeys())
         add(KeyGroup::Window, QString::fromUtf16(own.names), QString::fromUtf16(own.does));
+    add(KeyGroup::Window, QStringLiteral("Ctrl-P"), QStringLiteral("Find a tool"));
     add(KeyGroup::Window, QStringLiteral("Ctrl-Tab"), QStringLiteral("Leave the text for the next control"));
     add(KeyGroup::Window, QStringLiteral("Esc"),
         QStringLiteral("Go back to the text from any other control"));

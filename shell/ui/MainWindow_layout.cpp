@@ -49,7 +49,8 @@ QHBoxLayout *row(QWidget *parent) {
 } // namespace
 
 MainWindow::MainWindow(EscapeWatch &escape)
-    : m_escape(escape), m_panel(new PanelView(this)), m_powerButtons(new PowerButtonBar(this)) {
+    : m_escape(escape), m_panel(new PanelView(this)), m_toolFinder(new ToolFinderView(*m_panel, this)),
+      m_powerButtons(new PowerButtonBar(this)) {
     QAccessible::installFactory(describeMainWindow);
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(applicationTitle() + u' ' + applicationVersion());
@@ -71,7 +72,7 @@ MainWindow::MainWindow(EscapeWatch &escape)
     m_splitter->setObjectName(QStringLiteral("panelSplitter"));
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setHandleWidth(grid.gap());
-    m_splitter->addWidget(m_panel);
+    m_splitter->addWidget(m_toolFinder);
     m_splitter->addWidget(rightSide);
     m_splitter->setStretchFactor(1, 1);
     auto *layout = new QVBoxLayout(this);
@@ -204,6 +205,7 @@ void MainWindow::arrangeTabOrder() {
         follow(QLatin1StringView(name));
     for (int i = 0; i < CPowerButtonCollection::buttonCount; ++i)
         follow(QStringLiteral("imgPower_%1").arg(i));
+    follow(QStringLiteral("txtFindTool"));
     for (int i = 1; i <= cToolbox::rowCount; ++i)
         follow(QStringLiteral("lblToolbox_%1").arg(i));
     for (std::size_t i = 0; i < favourites.size(); ++i)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/desktop_session.h"
 
+#include "base/paths.h"
 #include "platform/desktop/DesktopClipboard.h"
 #include "shell/empty_text.h"
 #include "shell/ui/MainWindow.h"
@@ -60,6 +61,8 @@ void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
     m_session = &session;
     m_seenChanges = m_services.store.changesByOthers();
     m_window->attach(session, toolbox, m_clipboard.lineEnds());
+    m_window->toolFinder().attach(session,
+                                  sAppPath(m_services.programFolder) + QStringLiteral("OtherWords.txt"));
     m_dialogs.attach(session);
     toolbox.setHooks({.rowsChanged = [this, &toolbox] { m_window->panel().showRows(toolbox); },
                       .delay = [](int milliseconds) { MainWindow::delay(milliseconds); }});

@@ -17,6 +17,7 @@ class PanelRowButton : public QAbstractButton {
   public:
     explicit PanelRowButton(QWidget *parent);
     void showRow(const cToolbox::Row &row);
+    [[nodiscard]] const cToolbox::Row &shown() const { return m_row; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -28,7 +29,9 @@ class PanelRowButton : public QAbstractButton {
     cToolbox::Row m_row;
 };
 
-/// Up and Down walk the rows; Enter and the space bar press one.
+/// One stop of the Tab key, at the row where the focus was last. Up, Down, Home and End walk the rows; Right
+/// opens a category, and in an open one goes to its first tool; Left goes from a tool to its category, and
+/// closes an open one; Enter and the space bar press a row.
 class PanelView : public QFrame {
     Q_OBJECT
   public:
@@ -39,14 +42,30 @@ class PanelView : public QFrame {
 
     /// Called with the row's index (from 1) and whether the right button was used.
     std::function<void(int row, bool right)> onClick;
+    /// The row under the pointer, or else with the focus, is another; null if there is none.
+    std::function<void(const cToolbox::Row *row)> onPointed;
+    /// A letter, a digit or a sign was typed in the panel.
+    std::function<void(const QString &typed)> onTyped;
+    /// Esc was pressed in the panel.
+    std::function<void()> onEscape;
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
-    void moveFocus(int from, int step);
+    [[nodiscard]] PanelRowButton &row(int index) const { return *m_rows.at(static_cast<size_t>(index)); }
+    /// Of the row that has the focus, from 0; -1 if none has.
+    [[nodiscard]] int focusedIndex() const;
+    [[nodiscard]] int visibleCount() const;
+    [[nodiscard]] bool handleKey(int index, const QKeyEvent &key);
+    [[nodiscard]] bool handleArrow(int index, int key);
+    /// The row becomes the stop of the Tab key.
+    void setStop(int index);
+    void focusRow(int index);
+    void tellPointed();
 
     std::array<PanelRowButton *, cToolbox::rowCount> m_rows{};
+    int m_stop = 0; ///< index from 0
 };
 
 } // namespace tolvo

@@ -20,6 +20,7 @@ from gi.repository import Atspi  # noqa: E402
 
 PROGRAMS = os.environ["TOLVO_BIN"]
 FIELD = Atspi.Role.TEXT
+PANEL_ROW = Atspi.Role.TABLE_CELL  # what the toolkit makes of an item of a tree
 warnings.simplefilter("ignore", DeprecationWarning)
 PATIENCE = float(os.environ.get("TOLVO_PATIENCE", "15"))
 
@@ -240,15 +241,18 @@ class Tolvo:
     def panel_rests(self):
         """Waits until the last row of the panel has slid to its place: before that the rows take no click."""
         def still():
-            before = [row.get_name() for row in self.rows(Atspi.Role.PUSH_BUTTON)]
+            before = [row.get_name() for row in self.rows(PANEL_ROW)]
             time.sleep(0.3)
-            return before == [row.get_name() for row in self.rows(Atspi.Role.PUSH_BUTTON)]
+            return before == [row.get_name() for row in self.rows(PANEL_ROW)]
 
         wait_for(still, "the panel to rest")
 
     def focused(self):
         """The name of the control that has the keys."""
-        return self._named(lambda n: n.get_state_set().contains(Atspi.StateType.FOCUSED)).get_name()
+        return self.focused_node().get_name()
+
+    def focused_node(self):
+        return self._named(lambda n: n.get_state_set().contains(Atspi.StateType.FOCUSED))
 
     def tool_by_keys(self, group, name):
         """From the text to a tool of the panel and into it, with keys alone."""
@@ -258,8 +262,13 @@ class Tolvo:
 
             wait_for(there, lambda: f"the keys at {to!r}, they are at {self.focused()!r}")
 
+        def in_panel():
+            return self.focused_node().get_role() == PANEL_ROW or keys("Tab")
+
         keys("ctrl+Tab")
-        walk("Tab", group)
+        wait_for(in_panel, lambda: f"the keys in the panel, they are at {self.focused()!r}")
+        keys("Home")
+        walk("Down", group)
         if not self.shows(name):
             keys("Return")
             self.find(name)

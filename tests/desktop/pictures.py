@@ -81,6 +81,13 @@ def tools(run, photographer):
         photographer.take("main-" + group.split()[0].lower(), "Tolvo ")
 
 
+def finding(run, photographer):
+    keys("ctrl+p")
+    type_text("line br")
+    photographer.take("main-find", "Tolvo ")
+    keys("Escape")
+
+
 def spelling(run, photographer):
     run.tool("Check", "Spelling...")
     photographer.take("dictionary", "Select dictionary")
@@ -162,7 +169,7 @@ def closing(run, photographer):
     photographer.take("confirm-close", "Confirm close")
 
 
-PARTS = (tools, spelling, search, power_buttons, choose_power_button, options, about, box, closing)
+PARTS = (tools, finding, spelling, search, power_buttons, choose_power_button, options, about, box, closing)
 
 
 def companions(settings, environment, folder, suffix):

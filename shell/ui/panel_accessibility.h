@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// What assistive technology sees of the panel: a tree of the rows that are visible.
+#pragma once
+
+namespace tolvo {
+
+class PanelRowButton;
+
+/// To be called before the first panel is made; further calls do nothing.
+void describePanels();
+/// The row is open now, or closed.
+void reportExpanded(PanelRowButton &row);
+
+} // namespace tolvo
