@@ -7,14 +7,13 @@
 namespace tolvo {
 
 RovingFocus::RovingFocus(QList<QWidget *> members, QObject *parent)
-    : QObject(parent), m_members(std::move(members)), m_stop(m_members.front()) {
+    : QObject(parent), m_members(std::move(members)) {
     for (QWidget *member : m_members)
         member->installEventFilter(this);
-    stopAt(m_stop);
+    stopAt(m_members.front());
 }
 
 void RovingFocus::stopAt(QWidget *member) {
-    m_stop = member;
     for (QWidget *other : m_members)
         other->setFocusPolicy(other == member ? Qt::TabFocus : Qt::NoFocus);
 }

@@ -15,9 +15,6 @@ class RovingFocus : public QObject {
     /// The members in the order of the arrows; none may be missing. Lives as long as `parent`.
     RovingFocus(QList<QWidget *> members, QObject *parent);
 
-    /// The member that the Tab key goes to.
-    [[nodiscard]] QWidget *stop() const { return m_stop; }
-
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -26,7 +23,6 @@ class RovingFocus : public QObject {
     bool keyPressed(qsizetype from, int key);
 
     QList<QWidget *> m_members;
-    QWidget *m_stop;
 };
 
 } // namespace tolvo

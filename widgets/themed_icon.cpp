@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/themed_icon.h"
 
+#include "widgets/contrast.h"
 #include "widgets/painted_icon.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <algorithm>
-#include <cmath>
 
 namespace tolvo {
 
@@ -32,16 +31,6 @@ void paintThemed(QPainter &painter, const QRect &rect, QIcon::Mode mode, const Q
     QSvgRenderer(svg).render(&painter, square);
 }
 
-/// Of one component, from 0 to 1.
-double linear(double component) {
-    return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor &colour) {
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
 } // namespace
 
 bool isDark(const QPalette &palette) {
@@ -52,17 +41,11 @@ QColor accent(const QPalette &palette) {
     return isDark(palette) ? lightGreen : darkGreen;
 }
 
-double contrast(const QColor &one, const QColor &other) {
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
 QColor accentOn(const QPalette &palette, QPalette::ColorRole ground) {
-    constexpr double readable = 4.5;
     const QColor back = palette.color(ground);
     const QColor green = contrast(darkGreen, back) > contrast(lightGreen, back) ? darkGreen : lightGreen;
     const QPalette::ColorRole text = ground == QPalette::Base ? QPalette::Text : QPalette::WindowText;
-    return contrast(green, back) >= readable ? green : palette.color(text);
+    return contrast(green, back) >= textContrast ? green : palette.color(text);
 }
 
 void dressApplication() {

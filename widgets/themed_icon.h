@@ -17,9 +17,6 @@ namespace tolvo {
 /// The dark green of the tools (red 1, green 99, blue 49) on a light ground, a lighter green on a dark one.
 [[nodiscard]] QColor accent(const QPalette &palette);
 
-/// The contrast of two colours, from 1 (equal) to 21 (black and white): WCAG 2.1, relative luminance.
-[[nodiscard]] double contrast(const QColor &one, const QColor &other);
-
 /// Of the two greens the one that can be read on that ground of the palette; the ground's text colour where
 /// neither can, that is with a contrast under 4.5.
 [[nodiscard]] QColor accentOn(const QPalette &palette, QPalette::ColorRole ground);

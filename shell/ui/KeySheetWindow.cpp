@@ -33,7 +33,9 @@ KeySheetWindow::KeySheetWindow(QList<KeySheetRow> sheet, QWidget *parent)
     m_list->setItemsExpandable(false);
     m_list->setUniformRowHeights(true);
     m_list->header()->setSectionsMovable(false);
-    m_list->header()->setStretchLastSection(true);
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false); // Enter in the field closes nothing
@@ -66,16 +68,15 @@ void KeySheetWindow::fill(const QString &filter) {
 
 /// As wide as its rows and as high as all of them, as far as the screen has room.
 void KeySheetWindow::fitToScreen() {
-    for (const int column : {0, 1})
-        m_list->resizeColumnToContents(column);
-    m_list->setColumnWidth(0, m_list->columnWidth(0) + fontMetrics().height());
     const int row = m_list->visualItemRect(m_list->topLevelItem(0)).height();
     int rows = 1;
     for (int i = 0; i < m_list->topLevelItemCount(); ++i)
         rows += 1 + m_list->topLevelItem(i)->childCount();
-    const QSize wanted(m_list->columnWidth(0) + m_list->columnWidth(1) +
-                           m_list->verticalScrollBar()->sizeHint().width() + 4 * fontMetrics().height(),
-                       rows * row + 8 * fontMetrics().height());
+    const QAbstractItemView &list = *m_list;
+    const int line = fontMetrics().height();
+    const QSize wanted(list.sizeHintForColumn(0) + list.sizeHintForColumn(1) +
+                           list.verticalScrollBar()->sizeHint().width() + 4 * line,
+                       rows * row + 8 * line);
     resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 

@@ -140,7 +140,7 @@ void MainWindow::showKeySheet() {
     add(KeyGroup::Window, QStringLiteral("Arrows, Home, End"),
         QStringLiteral("Move among favourites, tools or PowerButtons"));
     add(KeyGroup::Window, QStringLiteral("Menu"),
-        QStringLiteral("On a tool: run it with its last settings. On a PowerButton: edit it"));
+        QStringLiteral("Run a tool with its last settings, edit a PowerButton"));
     for (const auto *button : findChildren<QAbstractButton *>()) {
         if (!button->shortcut().isEmpty())
             add(KeyGroup::Session, button->shortcut().toString(), button->text().remove(u'&'));

@@ -154,6 +154,11 @@ def options(run, photographer):
         run.active("Options")
 
 
+def key_sheet(run, photographer):
+    keys("ctrl+question")
+    photographer.take("keys", "Keyboard shortcuts")
+
+
 def about(run, photographer):
     run.click("About")
     photographer.take("about", "About Tolvo")
@@ -169,7 +174,7 @@ def closing(run, photographer):
     photographer.take("confirm-close", "Confirm close")
 
 
-PARTS = (tools, finding, spelling, search, power_buttons, choose_power_button, options, about, box, closing)
+PARTS = (tools, finding, spelling, search, power_buttons, choose_power_button, options, key_sheet, about, box, closing)
 
 
 def companions(settings, environment, folder, suffix):

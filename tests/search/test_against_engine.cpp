@@ -65,7 +65,7 @@ class BareEngine {
             if (result < 0)
                 return std::nullopt;
             const PCRE2_SIZE *const bounds = pcre2_get_ovector_pointer_16(m_match.get());
-            found.emplace_back(bounds, bounds + 2 * pcre2_get_ovector_count_16(m_match.get()));
+            found.emplace_back(bounds, bounds + std::size_t{2} * pcre2_get_ovector_count_16(m_match.get()));
             at = std::max(at, static_cast<qsizetype>(bounds[1]) - 1);
         }
         return found;

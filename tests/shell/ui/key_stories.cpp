@@ -36,7 +36,8 @@ TEST_F(KeyStory, workOnTheTextFromEveryControl) {
             EXPECT_EQ(text()->toPlainText(), QStringLiteral("ONE\nTWO"));
             press(Qt::Key_Z, Qt::ControlModifier);
             press(Qt::Key_Down, Qt::AltModifier);
-            press(Qt::Key_X); // types nothing
+            if (QLatin1StringView(control) != QLatin1StringView("lblToolbox_1")) // it finds tools by letters
+                press(Qt::Key_X); // types nothing
             press(Qt::Key_Backspace);
             press(Qt::Key_R, Qt::ControlModifier); // repeats
             press(Qt::Key_Z, Qt::ControlModifier);
@@ -54,15 +55,24 @@ TEST_F(KeyStory, enterPressesTheButtonWithTheFocus) {
         focus("imgFavourites_4");
         press(Qt::Key_Return);
         EXPECT_EQ(text()->toPlainText(), QStringLiteral("abc"));
+        focus("cmdUndo");
+        press(Qt::Key_Return);
+        focus("cmdRedo");
+        press(Qt::Key_A, Qt::ControlModifier);
+        press(Qt::Key_U, Qt::ControlModifier); // nothing is left to redo
+        EXPECT_EQ(text()->toPlainText(), QStringLiteral("ABC  "));
+        EXPECT_EQ(focused(), QStringLiteral("cmdUndo"));
+        focus("imgFavourites_4");
+        press(Qt::Key_Return);
         focus("imgWordwrap");
         press(Qt::Key_Enter, Qt::KeypadModifier);
         EXPECT_EQ(text()->objectName(), QStringLiteral("txtTextWW"));
         press(Qt::Key_Return); // in the text it is a line end
-        EXPECT_EQ(text()->toPlainText(), QStringLiteral("\nabc"));
+        EXPECT_EQ(text()->toPlainText(), QStringLiteral("\nABC"));
         focus("cmdClose");
         press(Qt::Key_Return);
     });
-    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("\nabc"));
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("\nABC"));
 }
 
 TEST_F(KeyStory, arrowsMoveInsideARowThatIsOneStop) {

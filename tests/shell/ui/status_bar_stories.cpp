@@ -2,29 +2,16 @@
 // The status bar and the way to a line.
 #include "shell/ui/GoToLine.h"
 #include "shell/ui/status_bar.h"
+#include "widgets/contrast.h"
 #include "tests/ui/user.h"
 
 #include <QLabel>
 #include <QToolButton>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 using namespace tolvo;
 
 namespace {
-
-/// The contrast of two colours from 1 to 21 (WCAG 2.1, relative luminance).
-double contrast(const QColor &one, const QColor &other) {
-    const auto luminance = [](const QColor &color) {
-        const auto linear = [](double part) {
-            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-               0.0722 * linear(color.blueF());
-    };
-    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
-    return (high + 0.05) / (low + 0.05);
-}
 
 TEST(StatusBar, canBeReadInLightAndDark) {
     for (const auto &[window, text] : {std::pair(u"#efefef"_s, u"#000000"_s),

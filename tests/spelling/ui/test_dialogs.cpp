@@ -84,13 +84,13 @@ TEST_F(Dialogs, EndInStopOrCancel) {
         {[](QDialog &w) { QTest::keyClick(&w, Qt::Key_Escape); }, "(cancelled)"},
         {[](QDialog &w) { w.close(); }, "(cancelled)"},
     };
-    for (const auto &[end, result] : ends) {
-        const QString left = check(text, [&end](QDialog &w) {
+    for (const auto &row : ends) {
+        const QString left = check(text, [&end = row.first](QDialog &w) {
             click(w, "cmdChange");
             end(w);
             EXPECT_FALSE(w.isVisible());
         });
-        EXPECT_EQ(left, u(result));
+        EXPECT_EQ(left, u(row.second));
     }
 }
 
