@@ -68,10 +68,12 @@ void ToolFinderView::begin(const QString &typed) {
     if (!sessionTakesCommands())
         return;
     m_field->setFocus(Qt::ShortcutFocusReason);
-    if (typed.isEmpty())
-        m_field->selectAll();
-    else
+    if (!typed.isEmpty()) {
         m_field->setText(m_field->text() + typed);
+        return;
+    }
+    m_field->selectAll();
+    search(); // the focus may have been there already
 }
 
 bool ToolFinderView::sessionTakesCommands() const {
@@ -211,6 +213,10 @@ bool ToolFinderView::handleKey(const QKeyEvent &key) {
         if (results)
             m_list->moveBy(key.key() == Qt::Key_Up ? -1 : 1);
         return true;
+    case Qt::Key_Tab:
+        if (m_field->text().isEmpty())
+            showPanel(); // which comes next
+        return false;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
         if (results)

@@ -104,6 +104,20 @@ TEST_F(Column, takesTheLastSettingsWithShiftOrTheRightButton) {
     user.sees(QStringLiteral("«»> > b|> > a"), QStringLiteral("Indent increased"));
 }
 
+TEST_F(Column, listsTheLastUsedUntilTheTabKeyGoesOn) {
+    for (const char *token : {"ccUPP", "foTRA", "ccLOW", "foPAR", "foSSP", "edPLA", "foTRA"})
+        user.runs(QLatin1StringView(token));
+    column.begin();
+    EXPECT_EQ(found(), QStringLiteral(
+                           "[Trim line ends], Plain characters, Single spaces, Join paragraphs, lower case"));
+    keys({Qt::Key_Tab});
+    EXPECT_EQ(focusedRow(), QStringLiteral("Capitals"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_FALSE(panel->isVisible());
+    keys({Qt::Key_Escape});
+    EXPECT_TRUE(panel->isVisible());
+}
+
 TEST_F(Column, walksThePanelAsOneStop) {
     child<QWidget>(column, "lblToolbox_1").setFocus();
     keys({Qt::Key_End});
