@@ -37,7 +37,7 @@ TEST_F(KeyStory, workOnTheTextFromEveryControl) {
             press(Qt::Key_Z, Qt::ControlModifier);
             press(Qt::Key_Down, Qt::AltModifier);
             if (QLatin1StringView(control) != QLatin1StringView("lblToolbox_1")) // it finds tools by letters
-                press(Qt::Key_X); // types nothing
+                press(Qt::Key_X);                                                // types nothing
             press(Qt::Key_Backspace);
             press(Qt::Key_R, Qt::ControlModifier); // repeats
             press(Qt::Key_Z, Qt::ControlModifier);
