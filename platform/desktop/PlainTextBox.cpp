@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/PlainTextBox.h"
 
+#include "platform/desktop/text_box_accessible.h"
 #include "platform/text_positions.h"
 
 #include <QScopedValueRollback>
@@ -40,6 +41,7 @@ Extent extentOf(QStringView text) {
 } // namespace
 
 PlainTextBox::PlainTextBox(Lines lines, QWidget *parent) : QPlainTextEdit(parent), m_lines(lines) {
+    installTextBoxAccessible();
     setLineWrapMode(lines == Lines::Wrapped ? WidgetWidth : NoWrap);
     if (lines == Lines::Wrapped)
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

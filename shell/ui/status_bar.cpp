@@ -129,13 +129,15 @@ void StatusBar::showHint(const QString &text) {
 void StatusBar::showFacts(const TextFacts &facts) {
     if (m_facts == facts)
         return;
+    const bool otherFill = !m_facts || fillOf(*m_facts) != fillOf(facts);
     m_facts = facts;
     m_labSelected->setText(selectionText(facts));
     m_selectedPart->setVisible(facts.selected > 0);
     m_cmdPlace->setText(placeText(facts));
     m_labLength->setText(lengthText(facts));
     m_labLength->setToolTip(lengthTip(facts));
-    dress();
+    if (otherFill)
+        dress();
 }
 
 void StatusBar::showLineEnds(bool lineFeeds) {

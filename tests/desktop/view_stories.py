@@ -98,6 +98,29 @@ class ViewStories(Story):
         keys("37+15")  # Ctrl with the key of - and 6
         run.box_says("There are no actions defined for this PowerButton")
 
+    def test_every_line_has_its_place_on_the_screen(self):
+        run = self.start("first\nsecond line\nthird")
+        run.main_is_active()
+        run.text_becomes("first\nsecond line\nthird")
+        text = run.text_node().get_text_iface()
+
+        def place(offset):
+            return Atspi.Text.get_character_extents(text, offset, Atspi.CoordType.SCREEN)
+
+        first, second, third = place(0), place(6), place(18)
+        self.assertEqual([second.x, third.x], [first.x, first.x])
+        self.assertGreater(first.height, 5)
+        self.assertAlmostEqual(second.y - first.y, third.y - second.y, delta=1)
+        self.assertGreaterEqual(second.y, first.y + first.height - 1)
+        self.assertGreater(place(7).x, second.x)
+        for offset in 0, 9, 19:
+            there = place(offset)
+            at = Atspi.Text.get_offset_at_point(text, there.x + 1, there.y + there.height // 2, Atspi.CoordType.SCREEN)
+            self.assertEqual(at, offset)
+        self.assertEqual(Atspi.Text.get_text_at_offset(text, 8, Atspi.TextBoundaryType.LINE_START).content, "second line\n")
+        Atspi.Text.set_caret_offset(text, 12)
+        run.picture_becomes("first\nsecond¦ line\nthird")
+
     def test_screen_readers_hear_of_the_status(self):
         run = self.start("some words")
         heard = []

@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
+#include <QTest>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -80,6 +82,69 @@ TEST(Marks, ShowWhatIsUnseenAndGoAgain) {
     const QImage plain = picture(u"ab"_s);
     box.setMarks(true);
     EXPECT_EQ(picture(u"ab"_s), plain) << "nothing to mark";
+}
+
+class Reader : public testing::Test {
+  protected:
+    Reader() {
+        box.resize(300, 60);
+        box.setText(u"first\r\n"_s + u"word "_s.repeated(40) + u"\r\nlast"_s);
+        box.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&box));
+        auto *interface = QAccessible::queryAccessibleInterface(&box);
+        text = interface->textInterface();
+        edit = interface->editableTextInterface();
+    }
+
+    PlainTextBox box{PlainTextBox::Lines::Wrapped};
+    QAccessibleTextInterface *text = nullptr;
+    QAccessibleEditableTextInterface *edit = nullptr;
+};
+
+TEST_F(Reader, WalksTheLinesOnTheScreen) {
+    QString all;
+    int start = 0;
+    int end = 0;
+    int top = std::numeric_limits<int>::min();
+    for (QString line = text->textAtOffset(0, QAccessible::LineBoundary, &start, &end); !line.isEmpty();
+         line = text->textAfterOffset(start, QAccessible::LineBoundary, &start, &end)) {
+        EXPECT_EQ(start, all.size());
+        EXPECT_GT(text->characterRect(start).top(), top) << start;
+        top = text->characterRect(start).top();
+        all += line;
+        int before = 0;
+        int beforeEnd = 0;
+        (void)text->textBeforeOffset(start, QAccessible::LineBoundary, &before, &beforeEnd);
+        EXPECT_EQ(beforeEnd, start);
+    }
+    EXPECT_EQ(all, text->text(0, text->characterCount()));
+    EXPECT_EQ(text->offsetAtPoint(text->characterRect(8).center()), 8);
+    EXPECT_EQ(text->characterRect(-1), QRect());
+}
+
+TEST_F(Reader, ScrollsWithoutMovingTheCaret) {
+    const int last = text->characterCount() - 1;
+    EXPECT_EQ(text->offsetAtPoint(text->characterRect(last).center()), -1) << "out of sight";
+    text->scrollToSubstring(last - 3, last);
+    EXPECT_EQ(text->offsetAtPoint(text->characterRect(last).center()), last);
+    EXPECT_EQ(text->cursorPosition(), 0);
+}
+
+TEST_F(Reader, EditsAsAUserDoes) {
+    int reports = 0;
+    box.onUserEdit = [&](const UserEdit &) { ++reports; };
+    box.setCapacity(box.length() + 2);
+    edit->replaceText(0, 5, u"1st\nlinefirst"_s);
+    EXPECT_EQ(box.length(), box.capacity()) << "cut to the room there is";
+    EXPECT_EQ(reports, 1);
+    edit->deleteText(-5, 1000);
+    EXPECT_EQ(box.Text(), QString());
+    edit->insertText(0, u"a\nb"_s);
+    EXPECT_EQ(box.Text(), u"a\r\nb"_s);
+    text->addSelection(0, 99);
+    EXPECT_EQ(box.SelText(), u"a\r\nb"_s);
+    text->removeSelection(0);
+    EXPECT_EQ(box.SelLength(), 0);
 }
 
 } // namespace
