@@ -91,7 +91,7 @@ bool MainWindow::keyPressed(const QKeyEvent &event, bool inTextBox) {
         return true;
     if (inTextBox && m_keys->textKeyDown(stroke.code))
         return true;
-    // A command of the layout's own place goes first: some have the question mark on a digit.
+    // After the commands: some layouts have the question mark on a digit.
     if (ownKeyPressed(event) || m_textView->keyPressed(event))
         return true;
     if (stroke.character >= 0 && m_keys->formKeyPress(stroke.character))
