@@ -132,6 +132,10 @@ void MainWindow::showKeySheet() {
         add(KeyGroup::Edit, QKeySequence(key).toString(), QString::fromUtf16(does));
     for (const OwnKey &own : ownKeys())
         add(KeyGroup::Window, QString::fromUtf16(own.names), QString::fromUtf16(own.does));
+    for (const TextView::Key &key : TextView::keys()) {
+        if (key.names != nullptr)
+            rows += {KeyGroup::Window, QString::fromUtf16(key.names), QString::fromUtf16(key.does)};
+    }
     add(KeyGroup::Window, QStringLiteral("Ctrl-P"), QStringLiteral("Find a tool"));
     add(KeyGroup::Window, QStringLiteral("Ctrl-Tab"), QStringLiteral("Leave the text for the next control"));
     add(KeyGroup::Window, QStringLiteral("Esc"),
@@ -142,7 +146,7 @@ void MainWindow::showKeySheet() {
     add(KeyGroup::Window, QStringLiteral("Menu"),
         QStringLiteral("Run a tool with its last settings, edit a PowerButton"));
     for (const auto *button : findChildren<QAbstractButton *>()) {
-        if (!button->shortcut().isEmpty())
+        if (button->window() == this && !button->shortcut().isEmpty()) // dialogs have letters of their own
             add(KeyGroup::Session, button->shortcut().toString(), button->text().remove(u'&'));
     }
     KeySheetWindow(keySheet(rows), this).exec();

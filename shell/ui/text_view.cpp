@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QKeyEvent>
+#include <functional>
 
 namespace tolvo {
 
@@ -28,7 +29,7 @@ TextView::TextView(frmMain &session, std::array<PlainTextBox *, 2> boxes, Status
         box->onZoom = [this](int steps) { zoomTo(zoomed(m_zoom, steps)); };
     }
     statusBar.onGoToLine = [this] { goToLine(); };
-    statusBar.onOwnSize = [this] { zoomTo(ownSize); };
+    statusBar.onOwnSize = [this] { showOwnSize(); };
     offerInMenu();
     applyZoom();
     applyMarks();
@@ -47,33 +48,29 @@ void TextView::showFacts() {
     }
 }
 
+std::span<const TextView::Key> TextView::keys() {
+    static constexpr std::array all{
+        Key{Qt::Key_G, false, u"Ctrl-G", u"Go to a line", &TextView::goToLine},
+        Key{Qt::Key_B, false, u"Ctrl-B", u"Show blanks and line ends, or hide them", &TextView::invertMarks},
+        Key{Qt::Key_Plus, true, u"Ctrl-+", u"Larger text", &TextView::larger},
+        Key{Qt::Key_Equal, true, nullptr, nullptr, &TextView::larger},
+        Key{Qt::Key_Minus, true, u"Ctrl--", u"Smaller text", &TextView::smaller},
+        Key{Qt::Key_0, true, u"Ctrl-0", u"Text in its own size", &TextView::showOwnSize},
+    };
+    return all;
+}
+
 bool TextView::keyPressed(const QKeyEvent &event) {
-    // Shift belongs to the signs on many layouts.
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
     if ((event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::ControlModifier)
         return false;
-    switch (event.key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        zoomTo(zoomed(m_zoom, 1));
-        return true;
-    case Qt::Key_Minus:
-        zoomTo(zoomed(m_zoom, -1));
-        return true;
-    case Qt::Key_0:
-        zoomTo(ownSize);
-        return true;
-    case Qt::Key_G:
-        if (!shift)
-            goToLine();
-        return !shift;
-    case Qt::Key_B:
-        if (!shift)
-            showMarks(!m_marks);
-        return !shift;
-    default:
-        return false;
+    for (const Key &key : keys()) {
+        if (key.key == event.key() && (!shift || key.mayHoldShift)) {
+            std::invoke(key.run, this);
+            return true;
+        }
     }
+    return false;
 }
 
 void TextView::goToLine() {
@@ -95,12 +92,24 @@ void TextView::offerInMenu() {
     m_marksAction =
         action(QStringLiteral("Show &blanks and line ends\tCtrl+B"), [this](bool on) { showMarks(on); });
     m_marksAction->setCheckable(true);
-    const QList<QAction *> actions{
-        m_marksAction, action(QStringLiteral("&Larger text\tCtrl++"), [this] { zoomTo(zoomed(m_zoom, 1)); }),
-        action(QStringLiteral("S&maller text\tCtrl+-"), [this] { zoomTo(zoomed(m_zoom, -1)); }),
-        action(QStringLiteral("&Own size\tCtrl+0"), [this] { zoomTo(ownSize); })};
+    const QList<QAction *> actions{m_marksAction,
+                                   action(QStringLiteral("&Larger text\tCtrl++"), [this] { larger(); }),
+                                   action(QStringLiteral("S&maller text\tCtrl+-"), [this] { smaller(); }),
+                                   action(QStringLiteral("&Own size\tCtrl+0"), [this] { showOwnSize(); })};
     for (PlainTextBox *box : m_boxes)
         box->setViewActions(actions);
+}
+
+void TextView::larger() {
+    zoomTo(zoomed(m_zoom, 1));
+}
+
+void TextView::smaller() {
+    zoomTo(zoomed(m_zoom, -1));
+}
+
+void TextView::showOwnSize() {
+    zoomTo(ownSize);
 }
 
 void TextView::zoomTo(int percent) {

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QTimer>
 #include <array>
+#include <span>
 
 class QAction;
 class QKeyEvent;
@@ -26,10 +27,16 @@ class TextView : public QObject {
 
     /// Brings the facts up to date once the present event is over.
     void refresh() { m_refresh.start(); }
+    /// A key of the view, held with Ctrl.
+    struct Key {
+        Qt::Key key;
+        bool mayHoldShift;     ///< some layouts have the sign there
+        const char16_t *names; ///< null for another way to the key before
+        const char16_t *does;
+        void (TextView::*run)();
+    };
+    [[nodiscard]] static std::span<const Key> keys();
     /// Carries out a key of the view. Only keys that the session has no use for may come here.
-    ///   Ctrl-G: go to a line
-    ///   Ctrl-+ and Ctrl--: larger and smaller text, Ctrl-0: its own size
-    ///   Ctrl-B: marks for blanks and line ends
     [[nodiscard]] bool keyPressed(const QKeyEvent &event);
     /// Asks for the number of a line and puts the caret at its start.
     void goToLine();
@@ -39,6 +46,10 @@ class TextView : public QObject {
     void showMarks(bool on);
 
   private:
+    void larger();
+    void smaller();
+    void showOwnSize();
+    void invertMarks() { showMarks(!m_marks); }
     void offerInMenu();
     void applyZoom();
     void applyMarks();
