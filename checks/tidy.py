@@ -68,13 +68,13 @@ class Hashes:
         return self.known[path]
 
 
-def keys_of(build, ours, rules):
-    """The sources of a build folder and their keys."""
+def keys_of(build, wanted, rules):
+    """Those of the wanted sources that a build folder has, and their keys."""
     files = included_files(build)
     hashes = Hashes(build)
     for entry in commands(build):
         source = os.path.relpath(entry["file"], TOP)
-        if source not in ours:
+        if source not in wanted:
             continue
         made_from = files.get(re.search(r" -o (\S+)", entry["command"])[1])
         if not made_from:
@@ -99,18 +99,17 @@ def main():
     CACHE.mkdir(parents=True, exist_ok=True)
     ours = {source for source in output("git", "ls-files", "*.cpp", cwd=TOP).split() if not source.startswith("fuzz/")}
     rules = output(program, "--version") + "".join((TOP / name).read_text() for name in (".clang-tidy", "tests/.clang-tidy"))
-    wanted = {}  # a source of several build folders is looked at in the first of them
+    found = {}  # a source of several build folders is looked at in the first of them
     for build in map(pathlib.Path, builds):
-        for source, key in keys_of(build.resolve(), ours, rules):
-            wanted.setdefault(source, (build, key))
-    new = [(build, source, key) for source, (build, key) in wanted.items() if not (CACHE / key).exists()]
-    print(f"clang-tidy: {len(wanted)} sources, {len(new)} to look at", flush=True)
-    for source in sorted(ours - wanted.keys()):
+        found |= {source: (build, key) for source, key in keys_of(build.resolve(), ours - found.keys(), rules)}
+    new = [(build, source, key) for source, (build, key) in found.items() if not (CACHE / key).exists()]
+    print(f"clang-tidy: {len(found)} sources, {len(new)} to look at", flush=True)
+    for source in sorted(ours - found.keys()):
         print(f"{source} is in no build")
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         clean = list(pool.map(lambda item: look_at(program, *item), new))
     print(f"clang-tidy: {clean.count(False)} sources with findings", flush=True)
-    return 1 if False in clean or ours - wanted.keys() else 0
+    return 1 if False in clean or ours - found.keys() else 0
 
 
 if __name__ == "__main__":

@@ -2,8 +2,8 @@
 // The status bar and the way to a line.
 #include "shell/ui/GoToLine.h"
 #include "shell/ui/status_bar.h"
-#include "widgets/contrast.h"
 #include "tests/ui/user.h"
+#include "widgets/contrast.h"
 
 #include <QLabel>
 #include <QToolButton>
