@@ -41,8 +41,8 @@ QString lengthText(const TextFacts &facts) {
 }
 
 QString lengthTip(const TextFacts &facts) {
-    const QString tip = QStringLiteral("%1 of %2 characters, a line end counts as two")
-                            .arg(groupedNumber(facts.length), groupedNumber(facts.capacity));
+    QString tip = QStringLiteral("%1 of %2 characters, a line end counts as two")
+                      .arg(groupedNumber(facts.length), groupedNumber(facts.capacity));
     if (fillOf(facts) == Fill::Roomy)
         return tip;
     const int room = std::max(0, facts.capacity - facts.length);
