@@ -31,18 +31,15 @@ void ToolExplanation::clear(const QString &hint) {
 
 void ToolExplanation::show(const QList<Paragraph> &paragraphs) {
     m_paragraphs.clear();
+    QStringList lines;
     for (const Paragraph &one : paragraphs) {
-        if (!one.text.isEmpty())
-            m_paragraphs += one;
+        if (one.text.isEmpty())
+            continue;
+        m_paragraphs += one;
+        lines += one.text;
     }
+    setAccessibleName(lines.join(u'\n')); // it is painted, not a label
     update();
-}
-
-QStringList ToolExplanation::lines() const {
-    QStringList result;
-    for (const Paragraph &one : m_paragraphs)
-        result += one.text;
-    return result;
 }
 
 int ToolExplanation::wantedHeight() const {

@@ -19,8 +19,6 @@ class ToolExplanation : public QWidget {
     void explain(const FinderEntry &entry, const QString &hint);
     /// No row: only a hint.
     void clear(const QString &hint);
-    /// Everything that is said, by line.
-    [[nodiscard]] QStringList lines() const;
 
     /// The height that nearly all explanations need.
     [[nodiscard]] int wantedHeight() const;

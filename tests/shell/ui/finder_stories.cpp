@@ -31,7 +31,7 @@ class Column : public testing::Test {
     }
     QLineEdit &field() { return child<QLineEdit>(column, "txtFindTool"); }
     QString explained() {
-        return child<ToolExplanation>(column, "labExplanation").lines().join(QLatin1Char('|'));
+        return child<ToolExplanation>(column, "labExplanation").accessibleName().replace(u'\n', u'|');
     }
     /// The rows of the list, the chosen one in brackets.
     QString found() {
