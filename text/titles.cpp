@@ -5,6 +5,8 @@
 #include "base/code_page.h"
 #include "text/Tokens.h"
 
+#include <algorithm>
+
 namespace tolvo {
 
 namespace {
@@ -42,6 +44,10 @@ char16_t initialCap(QStringView text, qsizetype i) {
     if (previous == u'\'')
         return IsQuoteMark(text, i) ? toUpper(c) : toLower(c);
     return toUpper(c);
+}
+
+bool isUpperCase(QStringView word) {
+    return std::all_of(word.begin(), word.end(), [](QChar c) { return toUpper(c.unicode()) == c.unicode(); });
 }
 
 void upperCaseAt(QString &word, qsizetype index) {
@@ -93,16 +99,14 @@ class TitleBuilder {
 
     void addWord() {
         const QStringView source = WordAfter(m_text, m_position, m_end, true);
-        QString word = source.toString();
-        if (word.size() == 1 || word != toUpper(word))
-            word = toLower(word);
-        if ((!isSmallWord(word) || m_isFirstWord || isLastWord(source.size())) &&
-            !m_tokens.isWebOrFileName(m_position) && !followsPrefix())
+        QString word = source.size() > 1 && isUpperCase(source) ? source.toString() : toLower(source);
+        if ((m_isFirstWord || isLastWord(source.size()) || !isSmallWord(word)) && !followsPrefix() &&
+            !m_tokens.isWebOrFileName(m_position))
             upperCaseAt(word, 0);
         if (word.size() > 2 && (word.startsWith(u"Mc") || word.startsWith(u"O'")))
             upperCaseAt(word, 2);
         m_result += word;
-        m_previousWord = word;
+        m_previousWord = std::move(word);
         m_isFirstWord = false;
         m_position += source.size();
     }

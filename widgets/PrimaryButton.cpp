@@ -14,15 +14,9 @@ PrimaryButton::PrimaryButton(const QString &caption, QWidget *parent) : QPushBut
     setAttribute(Qt::WA_Hover);
 }
 
-QFont PrimaryButton::captionFont() const {
-    QFont bold = font();
-    bold.setBold(true);
-    return bold;
-}
-
 QSize PrimaryButton::sizeHint() const {
     const Grid grid(*this);
-    const QSize caption = QFontMetrics(captionFont()).size(Qt::TextShowMnemonic, text());
+    const QSize caption = fontMetrics().size(Qt::TextShowMnemonic, text());
     return {caption.width() + 2 * grid.margin(), std::max(grid.target(), caption.height())};
 }
 
@@ -56,7 +50,6 @@ void PrimaryButton::paintEvent(QPaintEvent *) {
         painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), radius - 1, radius - 1);
     }
     const bool letters = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
-    painter.setFont(captionFont());
     painter.setPen(ink);
     painter.drawText(rect(), Qt::AlignCenter | (letters ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                      text());

@@ -5,7 +5,7 @@
 
 namespace tolvo {
 
-/// The button of a window's main action: filled with the accent, in bold, the same under every style.
+/// The button of a window's main action: filled with the accent, the same under every style.
 class PrimaryButton final : public QPushButton {
     Q_OBJECT
 
@@ -18,7 +18,6 @@ class PrimaryButton final : public QPushButton {
     void paintEvent(QPaintEvent *event) override;
 
   private:
-    [[nodiscard]] QFont captionFont() const;
     [[nodiscard]] QColor ground() const;
 };
 
