@@ -26,6 +26,7 @@ class TextBox {
   public:
     virtual ~TextBox() = default;
 
+    /// With CR LF at each line end.
     [[nodiscard]] virtual QString Text() const = 0;
     /// Replaces the text by the first capacity() units of another, less one where that would split a line end
     /// or a surrogate pair. Puts the caret at 0 and clears the selection. Setting the same text fires no
@@ -39,6 +40,7 @@ class TextBox {
     [[nodiscard]] virtual int SelLength() const = 0;
     virtual void setSelLength(int length) = 0;
 
+    /// Empty if nothing is selected.
     [[nodiscard]] virtual QString SelText() const = 0;
     /// Replaces the selection. The caret is then after the new text, and nothing is selected. What is
     /// inserted is cut to the capacity, as setText cuts; the text after it stays whole. Replacing by the same

@@ -24,6 +24,7 @@ class LiteralPattern {
     LiteralPattern(const QString &find, bool matchCase, bool wholeWords, const cTextMethods &engine)
         : m_find(find), m_matcher(find, matchCase), m_wholeWords(wholeWords), m_engine(engine) {}
 
+    /// Of the text looked for and of every match, in UTF-16 units.
     [[nodiscard]] qsizetype length() const { return m_find.size(); }
     /// Whether the text is the one looked for, word or not.
     [[nodiscard]] bool equals(QStringView text) const { return m_matcher.equals(text); }

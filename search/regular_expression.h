@@ -64,6 +64,7 @@ class RegularExpression {
 
     RegularExpression(QStringView pattern, bool matchCase);
 
+    /// Whether the pattern can be looked for, and if not, why.
     [[nodiscard]] PatternState state() const { return m_state; }
     [[nodiscard]] bool isValid() const { return m_state == PatternState::Valid; }
     /// What is wrong with a pattern that isn't valid, for the user.

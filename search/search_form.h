@@ -47,6 +47,7 @@ struct SearchForm {
                (request.anchor != Anchor::Anywhere && wildcardsShown());
     }
 
+    /// Which options mean something in the mode that is on; the window offers these alone.
     [[nodiscard]] bool wholeWordsEnabled() const { return request.mode != SearchMode::RegularExpression; }
     [[nodiscard]] bool specialCharsShown() const { return request.mode != SearchMode::RegularExpression; }
     [[nodiscard]] bool wildcardsShown() const { return request.mode == SearchMode::Wildcard; }

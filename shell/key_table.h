@@ -41,6 +41,7 @@ struct KeyRow {
     const char16_t *does;
 };
 
+/// Every key that is a command, in the order in which they are looked up.
 [[nodiscard]] std::span<const KeyRow> keyTable();
 
 /// The first row that answers to a code; null if none does.

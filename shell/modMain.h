@@ -41,6 +41,7 @@ class SessionWindow {
   public:
     virtual ~SessionWindow() = default;
 
+    /// The box without word wrap and the one with it; one of them shows the text, the other is empty.
     [[nodiscard]] virtual TextBox &txtText1() = 0;
     [[nodiscard]] virtual TextBox &txtTextWW() = 0;
     [[nodiscard]] virtual SessionView &view() = 0;

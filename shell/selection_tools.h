@@ -28,7 +28,9 @@ void selectAll(const ToolContext &context);
 /// Selects what stands between the first \[ and the next \].
 void selectBetweenTags(const ToolContext &context);
 
+/// Shows what the engine counts in the text and in the selection.
 void showStatistics(const ToolCall &call);
+/// These work as the clipboard keys do and give the text the focus.
 void copySelection(const ToolCall &call);
 void cutSelection(const ToolCall &call);
 void deleteSelection(const ToolCall &call);

@@ -20,7 +20,11 @@ struct TextEdit {
 [[nodiscard]] TextEdit changeBetween(const QString &before, const QString &after,
                                      qsizetype latestStart = std::numeric_limits<qsizetype>::max());
 
+/// The text after an edit, of the text before it:
+///   withEdit(u"abc", {1, u"b", u"xy"}) == u"axyc"
 [[nodiscard]] QString withEdit(const QString &text, const TextEdit &edit);
+/// The text before an edit, of the text after it:
+///   withoutEdit(u"axyc", {1, u"b", u"xy"}) == u"abc"
 [[nodiscard]] QString withoutEdit(const QString &text, const TextEdit &edit);
 
 /// Whether an edit typed or deleted a single character, as users count them.

@@ -14,6 +14,7 @@ struct TextState {
     int selLength = 0;
 };
 
+/// What the box shows.
 [[nodiscard]] TextState textState(const TextBox &box);
 
 /// Writes text, start and length of the selection, in this order. Where most of the text stays, the view

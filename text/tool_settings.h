@@ -145,6 +145,7 @@ void forEachToolSettings(Visit visit) {
 /// number that can't be read counts as 0, and as the nearest value that is allowed.
 [[nodiscard]] ToolSettings loadSettings(ToolSettings settings, const SettingsStore &store);
 
+/// Remembers every value as the one last used.
 void saveSettings(SettingsStore &store, const ToolSettings &settings);
 
 /// The settings string, keys and order as every PowerButton stores them: "Single=1, Multiple=0". A text that
