@@ -77,7 +77,8 @@ A step is a tool, or a tool with settings:
   --select START,LENGTH  select a part of the text; counts UTF-16 units from 0, a line end as two
   --raw                  take and give the text as it is; otherwise LF line ends become CR LF for the
                          tools and LF again at the end, unless the text holds a CR
-  --json                 print one JSON object with text, selection, status and messages
+  --json                 print one JSON object with text, selection, status, messages and what
+                         each search found, or why it could not ("searches")
   --batch                read requests as JSON Lines and answer each with one line:
                          {"text": "...", "selStart": 0, "selLength": 0, "steps": ["foTRA"], "clipboard": ""}
   --list-tools           print token, name and explanation of every tool

@@ -3,6 +3,8 @@
 
 #include "pipe/text.h"
 #include "powerbuttons/circular_check.h"
+#include "search/found_matches.h"
+#include "search/match_copy.h"
 #include "shell/headless/HeadlessSession.h"
 #include "shell/tool_table.h"
 
@@ -57,6 +59,7 @@ class WindowCheck {
             throw BadRequest(QStringLiteral("%1 (%2) needs a window").arg(token, tool->Name()));
         case SettingsWindow::Search:
         case SettingsWindow::Replace:
+        case SettingsWindow::CopyMatches:
             if (action.DlgOption() != SettingsFrom::Custom)
                 throw BadRequest(QStringLiteral("%1 (%2) needs a window, or settings: '%1:Mode=1, Find=...'")
                                      .arg(token, tool->Name()));
@@ -83,6 +86,55 @@ class WindowCheck {
     const CPowerButtonCollection &m_buttons;
     QSet<int> m_seen;
 };
+
+/// The request of a step that searches; nothing for any other step.
+std::optional<SearchRequest> searchOf(const CAction &action) {
+    const ToolRow *row = toolRow(action.Tool()->Token());
+    switch (row ? row->operation.window : SettingsWindow::None) {
+    case SettingsWindow::Search:
+        return readRequest(action.params(), false, actionReading());
+    case SettingsWindow::Replace:
+        return readRequest(action.params(), true, actionReading());
+    case SettingsWindow::CopyMatches:
+        return readMatchCopy(action.params()).search;
+    default:
+        return {};
+    }
+}
+
+/// A request that can't be read has no report: its step fails and says why.
+std::optional<PipeSearch> reportSearch(const CAction &action, int step, frmMain &session) {
+    std::optional<SearchRequest> request;
+    try {
+        request = searchOf(action);
+    } catch (const Failure &) {
+        return {};
+    }
+    if (!request)
+        return {};
+    MatchBudget budget;
+    const FoundMatches found =
+        findMatches(session.txtCurrent().Text(), *request, session.oTextMethods, budget);
+    PipeSearch report{.step = step,
+                      .matches = static_cast<int>(found.places.size()),
+                      .error = found.trouble,
+                      .errorAt = found.troubleAt};
+    if (request->replaceAll && found.isValid()) {
+        const auto forecast = forecastReplaceAll(session.txtCurrent().Text(), *request, session.oTextMethods,
+                                                 session.txtCurrent().capacity(), budget);
+        report.matches = forecast ? forecast->count : report.matches;
+    }
+    return report;
+}
+
+QString searchJson(const PipeSearch &search) {
+    QString json = QStringLiteral("{\"step\":%1,\"matches\":%2").arg(search.step).arg(search.matches);
+    if (!search.error.isEmpty())
+        json += QStringLiteral(",\"error\":") + jsonString(search.error);
+    if (search.errorAt >= 0)
+        json += QStringLiteral(",\"errorAt\":%1").arg(search.errorAt);
+    return json + u'}';
+}
 
 QString messageJson(const Box &box) {
     static constexpr const char *icons[] = {"none", "information", "exclamation", "question", "critical"};
@@ -138,8 +190,14 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
     session.takeText(request.text, request.text.size() > request.capacity);
     select(session.txtCurrent(), request.selStart, request.selLength);
     session.beginWithText();
-    // Every step says by itself whether it brings settings.
-    session.runActions(actions, [&] { session.bRightButton = false; });
+    std::vector<PipeSearch> searches;
+    int step = 0;
+    session.runActions(actions, [&] {
+        session.bRightButton = false; // every step says by itself whether it brings settings
+        if (auto report = reportSearch(*actions.at(step), step, session))
+            searches.push_back(*std::move(report));
+        ++step;
+    });
 
     TextBox &box = session.txtCurrent();
     return {.text = box.Text(),
@@ -149,6 +207,7 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
             .dirty = session.bDirty(),
             .clipboard = headless.clipboard.text,
             .messages = boxes.shown,
+            .searches = std::move(searches),
             .statistics = windows.statistics,
             .toolWarned = session.warnings() > 0};
 }
@@ -162,6 +221,8 @@ QString replyLine(const PipeReply &reply) {
                    QLatin1StringView(reply.dirty ? "true" : "false") + QStringLiteral(",\"clipboard\":") +
                    jsonString(reply.clipboard) + QStringLiteral(",\"messages\":") +
                    jsonArray(reply.messages, messageJson);
+    if (!reply.searches.empty())
+        line += QStringLiteral(",\"searches\":") + jsonArray(reply.searches, searchJson);
     if (reply.statistics)
         line += QStringLiteral(",\"statistics\":") + statisticsJson(*reply.statistics);
     return line + u'}';

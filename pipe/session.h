@@ -38,6 +38,14 @@ struct PipeRequest {
     int capacity = textLimit;
 };
 
+/// What a step that searches had to do, looked at just before it ran.
+struct PipeSearch {
+    int step = 0;           ///< from 0
+    int matches = 0;        ///< in the whole text: those a Find All lists, or all that Replace All replaces
+    QString error;          ///< why the request can't be carried out, in words; empty if it can
+    qsizetype errorAt = -1; ///< where in its find text, from 0; -1 if no place is to blame
+};
+
 /// How the session ended. Positions count UTF-16 units from 0.
 struct PipeReply {
     QString text;
@@ -47,6 +55,7 @@ struct PipeReply {
     bool dirty = false;
     QString clipboard;
     std::vector<Box> messages;
+    std::vector<PipeSearch> searches; ///< of the steps themselves, not of PowerButtons that they run
     std::optional<TextStatistics> statistics;
     bool toolWarned = false; ///< whatever the icon of its box was
 

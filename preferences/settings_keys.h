@@ -65,6 +65,14 @@ struct SearchKeys {
     SettingList recentReplaces{{u"Search\\ReplaceMRU"}};
 };
 
+/// What was copied of matches last; the search itself has its own keys.
+struct MatchCopyKeys {
+    static constexpr Section section{u"CopyMatches"};
+
+    Setting<forms::Text> form{section, u"Form", u""};
+    Setting<forms::Check> inPlace{section, u"InPlace", false};
+};
+
 /// Where the keys of a PowerButton lie; the number counts from 1.
 struct ButtonSection {
     static constexpr auto tree = SettingsTree::Settings;
@@ -149,6 +157,7 @@ struct Keys {
     PreferenceKeys preferences;
     SpellingKeys spelling;
     SearchKeys search;
+    MatchCopyKeys matchCopy;
     PowerButtonKeys powerButton;
     ActionKeys action;
     FinderKeys finder;

@@ -5,6 +5,7 @@
 
 #include "platform/message_box.h"
 #include "search/expression_search.h"
+#include "search/match_copy.h"
 #include "search/search_host.h"
 #include "search/search_request.h"
 #include "text/cTextMethods.h"
@@ -30,6 +31,10 @@ class CSearch {
     /// Carries out a request in its mode. From the window each replacement is an undo step of its own, and a
     /// Find All shows its list. Nothing for an empty search text.
     void run(SearchVerb verb, const SearchRequest &request, SearchedBy by = SearchedBy::Window);
+
+    /// All matches as a text of their own, without a word where there is none. Nothing for an empty search
+    /// text and after an error, which has been shown.
+    [[nodiscard]] std::optional<CopiedMatches> copyMatches(const MatchCopy &copy);
 
     /// The regular expression for a wildcard pattern, as shown to the user; empty after an error, which has
     /// been shown.

@@ -40,16 +40,24 @@ class Translator {
         while (m_error.isEmpty() && m_at < m_in.size())
             term();
         if (m_error.isEmpty() && !m_open.isEmpty())
-            fail(u"a group is not closed");
+            fail(u"a group is not closed", m_open.last().at);
         if (!m_error.isEmpty())
-            return {.pattern = {}, .error = m_error, .groups = m_groups};
+            return {.pattern = {}, .error = m_error, .errorAt = m_errorAt, .groups = m_groups};
         return {.pattern = m_out, .error = {}, .groups = m_groups, .lookAhead = m_lookAhead};
     }
 
   private:
     enum class Term { None, Atom, Assertion, Quantifier };
 
-    void fail(QStringView reason) { m_error = reason.toString(); }
+    struct Group {
+        qsizetype at; ///< of its bracket
+        bool isLookAhead;
+    };
+
+    void fail(QStringView reason, qsizetype at) {
+        m_error = reason.toString();
+        m_errorAt = at;
+    }
     [[nodiscard]] bool at(QStringView text) const { return m_in.sliced(m_at).startsWith(text); }
     void write(QStringView text, Term kind) {
         m_out += text;
@@ -72,9 +80,10 @@ class Translator {
     int m_groups;
     QString m_out;
     QString m_error;
+    qsizetype m_errorAt = -1;
     Term m_last = Term::None;
     bool m_lookAhead = false;
-    QList<bool> m_open; ///< for each open group, whether it is a look-ahead
+    QList<Group> m_open;
 };
 
 void Translator::term() {
@@ -111,37 +120,38 @@ void Translator::term() {
 }
 
 void Translator::openGroup() {
+    const qsizetype bracket = m_at - 1;
     if (!at(u"?")) {
-        m_open += false;
+        m_open += {bracket, false};
         write(u"(", Term::None);
     } else if (at(u"?:") || at(u"?=") || at(u"?!")) {
-        m_open += !at(u"?:");
-        m_lookAhead = m_lookAhead || m_open.last();
+        m_open += {bracket, !at(u"?:")};
+        m_lookAhead = m_lookAhead || m_open.last().isLookAhead;
         m_out += u'(';
         write(m_in.sliced(m_at, 2), Term::None);
         m_at += 2;
     } else {
-        fail(u"a group begins with (? and no :, = or ! after it");
+        fail(u"a group begins with (? and no :, = or ! after it", bracket);
     }
 }
 
 void Translator::closeGroup() {
     if (m_open.isEmpty())
-        return fail(u"a closing bracket ) has no partner");
-    write(u")", m_open.takeLast() ? Term::Assertion : Term::Atom);
+        return fail(u"a closing bracket ) has no partner", m_at - 1);
+    write(u")", m_open.takeLast().isLookAhead ? Term::Assertion : Term::Atom);
 }
 
 void Translator::set() {
     const TranslatedSet translated = translateSet(m_in.sliced(m_at), m_matchCase);
     if (!translated.error.isEmpty())
-        return fail(translated.error);
+        return fail(translated.error, m_at - 1);
     m_at += translated.length;
     write(translated.pattern, Term::Atom);
 }
 
 void Translator::escape() {
     if (m_at == m_in.size())
-        return fail(u"a backslash stands at the end");
+        return fail(u"a backslash stands at the end", m_at - 1);
     if (at(u"b") || at(u"B")) {
         write(at(u"b") ? wordBoundary : noWordBoundary, Term::Assertion);
         ++m_at;
@@ -208,7 +218,7 @@ bool Translator::quantifier() {
     else if (unit != u'{' || !counts(text, length))
         return false;
     if (m_last != Term::Atom) {
-        fail(u"there is nothing to repeat");
+        fail(u"there is nothing to repeat", m_at);
         return true;
     }
     m_at += length;

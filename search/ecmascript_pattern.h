@@ -12,6 +12,7 @@ namespace tolvo {
 struct TranslatedPattern {
     QString pattern;        ///< for PCRE2; empty if there is an error
     QString error;          ///< what is wrong with the pattern, for the user; empty if nothing is
+    qsizetype errorAt = -1; ///< where, from 0
     int groups = 0;         ///< number of capturing groups
     bool lookAhead = false; ///< holds (?= or (?!
 };

@@ -40,6 +40,19 @@ QString unescaped(QString text, bool crlf) {
     return text.replace(guard, QStringLiteral("\\"));
 }
 
+qsizetype badEscapeAt(QStringView text) {
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != u'\\')
+            continue;
+        const QChar kind = text[i + 1].toLower();
+        const QStringView digits = text.sliced(i + 2).left(kind == u'x' ? 2 : 4);
+        if ((kind == u'x' || kind == u'u') && !IsHex(digits))
+            return i;
+        ++i;
+    }
+    return -1;
+}
+
 /// The search goes on after each character that is put in: what it begins is not looked at again.
 QString withHexEscapes(QStringView text, QStringView prefix, qsizetype digits) {
     QString result;

@@ -19,6 +19,10 @@ struct EscapedText {
 ///   unescaped("a\\tb", false) is "a", TAB, "b".
 [[nodiscard]] QString unescaped(QString text, bool crlf);
 
+/// Where the first escape stands that unescaped() fails for, from 0; -1 if there is none.
+///   badEscapeAt(u"a\\x4z") == 1
+[[nodiscard]] qsizetype badEscapeAt(QStringView text);
+
 /// One kind of them: `prefix` in either case, then up to `digits` hexadecimal digits.
 [[nodiscard]] QString withHexEscapes(QStringView text, QStringView prefix, qsizetype digits);
 

@@ -113,6 +113,27 @@ int CSearch::listMatches(const RegularExpression &expression, const QString &tex
     return count;
 }
 
+std::optional<CopiedMatches> CSearch::copyMatches(const MatchCopy &copy) {
+    std::optional<CopiedMatches> copied;
+    const QString text = m_host.txtCurrent().Text();
+    MatchBudget budget = newBudget();
+    if (copy.search.mode == SearchMode::Simple) {
+        guarded("SimpleCopyMatches", [&] {
+            if (!copy.search.find.isEmpty())
+                copied = copyOfMatches(text, copy, nullptr, m_text, budget);
+        });
+        return copied;
+    }
+    withExpression(copy.search, "WildcardCopyMatches", [&](const QString &pattern) {
+        guarded("RegExpCopyMatches", [&] {
+            const RegularExpression expression = compiled(pattern, copy.search.matchCase);
+            requireValid(expression);
+            copied = copyOfMatches(text, copy, &expression, m_text, budget);
+        });
+    });
+    return copied;
+}
+
 void CSearch::replaceExpression(const SearchRequest &request, bool replaceAfterFind) {
     const auto replaceOrSelect = [&](const QString &pattern) {
         TextBox &box = m_host.txtCurrent();

@@ -130,6 +130,7 @@ RegularExpression::RegularExpression(QStringView pattern, bool matchCase) {
     } else {
         m_state = PatternState::Invalid;
         m_error = translated.error;
+        m_errorAt = translated.errorAt;
     }
 }
 

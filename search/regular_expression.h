@@ -69,6 +69,8 @@ class RegularExpression {
     [[nodiscard]] bool isValid() const { return m_state == PatternState::Valid; }
     /// What is wrong with a pattern that isn't valid, for the user.
     [[nodiscard]] const QString &error() const { return m_error; }
+    /// Where in the pattern, from 0; -1 if no place is to blame.
+    [[nodiscard]] qsizetype errorAt() const { return m_errorAt; }
     /// Number of capturing groups.
     [[nodiscard]] int groups() const { return m_groups; }
 
@@ -103,6 +105,7 @@ class RegularExpression {
 
     PatternState m_state = PatternState::Valid;
     QString m_error;
+    qsizetype m_errorAt = -1;
     int m_groups = 0;
     std::shared_ptr<const Compiled> m_compiled;
 };

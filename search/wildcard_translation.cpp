@@ -73,7 +73,7 @@ class WildcardTranslator {
         for (; m_at < m_in.size(); ++m_at)
             wildcard();
         if (m_out.bracketMissing)
-            return {.shown = {}, .compiled = {}, .bracketMissing = true};
+            return {.shown = {}, .compiled = {}, .bracketMissing = true, .bracketAt = m_out.bracketAt};
         addAnchors(m_out.shown);
         addAnchors(m_out.compiled);
         return m_out;
@@ -148,6 +148,7 @@ void WildcardTranslator::bracket() {
     const qsizetype end = m_in.indexOf(u']', m_at);
     if (end < 0) {
         m_out.bracketMissing = true;
+        m_out.bracketAt = m_at;
         m_at = m_in.size();
         return;
     }

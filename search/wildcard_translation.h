@@ -21,6 +21,7 @@ struct WildcardTranslation {
     QString shown;    ///< the regular expression as the user sees it
     QString compiled; ///< one that matches the same, group by group, without trying a text in countless ways
     bool bracketMissing = false; ///< a "[" without its "]": both are empty
+    qsizetype bracketAt = -1;    ///< where that "[" stands, from 0
 };
 
 /// The expression of a wildcard pattern. `specialChars`: "\n", "\t", "\xHH" and "\uHHHH" are escapes in it.

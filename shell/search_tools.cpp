@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/search_tools.h"
 
+#include "base/numbers.h"
+#include "platform/clipboard.h"
 #include "powerbuttons/CAction.h"
 #include "search/CSearch.h"
 #include "search/escaped_text.h"
@@ -17,7 +19,42 @@ void runInOneStep(CSearch &search, bool replace, const SearchRequest &request) {
     search.run(request.verb(replace), request, SearchedBy::PowerButton);
 }
 
+/// "1 match", "12 matches"
+QString countedMatches(int count) {
+    return count == 1 ? QStringLiteral("1 match") : groupedNumber(count) + QStringLiteral(" matches");
+}
+
+void copyMatches(const ToolCall &call, const MatchCopy &copy) {
+    const std::optional<CopiedMatches> copied = call.search.copyMatches(copy);
+    if (!copied)
+        return;
+    TextHost &host = call.context.host;
+    if (copied->count == 0)
+        return host.setStatus(copy.inPlace ? QStringLiteral("No match: the text stays as it is")
+                                           : QStringLiteral("No match: the clipboard stays as it is"));
+    if (copy.inPlace)
+        call.context.box.setText(copied->text);
+    else
+        call.services.clipboard.writeText(copied->text);
+    host.setStatus(countedMatches(copied->count) +
+                   (copy.inPlace ? QStringLiteral(" in place of the text") : QStringLiteral(" copied")));
+}
+
 } // namespace
+
+void copyMatches(const ToolCall &call) {
+    SearchWindow &window = call.services.dialogs.searchWindow();
+    if (call.action) {
+        copyMatches(call, readMatchCopy(call.action->params()));
+    } else if (call.withLastSettings) {
+        MatchCopy copy;
+        copy.load(call.services.store);
+        copy.search = window.request();
+        copyMatches(call, copy);
+    } else {
+        openSearchDialog(window, call.context.box, false);
+    }
+}
 
 void runSearchTool(const ToolCall &call, bool replace) {
     if (call.action)

@@ -14,6 +14,11 @@ struct ToolCall;
 /// settings as the search window does, without showing it; any other call shows the window.
 void runSearchTool(const ToolCall &call, bool replace);
 
+/// The tool edCPM: copies all matches to the clipboard or in place of the text, and says how many. An Action
+/// copies as its settings say, a step of a PowerButton with the last settings; any other call shows the
+/// search window.
+void copyMatches(const ToolCall &call);
+
 /// Shows the search window. A selection of 1 to 24 units becomes its search text, with tabs, line ends and
 /// other control characters as escapes.
 void openSearchDialog(SearchWindow &window, const TextBox &box, bool replace);

@@ -131,6 +131,10 @@ constexpr ToolOperation searching() {
             .procedure = [](const ToolCall &call) { runSearchTool(call, replace); }};
 }
 
+constexpr ToolOperation copyingMatches() {
+    return {.window = SettingsWindow::CopyMatches, .procedure = copyMatches};
+}
+
 template <bool grammar>
 constexpr ToolOperation spelling() {
     return {.window = SettingsWindow::Language,
@@ -226,6 +230,7 @@ constexpr ToolRow table[] = {
     {u"edEOL",  engine<&T::RegularEOL>(),               N,        says(u"Line endings regularised")},
     {u"edSRC",  searching<false>(),                     own},
     {u"edREP",  searching<true>(),                      own},
+    {u"edCPM",  copyingMatches(),                       own},
 
     {u"liBUL",  asked<bullets>(),                       lines_N},
     {u"liNUM",  asked<numberedList>(),                  lines_N},

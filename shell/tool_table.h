@@ -42,6 +42,7 @@ enum class SettingsWindow {
     Dialog, ///< the one of the row's settings (text/ui/tool_dialogs.h)
     Search,
     Replace,
+    CopyMatches,
     Language,
     PowerButton,
     Missing ///< settings that no window gives yet

@@ -28,6 +28,8 @@ std::optional<QString> DesktopDialogs::getSettings(const QString &token, const Q
         return editSearch(details, false);
     case SettingsWindow::Replace:
         return editSearch(details, true);
+    case SettingsWindow::CopyMatches:
+        break; // the search window has no fields for it yet
     case SettingsWindow::Language:
         return editLanguage(details);
     case SettingsWindow::PowerButton: // the editor has a window of its own for it

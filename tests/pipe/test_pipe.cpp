@@ -121,6 +121,32 @@ TEST_F(Pipe, batchAnswersEachLineAndGoesOn) {
     EXPECT_TRUE(lines.at(3).startsWith("{\"text\":\"b\""));
 }
 
+TEST_F(Pipe, tellsWhatASearchFoundOrWhyItCouldNot) {
+    const struct {
+        const char *steps;
+        const char *searches;
+        const char *text;
+        const char *clipboard;
+    } cases[] = {
+        {"\"ccUPP\",\"edSRC:Mode=1, Find=a, Direction=S\"", R"([{"matches":2,"step":1}])", "A B A", ""},
+        {"\"edREP:Mode=3, Find=^, Replace=> , ReplaceAll=1\"", R"([{"matches":1,"step":0}])", "> a b a", ""},
+        {"\"edREP:Mode=3, Find=b(, Replace=x, ReplaceAll=1\"",
+         R"([{"error":"a group is not closed","errorAt":1,"matches":0,"step":0}])", "a b a", ""},
+        {"\"edCPM:Mode=2, Find=?, Form=<$1>, InPlace=0\"", R"([{"matches":5,"step":0}])", "a b a",
+         "<a>\r\n< >\r\n<b>\r\n< >\r\n<a>"},
+        {"\"edCPM:Mode=1, Find=a, InPlace=1\"", R"([{"matches":2,"step":0}])", "a\r\na", ""},
+        {"\"edCPM:Mode=1, Find=q, InPlace=1\"", R"([{"matches":0,"step":0}])", "a b a", ""},
+    };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.steps);
+        const QByteArray request = QByteArray(R"({"text":"a b a","steps":[)") + row.steps + "]}\n";
+        const QJsonObject reply = QJsonDocument::fromJson(run({"--batch"}, request).out).object();
+        EXPECT_EQ(QJsonDocument(reply["searches"].toArray()).toJson(QJsonDocument::Compact), row.searches);
+        EXPECT_EQ(reply["text"].toString(), row.text);
+        EXPECT_EQ(reply["clipboard"].toString(), row.clipboard);
+    }
+}
+
 TEST_F(Pipe, batchSaysWhatIsCutOfRequestAndResult) {
     const struct {
         int length;
@@ -197,6 +223,7 @@ TEST_F(Pipe, batchAndSessionComeToTheSame) {
             texts += message.toObject().value("text");
         reply.insert("messages", texts);
         reply.remove("clipboard");
+        reply.remove("searches");
         EXPECT_EQ(QJsonDocument(reply).toJson(),
                   QJsonDocument(replyOfSession(cases[i].picture, cases[i].steps)).toJson());
     }
