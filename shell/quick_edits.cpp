@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What single keys do at the caret: case, transposing, brackets, character information.
+#include "base/character_names.h"
 #include "base/code_page.h"
 #include "base/strings.h"
 #include "shell/frmMain.h"
@@ -150,6 +151,21 @@ void KeyboardCommands::MatchBracket() {
         m_session.say(FillTemplate(QStringLiteral("No matching %0"), {QString(partner)}));
 }
 
+namespace {
+
+/// One line for each code point, with its name. The code above them knows 256 characters only.
+QString unicodeLines(const QList<char32_t> &character) {
+    constexpr qsizetype most = 8;
+    QString lines;
+    for (const char32_t one : character.first(std::min(most, character.size())))
+        lines += QStringLiteral("\r\n Unicode: ") + characterCode(one) + u' ' + characterName(one);
+    if (character.size() > most)
+        lines += QStringLiteral("\r\n and %1 more").arg(character.size() - most);
+    return lines;
+}
+
+} // namespace
+
 void KeyboardCommands::ShowCharacterInfo() {
     TextBox &box = m_session.txtCurrent();
     const QString text = box.Text();
@@ -161,7 +177,8 @@ void KeyboardCommands::ShowCharacterInfo() {
     m_session.services().boxes.show(
         {.text = QStringLiteral("Position: Row %1, column %2\r\n\r\n").arg(row).arg(column) +
                  QStringLiteral("Character: ") + text.sliced(caret, unitsAt(text, caret)) +
-                 QStringLiteral("\r\n Decimal: %1\r\n Hex: ").arg(code) + QString::number(code, 16).toUpper(),
+                 QStringLiteral("\r\n Decimal: %1\r\n Hex: ").arg(code) +
+                 QString::number(code, 16).toUpper() + unicodeLines(characterAt(text, caret)),
          .title = QStringLiteral("Character information")});
 }
 

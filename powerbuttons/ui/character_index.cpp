@@ -107,17 +107,6 @@ QList<char32_t> charactersOf(const CharacterBlock &block) {
     return characters;
 }
 
-QString characterName(char32_t character) {
-    std::array<char, 128> name{};
-    UErrorCode error = U_ZERO_ERROR;
-    u_charName(static_cast<UChar32>(character), U_EXTENDED_CHAR_NAME, name.data(), name.size(), &error);
-    return U_SUCCESS(error) ? QString::fromLatin1(name.data()) : QString();
-}
-
-QString characterCode(char32_t character) {
-    return QStringLiteral("U+%1").arg(static_cast<uint>(character), 4, 16, QLatin1Char('0')).toUpper();
-}
-
 QList<char32_t> findCharacters(const QString &query, int limit) {
     Search search;
     search.limit = limit;

@@ -19,12 +19,6 @@ struct CharacterBlock {
 /// The visible characters of a block.
 [[nodiscard]] QList<char32_t> charactersOf(const CharacterBlock &block);
 
-/// "RIGHTWARDS ARROW"; a character without a name of its own is described, as "<private use-E000>".
-[[nodiscard]] QString characterName(char32_t character);
-
-/// "U+2192"
-[[nodiscard]] QString characterCode(char32_t character);
-
 /// What a user may mean by `query`, best first and at most `limit`: the character itself, its code in
 /// hexadecimal digits ("2192", "U+2192"), or words of its name, of which the beginnings are enough. A few
 /// everyday words ("mail", "tick") stand for the names that they don't occur in.

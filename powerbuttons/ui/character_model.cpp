@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/ui/character_model.h"
 
+#include "base/character_names.h"
 #include "powerbuttons/ui/character_index.h"
 
 #include <QFontMetrics>

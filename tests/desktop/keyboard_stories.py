@@ -38,7 +38,8 @@ EDITS = [
 
 # Keys that open a box or a window: before, key, the beginning of its text or title; Escape closes it again.
 BOXES = [
-    ("ab\nc¦d", "ctrl+slash", "Position: Row 2, column 2\n\nCharacter: d\n Decimal: 100\n Hex: 64"),
+    ("ab\nc¦d", "ctrl+slash", "Position: Row 2, column 2\n\nCharacter: d\n Decimal: 100\n Hex: 64\n "
+     "Unicode: U+0064 LATIN SMALL LETTER D"),
     ("¦(", "ctrl+bracketright", "No matching )"),
     ("¦text", "F1", "Help is not implemented yet"),
     ("¦text", "F3", "Tolvo Search"),

@@ -53,7 +53,8 @@ TEST(Keyboard, repeatsToolsAndPowerButtons) {
 TEST(Keyboard, describesTheCharacterAtTheCaret) {
     User user("x|a«»€");
     user.pressesKey(keyCode::Slash, ShiftState::Ctrl);
-    user.isTold("Position: Row 2, column 2\r\n\r\nCharacter: €\r\n Decimal: 128\r\n Hex: 80");
+    user.isTold("Position: Row 2, column 2\r\n\r\nCharacter: €\r\n Decimal: 128\r\n Hex: 80\r\n "
+                "Unicode: U+20AC EURO SIGN");
 }
 
 TEST(Keyboard, servesTheTextFromOtherControls) {
