@@ -121,7 +121,8 @@ struct WindowKeys {
     Setting<forms::Text, ScreenSection> main{{}, u"Main", u""};
     Setting<forms::Text, ScreenSection> search{{}, u"Search", u""};
     Setting<forms::Nearest<0, 9999>, ScreenSection> panelWidth{
-        {}, u"PanelWidth", 0}; // pixels; 0: as at first
+        {}, u"PanelWidth", 0};                                    // pixels; 0: as at first
+    Setting<forms::Text, ScreenSection> sizes{{}, u"Sizes", u""}; // as in shell/window_sizes.h
 };
 
 /// The field that finds tools.

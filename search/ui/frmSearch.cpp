@@ -61,6 +61,7 @@ void frmSearch::toggleMore() {
 
 /// Which controls there are: for searching or replacing, for doing it or for collecting settings.
 void frmSearch::useMode(bool bReplace) {
+    noteSizeOfUser();
     m_replacing = bReplace;
     SearchControls &c = m_controls;
     setWindowTitle(applicationTitle() +
@@ -102,6 +103,7 @@ void frmSearch::readTexts() {
 
 /// Options, what is enabled and what is shown, from the form.
 void frmSearch::applyRules() {
+    noteSizeOfUser();
     SearchControls &c = m_controls;
     {
         const QSignalBlocker quiet(c.TabStrip1);
@@ -129,13 +131,21 @@ void frmSearch::applyRules() {
     fitSize();
 }
 
-/// As large as what is shown needs; nothing while that stays the same, so that the user's own size is kept.
+/// To be called before what is shown changes: that may enlarge the window by itself.
+void frmSearch::noteSizeOfUser() {
+    if (m_givenSize.isValid())
+        m_added = (m_added + size() - m_givenSize).expandedTo({0, 0});
+    m_givenSize = size();
+}
+
+/// As large as what is shown needs, and larger by what the user has added.
 void frmSearch::fitSize() {
     layout()->activate();
     if (const QSize needed = sizeHint(); needed != m_fittedSize) {
         m_fittedSize = needed;
-        resize(needed);
+        resize(needed + m_added);
     }
+    m_givenSize = size();
 }
 
 void frmSearch::showDialog(bool bReplace) {

@@ -48,6 +48,7 @@ class frmSearch final : public QDialog, public SearchWindow {
     void readTexts();
     [[nodiscard]] QComboBox &listOf(QString SearchRequest::*text) const;
     void applyRules();
+    void noteSizeOfUser();
     void fitSize();
     void run(const std::function<void()> &command);
     void resumeList() { m_lastList->resume(); }
@@ -63,7 +64,9 @@ class frmSearch final : public QDialog, public SearchWindow {
     SearchForm m_form;
     SearchControls m_controls;
     SearchListEdit *m_lastList;
-    QSize m_fittedSize;
+    QSize m_fittedSize;  ///< what the contents needed last
+    QSize m_givenSize;   ///< what the window got for it
+    QSize m_added{0, 0}; ///< by the user
     bool m_replacing = false;
     bool m_collecting = false; ///< getSettings is running
 };

@@ -9,6 +9,7 @@
 #include "search/ui/frmSearchResults.h"
 #include "shell/apply_options.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/dialog_sizes.h"
 #include "shell/ui/dlgConfirmClose.h"
 #include "shell/ui/window_memory.h"
 #include "spelling/spelling_provider.h"
@@ -31,6 +32,11 @@ DesktopDialogs::DesktopDialogs(const RunServices &services, MainWindow &parent)
 }
 
 DesktopDialogs::~DesktopDialogs() = default;
+
+void DesktopDialogs::attach(frmMain &session) {
+    m_session = &session;
+    new DialogSizes(session, m_parent);
+}
 
 void DesktopDialogs::unload() {
     if (m_search) {

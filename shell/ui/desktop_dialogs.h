@@ -25,7 +25,7 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     ~DesktopDialogs() override;
 
     /// The session that the dialogs serve. To be called before any other operation.
-    void attach(frmMain &session) { m_session = &session; }
+    void attach(frmMain &session);
     /// Each dialog that was used saves its section of the store and goes away.
     void unload();
 

@@ -167,6 +167,7 @@ TEST(SettingsKeys, HaveTheirPlacesAndDefaults) {
         u"Windows\\800x600@1|Main="_s,
         u"Windows\\800x600@1|PanelWidth=0"_s,
         u"Windows\\800x600@1|Search="_s,
+        u"Windows\\800x600@1|Sizes="_s,
     };
     EXPECT_EQ(rows, expected);
 }
