@@ -128,6 +128,7 @@ QWidget *MainWindow::textArea() {
         result->setObjectName(QLatin1StringView(name));
         result->setAccessibleName(QStringLiteral("Text"));
         result->setMinimumHeight(120);
+        result->document()->setDocumentMargin(Grid(*this).gap());
         result->setTextFont(toQFont(textFontAtFirst()));
         result->installEventFilter(this);
         result->extendMenu = [this](QMenu &menu) { extendMenu(menu); };
