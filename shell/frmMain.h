@@ -18,6 +18,7 @@
 #include "shell/session_services.h"
 #include "shell/session_windows.h"
 #include "shell/text_history.h"
+#include "shell/tool_change.h"
 #include "shell/tool_settings_memory.h"
 #include "text/cTextMethods.h"
 #include "text/file_extensions.h"
@@ -141,6 +142,13 @@ class frmMain : private SearchHost, private ProofingHost {
     /// As runSearchAction().
     void RunSearchAction(bool bReplace, const CAction &action);
 
+    // What tools have changed (tool_change.cpp)
+
+    /// The last run of a tool or PowerButton that changed the text; nothing before the first.
+    [[nodiscard]] const std::optional<ToolChange> &lastChange() const { return m_lastChange; }
+    /// Shows the text as it stood before that run, for as long as the key is held.
+    void showTextBefore();
+
     // PowerButtons (powerbutton_execution.cpp)
 
     /// Reads the eight from the store.
@@ -188,12 +196,21 @@ class frmMain : private SearchHost, private ProofingHost {
     void countTool(const QString &token);
     /// ToolDespatcher and imgPower_Click for callers inside the session: failures go on.
     void runTool(const QString &token);
+    void runFavourite(const QString &tag);
+    void runButton(int index);
     void runPowerButton(int index);
     void runAction(const CAction &action);
     /// Runs `action`; a PowerButton that runs itself ends it with a report, and with text, status, bDirty and
     /// undo as they were.
     template <class Action>
     void endingCycles(Action &&action);
+    /// Around one run: `name` is what has changed the text, if anything has; true then.
+    template <class Action>
+    bool showingChange(const QString &name, Action &&action);
+    bool noteChange(const ToolChange &change);
+    [[nodiscard]] bool isToChangeText(const CPowerButton &button) const;
+    [[nodiscard]] QString toolName(const QString &token) const;
+    [[nodiscard]] QString favouriteName(const QString &tag) const;
     void runWithSettings(const CAction &action);
     void listenTo(TextBox &box);
 
@@ -205,6 +222,7 @@ class frmMain : private SearchHost, private ProofingHost {
     ToolSettingsMemory m_toolSettings;
     QString m_status;
     CutNotice m_cuts;
+    std::optional<ToolChange> m_lastChange;
     QList<int> m_runningButtons; ///< indices of the PowerButtons that run, outermost first
     int m_warnings = 0;
     bool m_dirty = false;
@@ -219,6 +237,13 @@ void frmMain::guarded(const char16_t *procedure, Action &&action) {
                    std::forward<Action>(action));
     m_cuts.commandEnds();
     reportTroubleOfStore();
+}
+
+template <class Action>
+bool frmMain::showingChange(const QString &name, Action &&action) {
+    const ToolChange change{textState(txtCurrent()), name};
+    action();
+    return noteChange(change);
 }
 
 template <class Action>

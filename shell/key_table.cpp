@@ -111,6 +111,8 @@ constexpr std::array rows{
     character(History, u'Z', withoutShift, call<&frmMain::undoStep>, u"Undo step by step"),
     character(History, u'Z', withShift, call<&frmMain::cmdRedo_Click>, u"Redo"),
     character(History, u'Y', any, call<&frmMain::cmdRedo_Click>, u"Redo"),
+    formKey(History, keyCode::F8, none, call<&frmMain::showTextBefore>,
+            u"While held: show the text before the last tool"),
     character(History, u'R', any, repeat, u"Repeat the last tool or PowerButton"),
     character(Search, u'F', any, tool<u"edSRC">, u"Search"),
     character(Search, u'H', withCtrl, tool<u"edREP">, u"Search and replace"),

@@ -60,10 +60,22 @@ void frmMain::endingCycles(Action &&action) {
 
 void frmMain::imgPower_Click(int index) {
     guarded(u"imgPower_Click", [&] {
-        if (!bRightButton)
-            noteUse(m_services.store, powerButtonId(index));
-        endingCycles([&] { runPowerButton(index); });
+        if (bRightButton) {
+            endingCycles([&] { runPowerButton(index); });
+            return;
+        }
+        noteUse(m_services.store, powerButtonId(index));
+        endingCycles([&] { runButton(index); });
     });
+}
+
+/// What the whole run has changed is one change.
+void frmMain::runButton(int index) {
+    const std::shared_ptr<CPowerButton> button = m_services.oPowerButtons.Item(index + 1);
+    const QString name = button ? button->Name : QString();
+    const bool toChange = button && isToChangeText(*button);
+    if (!showingChange(name, [&] { runPowerButton(index); }) && toChange)
+        m_services.view.hintChanged(QStringLiteral("Nothing changed"));
 }
 
 void frmMain::runActions(const QList<std::shared_ptr<CAction>> &actions,

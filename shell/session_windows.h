@@ -13,6 +13,8 @@
 
 namespace tolvo {
 
+struct ToolChange;
+
 /// The main window, as the session changes it.
 class SessionView {
   public:
@@ -20,6 +22,10 @@ class SessionView {
     virtual void statusChanged(const QString &text) = 0;
     /// Shows a hint beside the status; an empty status takes it away.
     virtual void hintChanged(const QString &) {}
+    /// A tool or PowerButton has changed the text: shows where, until the user goes on.
+    virtual void toolChangedText(const ToolChange &) {}
+    /// Shows the text before that change while a key is held; null: no tool has changed anything so far.
+    virtual void showTextBefore(const ToolChange *) {}
     virtual void undoRedoChanged(bool undoEnabled, bool redoEnabled) = 0;
     /// Shows txtTextWW (wrapped) or txtText1 and hides the other.
     virtual void showTextBox(bool wrapped) = 0;

@@ -133,7 +133,7 @@ ToolCall frmMain::toolCall(const CAction *action) {
 
 void frmMain::ToolDespatcher(const QString &token) {
     guarded(u"ToolDespatcher", [&] {
-        runTool(token);
+        showingChange(toolName(token), [&] { runTool(token); });
         if (!sLastTool.isEmpty())
             noteUse(m_services.store, token);
     });
@@ -171,22 +171,26 @@ void frmMain::lblToolbox_Click(cToolbox &oToolbox, int row) {
     bRightButton = false;
 }
 
+void frmMain::runFavourite(const QString &tag) {
+    const QString before = txtCurrent().Text();
+    if (tag == QLatin1StringView("foBOTH")) {
+        const int lengthBefore = txtCurrent().length();
+        runTool(QStringLiteral("foTRA"));
+        runTool(QStringLiteral("foSSP"));
+        setStatus(removedText(lengthBefore - txtCurrent().length()));
+    } else if (tag == QLatin1StringView("chPNC")) {
+        runTool(QStringLiteral("edPLA"));
+        runTool(QStringLiteral("chPNC"));
+    } else {
+        runTool(tag);
+    }
+    if (txtCurrent().Text() != before)
+        m_services.view.hintChanged({}); // the second of two tools may have had nothing to do
+}
+
 void frmMain::imgFavourites_Click(const QString &tag) {
     guarded(u"imgFavourites_Click", [&] {
-        const QString before = txtCurrent().Text();
-        if (tag == QLatin1StringView("foBOTH")) {
-            const int lengthBefore = txtCurrent().length();
-            runTool(QStringLiteral("foTRA"));
-            runTool(QStringLiteral("foSSP"));
-            setStatus(removedText(lengthBefore - txtCurrent().length()));
-        } else if (tag == QLatin1StringView("chPNC")) {
-            runTool(QStringLiteral("edPLA"));
-            runTool(QStringLiteral("chPNC"));
-        } else {
-            runTool(tag);
-        }
-        if (txtCurrent().Text() != before)
-            m_services.view.hintChanged({}); // the second of two tools may have had nothing to do
+        showingChange(favouriteName(tag), [&] { runFavourite(tag); });
         noteUse(m_services.store, favouriteId(tag));
     });
 }

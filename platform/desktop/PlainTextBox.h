@@ -16,6 +16,14 @@ class QMenu;
 
 namespace tolvo {
 
+/// A part of a text, in UTF-16 units from 0.
+struct Stretch {
+    int start = 0;
+    int length = 0;
+
+    bool operator==(const Stretch &) const = default;
+};
+
 /// The text box of the window. It keeps every unit of a text unchanged, in one block per CR LF line, and
 /// enforces its capacity for typing, input methods, paste, drop and code.
 ///
@@ -67,6 +75,11 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     void setZoom(int percent);
     /// Shows blanks, tabs, line ends and characters without a shape of their own.
     void setMarks(bool on);
+    /// Tints parts of the text until other ones are set (PlainTextBox_tint.cpp); an empty one is a thin
+    /// upright. They stand in the order of the text, apart from each other, and do not move with it.
+    void setTint(const QList<Stretch> &stretches);
+    /// Font, size and marks as another box shows its text.
+    void lookLike(const PlainTextBox &other);
     /// Called when the wheel is turned with Ctrl held: 1 for each step away from the user, -1 for each step
     /// back.
     std::function<void(int steps)> onZoom;
@@ -106,6 +119,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     bool rereadText();
     void reportChange();
     void chooseLayout(QStringView text);
+    void paintTint(const QRect &exposed);
 
     Lines m_lines;
     int m_capacity = textLimit;
@@ -125,6 +139,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     int m_zoom = 100;
     int m_wheel = 0; ///< eighths of a degree that have not made a step yet
     bool m_marks = false;
+    QList<Stretch> m_tint;
 };
 
 } // namespace tolvo

@@ -76,6 +76,7 @@ void PlainTextBox::wheelEvent(QWheelEvent *event) {
 }
 
 void PlainTextBox::paintEvent(QPaintEvent *event) {
+    paintTint(event->rect());
     QPlainTextEdit::paintEvent(event);
     if (!m_marks)
         return;

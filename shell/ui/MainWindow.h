@@ -25,6 +25,7 @@ class QToolButton;
 
 namespace tolvo {
 
+class ChangeView;
 class ClipboardLineEnds;
 class EscapeWatch;
 class StatusBar;
@@ -56,6 +57,8 @@ class MainWindow : public QWidget, public SessionView {
     // SessionView
     void statusChanged(const QString &text) override;
     void hintChanged(const QString &text) override;
+    void toolChangedText(const ToolChange &change) override;
+    void showTextBefore(const ToolChange *change) override;
     void undoRedoChanged(bool undoEnabled, bool redoEnabled) override;
     void showTextBox(bool wrapped) override;
     void setTextFont(bool wrapped, const Font &font) override;
@@ -123,6 +126,7 @@ class MainWindow : public QWidget, public SessionView {
     PlainTextBox *m_txtText1 = nullptr;
     PlainTextBox *m_txtTextWW = nullptr;
     StatusBar *m_statusBar = nullptr;
+    ChangeView *m_changeView = nullptr;
     TextView *m_textView = nullptr; ///< once the session is there
     QToolButton *m_imgWordwrap = nullptr;
     QPushButton *m_cmdUndo = nullptr;

@@ -5,6 +5,7 @@
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/change_view.h"
 #include "shell/ui/status_bar.h"
 #include "shell/ui/window_size.h"
 #include "shell/window_place.h"
@@ -81,6 +82,7 @@ MainWindow::MainWindow(EscapeWatch &escape)
     layout->addWidget(m_splitter, 1);
     m_statusBar = new StatusBar(new ResizeHandle(this));
     layout->addWidget(m_statusBar);
+    m_changeView = new ChangeView({m_txtText1, m_txtTextWW}, this);
     arrangeTabOrder();
     offerUndoInTextBoxes();
     undoRedoChanged(false, false);

@@ -2,8 +2,10 @@
 // What the main window shows of the session.
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/font_conversion.h"
+#include "shell/changed_places.h"
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/change_view.h"
 #include "shell/ui/status_bar.h"
 #include "shell/ui/text_view.h"
 
@@ -22,6 +24,15 @@ void MainWindow::statusChanged(const QString &text) {
 
 void MainWindow::hintChanged(const QString &text) {
     m_statusBar->showHint(text);
+}
+
+void MainWindow::toolChangedText(const ToolChange &change) {
+    hintChanged(placesText(m_changeView->showPlaces(change)));
+}
+
+void MainWindow::showTextBefore(const ToolChange *change) {
+    if (m_changeView->beginTextBefore(change) && change == nullptr)
+        hintChanged(QStringLiteral("No tool has changed the text yet"));
 }
 
 void MainWindow::showEmptyTextHint(const QString &hint) {

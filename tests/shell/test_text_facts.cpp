@@ -80,4 +80,42 @@ TEST(Hint, tellsOfAToolThatLeftTheTextAlone) {
     }
 }
 
+TEST(Hint, tellsOfAPowerButtonThatLeftTheTextAlone) {
+    const std::pair<QStringList, const char *> rows[] = {
+        {{"ccUPP", "ccLOW"}, "Nothing changed"}, // there and back again
+        {{"ccUPP"}, "(none)"},
+        {{"chSTAT"}, "(none)"}, // is not expected to change anything
+        {{"chSTAT", "ccLOW"}, "Nothing changed"},
+    };
+    for (const auto &[tokens, hint] : rows) {
+        User user("a b");
+        QList<std::shared_ptr<CAction>> actions;
+        for (const QString &token : tokens)
+            actions += User::action(token);
+        user.defines(1, actions);
+        user.hint = "(none)";
+        user.session.imgPower_Click(0);
+        EXPECT_EQ(user.hint, hint) << tokens.join(' ').toStdString();
+    }
+}
+
+TEST(TextBefore, isThatBeforeTheLastRunThatChangedAnything) {
+    User user("one t«w»o");
+    EXPECT_FALSE(user.session.lastChange());
+    user.runs("ccUPP");
+    user.runs("ccUPP"); // changes nothing
+    user.types("x");
+    ASSERT_TRUE(user.session.lastChange());
+    EXPECT_EQ(user.session.lastChange()->name, "UPPER CASE");
+    EXPECT_EQ(user.session.lastChange()->before.text, "one two");
+    EXPECT_EQ(user.session.lastChange()->before.selStart, 5);
+    user.startsWith("a  b ");
+    user.session.imgFavourites_Click("foBOTH");
+    EXPECT_EQ(user.session.lastChange()->name, "Trim trailing space and single space");
+    EXPECT_EQ(user.session.lastChange()->before.text, "a  b ");
+    user.defines(2, {User::action("ccUPP"), User::action("foTRM")});
+    user.session.imgPower_Click(1);
+    EXPECT_EQ(user.session.lastChange()->before.text, "a b") << "one run is one change";
+}
+
 } // namespace

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/change_view.h"
+
+#include "shell/changed_places.h"
+#include "shell/tool_change.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QKeyEvent>
+
+namespace tolvo {
+
+ChangeView::ChangeView(std::array<PlainTextBox *, 2> boxes, QObject *parent)
+    : QObject(parent), m_boxes(boxes) {
+    m_tintEnds.setSingleShot(true);
+    connect(&m_tintEnds, &QTimer::timeout, this, &ChangeView::endPlaces);
+    for (PlainTextBox *box : m_boxes) {
+        box->installEventFilter(this);
+        box->viewport()->installEventFilter(this);
+        connect(box, &QPlainTextEdit::textChanged, this, &ChangeView::endPlaces);
+    }
+}
+
+qsizetype ChangeView::showPlaces(const ToolChange &change) {
+    PlainTextBox &box = *m_boxes.at(shown());
+    const QString text = box.Text();
+    const QList<ChangedPlace> places = changedPlaces(change.before.text, text);
+    QList<Stretch> tint;
+    tint.reserve(places.size());
+    for (const ChangedPlace &place : places)
+        tint += {static_cast<int>(place.start), static_cast<int>(place.length)};
+    box.setTint(tint);
+    m_tintEnds.start(tintTime);
+    return places.size();
+}
+
+void ChangeView::endPlaces() {
+    m_tintEnds.stop();
+    for (PlainTextBox *box : m_boxes)
+        box->setTint({});
+}
+
+TextOverlay &ChangeView::overlay() {
+    const std::size_t index = shown();
+    if (m_overlays.at(index) == nullptr)
+        m_overlays.at(index) = new TextOverlay(
+            *m_boxes.at(index), index == 1 ? PlainTextBox::Lines::Wrapped : PlainTextBox::Lines::AsTheyAre);
+    return *m_overlays.at(index);
+}
+
+bool ChangeView::beginTextBefore(const ToolChange *change) {
+    if (m_held)
+        return false; // the key repeats itself
+    m_held = true;
+    endPlaces();
+    if (change != nullptr)
+        overlay().showText(change->before, QStringLiteral("Text before ") + change->name);
+    qApp->installEventFilter(this);
+    return true;
+}
+
+void ChangeView::endTextBefore() {
+    qApp->removeEventFilter(this);
+    m_held = false;
+    for (TextOverlay *overlay : m_overlays) {
+        if (overlay != nullptr)
+            overlay->hide();
+    }
+}
+
+bool ChangeView::endsTextBefore(const QEvent &event) const {
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+        // What repeats itself is the key that is held.
+        return !static_cast<const QKeyEvent &>(event).isAutoRepeat();
+    case QEvent::MouseButtonPress:
+    case QEvent::FocusOut:
+    case QEvent::WindowDeactivate:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool ChangeView::eventFilter(QObject *watched, QEvent *event) {
+    if (m_held && endsTextBefore(*event))
+        endTextBefore();
+    const bool goesOn = event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress;
+    if (goesOn && m_tintEnds.isActive())
+        endPlaces();
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace tolvo
