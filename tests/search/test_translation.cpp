@@ -3,6 +3,7 @@
 #include "base/character_sets.h"
 #include "search/replacement_template.h"
 #include "tests/search/search_world.h"
+#include "tests/support/examples.h"
 
 namespace tolvo::test {
 
@@ -11,47 +12,19 @@ namespace {
 class Translation : public SearchWorld {};
 
 TEST_F(Translation, WildcardsBecomeGroups) {
-    const QString alpha = SEARCH_CHARS_ALPHA();
-    const QString word = SEARCH_CHARS_WORD();
-    const struct {
-        QString pattern, expected;
-        bool specialChars = false;
-        WildcardOptions options = {};
-    } rows[] = {
-        {"a.c", "a(.)c"},
-        {"a*c", "a(.*?)c"},
-        {"?*.+.", "(.*?)(.+?)(.)"},
-        {"%+-%+", "([0-9]+)-([0-9]+)"},
-        {"%*%~*~+~", "([0-9]*)([0-9])(\\s*)(\\s+)(\\s)"},
-        {"1+1", "1(.+?)1"},
-        {"1\\+1", "1\\+1"},
-        {"a|b(c)^$ {}", "a\\|b\\(c\\)\\^\\$ \\{\\}"},
-        {"[abc]", "([abc])"},
-        {"[^a-c]*", "([^a-c]*)(.*?)"},
-        {"[abc]+", "([abc]+)(.+?)"},
-        {"&*&+&", "([" + alpha + "]*)([" + alpha + "])([" + alpha + "])"},
-        {"!*!+!", "([" + word + "]*?)([" + word + "])([" + word + "])"},
-        {"@", "([" + alpha + "]{1}(?:[" + word + "]*(?:(?:'|-)?[" + word + "])+)*)"},
-        {"#",
-         "((?:[+-]?\\d\\.\\d+(?: \\d+)*[eE][+-]?\\d+(?: \\d+)*)|(?:[+-]?\\d+(?: \\d+)*(?:(?:\\.\\d+)*(?: "
-         "\\d+)*)))",
-         false,
-         {.groupingSep = "space"}},
-        {"\\.\\?\\[\\]\\^\\~", "\\.\\?\\[\\]\\^\\~"},
-        {"\\&\\$\\\\", "\\\\([" + alpha + "])\\\\\\$\\\\\\\\"},
-        {"end\\", "end\\\\"},
-        {"\\t\\x41", "\\\\t\\\\x41"},
-        {"\\t\\n\\x41\\u20ACb\\x", "\\t\\n\\x41\\u20ACb\\x", true},
-        {"a", "\\ba", false, {.anchor = Anchor::WordStart}},
-        {"a", "a\\b", false, {.anchor = Anchor::WordEnd}},
-        {"a", "^a", false, {.anchor = Anchor::LineStart}},
-        {"a", "a$", false, {.anchor = Anchor::LineEnd}},
-        {"a", "\\ba\\b", false, {.wholeWords = true, .anchor = Anchor::WordEnd}},
-        {"a", "^\\ba\\b", false, {.wholeWords = true, .anchor = Anchor::LineStart}},
-    };
-    for (const auto &[pattern, expected, specialChars, options] : rows)
-        EXPECT_EQ(search.translateWildcardsToRegExp(pattern, specialChars, options), expected)
-            << pattern.toStdString();
+    forEachExample("/tests/search/wildcard_examples.txt", [this](const QString &, const QStringList &row) {
+        const auto has = [&](char16_t option) { return row[2].contains(option); };
+        WildcardOptions options{.wholeWords = has(u'w')};
+        for (qsizetype anchor = 0; anchor < 4; ++anchor) {
+            if (has(u"seSE"[anchor]))
+                options.anchor = static_cast<Anchor>(anchor);
+        }
+        if (has(u'g'))
+            options.groupingSep = "space";
+        const QString expected =
+            QString(row[1]).replace("ALPHA", SEARCH_CHARS_ALPHA()).replace("WORD", SEARCH_CHARS_WORD());
+        EXPECT_EQ(search.translateWildcardsToRegExp(row[0], has(u'x'), options), expected);
+    });
     EXPECT_EQ(said(), "");
     EXPECT_EQ(search.translateWildcardsToRegExp("a[abc", false, {}), "");
     EXPECT_EQ(

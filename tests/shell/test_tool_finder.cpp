@@ -4,6 +4,7 @@
 #include "shell/window_commands.h"
 #include "shell/word_match.h"
 #include "tests/support/User.h"
+#include "tests/support/examples.h"
 #include "tests/support/print.h"
 
 using namespace tolvo;
@@ -25,38 +26,15 @@ QString pictureOf(const QString &text, const QList<int> &marked) {
 }
 
 TEST(WordMatch, takesTheBestPlace) {
-    const struct {
-        const char *word, *found;
-        MatchKind kind;
-    } titles[] = {
-        {"lines", "Trim [lines]", Words},
-        {"LINE", "Trim [line]s", Starts},
-        {"itc", "[I]nitial [t]itle [c]ase", Starts}, // not the first t and c
-        {"casel", "[case] [l]ines", Starts},
-        {"jopa", "[Jo]in [pa]ragraphs", Starts},
-        {"email", "[e]-[mail]", Starts},
-        {"rim", "T[rim] lines", MatchKind::Run},
-        {"trimnes", "[Trim] li[nes]", Scattered},
-        {"tmnes", "Trim lines", None}, // pieces too small
-        {"paragrahp", "Join [paragraph]", Slip},
-        {"pargraph", "Join [par]a[graph]", Scattered},
-        {"paragraqh", "Join [paragraph]", Slip},
-        {"praga", "Join paragraphs", None},
-        {"paarg", "Join [paragraphs]", Slip}, // still being typed
-        {"trmi", "[Trim]", Slip},
-        {"tim", "Sort", None},
-        {"a", "Sort [A] to Z", Words},
-        {"o", "Sort A to Z", None},
-        {"&", "A[&]B", MatchKind::Run},
-        {"", "Sort", None},
-        {"sort", "", None},
-    };
-    for (const auto &row : titles) {
-        const QString text = QString(row.found).remove('[').remove(']');
-        const WordMatch match = matchWord(QString(row.word), text, TextKind::Title);
-        EXPECT_EQ(match.kind, row.kind) << row.word;
-        EXPECT_EQ(pictureOf(text, match.marked), QString(row.found)) << row.word;
-    }
+    const QStringList kinds = {"None", "Slip", "Scattered", "Run", "Starts", "Words"};
+    forEachExample("/tests/shell/finder_examples.txt", [&](const QString &section, const QStringList &row) {
+        if (section != u"Words")
+            return;
+        const QString text = QString(row[1]).remove('[').remove(']');
+        const WordMatch match = matchWord(row[0], text, TextKind::Title);
+        EXPECT_EQ(kinds.value(static_cast<int>(match.kind)), row[2]);
+        EXPECT_EQ(pictureOf(text, match.marked), row[1]);
+    });
     EXPECT_EQ(matchWord(u"itc", u"Initial title case", TextKind::Prose).kind, None);
     EXPECT_EQ(matchWord(QString(5000, 'a'), QString(5000, 'a'), TextKind::Title).kind, Words);
 }
@@ -103,42 +81,12 @@ QList<FinderEntry> realEntries(const User &user) {
 TEST(ToolFinder, findsWhatPeopleCallTheTools) {
     const User user("a");
     const QList<FinderEntry> entries = realEntries(user);
-    const struct {
-        const char *asked, *id;
-    } rows[] = {
-        {"dedent", "foUNI"},
-        {"unwrap", "foPAR"},
-        {"pdf", "foPAR"},
-        {"hard break", "foPAR"},
-        {"uppercase", "ccUPP"},
-        {"lines to list", "liBUL"},
-        {"slugs", "edUDC"},
-        {"smart quotes", "edCRL edPLA"},
-        {"line br", "foPAR"},
-        {"rstrip", "foTRA"},
-        {"word count", "chSTAT"},
-        {"regex", "edSRC"},
-        {"sort", "soALP"},
-        {"join", "foPAR"},
-        {"jp", "foPAR"},
-        {"settings", "imgOptions"},
-        {"paragrpahs", "foPAR"},
-        {"undo", "cmdUndo"},
-        {"copy and close", "cmdClose"},
-        {"html", "edHDC"},
-        {"statistics", "chSTAT"},
-        {"about", "imgAbout"},
-        {"soft wrap", "imgWordwrap"},
-        {"search", "edSRC"},
-        {"replace", "edREP"},
-        {"find again", "FindAgain"},
-        {"crlf", "edEOL"},
-        {"redo", "cmdRedo"},
-        {"reload", "cmdRefresh"},
-    };
-    for (const auto &row : rows)
-        EXPECT_TRUE(idsOf(entries, findTools(entries, row.asked, {})).startsWith(row.id))
-            << row.asked << ": " << idsOf(entries, findTools(entries, row.asked, {})).toStdString();
+    forEachExample("/tests/shell/finder_examples.txt", [&](const QString &section, const QStringList &row) {
+        if (section != u"Tools")
+            return;
+        const QString ids = idsOf(entries, findTools(entries, row[0], {}));
+        EXPECT_TRUE(ids.startsWith(row[1])) << ids.toStdString();
+    });
     EXPECT_EQ(idsOf(entries, findTools(entries, "xylophone", {})), "");
 }
 
