@@ -16,10 +16,9 @@
 #include "shell/modMain.h"
 #include "shell/ui/desktop_session.h"
 #include "spelling/word_automation.h"
-#include "widgets/themed_icon.h"
+#include "widgets/dress_application.h"
 
 #include <QApplication>
-#include <QProxyStyle>
 
 namespace {
 
@@ -39,17 +38,6 @@ class Application : public QApplication {
 
   private:
     DesktopMessageBoxes m_boxes;
-};
-
-/// Buttons of dialogs show words only, whichever class has laid them out.
-class WordsOnButtons : public QProxyStyle {
-  public:
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *data) const override {
-        return hint == SH_DialogButtonBox_ButtonsHaveIcons
-                   ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, data);
-    }
 };
 
 int runOnce() {
@@ -94,7 +82,6 @@ int main(int argc, char **argv) {
     return runAsClipboardKeeper([&](KeeperSession &keeper) {
         const Application application(argc, argv);
         const CommandKeys commandKeys;
-        QApplication::setStyle(new WordsOnButtons);
         dressApplication();
         QCoreApplication::setApplicationName(QStringLiteral("tolvo"));
         QCoreApplication::setApplicationVersion(applicationVersion());

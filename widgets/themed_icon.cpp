@@ -48,14 +48,6 @@ QColor accentOn(const QPalette &palette, QPalette::ColorRole ground) {
     return contrast(green, back) >= textContrast ? green : palette.color(text);
 }
 
-void dressApplication() {
-    QGuiApplication::setWindowIcon(themedIcon(QStringLiteral("tolvo"))); // a file's would load two plugins
-    QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));
-    QPalette hints; // all other colours go on following the theme
-    hints.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
-    QGuiApplication::setPalette(hints);
-}
-
 QIcon themedIcon(const QString &name) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly))

@@ -21,10 +21,6 @@ namespace tolvo {
 /// neither can, that is with a contrast under 4.5.
 [[nodiscard]] QColor accentOn(const QPalette &palette, QPalette::ColorRole ground);
 
-/// Gives all windows of the program its icon, and the hints of empty fields a grey that can be read on any
-/// ground: some dark themes leave them black. To be called once, when the application stands.
-void dressApplication();
-
 /// True if the palette's windows are dark.
 [[nodiscard]] bool isDark(const QPalette &palette);
 

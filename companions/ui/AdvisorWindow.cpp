@@ -81,7 +81,6 @@ QWidget *AdvisorWindow::makePage() {
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_text->setMinimumHeight(fontMetrics().lineSpacing() * 6);
     m_number->setObjectName(QStringLiteral("labNumber"));
-    m_number->setForegroundRole(QPalette::PlaceholderText);
 
     auto *const words = new QVBoxLayout;
     words->setSpacing(fontMetrics().height() / 2);

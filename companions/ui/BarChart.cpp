@@ -40,7 +40,7 @@ void BarChart::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_bars.isEmpty()) {
-        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("Nothing has been counted yet"));
         return;
     }
@@ -61,14 +61,14 @@ void BarChart::paintEvent(QPaintEvent *) {
         const Bar &bar = m_bars.at(i);
         const QRect row(0, static_cast<int>(i) * rowHeight(), width(), rowHeight());
         const QString name = fontMetrics().elidedText(bar.name, Qt::ElideRight, names);
-        painter.setPen(palette().color(QPalette::Text));
+        painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(QRect(gap, row.top(), names, row.height()), Qt::AlignVCenter | Qt::AlignRight, name);
         const double length = qMax(room * bar.value / largest, bar.value > 0 ? 2.0 : 0.0);
         const QRectF shape(left, row.top() + row.height() * 0.2, length, row.height() * 0.6);
         painter.setPen(Qt::NoPen);
         painter.setBrush(accent(palette()));
         painter.drawRoundedRect(shape, 2, 2);
-        painter.setPen(palette().color(QPalette::Text));
+        painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(QRect(static_cast<int>(shape.right()) + gap, row.top(), numbers + gap, row.height()),
                          Qt::AlignVCenter | Qt::AlignLeft, groupedNumber(static_cast<qint64>(bar.value)));
     }

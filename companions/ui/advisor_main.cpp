@@ -4,7 +4,7 @@
 #include "companions/ui/AdvisorWindow.h"
 #include "platform/processes.h"
 #include "preferences/settings_store.h"
-#include "widgets/themed_icon.h"
+#include "widgets/dress_application.h"
 
 #include <QApplication>
 #include <QLockFile>

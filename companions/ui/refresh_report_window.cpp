@@ -2,7 +2,7 @@
 #include "companions/refresh_report.h"
 #include "companions/ui/RefreshWindow.h"
 #include "platform/network/NetworkHttpClient.h"
-#include "widgets/themed_icon.h"
+#include "widgets/dress_application.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -7,7 +7,7 @@
 #include "companions/ui/single_window.h"
 #include "powerbuttons/catalogue.h"
 #include "preferences/settings_store.h"
-#include "widgets/themed_icon.h"
+#include "widgets/dress_application.h"
 
 #include <QApplication>
 

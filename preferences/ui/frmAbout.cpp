@@ -5,7 +5,7 @@
 #include "platform/message_box.h"
 #include "platform/processes.h"
 #include "platform/system_information.h"
-#include "widgets/themed_icon.h"
+#include "widgets/LinkLabel.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
@@ -71,17 +71,8 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
 }
 
 QLabel *frmAbout::link(const char *name, const QString &text, const QString &address) {
-    auto *label = new QLabel;
+    auto *label = new LinkLabel(text, address, LinkLabel::Underline::UnderPointer);
     label->setObjectName(QLatin1StringView(name));
-    label->setAccessibleName(text);
-    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    const auto show = [this, label, text, address](bool hovered) {
-        label->setText(QStringLiteral("<a href=\"%1\" style=\"color:%2; text-decoration:%3\">%4</a>")
-                           .arg(address, accent(palette()).name(),
-                                hovered ? QStringLiteral("underline") : QStringLiteral("none"), text));
-    };
-    show(false);
-    connect(label, &QLabel::linkHovered, this, [show](const QString &over) { show(!over.isEmpty()); });
     connect(label, &QLabel::linkActivated, this, [this](const QString &target) { m_processes.open(target); });
     return label;
 }

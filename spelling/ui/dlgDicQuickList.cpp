@@ -10,7 +10,7 @@
 #include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
-#include "widgets/themed_icon.h"
+#include "widgets/LinkLabel.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -24,7 +24,9 @@ namespace tolvo {
 
 dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *parent)
     : QDialog(parent), m_services(services), cmbQuickList(new QComboBox(this)), labProvider(new QLabel(this)),
-      labChange(new QLabel(this)), imgBrowse(new QToolButton(this)) {
+      labChange(new LinkLabel(QStringLiteral("Change"), QStringLiteral("options"),
+                              LinkLabel::Underline::Always, this)),
+      imgBrowse(new QToolButton(this)) {
     setObjectName(QStringLiteral("dlgDicQuickList"));
     setWindowTitle(QStringLiteral("Select dictionary"));
     setModal(true);
@@ -33,9 +35,6 @@ dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *pare
     cmbQuickList->setMinimumContentsLength(30);
     labProvider->setObjectName(QStringLiteral("labProvider"));
     labChange->setObjectName(QStringLiteral("labChange"));
-    labChange->setText(
-        QStringLiteral("<a href=\"options\" style=\"color:%1\">Change</a>").arg(accent(palette()).name()));
-    labChange->setTextInteractionFlags(Qt::LinksAccessibleByKeyboard | Qt::LinksAccessibleByMouse);
     labChange->hide();
     imgBrowse->setObjectName(QStringLiteral("imgBrowse"));
     imgBrowse->setToolTip(QStringLiteral("Manage dictionaries"));

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace tolvo {
+
+/// Gives all windows of the program its icon and its style, and the hints of empty fields a colour that can
+/// be read on the fields' ground: some themes leave them black on black. Goes on following the theme. To be
+/// called once, when the application stands.
+void dressApplication();
+
+} // namespace tolvo

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "widgets/house_style.h"
+
+#include "widgets/contrast.h"
+#include "widgets/themed_icon.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace tolvo {
+
+namespace {
+
+enum class Shape { Box, Disc };
+
+QColor ringColour(const QStyleOption &option) {
+    return accentOn(option.palette, QPalette::Window);
+}
+
+void outline(QPainter &painter, const QStyleOption &option, bool focused, Shape shape = Shape::Box) {
+    constexpr qreal radius = 2;
+    const QPen pen(focused ? ringColour(option) : edgeColour(option.palette), focused ? 2 : 1);
+    const qreal inset = pen.widthF() / 2;
+    const QRectF area = QRectF(option.rect).adjusted(inset, inset, -inset, -inset);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    if (shape == Shape::Disc)
+        painter.drawEllipse(area);
+    else
+        painter.drawRoundedRect(area, radius, radius);
+    painter.restore();
+}
+
+bool hasFocus(const QStyleOption &option) {
+    return option.state.testFlag(QStyle::State_HasFocus);
+}
+
+/// Buttons show the focus once the user goes by keys.
+bool hasFocusByKeys(const QStyleOption &option) {
+    return hasFocus(option) && option.state.testFlag(QStyle::State_KeyboardFocusChange);
+}
+
+bool isFlat(const QStyleOption &option) {
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return button != nullptr && button->features.testFlag(QStyleOptionButton::Flat);
+}
+
+} // namespace
+
+bool HouseStyle::isFaint() const {
+    return baseStyle()->name().compare(QLatin1StringView("fusion"), Qt::CaseInsensitive) == 0;
+}
+
+int HouseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                          QStyleHintReturn *data) const {
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0
+                                                       : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                               const QWidget *widget) const {
+    const bool inView = qobject_cast<const QAbstractItemView *>(widget) != nullptr;
+    if (element == PE_FrameFocusRect && isFaint() && !inView) {
+        outline(*painter, *option, true);
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (!isFaint())
+        return;
+    switch (element) {
+    case PE_IndicatorCheckBox:
+        outline(*painter, *option, false);
+        break;
+    case PE_IndicatorRadioButton:
+        outline(*painter, *option, false, Shape::Disc);
+        break;
+    case PE_FrameLineEdit:
+        outline(*painter, *option, hasFocus(*option));
+        break;
+    case PE_PanelButtonCommand:
+        if (!isFlat(*option) || hasFocusByKeys(*option))
+            outline(*painter, *option, hasFocusByKeys(*option));
+        break;
+    case PE_Frame:
+        outline(*painter, *option, false);
+        break;
+    default:
+        break;
+    }
+}
+
+void HouseStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                             const QWidget *widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element != CE_TabBarTab || !isFaint() || !hasFocus(*option))
+        return;
+    constexpr int inset = 3;
+    QStyleOption inside(*option);
+    inside.rect.adjust(inset, inset, -inset, -inset);
+    outline(*painter, inside, true);
+}
+
+void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                    QPainter *painter, const QWidget *widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (isFaint() && control == CC_ScrollBar && hasFocus(*option))
+        outline(*painter, *option, true);
+    if (isFaint() && (control == CC_ComboBox || control == CC_SpinBox))
+        outline(*painter, *option, hasFocus(*option));
+}
+
+} // namespace tolvo

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tolvo {
+
+/// The platform's style with words alone on the buttons of dialogs. Where that style is the toolkit's own,
+/// whose edges and focus are too faint to be seen by everybody, controls get edges, and a ring with the
+/// focus, that stand out from the window by lineContrast.
+class HouseStyle : public QProxyStyle {
+  public:
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                                QStyleHintReturn *data) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
+
+  private:
+    [[nodiscard]] bool isFaint() const;
+};
+
+} // namespace tolvo
