@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/text_box_accessible.h"
 
-#include "platform/desktop/PlainTextBox.h"
-
 #include <QAbstractTextDocumentLayout>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -18,8 +17,8 @@ QString plain(QString selected) {
 }
 
 QAccessibleInterface *describeTextBox(const QString &className, QObject *object) {
-    auto *box = className == QLatin1StringView("tolvo::PlainTextBox") ? qobject_cast<QPlainTextEdit *>(object)
-                                                                      : nullptr;
+    auto *box =
+        className == QLatin1StringView("QPlainTextEdit") ? qobject_cast<QPlainTextEdit *>(object) : nullptr;
     return box == nullptr ? nullptr : new TextBoxAccessible(*box);
 }
 
@@ -154,7 +153,8 @@ QString TextBoxAccessible::attributes(int, int *start, int *end) const {
 }
 
 void TextBoxAccessible::replaceText(int start, int end, const QString &text) {
-    cursorOver(start, end).insertText(text);
+    if (!m_box.isReadOnly())
+        cursorOver(start, end).insertText(text);
 }
 
 // Places

@@ -59,7 +59,7 @@ class TextBoxAccessible final : public QAccessibleWidget,
     QPlainTextEdit &m_box;
 };
 
-/// Has assistive technology use TextBoxAccessible for the text boxes of the program.
+/// Has assistive technology use TextBoxAccessible for all plain text boxes of the program.
 void installTextBoxAccessible();
 
 } // namespace tolvo

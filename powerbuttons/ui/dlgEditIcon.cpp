@@ -71,7 +71,7 @@ void dlgEditIcon::makeControls() {
     m_preview->setObjectName(QStringLiteral("picPreview"));
     m_preview->setAccessibleName(QStringLiteral("Preview"));
     m_small->setObjectName(QStringLiteral("picSmall"));
-    m_small->setAccessibleName(QStringLiteral("Preview at the size of the button"));
+    m_small->setAccessibleName(QStringLiteral("On the button: the icon at its size"));
 }
 
 QToolButton *dlgEditIcon::makeArrow(const char *name, Qt::ArrowType arrow, const QString &accessibleName,
@@ -110,6 +110,7 @@ void dlgEditIcon::arrange() {
     QToolButton *font = makeTextButton(this, "imgSetFont", "choose-font", QStringLiteral("Choose &font..."));
     auto *centreButton = new QPushButton(QStringLiteral("C&entre"), this);
     centreButton->setObjectName(QStringLiteral("cmdCentre"));
+    centreButton->setAccessibleName(QStringLiteral("Position: Centre"));
     centreButton->setAutoDefault(false);
     connect(symbol, &QToolButton::clicked, this, &dlgEditIcon::getSymbol);
     connect(font, &QToolButton::clicked, this, &dlgEditIcon::setFont);

@@ -87,7 +87,7 @@ void dlgPickCharacter::makeTables() {
     m_table->setAccessibleName(QStringLiteral("Characters"));
     m_recentTable = makeTable(this, m_recentCharacters, cell, 1);
     m_recentTable->setObjectName(QStringLiteral("tblRecent"));
-    m_recentTable->setAccessibleName(QStringLiteral("Characters chosen last"));
+    m_recentTable->setAccessibleName(QStringLiteral("Recent characters"));
     QList<char32_t> recent;
     for (const QString &character : m_recent)
         recent.append(static_cast<char32_t>(character.toUcs4().value(0)));

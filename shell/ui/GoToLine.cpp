@@ -14,7 +14,8 @@ namespace tolvo {
 
 GoToLine::GoToLine(int lines, int present, QWidget *parent)
     : QDialog(parent), m_lines(lines),
-      m_number(new NumberBox(QStringLiteral("txtLine"), QStringLiteral("Line"),
+      m_number(new NumberBox(QStringLiteral("txtLine"),
+                             QStringLiteral("Line (1 to %1)").arg(groupedNumber(lines)),
                              {.lowest = 1, .highest = lines, .testedLater = true}, this)),
       m_refusal(new QLabel(this)) {
     setObjectName(QStringLiteral("dlgGoToLine"));

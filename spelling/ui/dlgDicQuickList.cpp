@@ -60,6 +60,9 @@ void dlgDicQuickList::layOut() {
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto *choice = new QHBoxLayout;
+    auto *caption = new QLabel(QStringLiteral("&Dictionary:"), this);
+    caption->setBuddy(cmbQuickList); // its accessible name, for a list that drops down
+    choice->addWidget(caption);
     choice->addWidget(cmbQuickList, 1);
     choice->addWidget(imgBrowse);
     auto *provider = new QHBoxLayout;

@@ -4,6 +4,7 @@
 #include "platform/desktop/plain_tool_tip.h"
 #include "platform/report_error.h"
 #include "spelling/ui/MarkedTextView.h"
+#include "widgets/announce.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -219,6 +220,7 @@ void dlgSpelling::refresh() {
         txtCorrection->setText(controls.txtCorrection);
         txtCorrection->selectAll();
     }
+    tellMistake();
     refreshSuggestions(controls);
     setUsable(*cmdChange, controls.cmdChangeEnabled);
     setUsable(*cmdChangeAll, controls.cmdChangeAllEnabled);
@@ -226,6 +228,15 @@ void dlgSpelling::refresh() {
     setUsable(*cmdUndo, controls.cmdUndoEnabled);
     rtbText->showText(m_walk->rtbText(), m_walk->errorStart());
     m_refreshing = false;
+}
+
+/// The focus stays with the correction, whose text alone would be said: it comes with the mistake.
+void dlgSpelling::tellMistake() {
+    const QString mistake = labErrorType->text() + u' ' + labMistake->text();
+    if (txtCorrection->accessibleDescription() == mistake)
+        return;
+    txtCorrection->setAccessibleDescription(mistake);
+    announce(labMistake, mistake);
 }
 
 /// A control that goes grey under the focus would hand it to its neighbour, and the next key would act there.

@@ -48,6 +48,7 @@ class dlgSpelling : public QDialog {
     void act(const QString &name, const std::function<void(ErrorWalk &)> &rule);
     void refresh();
     void setUsable(QWidget &control, bool usable);
+    void tellMistake();
     void refreshSuggestions(const WalkControls &controls);
 
     const SpellingServices &m_services;
