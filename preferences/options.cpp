@@ -28,6 +28,7 @@ constexpr std::tuple dialogFields{Field{&ProgramOptions::useProportional, prefer
                                   Field{&ProgramOptions::checkUpdates, preferences.checkUpdates},
                                   Field{&ProgramOptions::allowStats, preferences.allowStats},
                                   Field{&ProgramOptions::sounds, preferences.sounds},
+                                  Field{&ProgramOptions::showTroubles, settingKeys.hints.troubles},
                                   Field{&ProgramOptions::provider, settingKeys.spelling.provider}};
 constexpr std::tuple wordFields{Field{&WordOptions::extensions, preferences.userExtensions},
                                 Field{&WordOptions::fullDomainList, preferences.fullDomainList}};

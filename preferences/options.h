@@ -26,6 +26,7 @@ struct ProgramOptions : WordOptions {
     bool useProportional = settingKeys.preferences.useProportional.otherwise();
     bool wordWrap = settingKeys.preferences.wordWrap.otherwise();
     bool showTips = settingKeys.preferences.showTips.otherwise();
+    bool showTroubles = settingKeys.hints.troubles.otherwise();
     bool sounds = settingKeys.preferences.sounds.otherwise();
     bool checkUpdates = settingKeys.preferences.checkUpdates.otherwise();
     bool allowStats = settingKeys.preferences.allowStats.otherwise();

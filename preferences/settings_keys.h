@@ -142,6 +142,14 @@ struct ViewKeys {
     Setting<forms::Check> marks{section, u"Marks", false};             // for blanks and line ends
 };
 
+/// What the main window offers without being asked.
+struct HintKeys {
+    static constexpr Section section{u"Hints"};
+
+    Setting<forms::Check> troubles{section, u"Troubles", true};            // of a fresh text
+    Setting<forms::Check> powerButtonHint{section, u"PowerButtons", true}; // until it is closed
+};
+
 /// The statistics tree. All counters but those of the totals begin anew with each period.
 struct StatisticsKeys {
     static constexpr Section usage{u"Usage", SettingsTree::Statistics};
@@ -166,6 +174,7 @@ struct Keys {
     WindowKeys windows;
     StatisticsKeys statistics;
     ViewKeys view;
+    HintKeys hints;
 };
 
 inline constexpr Keys settingKeys{};

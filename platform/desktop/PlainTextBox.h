@@ -80,6 +80,8 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     void setTint(const QList<Stretch> &stretches);
     /// Font, size and marks as another box shows its text.
     void lookLike(const PlainTextBox &other);
+    /// Keeps so many pixels free above the text, until it is scrolled.
+    void setRoomAbove(int pixels);
     /// Called when the wheel is turned with Ctrl held: 1 for each step away from the user, -1 for each step
     /// back.
     std::function<void(int steps)> onZoom;
@@ -136,6 +138,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     QList<QAction *> m_undoActions;
     QList<QAction *> m_viewActions;
     QFont m_textFont;
+    QMetaObject::Connection m_endOfRoom; ///< with the next scrolling
     int m_zoom = 100;
     int m_wheel = 0; ///< eighths of a degree that have not made a step yet
     bool m_marks = false;

@@ -4,6 +4,7 @@
 #include "platform/desktop/PlainTextBox.h"
 
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QWheelEvent>
@@ -47,6 +48,18 @@ void PlainTextBox::setTextFont(const QFont &font) {
 void PlainTextBox::setZoom(int percent) {
     m_zoom = percent;
     setFont(scaled(m_textFont, m_zoom));
+}
+
+void PlainTextBox::setRoomAbove(int pixels) {
+    if (pixels == viewportMargins().top())
+        return;
+    disconnect(m_endOfRoom);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(pixels > 0);
+    setViewportMargins(0, pixels, 0, 0);
+    if (pixels > 0)
+        m_endOfRoom =
+            connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { setRoomAbove(0); });
 }
 
 void PlainTextBox::setMarks(bool on) {

@@ -49,6 +49,7 @@ void dlgPreferences::init(const ProgramOptions &options, const QString &lastChec
     m_txtExt->clear();
     m_optTLDs[options.fullDomainList ? 0 : 1]->setChecked(true);
     m_chkShowTips->setChecked(options.showTips);
+    m_chkTroubles->setChecked(options.showTroubles);
     m_chkSounds->setChecked(options.sounds);
     m_chkUpdates->setChecked(options.checkUpdates);
     m_chkUsageStats->setChecked(options.allowStats);
@@ -70,6 +71,7 @@ ProgramOptions dlgPreferences::options() const {
         options.extensions += m_lstExtensions->item(row)->text();
     options.fullDomainList = m_optTLDs[0]->isChecked();
     options.showTips = m_chkShowTips->isChecked();
+    options.showTroubles = m_chkTroubles->isChecked();
     options.sounds = m_chkSounds->isChecked();
     options.checkUpdates = m_chkUpdates->isChecked();
     options.allowStats = m_chkUsageStats->isChecked();

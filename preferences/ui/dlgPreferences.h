@@ -83,6 +83,7 @@ class dlgPreferences : public QDialog {
     QPushButton *m_cmdRemove = nullptr;
     std::array<QRadioButton *, 2> m_optTLDs{};
     QCheckBox *m_chkShowTips = nullptr;
+    QCheckBox *m_chkTroubles = nullptr;
     QCheckBox *m_chkSounds = nullptr;
     QCheckBox *m_chkUpdates = nullptr;
     QCheckBox *m_chkUsageStats = nullptr;

@@ -169,6 +169,8 @@ QWidget *dlgPreferences::extensionsPage() {
 QWidget *dlgPreferences::generalPage() {
     auto *page = new QWidget;
     m_chkShowTips = make<QCheckBox>("chkShowTips", QStringLiteral("Show &Tips at startup"));
+    m_chkTroubles =
+        make<QCheckBox>("chkTroubles", QStringLiteral("&Point out what looks wrong with a fresh text"));
     m_chkSounds = make<QCheckBox>("chkSounds", QStringLiteral("Enable &sounds"));
     m_chkUpdates = make<QCheckBox>("chkUpdates", QStringLiteral("&Check weekly for product updates"));
     m_chkUsageStats = make<QCheckBox>("chkUsageStats", QStringLiteral("&Upload usage statistics"));
@@ -206,6 +208,7 @@ QWidget *dlgPreferences::generalPage() {
 
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(m_chkShowTips);
+    layout->addWidget(m_chkTroubles);
     layout->addWidget(m_chkSounds);
     layout->addWidget(updates);
     layout->addWidget(files);

@@ -3,6 +3,7 @@
 // decides nothing.
 #pragma once
 
+#include "platform/background_job.h"
 #include "platform/desktop/PlainTextBox.h"
 #include "shell/keyboard.h"
 #include "shell/session_windows.h"
@@ -11,6 +12,7 @@
 #include "shell/ui/power_button_bar.h"
 #include "shell/ui/tool_finder_view.h"
 
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <optional>
@@ -53,6 +55,11 @@ class MainWindow : public QWidget, public SessionView {
     /// The width of the column left of the text, in pixels.
     [[nodiscard]] int panelWidth() const;
     void setPanelWidth(int width);
+    /// Shows a line of hints there, which belongs to the window from now on.
+    void putOverText(QWidget &strip);
+    void putOverPowerButtons(QWidget &strip);
+    /// For work beside the keys, here and in the dialogs.
+    [[nodiscard]] BackgroundWorker &worker() { return m_worker; }
 
     // SessionView
     void statusChanged(const QString &text) override;
@@ -104,6 +111,7 @@ class MainWindow : public QWidget, public SessionView {
     bool leaveTextBox(const QKeyEvent &event);
     void watchButtons();
     QList<WindowPart> parts();
+    static void putBefore(QWidget &strip, QWidget &part);
     void nextPart();
     void partBefore();
     void showKeySheet();
@@ -115,7 +123,10 @@ class MainWindow : public QWidget, public SessionView {
     cToolbox *m_toolbox = nullptr;
     std::optional<KeyboardCommands> m_keys;
 
+    BackgroundWorker m_worker;
     QSplitter *m_splitter = nullptr;
+    QPointer<QWidget> m_overText; ///< the line of hints that stands there, if any
+    QPointer<QWidget> m_overPowerButtons;
     QWidget *m_topBar = nullptr;
     QWidget *m_textArea = nullptr;
     QWidget *m_powerRow = nullptr;

@@ -101,17 +101,6 @@ bool MainWindow::keyPressed(const QKeyEvent &event, bool inTextBox) {
     return stroke.character >= 0 && m_keys->textKeyPress(stroke.character);
 }
 
-QList<WindowPart> MainWindow::parts() {
-    const auto part = [](QWidget *area, QWidget *within) {
-        return WindowPart{area, [within] { return firstStop(within); }};
-    };
-    return {{m_textArea, [this] { return &shownTextBox(); }},
-            part(m_topBar, m_topBar),
-            part(m_toolFinder, m_panel),
-            part(m_powerRow, m_powerButtons),
-            part(m_buttonRow, m_buttonRow)};
-}
-
 void MainWindow::nextPart() {
     walkParts(parts(), true);
 }

@@ -5,6 +5,7 @@
 #include "platform/desktop/DesktopClipboard.h"
 #include "shell/empty_text.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/trouble_watch.h"
 #include "shell/ui/window_memory.h"
 
 #include <QApplication>
@@ -30,7 +31,11 @@ DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &cl
     }
     const auto showHint = [this](ClipboardContent held) { m_window->showEmptyTextHint(emptyTextHint(held)); };
     showHint(ClipboardContent::Text);
-    clipboard.onTaken = showHint;
+    clipboard.onTaken = [this, showHint](ClipboardContent held) {
+        showHint(held);
+        if (m_troubles)
+            m_troubles->freshText();
+    };
     clipboard.onWaiting = [this](bool waiting) {
         if (m_session)
             m_session->setStatus(waiting ? QStringLiteral("Waiting for the clipboard... Esc ends the wait")
@@ -40,7 +45,11 @@ DesktopSession::DesktopSession(const RunServices &services, DesktopClipboard &cl
         m_lastPlace = placeOf(*m_window);
         m_loop.quit();
     };
-    m_window->onActivated = [this] { takeOverPowerButtons(); };
+    m_window->onActivated = [this] {
+        takeOverPowerButtons();
+        if (m_troubles)
+            m_troubles->obeyOptions();
+    };
 }
 
 DesktopSession::~DesktopSession() = default;
@@ -116,9 +125,13 @@ void DesktopSession::showModal(const std::function<void()> &onceShown) {
     m_window->show();
     m_window->bringToFront();
     onceShown();
-    QTimer::singleShot(0, m_window.get(), [this] { watchStore(); });
+    QTimer::singleShot(0, m_window.get(), [this] {
+        watchStore();
+        m_troubles = std::make_unique<TroubleWatch>(*m_session, *m_window);
+    });
     if (!m_session->bSessionOver)
         m_loop.exec();
+    m_troubles.reset();
     m_window->hide();
     m_session->guarded(u"keepWindow", [this] { keepWindow(); });
 }

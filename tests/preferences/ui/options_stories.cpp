@@ -159,6 +159,7 @@ TEST_F(OptionsStory, aFontThatIsNotInstalledKeepsItsName) {
 TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     open();
     control<QCheckBox>("chkSounds").setChecked(false);
+    control<QCheckBox>("chkTroubles").setChecked(false);
     control<QRadioButton>("optTLDs_0").setChecked(true);
     control<QRadioButton>("optSpellingProvider_2").setChecked(true);
     control<QRadioButton>("optProp_1").setChecked(true);
@@ -168,6 +169,7 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     ASSERT_EQ(actions.applied.size(), 1);
     saveOptions(store, actions.applied[0]);
     EXPECT_EQ(textOf(store, settingKeys.preferences.sounds), QStringLiteral("0"));
+    EXPECT_EQ(textOf(store, settingKeys.hints.troubles), QStringLiteral("0"));
     EXPECT_EQ(store.GetSetting(QStringLiteral("Tolvo"), QStringLiteral("Preferences\\UserFileExtensions"),
                                QStringLiteral("{")),
               QStringLiteral("extaz"));
@@ -182,7 +184,8 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
 TEST_F(OptionsStory, openOnAnyStore) {
     set(store, settingKeys.spelling.provider, 7);
     open();
-    for (const char *name : {"chkShowTips", "chkSounds", "chkUpdates", "chkUsageStats", "optTLDs_1"})
+    for (const char *name :
+         {"chkShowTips", "chkTroubles", "chkSounds", "chkUpdates", "chkUsageStats", "optTLDs_1"})
         EXPECT_TRUE(control<QAbstractButton>(name).isChecked()) << name;
     EXPECT_EQ(control<QLineEdit>("txtFont_1").text(), QStringLiteral("Courier New Bold Italic 10 pt"));
     EXPECT_FALSE(control<QPushButton>("cmdAdd").isEnabled());
