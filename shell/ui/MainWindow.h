@@ -80,7 +80,8 @@ class MainWindow : public QWidget, public SessionView {
     static void delay(int milliseconds);
 
     std::function<void()> onActivated; ///< each time the window becomes active
-    std::function<void()> onClosed;    ///< the session is over; the window still stands
+    std::function<void()> onPowerButtonChanged;
+    std::function<void()> onClosed; ///< the session is over; the window still stands
 
   protected:
     void closeEvent(QCloseEvent *event) override;

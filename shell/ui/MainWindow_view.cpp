@@ -84,6 +84,8 @@ void MainWindow::processEvents() {
 void MainWindow::powerButtonChanged(int index) {
     if (const auto button = m_session->services().oPowerButtons.Item(index + 1))
         m_powerButtons->showButton(index, *button);
+    if (onPowerButtonChanged)
+        onPowerButtonChanged();
 }
 
 bool MainWindow::interrupted() {

@@ -5,6 +5,7 @@
 #include "platform/desktop/DesktopClipboard.h"
 #include "shell/empty_text.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/power_button_hint.h"
 #include "shell/ui/trouble_watch.h"
 #include "shell/ui/window_memory.h"
 
@@ -122,6 +123,10 @@ void DesktopSession::keepWindow() {
 
 void DesktopSession::showModal(const std::function<void()> &onceShown) {
     m_session->guarded(u"bringBackWindow", [this] { bringBackWindow(); });
+    m_session->guarded(u"powerButtonHint", [this] {
+        m_powerButtonHint = std::make_unique<PowerButtonHint>(*m_session, *m_window);
+        m_window->onPowerButtonChanged = [this] { m_powerButtonHint->refresh(); };
+    });
     m_window->show();
     m_window->bringToFront();
     onceShown();
@@ -132,6 +137,8 @@ void DesktopSession::showModal(const std::function<void()> &onceShown) {
     if (!m_session->bSessionOver)
         m_loop.exec();
     m_troubles.reset();
+    m_window->onPowerButtonChanged = nullptr;
+    m_powerButtonHint.reset();
     m_window->hide();
     m_session->guarded(u"keepWindow", [this] { keepWindow(); });
 }

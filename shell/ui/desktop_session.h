@@ -14,6 +14,7 @@ namespace tolvo {
 class DesktopClipboard;
 class EscapeWatch;
 class MainWindow;
+class PowerButtonHint;
 class TroubleWatch;
 
 /// The window side of one run: the main window, and the dialogs that it opens.
@@ -44,6 +45,7 @@ class DesktopSession : public SessionWindow {
     DesktopClipboard &m_clipboard;
     std::unique_ptr<MainWindow> m_window;
     DesktopDialogs m_dialogs;
+    std::unique_ptr<PowerButtonHint> m_powerButtonHint;
     std::unique_ptr<TroubleWatch> m_troubles; ///< once the window is shown
     frmMain *m_session = nullptr;
     QEventLoop m_loop;

@@ -371,11 +371,13 @@ def parent_of(process):
 
 
 class Story(unittest.TestCase):
-    """Stories of one user: a store without tips, and runs that end with the story."""
+    """Stories of one user: a store without tips and hints, and runs that end with the story."""
 
     def setUp(self):
         self.settings = Settings()
         self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "0")
+        for hint in "Troubles", "PowerButtons":
+            self.settings.write("Tolvo", "Hints", hint, "0")
         self.runs = []
 
     def tearDown(self):

@@ -14,8 +14,10 @@ JOINED = ("The annual report was copied from a file in which every line ends wit
 
 
 class TroubleStories(Story):
-    def offers(self, run, words):
-        return run.shows("Looks like: " + words)
+    def setUp(self):
+        super().setUp()
+        for hint in "Troubles", "PowerButtons":
+            self.settings.write("Tolvo", "Hints", hint, "1")
 
     def test_a_mail_is_mended_with_two_clicks(self):
         run = self.start(MAIL)
@@ -49,6 +51,21 @@ class TroubleStories(Story):
         run.main_is_active()
         keys("alt+f")
         wait_for(lambda: not run.shows("Looks like:"), "the line to stay away")
+
+    def test_the_first_power_buttons(self):
+        run = self.start(MAIL)
+        run.main_is_active()
+        run.click("PowerButtons run several tools with one click Load examples")
+        wait_for(lambda: not run.shows("PowerButtons run several tools with one click"), "the line to go")
+        keys("alt+F1")
+        run.text_becomes(JOINED)
+        keys("alt+q")
+        run.active("Confirm close")
+        keys("Return")
+        run.ends()
+        run = self.start(MAIL)
+        run.find("Looks like: mail quotes")
+        self.assertFalse(run.shows("PowerButtons run several tools with one click"))
 
 
 if __name__ == "__main__":
