@@ -2,6 +2,8 @@
 // Other programs: the companions, and what the desktop opens.
 #pragma once
 
+#include <QList>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -10,7 +12,8 @@ namespace tolvo {
 enum class WindowMode { Normal, NormalWithoutFocus, Hidden, Minimised };
 
 /// Environment variables that pass heldBack and askedFor below on to a companion. A companion that is held
-/// back shows its window at the end of its standard input.
+/// back shows its window once a line of its standard input says where (platform/kept_free.h), and ends with
+/// that input.
 inline constexpr const char *heldBackVariable = "TOLVO_HELD_BACK";
 inline constexpr const char *askedForVariable = "TOLVO_ASKED_FOR";
 
@@ -36,8 +39,9 @@ class Processes {
         return start({.program = program, .arguments = arguments, .mode = mode});
     }
 
-    /// Lets the companions that are held back show their windows. The end of this program does so too.
-    virtual void letGo() {}
+    /// Lets the companion that is held back show its window, where it covers none of these areas of the
+    /// screen, or at least not the last of them. Its window leaves with this program.
+    virtual void letGo(const QList<QRect> & /*keepFree*/) {}
 
     /// modWaitforProcess: blocks until a process has ended; returns at once if there is none with this
     /// number.

@@ -53,6 +53,9 @@ class SessionWindow {
     /// True if the clipboard's text is to be taken once the window is shown: the platform gives it only to a
     /// window that has the focus, or its owner lets us wait.
     [[nodiscard]] virtual bool takesClipboardLater() { return false; }
+    /// Calls with the areas of the screen that nothing should cover, the most important last, as soon as the
+    /// window has its place: the main window and its text.
+    virtual void whenPlaced(const std::function<void(const QList<QRect> &)> &tell) { tell({}); }
     /// Shows the main window and calls `onceShown` before the user can type; returns when the session is over
     /// (frmMain::bSessionOver), whether the window was hidden or closed.
     virtual void showModal(const std::function<void()> &onceShown) = 0;

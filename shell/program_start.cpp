@@ -58,7 +58,7 @@ void modMain::start() {
 void modMain::windowShown() {
     if (m_clipboardLater)
         m_session->guarded(u"beginWithClipboard", [this] { m_session->beginWithClipboard(); });
-    m_services.processes.letGo();
+    m_window->whenPlaced([this](const QList<QRect> &keepFree) { m_services.processes.letGo(keepFree); });
 }
 
 void modMain::createSession() {

@@ -2,13 +2,17 @@
 #include "companions/ui/AdvisorWindow.h"
 
 #include "base/application.h"
+#include "platform/kept_free.h"
 #include "widgets/themed_icon.h"
 
 #include <QCheckBox>
 #include <QFrame>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace tolvo {
@@ -42,19 +46,19 @@ AdvisorWindow::AdvisorWindow(SettingsStore &store, QWidget *parent)
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
 
     auto *const buttons = new QHBoxLayout;
-    buttons->addWidget(showAtStartup);
     buttons->addStretch();
     for (QPushButton *const button : {previous, next, close})
         buttons->addWidget(button);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(makePage(), 1);
+    layout->addWidget(showAtStartup);
     layout->addLayout(buttons);
     next->setFocus();
     showTip();
 
-    // Wide enough for comfortable lines, high enough for the longest tip: the window keeps its size.
-    const int width = fontMetrics().averageCharWidth() * 88;
-    resize(width, sizeHint().height());
+    // Narrow enough to stand beside the main window, high enough for the longest tip: it keeps its size.
+    const int width = std::max(fontMetrics().averageCharWidth() * 56, minimumSizeHint().width());
+    resize(width, std::max(sizeHint().height(), layout->totalHeightForWidth(width)));
 }
 
 QWidget *AdvisorWindow::makePage() {
@@ -79,7 +83,7 @@ QWidget *AdvisorWindow::makePage() {
     m_text->setTextFormat(Qt::PlainText);
     m_text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_text->setMinimumHeight(fontMetrics().lineSpacing() * 6);
+    m_text->setMinimumHeight(fontMetrics().lineSpacing() * 8);
     m_number->setObjectName(QStringLiteral("labNumber"));
 
     auto *const words = new QVBoxLayout;
@@ -94,6 +98,17 @@ QWidget *AdvisorWindow::makePage() {
     layout->addWidget(picture, 0, Qt::AlignTop);
     layout->addLayout(words, 1);
     return page;
+}
+
+void AdvisorWindow::showBeside(const QList<QRect> &areas) {
+    const QScreen *screen = areas.isEmpty() ? nullptr : QGuiApplication::screenAt(areas.first().center());
+    if (screen != nullptr) {
+        // The window manager's frame is not known before the window is shown.
+        constexpr int edge = 4;
+        const QSize frame(2 * edge, style()->pixelMetric(QStyle::PM_TitleBarHeight) + edge);
+        move(placeBeside(areas, size() + frame, screen->availableGeometry()));
+    }
+    show();
 }
 
 void AdvisorWindow::showTip() {

@@ -16,6 +16,9 @@ class AdvisorWindow final : public QDialog {
   public:
     explicit AdvisorWindow(SettingsStore &store, QWidget *parent = nullptr);
 
+    /// Shows the window for the first time beside these areas of the screen; without any, anywhere.
+    void showBeside(const QList<QRect> &areas);
+
   private:
     void showTip();
     [[nodiscard]] QWidget *makePage();

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Advisor.exe: tips, one at a time. A second one that is started while the first is open ends at once. One
-// that is held back shows its window when whoever started it lets go.
+// that is held back shows its window when whoever started it lets go, and leaves with it.
 #include "companions/ui/AdvisorWindow.h"
+#include "platform/kept_free.h"
 #include "platform/processes.h"
 #include "preferences/settings_store.h"
 #include "widgets/dress_application.h"
@@ -9,7 +10,9 @@
 #include <QApplication>
 #include <QLockFile>
 #include <QSocketNotifier>
+#include <array>
 #include <unistd.h>
+#include <utility>
 
 int main(int argc, char **argv) {
     const QApplication application(argc, argv);
@@ -21,14 +24,24 @@ int main(int argc, char **argv) {
     if (!single.tryLock() && single.error() == QLockFile::LockFailedError)
         return 0;
     tolvo::AdvisorWindow window(store);
-    QSocketNotifier letGo(STDIN_FILENO, QSocketNotifier::Read);
+    QSocketNotifier gate(STDIN_FILENO, QSocketNotifier::Read);
+    QByteArray said;
+    const auto listen = [&] {
+        std::array<char, 256> part{};
+        const ssize_t length = read(STDIN_FILENO, part.data(), part.size());
+        if (length <= 0) {
+            gate.setEnabled(false);
+            QApplication::quit();
+            return;
+        }
+        said.append(part.data(), length);
+        if (said.endsWith('\n') && !window.isVisible())
+            window.showBeside(tolvo::readAreas(std::exchange(said, {})));
+    };
     if (qEnvironmentVariableIsSet(tolvo::heldBackVariable)) {
-        QObject::connect(&letGo, &QSocketNotifier::activated, &window, [&] {
-            letGo.setEnabled(false);
-            window.show();
-        });
+        QObject::connect(&gate, &QSocketNotifier::activated, &window, listen);
     } else {
-        letGo.setEnabled(false);
+        gate.setEnabled(false);
         window.show();
     }
     return QApplication::exec();

@@ -3,6 +3,7 @@
 
 #include "base/failure.h"
 #include "platform/headless/open_descriptors.h"
+#include "platform/kept_free.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -26,7 +27,10 @@ namespace {
 } // namespace
 
 SystemProcesses::~SystemProcesses() {
-    letGo();
+    for (const int end : {m_gateIn, m_gateOut}) {
+        if (end >= 0)
+            close(end);
+    }
 }
 
 qint64 SystemProcesses::start(const ProgramStart &start) {
@@ -62,11 +66,11 @@ QString SystemProcesses::gate() {
     return m_gateIn < 0 ? QProcess::nullDevice() : QStringLiteral("/proc/self/fd/%1").arg(m_gateOut);
 }
 
-void SystemProcesses::letGo() {
-    for (int *end : {&m_gateIn, &m_gateOut}) {
-        if (*end >= 0)
-            close(std::exchange(*end, -1));
-    }
+void SystemProcesses::letGo(const QList<QRect> &keepFree) {
+    // The line fits into the pipe, whether anybody reads it or not: our own end for reading stays open.
+    const QByteArray line = writtenAreas(keepFree);
+    if (m_gateIn >= 0 && write(m_gateIn, line.constData(), static_cast<std::size_t>(line.size())) < 0)
+        close(std::exchange(m_gateIn, -1)); // the companion leaves instead
 }
 
 void SystemProcesses::waitFor(qint64 process) {

@@ -15,7 +15,7 @@ class SystemProcesses : public Processes {
 
     using Processes::start;
     qint64 start(const ProgramStart &start) override;
-    void letGo() override;
+    void letGo(const QList<QRect> &keepFree) override;
     void waitFor(qint64 process) override;
     /// Always false: without a desktop nothing can be opened.
     bool open(const QString &address) override;
@@ -25,7 +25,7 @@ class SystemProcesses : public Processes {
     [[nodiscard]] QString gate();
 
     int m_gateOut = -1; ///< the end of the gate that companions read
-    int m_gateIn = -1;  ///< our end; they wait until it is closed
+    int m_gateIn = -1;  ///< our end; they leave when it is closed
 };
 
 } // namespace tolvo

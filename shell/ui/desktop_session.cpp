@@ -18,6 +18,7 @@ namespace tolvo {
 namespace {
 
 constexpr int timeOfACommit = 200; // milliseconds, with a slow disk
+constexpr int timeOfPlacing = 300; // milliseconds
 
 } // namespace
 
@@ -141,6 +142,14 @@ void DesktopSession::showModal(const std::function<void()> &onceShown) {
     m_powerButtonHint.reset();
     m_window->hide();
     m_session->guarded(u"keepWindow", [this] { keepWindow(); });
+}
+
+void DesktopSession::whenPlaced(const std::function<void(const QList<QRect> &)> &tell) {
+    // The window manager places the window some time after it was shown.
+    QTimer::singleShot(timeOfPlacing, m_window.get(), [this, tell] {
+        const QWidget &text = m_window->shownTextBox();
+        tell({m_window->frameGeometry(), QRect(text.mapToGlobal(QPoint()), text.size())});
+    });
 }
 
 void DesktopSession::unloadForms() {

@@ -33,6 +33,7 @@ class DesktopSession : public SessionWindow {
     void attach(frmMain &session, cToolbox &toolbox) override;
     [[nodiscard]] bool takesClipboardLater() override;
     void showModal(const std::function<void()> &onceShown) override;
+    void whenPlaced(const std::function<void(const QList<QRect> &)> &tell) override;
     void unloadForms() override;
 
   private:

@@ -99,8 +99,7 @@ class ClipboardStories(Story):
         self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "1")
         run = self.start("x" * 65536, wait=False)
         run.box_says("The text on the Clipboard exceeds the number of characters that Tolvo")
-        tips = wait_for(lambda: self.settings.programs("Advisor.exe"), "the tips to be started")
-        self.addCleanup(lambda: [os.kill(program, signal.SIGTERM) for program in tips])
+        wait_for(lambda: self.settings.programs("Advisor.exe"), "the tips to be started")
         for window in visible("^Tolvo$"):  # the box has no parent
             self.assert_has_icon(window)
         self.assertEqual(visible("Tips for Tolvo"), [])
@@ -110,7 +109,7 @@ class ClipboardStories(Story):
         # The program's output ends with the program, whoever goes on.
         keys("alt+d")
         self.assertEqual(run.said(), "")
-        self.assertTrue(self.settings.programs("Advisor.exe"))
+        wait_for(lambda: not self.settings.programs("Advisor.exe"), "the tips to leave with the run")
 
     def assert_has_icon(self, window):
         reply = subprocess.run(["xprop", "-id", window, "_NET_WM_ICON"], capture_output=True, check=True)

@@ -236,11 +236,10 @@ class DialogStories(Story):
     def test_companions_start(self):
         self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "1")
         run = self.start("text")
-        tips = wait_for(lambda: self.settings.programs("Advisor.exe"), "the tips")
+        wait_for(lambda: self.settings.programs("Advisor.exe"), "the tips")
         run.click("Cancel")
         run.ends()
-        for program in tips:
-            os.kill(program, signal.SIGTERM)
+        wait_for(lambda: not self.settings.programs("Advisor.exe"), "the tips to leave with the run")
 
 
 if __name__ == "__main__":

@@ -1,9 +1,11 @@
 # SPDX-License-Identifier: MIT
 """What the window offers by itself: what looks wrong with a fresh text, the first PowerButtons, the tips."""
 
+import re
+import subprocess
 import unittest
 
-from desk import Story, clipboard_becomes, keys, type_text, wait_for
+from desk import Atspi, Story, clipboard_becomes, keys, type_text, wait_for
 
 MAIL = """> The annual report was copied from a file in which every line
 > ends with a hard break, and so it goes on and on until somebody
@@ -66,6 +68,28 @@ class TroubleStories(Story):
         run = self.start(MAIL)
         run.find("Looks like: mail quotes")
         self.assertFalse(run.shows("PowerButtons run several tools with one click"))
+
+    def test_the_tips_stand_beside_the_text(self):
+        self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "1")
+        run = self.start(MAIL)
+        run.window()
+
+        def area(title):
+            window = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True, text=True)
+            reply = subprocess.run(["xwininfo", "-id", window.stdout.split()[0]], capture_output=True, text=True)
+            x, y, width, height = (int(re.search(what + r": +(-?\d+)", reply.stdout)[1]) for what in
+                                   ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+            return x, y, x + width, y + height
+
+        tips = wait_for(lambda: area("Tips for Tolvo"), "the tips")
+        text = run.text_node().get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        apart = tips[2] <= text.x or tips[0] >= text.x + text.width or tips[3] <= text.y or tips[1] >= text.y + text.height
+        self.assertTrue(apart, f"{tips} over the text at {text.x}, {text.y}")
+        self.assertTrue(tips[0] >= 0 and tips[1] >= 0 and tips[2] <= 1280 and tips[3] <= 1024, tips)
+        run.main_is_active()
+        keys("alt+q")
+        run.ends()
+        wait_for(lambda: not self.settings.programs("Advisor.exe"), "the tips to leave")
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/SystemProcesses.h"
 #include "platform/headless/clipboard_line_ends.h"
+#include "platform/kept_free.h"
 #include "tests/support/failures.h"
 
 #include <QDir>
@@ -84,24 +85,51 @@ TEST(Processes, AStartedProgramInheritsNothing) {
     EXPECT_EQ(found, QStringList({u"0 /dev/null"_s, u"1 /dev/null"_s, u"2 /dev/null"_s}));
 }
 
-TEST(Processes, WhatIsHeldBackWaitsUntilItIsLetGo) {
-    for (const bool byItsEnd : {false, true}) {
-        QTemporaryDir folder;
-        const QString mark = folder.filePath(u"mark"_s);
-        auto processes = std::make_unique<SystemProcesses>();
-        const qint64 process = processes->start(
-            {.program = u"/bin/sh"_s,
-             .arguments = {u"-c"_s, u"cat; echo $TOLVO_HELD_BACK$TOLVO_ASKED_FOR >\"$0\""_s, mark},
-             .heldBack = true});
-        QThread::msleep(200);
-        EXPECT_FALSE(QFile::exists(mark));
-        if (byItsEnd)
-            processes.reset();
-        else
-            processes->letGo();
-        SystemProcesses().waitFor(process);
-        EXPECT_EQ(contentOf(mark), "1\n");
-    }
+TEST(Processes, WhatIsHeldBackHearsWhereItMayStandAndLeavesWithTheProgram) {
+    QTemporaryDir folder;
+    const QString mark = folder.filePath(u"mark"_s);
+    auto processes = std::make_unique<SystemProcesses>();
+    const qint64 process = processes->start(
+        {.program = u"/bin/sh"_s,
+         .arguments =
+             {u"-c"_s,
+              u"read line; echo \"$line\" $TOLVO_HELD_BACK$TOLVO_ASKED_FOR >\"$0\"; cat; echo end >>\"$0\""_s,
+              mark},
+         .heldBack = true});
+    QThread::msleep(200);
+    EXPECT_FALSE(QFile::exists(mark));
+    processes->letGo({{1, 2, 3, 4}, {5, 6, 7, 8}});
+    for (int tries = 0; tries < 100 && !contentOf(mark).endsWith('\n'); ++tries)
+        QThread::msleep(50);
+    EXPECT_EQ(contentOf(mark), "1 2 3 4 5 6 7 8 1\n");
+    processes.reset();
+    SystemProcesses().waitFor(process);
+    EXPECT_EQ(contentOf(mark), "1 2 3 4 5 6 7 8 1\nend\n");
+}
+
+TEST(KeptFree, PlacesAWindowBesideWhatMustStayVisible) {
+    const QRect screen(0, 0, 1000, 800);
+    const QSize size(200, 100);
+    const struct {
+        QList<QRect> areas;
+        QPoint corner;
+    } rows[] = {
+        {{{100, 50, 600, 500}}, {708, 50}},                    // right
+        {{{300, 50, 600, 500}}, {92, 50}},                     // left
+        {{{100, 50, 800, 500}}, {100, 558}},                   // below
+        {{{100, 250, 800, 500}}, {100, 142}},                  // above
+        {{{100, 750, 600, 500}}, {708, 700}},                  // within the screen
+        {{{50, 50, 900, 700}, {300, 50, 650, 700}}, {0, 50}},  // over the rest of the window
+        {{{0, 0, 1000, 800}, {50, 50, 900, 700}}, {800, 700}}, // nowhere
+        {{}, {800, 700}},
+    };
+    for (const auto &row : rows)
+        EXPECT_TRUE(placeBeside(row.areas, size, screen) == row.corner)
+            << writtenAreas(row.areas).toStdString();
+    const QList<QRect> areas{{-5, 2, 3, 4}, {5, 6, 7, 8}};
+    EXPECT_TRUE(readAreas(writtenAreas(areas)) == areas);
+    EXPECT_TRUE(readAreas("1 2 3\n").isEmpty());
+    EXPECT_TRUE(readAreas("a b c d\n").isEmpty());
 }
 
 } // namespace tolvo
