@@ -89,6 +89,9 @@ class frmMain : private SearchHost, private ProofingHost {
     void takeClipboard();
     /// Takes a text into the text box; with `tellOfCut` says first that the clipboard holds too much.
     void takeText(const QString &text, bool tellOfCut);
+    /// A text file takes the place of the text, as a step that undo takes back; of several the first does. A
+    /// file that is no text is refused with a message.
+    void takeFiles(const QStringList &paths);
     /// What would be pasted, with `selection` by the middle mouse button; nothing if the clipboard doesn't
     /// answer, which the status line then says.
     [[nodiscard]] std::optional<QString> clipboardText(bool selection = false);
@@ -192,6 +195,7 @@ class frmMain : private SearchHost, private ProofingHost {
     [[nodiscard]] CloseAnswer askAboutChanges();
     void showOtherState(bool (TextHistory::*walk)(TextState &));
     void swapFonts();
+    void sayTooLong(const QString &what, qsizetype length);
     void hideWindow();
     void countTool(const QString &token);
     /// ToolDespatcher and imgPower_Click for callers inside the session: failures go on.

@@ -5,10 +5,12 @@
 #include "base/application.h"
 #include "base/numbers.h"
 #include "base/strings.h"
+#include "platform/headless/clipboard_line_ends.h"
 #include "platform/text_positions.h"
 #include "preferences/options.h"
 #include "shell/search_tools.h"
 #include "shell/selection_tools.h"
+#include "shell/text_file.h"
 #include "text/top_level_domains.h"
 
 namespace tolvo {
@@ -46,15 +48,38 @@ std::optional<QString> frmMain::clipboardText(bool selection) {
 }
 
 void frmMain::takeText(const QString &text, bool tellOfCut) {
-    if (tellOfCut) {
-        say(FillTemplate(
-                QStringLiteral("The text on the Clipboard exceeds the number of characters that Tolvo\r\n"
-                               "can process (%0). There are %1 characters.\r\n"
-                               "Tolvo has truncated the text. Some characters have been lost."),
-                {groupedNumber(textLimit), groupedNumber(text.size())}),
-            BoxIcon::Exclamation);
-    }
+    if (tellOfCut)
+        sayTooLong(QStringLiteral("The text on the Clipboard"), text.size());
     txtCurrent().setText(cutToRoom(text, txtCurrent().capacity(), 0).toString()); // as the box would cut it
+}
+
+void frmMain::sayTooLong(const QString &what, qsizetype length) {
+    say(FillTemplate(QStringLiteral("%0 exceeds the number of characters that Tolvo\r\n"
+                                    "can process (%1). There are %2 characters.\r\n"
+                                    "Tolvo has truncated the text. Some characters have been lost."),
+                     {what, groupedNumber(textLimit), groupedNumber(length)}),
+        BoxIcon::Exclamation);
+}
+
+void frmMain::takeFiles(const QStringList &paths) {
+    if (paths.isEmpty())
+        return;
+    guarded(u"takeFiles", [&] {
+        setStatus({});
+        const TextFile file = readTextFile(paths.front());
+        if (!file.text) {
+            say(file.refusal, BoxIcon::Exclamation);
+            return;
+        }
+        pushUndo();
+        const QString text = ClipboardLineEnds::comeIn(*file.text);
+        if (tooLong(text))
+            sayTooLong(QStringLiteral("The text of the file"), text.size());
+        takeText(text, false);
+        noteText();
+        const QString taken = QStringLiteral("Text taken from ") + file.name;
+        setStatus(paths.size() == 1 ? taken : taken + QStringLiteral(", the first of the files"));
+    });
 }
 
 void frmMain::beginWithClipboard() {

@@ -91,6 +91,10 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     /// as long as the owner takes.
     std::function<std::optional<QString>(bool selection)> readForPaste;
 
+    /// Takes files of this machine that are dropped; called once the drop is over, since a message box within
+    /// it would block the program that drops. If this is not set, their names are inserted.
+    std::function<void(const QStringList &paths)> onFilesDropped;
+
   protected:
     void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;

@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QUrl>
 
 namespace tolvo {
 
@@ -44,6 +45,15 @@ const QMimeData *mimeDataOf(QClipboard::Mode mode) {
 /// Whether a text is pasted, not dropped.
 bool isPasted(const QMimeData *source) {
     return source == mimeDataOf(QClipboard::Clipboard) || source == mimeDataOf(QClipboard::Selection);
+}
+
+QStringList localFiles(const QMimeData &data) {
+    QStringList paths;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile())
+            paths += url.toLocalFile();
+    }
+    return paths;
 }
 
 } // namespace
@@ -130,6 +140,15 @@ void PlainTextBox::pasteFromReader(bool selection) {
 }
 
 void PlainTextBox::dropEvent(QDropEvent *event) {
+    if (const QStringList paths = localFiles(*event->mimeData()); onFilesDropped && !paths.isEmpty()) {
+        QDragLeaveEvent left; // takes the mark of the place away
+        QPlainTextEdit::dragLeaveEvent(&left);
+        event->setDropAction(Qt::CopyAction); // the file stays where it is
+        event->accept();
+        QMetaObject::invokeMethod(
+            this, [this, paths] { onFilesDropped(paths); }, Qt::QueuedConnection);
+        return;
+    }
     const QScopedValueRollback atOnce(m_userEdit.atOnce, true);
     m_editing = true; // the caret moves to the place of the drop first
     QPlainTextEdit::dropEvent(event);

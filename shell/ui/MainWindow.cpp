@@ -19,6 +19,8 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox, const ClipboardLine
     m_textView = new TextView(session, {m_txtText1, m_txtTextWW}, *m_statusBar, lineEnds);
     connectAltLetters();
     watchButtons();
+    for (PlainTextBox *box : {m_txtText1, m_txtTextWW})
+        box->onFilesDropped = [this](const QStringList &paths) { m_session->takeFiles(paths); };
     m_panel->onClick = [this](int row, bool right) {
         m_session->bRightButton = right;
         m_session->lblToolbox_Click(*m_toolbox, row);

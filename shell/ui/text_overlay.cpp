@@ -31,8 +31,8 @@ TextOverlay::TextOverlay(PlainTextBox &box, PlainTextBox::Lines lines)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_title);
     layout->addWidget(m_text, 1);
+    layout->addWidget(m_title); // below: every line stays where the box has it
     m_box.installEventFilter(this);
 }
 

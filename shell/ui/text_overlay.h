@@ -18,7 +18,7 @@ class TextOverlay : public QWidget {
     /// Lies over `box`, which shows its lines as `lines` says, and goes with it. Hidden at first.
     TextOverlay(PlainTextBox &box, PlainTextBox::Lines lines);
 
-    /// Shows a text with its selection, and says above it what it is: "Text before Title Case". The first
+    /// Shows a text with its selection, and says below it what it is: "Text before Title Case". The first
     /// time it is scrolled as the box is; from then on it stays in its place.
     void showText(const TextState &state, const QString &title);
     void setTint(const QList<Stretch> &stretches) { m_text->setTint(stretches); }

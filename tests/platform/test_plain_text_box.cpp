@@ -50,6 +50,9 @@ class User : public testing::Test {
     void drops(const QString &text) {
         QMimeData data;
         data.setText(text);
+        drops(data);
+    }
+    void drops(const QMimeData &data) {
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(box.viewport(), &enter);
         QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -119,6 +122,23 @@ TEST_F(User, TypesUpToTheCapacity) {
     presses(Qt::Key_Backspace);
     presses(Qt::Key_Return);
     EXPECT_EQ(box.Text(), u"bcd\r\n"_s);
+}
+
+TEST_F(User, DropsFilesForWhoeverTakesThem) {
+    box.setText(u"text"_s);
+    QMimeData files;
+    files.setUrls({QUrl(u"file:///a/b%20c.txt"_s), QUrl(u"https://example.org/"_s), QUrl(u"file:///d"_s)});
+    QStringList taken;
+    box.onFilesDropped = [&taken](const QStringList &paths) { taken += paths; };
+    drops(files);
+    EXPECT_EQ(taken, QStringList()) << "while the other program waits";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(taken, QStringList({u"/a/b c.txt"_s, u"/d"_s}));
+    EXPECT_EQ(box.Text(), u"text"_s);
+    QMimeData link;
+    link.setUrls({QUrl(u"https://example.org/"_s)});
+    drops(link);
+    EXPECT_EQ(box.Text(), u"https://example.org/text"_s);
 }
 
 TEST_F(User, GetsOfPasteDropAndInputMethodWhatFits) {
