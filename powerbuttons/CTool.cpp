@@ -11,6 +11,10 @@ void CTool::init(const QString &name, const QString &token, const QString &toolt
     m_gotDialog = gotDialog;
 }
 
+QString CTool::plainName() const {
+    return m_name.endsWith(QLatin1StringView("...")) ? m_name.chopped(3) : m_name;
+}
+
 ToolPtr makeTool(const QString &name, const QString &token, const QString &tooltip, bool gotDialog) {
     auto tool = std::make_shared<CTool>();
     tool->init(name, token, tooltip, gotDialog);

@@ -13,6 +13,8 @@ class CTool {
     void init(const QString &name, const QString &token, const QString &tooltip, bool gotDialog);
 
     [[nodiscard]] const QString &Name() const { return m_name; }
+    /// The name without the dots that stand for a dialog.
+    [[nodiscard]] QString plainName() const;
     /// The key of the tool, ">" for a group heading.
     [[nodiscard]] const QString &Token() const { return m_token; }
     [[nodiscard]] const QString &Tooltip() const { return m_tooltip; }

@@ -150,6 +150,11 @@ struct HintKeys {
     Setting<forms::Check> powerButtonHint{section, u"PowerButtons", true}; // until it is closed
 };
 
+/// What the dialogs of the tools show.
+struct PreviewKeys {
+    Setting<forms::Check> inText{{u"Preview"}, u"InText", false}; // of the main window
+};
+
 /// The statistics tree. All counters but those of the totals begin anew with each period.
 struct StatisticsKeys {
     static constexpr Section usage{u"Usage", SettingsTree::Statistics};
@@ -175,6 +180,7 @@ struct Keys {
     StatisticsKeys statistics;
     ViewKeys view;
     HintKeys hints;
+    PreviewKeys preview;
 };
 
 inline constexpr Keys settingKeys{};

@@ -160,6 +160,8 @@ class frmMain : private SearchHost, private ProofingHost {
     void initIcons();
     /// Runs, or with bRightButton edits, the PowerButton of an index from 0.
     void imgPower_Click(int index);
+    /// Adds a tool as the last step of the PowerButton of an index from 0 (powerbuttons/add_step.h).
+    void addToPowerButton(int index, const QString &token);
     /// Runs one Action with its stored settings. Failures are reported and go no further.
     void PowerButtonDespatcher(const CAction &action);
     /// Runs Actions one after another, each the way that its tool and its dialog option say; `beforeEach` is

@@ -3,6 +3,7 @@
 #include "base/conversions.h"
 #include "base/strings.h"
 #include "powerbuttons/CPowerButtonMethods.h"
+#include "powerbuttons/add_step.h"
 #include "powerbuttons/circular_check.h"
 #include "shell/finder_entries.h"
 #include "shell/frmMain.h"
@@ -147,6 +148,18 @@ void frmMain::refreshPowerButtons() {
         m_services.oPowerButtons.Add(stored, number);
         m_services.view.powerButtonChanged(number - 1);
     }
+}
+
+void frmMain::addToPowerButton(int index, const QString &token) {
+    guarded(u"addToPowerButton", [&] {
+        refreshPowerButtons(); // as another run may have defined them
+        const bool added = addStep(m_services.oPowerButtons, m_services.oPBMethods,
+                                   m_services.oTools.tool(token), index + 1);
+        m_services.view.powerButtonChanged(index);
+        setStatus(FillTemplate(added ? QStringLiteral("%0 added to PowerButton %1")
+                                     : QStringLiteral("%0 can be added in the editor of PowerButton %1"),
+                               {toolName(token), QString::number(index + 1)}));
+    });
 }
 
 void frmMain::runAction(const CAction &action) {

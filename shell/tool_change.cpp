@@ -12,10 +12,7 @@ namespace tolvo {
 
 QString frmMain::toolName(const QString &token) const {
     const ToolPtr tool = m_services.oTools.tool(token);
-    QString name = tool ? tool->Name() : token;
-    if (name.endsWith(QLatin1StringView("...")))
-        name.chop(3);
-    return name;
+    return tool ? tool->plainName() : token;
 }
 
 QString frmMain::favouriteName(const QString &tag) const {

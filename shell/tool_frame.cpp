@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The frame through which every tool runs: undo, counters, status, and the selection rule.
 #include "base/failure.h"
+#include "platform/headless/MemoryTextBox.h"
 #include "shell/cToolbox.h"
 #include "shell/finder_entries.h"
 #include "shell/frmMain.h"
 #include "shell/selection_tools.h"
 #include "shell/tool_call.h"
+#include "shell/tool_preview.h"
 
 #include <limits>
 
@@ -63,6 +65,11 @@ void writeResult(TextBox &box, const ToolInput &input, const QString &result, Se
         select(box, input.start, static_cast<int>(input.text.size()));
 }
 
+class SilentHost final : public TextHost {
+    void setStatus(const QString &) override {}
+    void warn(const QString &, const QString &) override {}
+};
+
 /// A sort can't work on the text, which stays.
 void refuse(const ToolRow &row, const ToolCall &call, bool selected) {
     const bool saysSo = row.refusal.when == SortRefusal::When::Always || !selected;
@@ -116,6 +123,22 @@ void runToolRow(const ToolRow &row, const ToolCall &call) {
     } else if (const auto settings = settingsFor(call, operation.settings())) {
         runTextOperation(row, call, &*settings);
     }
+}
+
+std::optional<TextState> textAfterTool(const ToolRow &row, const ToolSettings &settings,
+                                       const cTextMethods &engine, const TextBox &present) {
+    if (!row.operation.run || !row.operation.settings || row.operation.settings().index() != settings.index())
+        return std::nullopt;
+    MemoryTextBox box(present.capacity());
+    restore(box, textState(present));
+    SilentHost host;
+    const ToolContext context{engine, box, host};
+    const ToolInput input = toolInput(context, row, &settings);
+    const std::optional<QString> result = row.operation.run(input);
+    if (!result)
+        return std::nullopt;
+    writeResult(box, input, *result, row.rule.length);
+    return textState(box);
 }
 
 ToolCall frmMain::toolCall(const CAction *action) {

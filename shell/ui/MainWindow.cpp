@@ -25,6 +25,9 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox, const ClipboardLine
         m_session->bRightButton = right;
         m_session->lblToolbox_Click(*m_toolbox, row);
     };
+    m_powerButtons->onToolDropped = [this](int index, const QString &token) {
+        m_session->addToPowerButton(index, token);
+    };
     m_powerButtons->onClick = [this](int index, bool right) {
         m_session->bRightButton = right;
         m_session->imgPower_Click(index);

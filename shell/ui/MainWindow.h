@@ -51,6 +51,7 @@ class MainWindow : public QWidget, public SessionView {
     /// Shows a hint where there is no text.
     void showEmptyTextHint(const QString &hint);
     [[nodiscard]] PanelView &panel() { return *m_panel; }
+    [[nodiscard]] ChangeView &changeView() { return *m_changeView; }
     [[nodiscard]] ToolFinderView &toolFinder() { return *m_toolFinder; }
     /// The width of the column left of the text, in pixels.
     [[nodiscard]] int panelWidth() const;

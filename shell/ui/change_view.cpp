@@ -10,6 +10,19 @@
 
 namespace tolvo {
 
+namespace {
+
+QList<Stretch> changedStretches(const QString &before, const QString &after) {
+    const QList<ChangedPlace> places = changedPlaces(before, after);
+    QList<Stretch> stretches;
+    stretches.reserve(places.size());
+    for (const ChangedPlace &place : places)
+        stretches += {static_cast<int>(place.start), static_cast<int>(place.length)};
+    return stretches;
+}
+
+} // namespace
+
 ChangeView::ChangeView(std::array<PlainTextBox *, 2> boxes, QObject *parent)
     : QObject(parent), m_boxes(boxes) {
     m_tintEnds.setSingleShot(true);
@@ -23,15 +36,27 @@ ChangeView::ChangeView(std::array<PlainTextBox *, 2> boxes, QObject *parent)
 
 qsizetype ChangeView::showPlaces(const ToolChange &change) {
     PlainTextBox &box = *m_boxes.at(shown());
-    const QString text = box.Text();
-    const QList<ChangedPlace> places = changedPlaces(change.before.text, text);
-    QList<Stretch> tint;
-    tint.reserve(places.size());
-    for (const ChangedPlace &place : places)
-        tint += {static_cast<int>(place.start), static_cast<int>(place.length)};
-    box.setTint(tint);
+    const QList<Stretch> places = changedStretches(change.before.text, box.Text());
+    box.setTint(places);
     m_tintEnds.start(tintTime);
     return places.size();
+}
+
+void ChangeView::showInstead(const TextState &state, const QString &title) {
+    endPlaces();
+    TextOverlay &shownInstead = overlay();
+    shownInstead.setTint({});
+    shownInstead.showText(state, title);
+    shownInstead.setTint(changedStretches(m_boxes.at(shown())->Text(), state.text));
+}
+
+void ChangeView::endInstead() {
+    for (TextOverlay *overlay : m_overlays) {
+        if (overlay == nullptr)
+            continue;
+        overlay->setTint({});
+        overlay->hide();
+    }
 }
 
 void ChangeView::endPlaces() {
@@ -62,10 +87,7 @@ bool ChangeView::beginTextBefore(const ToolChange *change) {
 void ChangeView::endTextBefore() {
     qApp->removeEventFilter(this);
     m_held = false;
-    for (TextOverlay *overlay : m_overlays) {
-        if (overlay != nullptr)
-            overlay->hide();
-    }
+    endInstead();
 }
 
 bool ChangeView::endsTextBefore(const QEvent &event) const {

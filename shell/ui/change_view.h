@@ -29,6 +29,11 @@ class ChangeView : public QObject {
     /// pressed, or the window is left. Null shows nothing. True where this begins, false while it lasts.
     bool beginTextBefore(const ToolChange *change);
 
+    /// Shows another text in the place of the shown box's, with the places tinted where it differs.
+    void showInstead(const TextState &state, const QString &title);
+    /// The text shows as it is.
+    void endInstead();
+
     /// The overlay of the shown box, made at its first use.
     [[nodiscard]] TextOverlay &overlay();
 

@@ -4,6 +4,7 @@
 #include "shell/tool_table.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/desktop_dialogs.h"
+#include "shell/ui/window_preview.h"
 #include "spelling/ui/dlgDicQuickList.h"
 #include "text/ui/tool_dialogs.h"
 
@@ -14,7 +15,12 @@ ToolDialogContext DesktopDialogs::toolDialogContext() {
 }
 
 bool DesktopDialogs::askToolSettings(ToolSettings &settings) {
-    return askInToolDialog(settings, toolDialogContext());
+    ToolDialogContext context = toolDialogContext();
+    const ToolRow *row = toolRow(m_session->sLastTool);
+    std::optional<WindowPreview> preview;
+    if (row)
+        context.preview = &preview.emplace(*m_session, m_parent.changeView(), *row);
+    return askInToolDialog(settings, context);
 }
 
 std::optional<QString> DesktopDialogs::getSettings(const QString &token, const QString &details) {

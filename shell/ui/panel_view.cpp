@@ -5,6 +5,7 @@
 #include "shell/ui/any_click.h"
 #include "shell/ui/panel_accessibility.h"
 #include "shell/ui/row_painting.h"
+#include "shell/ui/tool_drag.h"
 #include "widgets/themed_icon.h"
 
 #include <QKeyEvent>
@@ -111,6 +112,7 @@ PanelView::PanelView(QWidget *parent) : QFrame(parent) {
             if (onClick)
                 onClick(i + 1, right);
         });
+        new ToolDrag(*row);
         layout->addWidget(row);
         m_rows.at(static_cast<size_t>(i)) = row;
     }

@@ -5,10 +5,12 @@
 #include "powerbuttons/step_words.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "shell/ui/any_click.h"
+#include "shell/ui/tool_drag.h"
 #include "widgets/contrast.h"
 #include "widgets/grid.h"
 #include "widgets/themed_icon.h"
 
+#include <QDropEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPainterPath>
@@ -37,6 +39,7 @@ PowerButtonImage::PowerButtonImage(int number, QWidget *parent) : QAbstractButto
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
+    setAcceptDrops(true);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
@@ -60,13 +63,36 @@ void PowerButtonImage::showButton(const CPowerButton &button) {
     update();
 }
 
+void PowerButtonImage::dragEnterEvent(QDragEnterEvent *event) {
+    if (tokenOf(event->mimeData()).isEmpty())
+        return;
+    event->acceptProposedAction();
+    showTaking(true);
+}
+
+void PowerButtonImage::dragLeaveEvent(QDragLeaveEvent *) {
+    showTaking(false);
+}
+
+void PowerButtonImage::dropEvent(QDropEvent *event) {
+    showTaking(false);
+    event->acceptProposedAction();
+    if (onToolDropped)
+        onToolDropped(tokenOf(event->mimeData()));
+}
+
+void PowerButtonImage::showTaking(bool taking) {
+    m_taking = taking;
+    update();
+}
+
 void PowerButtonImage::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const int side = std::min(width(), height());
     QRectF tile(0, 0, side, side);
     tile.moveCenter(QRectF(rect()).center());
-    const bool chosen = underMouse() || hasFocus() || isDown();
+    const bool chosen = underMouse() || hasFocus() || isDown() || m_taking;
     QPen edge(chosen ? accent(palette()) : edgeColour(palette()), chosen ? 2 : 1);
     if (m_button.isDefined()) {
         const QRectF icon = tile.adjusted(frame, frame, -frame, -frame);
@@ -88,6 +114,13 @@ void PowerButtonImage::paintEvent(QPaintEvent *) {
     painter.drawRoundedRect(tile.adjusted(inset, inset, -inset, -inset), 4, 4);
     if (m_button.isDefined() && !iconOf(m_button).text.trimmed().isEmpty())
         paintBadge(painter, tile); // without a text the number is the icon
+    if (m_taking && m_button.isDefined()) {
+        const qreal inside = tile.width() / 6;
+        painter.setPen(QPen(Qt::white, 2));
+        painter.setBrush(accent(QPalette(Qt::white)));
+        painter.drawEllipse(tile.adjusted(inside, inside, -inside, -inside));
+        paintPlus(painter, tile);
+    }
 }
 
 /// The number in the corner. The icon's ground is white under every theme, and so the badge has the same
@@ -108,15 +141,19 @@ void PowerButtonImage::paintBadge(QPainter &painter, const QRectF &tile) const {
 
 /// The number; a plus where a click will define the button.
 void PowerButtonImage::paintEmpty(QPainter &painter, const QRectF &tile) const {
-    if (!underMouse()) {
+    if (!underMouse() && !m_taking) {
         painter.setPen(mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText),
                              textContrast + 0.5));
         painter.drawText(tile, Qt::AlignCenter, QString::number(m_number));
         return;
     }
+    painter.setPen(QPen(accent(palette()), 2));
+    paintPlus(painter, tile);
+}
+
+void PowerButtonImage::paintPlus(QPainter &painter, const QRectF &tile) const {
     const qreal arm = tile.width() / 5;
     const QPointF middle = tile.center();
-    painter.setPen(QPen(accent(palette()), 2));
     painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
     painter.drawLine(middle - QPointF(0, arm), middle + QPointF(0, arm));
 }
@@ -134,6 +171,10 @@ PowerButtonBar::PowerButtonBar(QWidget *parent) : QWidget(parent) {
             if (onClick)
                 onClick(i, right);
         });
+        image->onToolDropped = [this, i](const QString &token) {
+            if (onToolDropped)
+                onToolDropped(i, token);
+        };
         layout->addWidget(image);
         m_images[static_cast<std::size_t>(i)] = image;
     }

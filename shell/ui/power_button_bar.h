@@ -20,14 +20,23 @@ class PowerButtonImage : public QAbstractButton {
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+    /// A tool was dropped on it.
+    std::function<void(const QString &token)> onToolDropped;
+
   protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
   private:
+    void showTaking(bool taking);
+    void paintPlus(QPainter &painter, const QRectF &tile) const;
     void paintBadge(QPainter &painter, const QRectF &tile) const;
     void paintEmpty(QPainter &painter, const QRectF &tile) const;
 
     int m_number;
+    bool m_taking = false; ///< a tool is held over it
     CPowerButton m_button;
 };
 
@@ -41,6 +50,8 @@ class PowerButtonBar : public QWidget {
 
     /// Called with the index from 0 and whether the right button was used.
     std::function<void(int index, bool right)> onClick;
+    /// A tool was dropped on the button of an index from 0.
+    std::function<void(int index, const QString &token)> onToolDropped;
 
   private:
     std::array<PowerButtonImage *, CPowerButtonCollection::buttonCount> m_images{};

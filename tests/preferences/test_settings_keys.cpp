@@ -44,10 +44,13 @@ auto membersOf(const Struct &all) {
     } else if constexpr (count == 11) {
         const auto &[a, b, c, d, e, f, g, h, i, j, k] = all;
         return std::tie(a, b, c, d, e, f, g, h, i, j, k);
-    } else {
-        static_assert(count == 12, "a struct of another size needs a line of its own");
+    } else if constexpr (count == 12) {
         const auto &[a, b, c, d, e, f, g, h, i, j, k, l] = all;
         return std::tie(a, b, c, d, e, f, g, h, i, j, k, l);
+    } else {
+        static_assert(count == 13, "a struct of another size needs a line of its own");
+        const auto &[a, b, c, d, e, f, g, h, i, j, k, l, m] = all;
+        return std::tie(a, b, c, d, e, f, g, h, i, j, k, l, m);
     }
 }
 

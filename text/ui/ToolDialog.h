@@ -15,6 +15,7 @@
 namespace tolvo {
 
 class MessageBoxes;
+class ToolPreview;
 class cTextMethods;
 
 /// What a dialog borrows; all of it outlives the dialog.
@@ -23,6 +24,7 @@ struct ToolDialogContext {
     MessageBoxes &boxes;
     QWidget *parent = nullptr;
     std::optional<Font> sampleFont = std::nullopt; ///< nothing: the dialog's own
+    ToolPreview *preview = nullptr;                ///< null where there is no text to show it in
 };
 
 class ToolDialog : public QDialog {

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "text/ui/tool_dialogs.h"
 
+#include "text/ui/preview_tick.h"
+
 namespace tolvo {
 
 bool askInToolDialog(ToolSettings &settings, const ToolDialogContext &context) {
     return std::visit(
         [&context](auto &values) {
             const auto dialog = makeToolDialog(values, context);
+            if (context.preview)
+                addPreviewTick(*dialog, *context.preview, [&] { return ToolSettings(dialog->settings()); });
             if (!dialog->ShowMe())
                 return false;
             values = dialog->settings();

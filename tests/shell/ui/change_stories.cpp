@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What the window shows of the changes that tools make.
 #include "shell/ui/change_view.h"
+#include "shell/ui/tool_drag.h"
 #include "tests/shell/ui/MainWindowStory.h"
 #include "widgets/contrast.h"
 
 #include <QAbstractButton>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
@@ -85,6 +88,64 @@ TEST_F(ChangeStory, theTextBeforeShowsWhileItsKeyIsHeld) {
         }
         QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(text()->toPlainText(), u"the cat\n"_s.repeated(200)) << "undo knows nothing of it";
+        close();
+    });
+}
+
+TEST_F(ChangeStory, theDialogOfAToolShowsWhatItWouldMakeOfTheText) {
+    run(u"one\ntwo"_s, [] {
+        const auto shown = [] { return child<PlainTextBox>(*overlay(), "txtOverlay").Text(); };
+        const auto indent = [](const std::function<void(QDialog &)> &act) {
+            withModal<QDialog>(act);
+            child<QAbstractButton>(*window(), "imgFavourites_0").click();
+        };
+        indent([&](QDialog &dialog) {
+            EXPECT_EQ(overlay(), nullptr) << "not asked for";
+            auto &tick = child<QAbstractButton>(dialog, "chkPreview");
+            tick.click();
+            EXPECT_TRUE(QTest::qWaitFor([] { return overlay() && overlay()->isVisible(); }));
+            EXPECT_EQ(shown(), u"\tone\r\n\ttwo"_s);
+            tick.click();
+            EXPECT_TRUE(QTest::qWaitFor([] { return !overlay()->isVisible(); }));
+            tick.click();
+            dialog.reject();
+        });
+        EXPECT_FALSE(overlay()->isVisible());
+        EXPECT_EQ(text()->toPlainText(), u"one\ntwo"_s);
+        EXPECT_FALSE(text()->document()->isModified());
+        indent([&](QDialog &dialog) {
+            EXPECT_TRUE(QTest::qWaitFor([] { return overlay()->isVisible(); })) << "as chosen the last time";
+            child<QAbstractButton>(dialog, "optTab_1").click();
+            EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == u"    one\r\n    two"_s; }))
+                << shown().toStdString();
+            dialog.accept();
+        });
+        EXPECT_FALSE(overlay()->isVisible());
+        EXPECT_EQ(text()->toPlainText(), u"    one\n    two"_s);
+        QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(text()->toPlainText(), u"one\ntwo"_s) << "one step of undo";
+        close();
+    });
+}
+
+TEST_F(ChangeStory, aToolIsDroppedOnAPowerButton) {
+    run(u"text"_s, [this] {
+        auto &button = child<QAbstractButton>(*window(), "imgPower_4");
+        const std::unique_ptr<QMimeData> tool(draggedTool(u"ccUPP"_s));
+        QMimeData words;
+        words.setText(u"words"_s);
+        for (const QMimeData *data :
+             {static_cast<const QMimeData *>(&words), static_cast<const QMimeData *>(tool.get())}) {
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
+            enter.ignore();
+            QApplication::sendEvent(&button, &enter);
+            EXPECT_EQ(enter.isAccepted(), data == tool.get());
+        }
+        QDropEvent drop({5, 5}, Qt::CopyAction, tool.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(&button, &drop);
+        EXPECT_EQ(button.accessibleName(), u"PowerButton 5: UPPER CASE"_s);
+        button.click();
+        EXPECT_EQ(text()->toPlainText(), u"TEXT"_s);
         close();
     });
 }
