@@ -10,6 +10,7 @@
 #include "shell/ui/window_memory.h"
 
 #include <QApplication>
+#include <QStyle>
 #include <QTimer>
 #include <utility>
 
@@ -19,6 +20,11 @@ namespace {
 
 constexpr int timeOfACommit = 200; // milliseconds, with a slow disk
 constexpr int timeOfPlacing = 300; // milliseconds
+
+/// False where the desktop asks for less motion, as far as the toolkit hears of it.
+bool wantsMotion(const QWidget &window) {
+    return window.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &window) > 0;
+}
 
 } // namespace
 
@@ -76,7 +82,11 @@ void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
                                   sAppPath(m_services.programFolder) + QStringLiteral("OtherWords.txt"));
     m_dialogs.attach(session);
     toolbox.setHooks({.rowsChanged = [this, &toolbox] { m_window->panel().showRows(toolbox); },
-                      .delay = [](int milliseconds) { MainWindow::delay(milliseconds); }});
+                      .delay =
+                          [this](int milliseconds) {
+                              if (wantsMotion(*m_window))
+                                  MainWindow::delay(milliseconds);
+                          }});
 }
 
 bool DesktopSession::takesClipboardLater() {

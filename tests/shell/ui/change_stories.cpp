@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QProxyStyle>
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
@@ -124,6 +125,34 @@ TEST_F(ChangeStory, theDialogOfAToolShowsWhatItWouldMakeOfTheText) {
         EXPECT_EQ(text()->toPlainText(), u"    one\n    two"_s);
         QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(text()->toPlainText(), u"one\ntwo"_s) << "one step of undo";
+        close();
+    });
+}
+
+class StillStyle : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *more) const override {
+        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
+
+TEST_F(ChangeStory, thePanelOpensAtOnceWhereMotionIsNotWanted) {
+    run(u"text"_s, [] {
+        const auto waitsInBetween = [] {
+            bool waited = false;
+            QTimer event;
+            event.callOnTimeout([&waited] { waited = true; });
+            event.start(0);
+            child<QAbstractButton>(*window(), "lblToolbox_1").click();
+            return waited;
+        };
+        EXPECT_TRUE(waitsInBetween());
+        StillStyle still;
+        window()->setStyle(&still);
+        EXPECT_FALSE(waitsInBetween());
+        EXPECT_EQ(child<QAbstractButton>(*window(), "lblToolbox_2").accessibleName(), u"Clean & Replace"_s);
+        window()->setStyle(nullptr);
         close();
     });
 }
