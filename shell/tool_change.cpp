@@ -42,7 +42,7 @@ bool frmMain::isToChangeText(const CPowerButton &button) const {
 }
 
 void frmMain::showTextBefore() {
-    m_services.view.showTextBefore(m_lastChange ? &*m_lastChange : nullptr);
+    m_services.view.showTextBefore(lastChange() ? &*lastChange() : nullptr);
 }
 
 } // namespace tolvo

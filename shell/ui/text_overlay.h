@@ -22,7 +22,6 @@ class TextOverlay : public QWidget {
     /// time it is scrolled as the box is; from then on it stays in its place.
     void showText(const TextState &state, const QString &title);
     void setTint(const QList<Stretch> &stretches) { m_text->setTint(stretches); }
-    [[nodiscard]] PlainTextBox &text() { return *m_text; }
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
