@@ -11,7 +11,8 @@ namespace tolvo {
 
 enum class WindowMode { Normal, NormalWithoutFocus, Hidden, Minimised };
 
-/// Environment variables that pass heldBack and askedFor below on to a companion. A companion that is held
+/// Environment variables that pass heldBack (as the number of this process) and askedFor below on to a
+/// companion. A companion that is held
 /// back shows its window once a line of its standard input says where (platform/kept_free.h), and ends with
 /// that input.
 inline constexpr const char *heldBackVariable = "TOLVO_HELD_BACK";

@@ -2,6 +2,7 @@
 #include "companions/ui/AdvisorWindow.h"
 
 #include "base/application.h"
+#include "companions/tip_links.h"
 #include "platform/kept_free.h"
 #include "widgets/themed_icon.h"
 
@@ -100,6 +101,16 @@ QWidget *AdvisorWindow::makePage() {
     return page;
 }
 
+void AdvisorWindow::offerTools(const QList<Catalogue::PanelItem> &tools,
+                               std::function<void(const QString &)> run) {
+    m_tools = tools;
+    m_text->setTextFormat(Qt::RichText);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse |
+                                    Qt::LinksAccessibleByKeyboard);
+    connect(m_text, &QLabel::linkActivated, this, std::move(run));
+    showTip();
+}
+
 void AdvisorWindow::showBeside(const QList<QRect> &areas) {
     const QScreen *screen = areas.isEmpty() ? nullptr : QGuiApplication::screenAt(areas.first().center());
     if (screen != nullptr) {
@@ -113,7 +124,8 @@ void AdvisorWindow::showBeside(const QList<QRect> &areas) {
 
 void AdvisorWindow::showTip() {
     m_title->setText(QString::fromUtf16(m_walk.tip().title));
-    m_text->setText(QString::fromUtf16(m_walk.tip().text));
+    const QString text = QString::fromUtf16(m_walk.tip().text);
+    m_text->setText(m_tools.isEmpty() ? text : withToolLinks(text, m_tools));
     m_number->setText(QStringLiteral("Tip %1 of %2").arg(m_walk.place() + 1).arg(tips().size()));
 }
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Advisor.exe: tips, one at a time. A second one that is started while the first is open ends at once. One
 // that is held back shows its window when whoever started it lets go, and leaves with it.
+#include "base/failure.h"
+#include "base/paths.h"
 #include "companions/ui/AdvisorWindow.h"
 #include "platform/kept_free.h"
 #include "platform/processes.h"
+#include "preferences/settings_keys.h"
 #include "preferences/settings_store.h"
 #include "widgets/dress_application.h"
 
@@ -13,6 +16,24 @@
 #include <array>
 #include <unistd.h>
 #include <utility>
+
+namespace {
+
+/// A tool that is clicked runs in the session that has started the tips; the settings pass it on.
+void offerTools(tolvo::AdvisorWindow &window, tolvo::SettingsStore &store, const QString &run) {
+    using namespace tolvo;
+    try {
+        const QString folder = sAppPath(QCoreApplication::applicationDirPath());
+        window.offerTools(Catalogue::read(folder + Catalogue::fileName).panelItems(),
+                          [&store, run](const QString &token) {
+                              set(store, settingKeys.hints.toolOfTip, run + u' ' + token);
+                          });
+    } catch (const Failure &) {
+        // The tips can be read without it; the run has told what is wrong with the catalogue.
+    }
+}
+
+} // namespace
 
 int main(int argc, char **argv) {
     const QApplication application(argc, argv);
@@ -24,6 +45,9 @@ int main(int argc, char **argv) {
     if (!single.tryLock() && single.error() == QLockFile::LockFailedError)
         return 0;
     tolvo::AdvisorWindow window(store);
+    const QString run = qEnvironmentVariable(tolvo::heldBackVariable);
+    if (!run.isEmpty())
+        offerTools(window, store, run);
     QSocketNotifier gate(STDIN_FILENO, QSocketNotifier::Read);
     QByteArray said;
     const auto listen = [&] {
@@ -38,7 +62,7 @@ int main(int argc, char **argv) {
         if (said.endsWith('\n') && !window.isVisible())
             window.showBeside(tolvo::readAreas(std::exchange(said, {})));
     };
-    if (qEnvironmentVariableIsSet(tolvo::heldBackVariable)) {
+    if (!run.isEmpty()) {
         QObject::connect(&gate, &QSocketNotifier::activated, &window, listen);
     } else {
         gate.setEnabled(false);

@@ -45,7 +45,7 @@ qint64 SystemProcesses::start(const ProgramStart &start) {
         for (const auto &[said, variable] :
              {std::pair{start.heldBack, heldBackVariable}, {start.askedFor, askedForVariable}}) {
             if (said)
-                environment.insert(QLatin1StringView(variable), QStringLiteral("1"));
+                environment.insert(QLatin1StringView(variable), QString::number(getpid()));
         }
         process.setProcessEnvironment(environment);
     }

@@ -116,6 +116,25 @@ void DesktopSession::takeOverPowerButtons() {
         if (std::exchange(m_seenChanges, changes) != changes)
             m_session->refreshPowerButtons();
     });
+    m_session->guarded(u"runToolOfTip", [this] { runToolOfTip(); });
+}
+
+/// A tool that was clicked in the tips of this run.
+void DesktopSession::runToolOfTip() {
+    const QString asked = get(m_services.store, settingKeys.hints.toolOfTip);
+    const QString run = QString::number(QCoreApplication::applicationPid()) + u' ';
+    if (!asked.startsWith(run))
+        return;
+    set(m_services.store, settingKeys.hints.toolOfTip, QString());
+    const QString token = asked.sliced(run.size());
+    if (!m_session->services().oTools.tool(token))
+        return;
+    // The command is one of its own, after the present one.
+    QTimer::singleShot(0, m_window.get(), [this, token] {
+        m_window->bringToFront();
+        m_session->bRightButton = false;
+        m_session->ToolDespatcher(token);
+    });
 }
 
 void DesktopSession::bringBackWindow() {

@@ -39,6 +39,7 @@ class DesktopSession : public SessionWindow {
   private:
     void watchStore();
     void takeOverPowerButtons();
+    void runToolOfTip();
     void bringBackWindow();
     void keepWindow();
 

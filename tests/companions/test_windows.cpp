@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The windows of the companions, as a user meets them.
+#include "companions/tip_links.h"
 #include "companions/ui/AdvisorWindow.h"
 #include "companions/ui/BarChart.h"
 #include "companions/ui/TallyWindow.h"
+#include "preferences/settings_keys.h"
 #include "preferences/settings_store.h"
 #include "tests/ui/user.h"
 
@@ -46,6 +48,41 @@ TEST(Advisor, WalksThroughTheTipsAndIsSwitchedOff) {
     child<QWidget>(window, "cmdClose").setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST(Advisor, LinksTheToolsThatItNames) {
+    const QList<Catalogue::PanelItem> tools{{u"Group"_s, u">"_s, {}},
+                                            {u"Trim lines"_s, u"foTRM"_s, {}},
+                                            {u"Trim"_s, u"t"_s, {}},
+                                            {u"Word wrap..."_s, u"foWRP"_s, {}}};
+    const std::pair<QString, QString> rows[] = {
+        {u"Trim lines & Trim."_s, u"<a href=\"foTRM\">Trim lines</a> &amp; <a href=\"t\">Trim</a>."_s},
+        {u"The tool Word wrap breaks"_s, u"The tool <a href=\"foWRP\">Word wrap</a> breaks"_s},
+        {u"Group, word wrap, Trims"_s, u"Group, word wrap, Trims"_s},
+    };
+    for (const auto &[tip, html] : rows)
+        EXPECT_EQ(withToolLinks(tip, tools), html);
+
+    // Each tip that names tools does so by the names of today.
+    const auto real =
+        Catalogue::read(qEnvironmentVariable("TOLVO_BIN") + u'/' + Catalogue::fileName).panelItems();
+    const auto linking = std::count_if(tips().begin(), tips().end(), [&](const Tip &tip) {
+        return withToolLinks(QString::fromUtf16(tip.text), real).contains(u"<a ");
+    });
+    EXPECT_GE(linking, 10);
+
+    SettingsStore store(u":memory:"_s);
+    set(store, settingKeys.advisor.lastTip, 12);
+    AdvisorWindow window(store);
+    QStringList asked;
+    window.offerTools(real, [&](const QString &token) { asked += token; });
+    auto &text = child<QLabel>(window, "labTip");
+    EXPECT_TRUE(text.text().startsWith(u"<a href=\"foPAR\">Join paragraphs</a> turns"));
+    activate(window);
+    text.setFocus();
+    QTest::keyClick(&text, Qt::Key_Tab);
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_EQ(asked, QStringList{u"foPAR"_s});
 }
 
 TEST(Tally, SortsByNumberAndPaintsBars) {

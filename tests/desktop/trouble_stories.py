@@ -91,6 +91,28 @@ class TroubleStories(Story):
         run.ends()
         wait_for(lambda: not self.settings.programs("Advisor.exe"), "the tips to leave")
 
+    def test_a_tool_is_run_from_its_tip(self):
+        self.settings.write("Tolvo", "Preferences", "Show Tips at Startup", "1")
+        self.settings.write("Tolvo", "Advisor", "LastTip", "12")
+        other = self.start(MAIL)
+        other.window()
+        wait_for(lambda: self.settings.programs("Advisor.exe"), "the tips of the first run")
+        run = self.start("one\ntwo", wait=False)
+        run.text_becomes("one\ntwo")
+
+        def tip():
+            desktop = Atspi.get_desktop(0)
+            programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
+            return other._named(lambda n: n.get_name().startswith("Join paragraphs turns"),
+                                [program for program in programs if program.get_name() == "Advisor.exe"])
+
+        area = wait_for(tip, "the tip").get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        subprocess.run(["wmctrl", "-a", "Tips for Tolvo"], check=True)
+        subprocess.run(["xdotool", "mousemove", "--sync", str(area.x + 20), str(area.y + 8), "click", "1"], check=True)
+        other.text_becomes(MAIL.replace("\n> ", " > "))
+        run.text_becomes("one\ntwo")
+        wait_for(lambda: self.settings.read("Tolvo", "Hints", "ToolOfTip") == "", "the wish to be taken")
+
 
 if __name__ == "__main__":
     unittest.main()
