@@ -49,6 +49,9 @@ std::span<const MainWindow::OwnKey> MainWindow::ownKeys() {
         // Where the sign is typed with Shift, that is held as well.
         OwnKey{Qt::Key_Question, Qt::ControlModifier, u"Ctrl-?", u"Show this list of keys",
                &MainWindow::showKeySheet},
+        // Where Ctrl with the key of the sign is another command.
+        OwnKey{Qt::Key_F1, Qt::ControlModifier, u"Ctrl-F1", u"Show this list of keys",
+               &MainWindow::showKeySheet},
     };
     return keys;
 }

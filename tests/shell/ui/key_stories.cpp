@@ -141,6 +141,10 @@ TEST_F(KeyStory, theSheetListsThemAll) {
             EXPECT_FALSE(sheet.isVisible());
         });
         press(Qt::Key_Question, Qt::ControlModifier | Qt::ShiftModifier);
+        bool again = false;
+        withModal<KeySheetWindow>([&again](KeySheetWindow &) { again = true; });
+        press(Qt::Key_F1, Qt::ControlModifier);
+        EXPECT_TRUE(again) << "the key for layouts that have another command at the sign";
         close();
     });
 }
