@@ -62,7 +62,10 @@ StatusBar::StatusBar(QWidget *corner)
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(m_labStatus);
-    row->addWidget(m_labHint);
+    // The hint takes what the status and the facts leave, and gives way before them.
+    constexpr int allThereIs = 1000;
+    m_labHint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    row->addWidget(m_labHint, allThereIs);
     row->addStretch(1);
     m_zoomPart = addPart(*row, m_cmdZoom);
     m_selectedPart = addPart(*row, m_labSelected);

@@ -63,6 +63,17 @@ TEST(StatusBar, givesALongStatusTheRoomThatIsLeft) {
     EXPECT_GE(child<QLabel>(bar, "labLength").width(), child<QLabel>(bar, "labLength").sizeHint().width());
     EXPECT_LT(status.geometry().right(), child<QToolButton>(bar, "cmdPlace").parentWidget()->x());
     EXPECT_EQ(status.accessibleName(), status.text());
+    auto &hint = child<QLabel>(bar, "labHint");
+    bar.showStatus(u"Removed 12 lines"_s);
+    bar.showHint(u"A hint that has to give way"_s);
+    for (const int width : {smallest + 150, 1200}) {
+        bar.resize(width, bar.height());
+        bar.layout()->activate();
+        QCoreApplication::processEvents();
+        const int wanted = status.sizeHint().width();
+        EXPECT_TRUE(status.width() >= wanted || hint.width() <= 1) << width;
+        EXPECT_EQ(hint.width() >= hint.sizeHint().width(), width == 1200) << width;
+    }
     bar.showStatus({});
     EXPECT_EQ(status.accessibleName(), u"Status"_s);
 }
