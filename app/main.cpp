@@ -11,6 +11,7 @@
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/clipboard_keeper.h"
 #include "platform/network/OnDemandHttpClient.h"
+#include "platform/program_folders.h"
 #include "platform/report_error.h"
 #include "preferences/settings_store.h"
 #include "shell/modMain.h"
@@ -41,18 +42,18 @@ class Application : public QApplication {
 };
 
 int runOnce() {
-    const QString folder = QCoreApplication::applicationDirPath();
+    const ProgramFolders folders = programFolders();
     SettingsStore store(SettingsStore::defaultPath());
     DesktopClipboard clipboard;
     DesktopMessageBoxes boxes;
     DesktopSound sound;
     DesktopProcesses processes;
     Clock clock;
-    FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
+    FileExtensions extensions(sAppPath(folders.data) + QStringLiteral("FileExtensions.txt"));
     EscapeWatch escape;
     clipboard.guardInput = [&escape] { return escape.guard(); };
     clipboard.cancelled = [&escape] { return escape.escapePressed(); };
-    OnDemandHttpClient http(folder);
+    OnDemandHttpClient http(folders.programs);
     http.guardInput = [&escape] { return escape.guard(); };
     http.cancelled = [&escape] { return escape.escapePressed(); };
     NoWordAutomation word;
@@ -60,7 +61,7 @@ int runOnce() {
                               .boxes = boxes,
                               .http = http,
                               .word = word,
-                              .programFolder = folder,
+                              .dataFolder = folders.data,
                               .userFolder = SpellingServices::defaultUserFolder()};
     const RunServices services{.store = store,
                                .clipboard = clipboard,
@@ -69,7 +70,8 @@ int runOnce() {
                                .processes = processes,
                                .clock = clock,
                                .extensions = extensions,
-                               .programFolder = folder,
+                               .programFolder = folders.programs,
+                               .dataFolder = folders.data,
                                .spelling = spelling};
     modMain run(services, [&] { return std::make_unique<DesktopSession>(services, clipboard, escape); });
     return run.Main();

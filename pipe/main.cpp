@@ -11,6 +11,7 @@
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/MemoryTextBox.h"
 #include "platform/headless/clipboard_line_ends.h"
+#include "platform/program_folders.h"
 #include "preferences/settings_store.h"
 
 #include <QCoreApplication>
@@ -84,7 +85,7 @@ void listTools(const Catalogue &catalogue) {
 }
 
 int runWithCatalogue(const PipeArguments &arguments) {
-    const QString folder = QCoreApplication::applicationDirPath();
+    const QString folder = programFolders().data;
     const Catalogue catalogue = Catalogue::read(sAppPath(folder) + Catalogue::fileName);
     if (arguments.mode == PipeArguments::Mode::ListTools) {
         listTools(catalogue);
@@ -93,7 +94,7 @@ int runWithCatalogue(const PipeArguments &arguments) {
     FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
     SettingsStore store(SettingsStore::defaultPath());
     const PipeWorld world{
-        .store = store, .catalogue = catalogue, .extensions = extensions, .programFolder = folder};
+        .store = store, .catalogue = catalogue, .extensions = extensions, .dataFolder = folder};
     if (const QString trouble = store.takeTrouble(); !trouble.isEmpty())
         complain(trouble);
     return arguments.mode == PipeArguments::Mode::Batch ? runBatch(world) : runSteps(world, arguments);

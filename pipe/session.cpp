@@ -174,8 +174,8 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
         actions += actionOf(world.catalogue, step);
 
     PipeWindows windows(sayStatus);
-    HeadlessSession headless(world.store, world.catalogue, world.extensions, boxes, windows,
-                             world.programFolder, request.capacity);
+    HeadlessSession headless(world.store, world.catalogue, world.extensions, boxes, windows, world.dataFolder,
+                             request.capacity);
     const bool runsButtons = std::any_of(actions.begin(), actions.end(), [](const ActionPtr &action) {
         return action->Tool()->Token() == powerButtonToken;
     });

@@ -25,7 +25,7 @@ struct PipeWorld {
     SettingsStore &store;
     const Catalogue &catalogue;
     FileExtensions &extensions;
-    QString programFolder;
+    QString dataFolder;
 };
 
 /// A text and the steps that run on it.

@@ -31,7 +31,8 @@ struct RunServices {
     Processes &processes;
     Clock &clock;
     FileExtensions &extensions;
-    QString programFolder; ///< folder of the executable; Tools.dat, scrbar.wav and the companions lie there
+    QString programFolder;            ///< where the companions lie
+    QString dataFolder;               ///< where Tools.dat, OtherWords.txt and scrbar.wav lie
     const SpellingServices &spelling; ///< what a spelling check is built on
 };
 

@@ -39,7 +39,7 @@ void modMain::start() {
     createSession();
     const ProgramOptions options = loadOptions(m_services.store, m_session->currentFont());
     m_session->useTextBox(options.wordWrap);
-    oTools = Catalogue::read(sAppPath(m_services.programFolder) + Catalogue::fileName);
+    oTools = Catalogue::read(sAppPath(m_services.dataFolder) + Catalogue::fileName);
     oToolbox.init(oTools.panelItems());
     m_session->loadPowerButtons();
     if (options.showTips)
@@ -79,8 +79,7 @@ void modMain::createSession() {
     m_window->attach(*m_session, oToolbox);
     oToolbox.setSound([this] {
         if (m_session->bSounds)
-            oSound.PlayWav(sAppPath(m_services.programFolder) + QStringLiteral("scrbar.wav"),
-                           cSound::playOnce);
+            oSound.PlayWav(sAppPath(m_services.dataFolder) + QStringLiteral("scrbar.wav"), cSound::playOnce);
     });
 }
 

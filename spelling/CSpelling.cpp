@@ -59,7 +59,7 @@ void CSpelling::initLocal(QString &localeName) {
 }
 
 QString CSpelling::langFromID(int LangID) const {
-    return Locales(Locales::pathIn(m_services.programFolder)).localeOf(LangID);
+    return Locales(Locales::pathIn(m_services.dataFolder)).localeOf(LangID);
 }
 
 bool CSpelling::Spell(const QString &text) {

@@ -19,8 +19,8 @@ QString personalName() {
     return QStringLiteral("persdict.dat");
 }
 
-QString programDictionaries(const QString &programFolder) {
-    return sAppPath(programFolder) + QStringLiteral("Dictionaries");
+QString programDictionaries(const QString &dataFolder) {
+    return sAppPath(dataFolder) + QStringLiteral("Dictionaries");
 }
 
 QString normalised(const QString &fileName) {
@@ -51,8 +51,8 @@ QString decoded(const QByteArray &bytes) {
 
 } // namespace
 
-QStringList dictionaryFolders(const QString &programFolder) {
-    QStringList folders{programDictionaries(programFolder)};
+QStringList dictionaryFolders(const QString &dataFolder) {
+    QStringList folders{programDictionaries(dataFolder)};
     for (const QString &data : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
         for (const QLatin1String name :
              {QLatin1String("/hunspell"), QLatin1String("/myspell"), QLatin1String("/myspell/dicts")})
@@ -77,7 +77,7 @@ std::optional<DictionaryFiles> findDictionary(const QString &locale, const QStri
 }
 
 QString personalDictionaryPath(const SpellingServices &services) {
-    const QString beside = programDictionaries(services.programFolder);
+    const QString beside = programDictionaries(services.dataFolder);
     const QFileInfo folder(beside);
     if (folder.isDir() && folder.isWritable())
         return beside + u'/' + personalName();

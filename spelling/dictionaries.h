@@ -18,7 +18,7 @@ struct DictionaryFiles {
 };
 
 /// The folder Dictionaries of the program folder, then the system's folders of Hunspell dictionaries.
-[[nodiscard]] QStringList dictionaryFolders(const QString &programFolder);
+[[nodiscard]] QStringList dictionaryFolders(const QString &dataFolder);
 
 /// The two files of a locale ("en-gb") in the first folder that holds both; nothing if none does. Names
 /// compare without regard to case and with "-" as "_"; an exact match is preferred. A locale with a path

@@ -15,8 +15,8 @@ constexpr qint64 longestLine = 4096;
 
 } // namespace
 
-QString Locales::pathIn(const QString &programFolder) {
-    return sAppPath(programFolder) + QStringLiteral("Locales.txt");
+QString Locales::pathIn(const QString &dataFolder) {
+    return sAppPath(dataFolder) + QStringLiteral("Locales.txt");
 }
 
 Locales::Locales(const QString &path) {

@@ -37,7 +37,7 @@ class Locales {
     [[nodiscard]] qsizetype count() const { return m_byNumber.size(); }
 
     /// The path of Locales.txt in the program folder.
-    [[nodiscard]] static QString pathIn(const QString &programFolder);
+    [[nodiscard]] static QString pathIn(const QString &dataFolder);
 
   private:
     void readLine(const QString &line);

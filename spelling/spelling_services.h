@@ -15,10 +15,10 @@ class WordAutomation;
 struct SpellingServices {
     SettingsStore &store;
     MessageBoxes &boxes;
-    HttpClient &http;      ///< asked only while the user's provider is a web service
-    WordAutomation &word;  ///< NoWordAutomation where Word can't run
-    QString programFolder; ///< the folder of Locales.txt and of the folder Dictionaries
-    QString userFolder;    ///< holds persdict.dat if Dictionaries isn't writable; created when needed
+    HttpClient &http;     ///< asked only while the user's provider is a web service
+    WordAutomation &word; ///< NoWordAutomation where Word can't run
+    QString dataFolder;   ///< the folder of Locales.txt and of the folder Dictionaries
+    QString userFolder;   ///< holds persdict.dat if Dictionaries isn't writable; created when needed
     QString atdEndpoint = defaultAtdEndpoint(); ///< After the Deadline's base address; empty: no requests
 
     /// The environment variable TOLVO_ATD_URL, else the build's setting.

@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "companions/ui/TallyWindow.h"
 #include "companions/ui/single_window.h"
+#include "platform/program_folders.h"
 #include "powerbuttons/catalogue.h"
 #include "preferences/settings_store.h"
 #include "widgets/dress_application.h"
@@ -13,7 +14,7 @@
 
 namespace {
 
-tolvo::Catalogue catalogueBeside(const QString &folder) {
+tolvo::Catalogue catalogueIn(const QString &folder) {
     try {
         return tolvo::Catalogue::read(tolvo::sAppPath(folder) + tolvo::Catalogue::fileName);
     } catch (const tolvo::Failure &) {
@@ -30,7 +31,7 @@ int main(int argc, char **argv) {
     tolvo::SingleWindow single(path + QStringLiteral(".tally"));
     if (!single.isFirst())
         return 0;
-    const tolvo::Catalogue catalogue = catalogueBeside(QApplication::applicationDirPath());
+    const tolvo::Catalogue catalogue = catalogueIn(tolvo::programFolders().data);
     const tolvo::SettingsStore store(path);
     tolvo::TallyWindow window(store, [&](const QString &token) {
         const tolvo::ToolPtr tool = catalogue.tool(token);

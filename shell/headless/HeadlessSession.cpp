@@ -7,13 +7,13 @@ namespace tolvo {
 
 HeadlessSession::HeadlessSession(SettingsStore &store, const Catalogue &catalogue,
                                  FileExtensions &fileExtensions, MessageBoxes &boxes,
-                                 HeadlessWindows &windows, const QString &programFolder, int capacity)
+                                 HeadlessWindows &windows, const QString &dataFolder, int capacity)
     : txtText1(capacity), txtTextWW(capacity),
       oPBMethods(store, catalogue, boxes), m_spelling{.store = store,
                                                       .boxes = boxes,
                                                       .http = m_network,
                                                       .word = m_word,
-                                                      .programFolder = programFolder,
+                                                      .dataFolder = dataFolder,
                                                       .userFolder = {},
                                                       .atdEndpoint = {}},
       session({.store = store,

@@ -26,7 +26,7 @@ class HeadlessSession {
   public:
     /// `boxes` and `windows` hear what the session says; `capacity` is that of the text box.
     HeadlessSession(SettingsStore &store, const Catalogue &catalogue, FileExtensions &fileExtensions,
-                    MessageBoxes &boxes, HeadlessWindows &windows, const QString &programFolder,
+                    MessageBoxes &boxes, HeadlessWindows &windows, const QString &dataFolder,
                     int capacity = textLimit);
 
     MemoryTextBox txtText1;

@@ -79,7 +79,7 @@ void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
     m_seenChanges = m_services.store.changesByOthers();
     m_window->attach(session, toolbox, m_clipboard.lineEnds());
     m_window->toolFinder().attach(session,
-                                  sAppPath(m_services.programFolder) + QStringLiteral("OtherWords.txt"));
+                                  sAppPath(m_services.dataFolder) + QStringLiteral("OtherWords.txt"));
     m_dialogs.attach(session);
     toolbox.setHooks({.rowsChanged = [this, &toolbox] { m_window->panel().showRows(toolbox); },
                       .delay =

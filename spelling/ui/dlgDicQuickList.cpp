@@ -109,7 +109,7 @@ void dlgDicQuickList::FillSpelling() {
         return;
     m_filled = true;
     const LanguageList lists(m_services.store);
-    m_languages = lists.quickList(m_provider, Locales(Locales::pathIn(m_services.programFolder)));
+    m_languages = lists.quickList(m_provider, Locales(Locales::pathIn(m_services.dataFolder)));
     cmbQuickList->clear();
     for (const CSpellLanguage &language : std::as_const(m_languages))
         cmbQuickList->addItem(language.row());

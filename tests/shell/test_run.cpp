@@ -61,7 +61,8 @@ class Runs : public ::testing::Test {
         log.clear();
         processes.started.clear();
         const SpellingServices spelling{store, boxes, network, word, folder.path(), folder.path(), {}};
-        modMain main({store, clipboard, boxes, sound, processes, clock, extensions, folder.path(), spelling},
+        modMain main({store, clipboard, boxes, sound, processes, clock, extensions, folder.path(),
+                      folder.path(), spelling},
                      [this] { return std::make_unique<Window>(*this); });
         return main.Main();
     }

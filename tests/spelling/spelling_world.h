@@ -146,7 +146,7 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
         QString locale;
     };
 
-    QString dictionaries() const { return services.programFolder + u("/Dictionaries"); }
+    QString dictionaries() const { return services.dataFolder + u("/Dictionaries"); }
     void dictionary(const QString &name, const QByteArray &aff, const QByteArray &dic) {
         writeFile(dictionaries() + u'/' + name + u(".aff"), aff);
         writeFile(dictionaries() + u'/' + name + u(".dic"), dic);

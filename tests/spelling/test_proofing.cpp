@@ -107,7 +107,7 @@ TEST_F(ProofingWorld, ListsWordsErrors) {
 
 TEST_F(ProofingWorld, FallsBackToHunspellWithoutWord) {
     word.installed = false;
-    writeFile(services.programFolder + u("/Locales.txt"), "h\nh\nen-gb\tx\tEnglish\t2057\n");
+    writeFile(services.dataFolder + u("/Locales.txt"), "h\nh\nen-gb\tx\tEnglish\t2057\n");
     for (const auto &[number, expected] : {std::pair(0, "en-gb"), {2057, "en-gb"}, {1036, ""}}) {
         Check spelling(*this, 0, number);
         EXPECT_EQ(spelling.locale, u(expected));

@@ -26,8 +26,8 @@ class MainWindowStory : public testing::Test {
         QGuiApplication::setQuitOnLastWindowClosed(false);
         set(store, settingKeys.preferences.showTips, false);
         QApplication::clipboard()->setText(clipboardText);
-        const RunServices services{store, clipboard,  boxes,    sound,   processes,
-                                   clock, extensions, programs, spelling};
+        const RunServices services{store, clipboard,  boxes,    sound,    processes,
+                                   clock, extensions, programs, programs, spelling};
         modMain program(services,
                         [&] { return std::make_unique<DesktopSession>(services, clipboard, escape); });
         QTimer::singleShot(0, &escape, [&] {

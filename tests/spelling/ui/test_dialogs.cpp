@@ -187,7 +187,7 @@ TEST_F(Dialogs, MarkReadablyOnADarkBackground) {
 
 TEST_F(Dialogs, StartOnHunspellsLocaleUntilALanguageIsChosen) {
     setProvider(1);
-    writeFile(services.programFolder + u("/Locales.txt"), "h\nh\nen-gb\tx\tEnglish\t2057\n");
+    writeFile(services.dataFolder + u("/Locales.txt"), "h\nh\nen-gb\tx\tEnglish\t2057\n");
     set(store, settingKeys.spelling.hunLangList, u("English|en-gb#German|de-de#Klingon|tlh"));
     set(store, settingKeys.spelling.hunLocale, u("de-de"));
     dlgDicQuickList dialogList(services);
