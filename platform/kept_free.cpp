@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/kept_free.h"
 
-#include <QByteArrayList>
+#include <QStringList>
 #include <algorithm>
 
 namespace tolvo {
@@ -27,17 +27,17 @@ QList<QPoint> cornersAround(const QRect &area, QSize size) {
 
 } // namespace
 
-QByteArray writtenAreas(const QList<QRect> &areas) {
-    QByteArrayList numbers;
+QString writtenAreas(const QList<QRect> &areas) {
+    QStringList numbers;
     for (const QRect &area : areas) {
         for (const int number : {area.x(), area.y(), area.width(), area.height()})
-            numbers += QByteArray::number(number);
+            numbers += QString::number(number);
     }
-    return numbers.join(' ') + '\n';
+    return numbers.join(u' ');
 }
 
-QList<QRect> readAreas(const QByteArray &line) {
-    const QByteArrayList numbers = line.simplified().split(' ');
+QList<QRect> readAreas(QStringView text) {
+    const QList<QStringView> numbers = text.split(u' ');
     QList<QRect> areas;
     for (qsizetype i = 0; i + numbersOfAnArea <= numbers.size(); i += numbersOfAnArea) {
         const QRect area(numbers[i].toInt(), numbers[i + 1].toInt(), numbers[i + 2].toInt(),

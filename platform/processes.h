@@ -2,8 +2,6 @@
 // Other programs: the companions, and what the desktop opens.
 #pragma once
 
-#include <QList>
-#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -12,9 +10,8 @@ namespace tolvo {
 enum class WindowMode { Normal, NormalWithoutFocus, Hidden, Minimised };
 
 /// Environment variables that pass heldBack (as the number of this process) and askedFor below on to a
-/// companion. A companion that is held
-/// back shows its window once a line of its standard input says where (platform/kept_free.h), and ends with
-/// that input.
+/// companion. A companion that is held back shows its window once a line comes on its standard input, and
+/// ends with that input.
 inline constexpr const char *heldBackVariable = "TOLVO_HELD_BACK";
 inline constexpr const char *askedForVariable = "TOLVO_ASKED_FOR";
 
@@ -40,9 +37,8 @@ class Processes {
         return start({.program = program, .arguments = arguments, .mode = mode});
     }
 
-    /// Lets the companion that is held back show its window, where it covers none of these areas of the
-    /// screen, or at least not the last of them. Its window leaves with this program.
-    virtual void letGo(const QList<QRect> & /*keepFree*/) {}
+    /// Lets the companion that is held back show its window, which leaves with this program.
+    virtual void letGo() {}
 
     /// modWaitforProcess: blocks until a process has ended; returns at once if there is none with this
     /// number.

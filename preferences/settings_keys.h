@@ -147,6 +147,7 @@ struct HintKeys {
     static constexpr Section section{u"Hints"};
 
     Setting<forms::Check> troubles{section, u"Troubles", true}; // of a fresh text
+    Setting<forms::Text> keepFree{section, u"KeepFree", u""};   // what the tips leave visible (kept_free.h)
     Setting<forms::Text> toolOfTip{section, u"ToolOfTip", u""}; // number of a run, blank, token: to be run
     Setting<forms::Check> powerButtonHint{section, u"PowerButtons", true}; // until it is closed
 };

@@ -16,6 +16,8 @@
 #include "shell/frmMain.h"
 #include "text/file_extensions.h"
 
+#include <QList>
+#include <QRect>
 #include <QString>
 #include <functional>
 #include <memory>

@@ -5,6 +5,7 @@
 #include "base/application.h"
 #include "base/paths.h"
 #include "platform/check_for_updates.h"
+#include "platform/kept_free.h"
 #include "platform/report_error.h"
 #include "shell/apply_options.h"
 #include "shell/modMain.h"
@@ -58,7 +59,10 @@ void modMain::start() {
 void modMain::windowShown() {
     if (m_clipboardLater)
         m_session->guarded(u"beginWithClipboard", [this] { m_session->beginWithClipboard(); });
-    m_window->whenPlaced([this](const QList<QRect> &keepFree) { m_services.processes.letGo(keepFree); });
+    m_window->whenPlaced([this](const QList<QRect> &keepFree) {
+        set(m_services.store, settingKeys.hints.keepFree, writtenAreas(keepFree));
+        m_services.processes.letGo();
+    });
 }
 
 void modMain::createSession() {

@@ -13,9 +13,7 @@
 #include <QApplication>
 #include <QLockFile>
 #include <QSocketNotifier>
-#include <array>
 #include <unistd.h>
-#include <utility>
 
 namespace {
 
@@ -49,18 +47,14 @@ int main(int argc, char **argv) {
     if (!run.isEmpty())
         offerTools(window, store, run);
     QSocketNotifier gate(STDIN_FILENO, QSocketNotifier::Read);
-    QByteArray said;
     const auto listen = [&] {
-        std::array<char, 256> part{};
-        const ssize_t length = read(STDIN_FILENO, part.data(), part.size());
-        if (length <= 0) {
+        char line = 0;
+        if (read(STDIN_FILENO, &line, 1) <= 0) {
             gate.setEnabled(false);
             QApplication::quit();
-            return;
+        } else if (!window.isVisible()) {
+            window.showBeside(tolvo::readAreas(get(store, tolvo::settingKeys.hints.keepFree)));
         }
-        said.append(part.data(), length);
-        if (said.endsWith('\n') && !window.isVisible())
-            window.showBeside(tolvo::readAreas(std::exchange(said, {})));
     };
     if (!run.isEmpty()) {
         QObject::connect(&gate, &QSocketNotifier::activated, &window, listen);

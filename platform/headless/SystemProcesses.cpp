@@ -3,7 +3,6 @@
 
 #include "base/failure.h"
 #include "platform/headless/open_descriptors.h"
-#include "platform/kept_free.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -66,10 +65,9 @@ QString SystemProcesses::gate() {
     return m_gateIn < 0 ? QProcess::nullDevice() : QStringLiteral("/proc/self/fd/%1").arg(m_gateOut);
 }
 
-void SystemProcesses::letGo(const QList<QRect> &keepFree) {
-    // The line fits into the pipe, whether anybody reads it or not: our own end for reading stays open.
-    const QByteArray line = writtenAreas(keepFree);
-    if (m_gateIn >= 0 && write(m_gateIn, line.constData(), static_cast<std::size_t>(line.size())) < 0)
+void SystemProcesses::letGo() {
+    // The line end fits into the pipe, whether anybody reads it or not: our own end for reading stays open.
+    if (m_gateIn >= 0 && write(m_gateIn, "\n", 1) < 0)
         close(std::exchange(m_gateIn, -1)); // the companion leaves instead
 }
 

@@ -15,7 +15,7 @@ class SystemProcesses : public Processes {
 
     using Processes::start;
     qint64 start(const ProgramStart &start) override;
-    void letGo(const QList<QRect> &keepFree) override;
+    void letGo() override;
     void waitFor(qint64 process) override;
     /// Always false: without a desktop nothing can be opened.
     bool open(const QString &address) override;

@@ -20,7 +20,7 @@ class RecordingProcesses final : public Processes {
         heldBack = heldBack || start.heldBack;
         return started.size();
     }
-    void letGo(const QList<QRect> &) override { heldBack = false; }
+    void letGo() override { heldBack = false; }
     void waitFor(qint64 process) override { waitedFor += process; }
     bool open(const QString &address) override {
         opened += address;
