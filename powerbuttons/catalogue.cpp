@@ -15,6 +15,7 @@ namespace {
 
 constexpr int flagDialog = 1;
 constexpr int flagOutOfPanel = 2;
+constexpr int flagFound = 4;
 
 /// 0 for a text that is not a number and for a number that no set of flags can be.
 int readFlags(const QString &field) {
@@ -79,8 +80,12 @@ void Catalogue::addLine(QString line) {
                       tool->isHeading()
                           ? QStringLiteral("the heading '%1' is there already").arg(tool->Name())
                           : QStringLiteral("the token '%1' is there already").arg(tool->Token()));
-    if ((flags & flagOutOfPanel) == 0)
-        m_panelItems.append({tool->Name(), tool->Token(), tool->Tooltip()});
+    const PanelItem item{tool->Name(), tool->Token(), tool->Tooltip()};
+    const bool inPanel = (flags & flagOutOfPanel) == 0;
+    if (inPanel)
+        m_panelItems.append(item);
+    if (inPanel || (flags & flagFound) != 0)
+        m_foundItems.append(item);
 }
 
 bool Catalogue::add(const ToolPtr &tool) {

@@ -37,6 +37,8 @@ class Catalogue {
     [[nodiscard]] ToolPtr tool(const QString &key) const { return m_byKey.value(key); }
     /// The lines that the panel shows, in file order.
     [[nodiscard]] const QList<PanelItem> &panelItems() const { return m_panelItems; }
+    /// The lines that a user can find by typing: those of the panel and tools for which it has no room.
+    [[nodiscard]] const QList<PanelItem> &foundItems() const { return m_foundItems; }
 
   private:
     /// False for a key that is there already; nothing is added then.
@@ -46,6 +48,7 @@ class Catalogue {
     QList<ToolPtr> m_tools;
     QHash<QString, ToolPtr> m_byKey;
     QList<PanelItem> m_panelItems;
+    QList<PanelItem> m_foundItems;
 };
 
 } // namespace tolvo

@@ -57,7 +57,7 @@ bool asksForSettings(const ToolPtr &tool) {
 QList<FinderEntry> toolEntries(const Catalogue &oTools) {
     QList<FinderEntry> entries;
     QString group;
-    for (const Catalogue::PanelItem &item : oTools.panelItems()) {
+    for (const Catalogue::PanelItem &item : oTools.foundItems()) {
         if (item.token == QLatin1StringView(">")) {
             group = item.label;
             continue;

@@ -2,12 +2,20 @@
 #include "shell/tool_table.h"
 
 #include "base/code_page.h"
+#include "base/numbers.h"
 #include "platform/text_box.h"
 #include "shell/moving_lines.h"
 #include "shell/search_tools.h"
 #include "shell/selection_tools.h"
 #include "shell/spelling_tools.h"
 #include "text/cTextMethods.h"
+#include "text/coding.h"
+#include "text/identifiers.h"
+#include "text/letters.h"
+#include "text/line_sets.h"
+#include "text/tables.h"
+
+#include <QRandomGenerator>
 
 namespace tolvo {
 
@@ -81,6 +89,23 @@ QString checkPunctuation(const ToolInput &in) {
     return in.context.engine.checkPunctuation(in.text, false);
 }
 
+QString shuffledLines(const ToolInput &in) {
+    return shuffled(in.text, [](quint32 n) { return QRandomGenerator::global()->bounded(n); });
+}
+
+/// What a decoder gives, with a word on what it could not decode.
+QString decoded(const ToolInput &in, const DecodedText &decoded) {
+    QString status = QStringLiteral("Decoded");
+    if (decoded.bad > 0)
+        status = (decoded.text == in.text ? QStringLiteral("Can't be decoded: see character %1")
+                                          : QStringLiteral("Decoded, but not at character %1"))
+                     .arg(groupedNumber(in.start + decoded.badAt + 1));
+    if (decoded.bad > 1)
+        status += QStringLiteral(" (%1 places)").arg(groupedNumber(decoded.bad));
+    in.context.host.setStatus(status);
+    return decoded.text;
+}
+
 // What fills the column Operation of the table
 
 /// An operation of the text engine that takes nothing but the text.
@@ -94,6 +119,19 @@ constexpr ToolOperation engine() {
 template <QString (*operation)(const ToolInput &)>
 constexpr ToolOperation text() {
     return {.run = [](const ToolInput &in) -> std::optional<QString> { return operation(in); }};
+}
+
+/// A function of the text alone.
+template <QString (*operation)(QStringView)>
+constexpr ToolOperation pure() {
+    return {.run = [](const ToolInput &in) -> std::optional<QString> { return operation(in.text); }};
+}
+
+/// A decoder, which says what it could not decode.
+template <DecodedText (*operation)(QStringView)>
+constexpr ToolOperation decoding() {
+    return {
+        .run = [](const ToolInput &in) -> std::optional<QString> { return decoded(in, operation(in.text)); }};
 }
 
 template <auto operation>
@@ -243,6 +281,37 @@ constexpr ToolRow table[] = {
     {u"chSPE",  spelling<false>(),                      own},
     {u"chGRA",  spelling<true>(),                       own},
     {u"chSTAT", inSession(showStatistics),            own},
+
+    {u"lnDUP",  pure<withoutDuplicates>(),              lines_N,  removed},
+    {u"lnNAT",  pure<naturallySorted>(),                lines_O,  says(u"Lines sorted")},
+    {u"lnSHU",  text<shuffledLines>(),                  lines_O,  says(u"Lines shuffled")},
+    {u"lnSEN",  pure<sentencesAsLines>(),               lines_N,  says(u"One sentence a line")},
+    {u"lnCNT",  pure<countedLines>(),                   lines_N,  says(u"Lines counted")},
+    {u"lnWRD",  pure<countedWords>(),                   N,        says(u"Words counted")},
+    {u"lnREC",  pure<reversedCharacters>(),             N,        says(u"Characters reversed")},
+    {u"tbALI",  pure<alignedTable>(),                   lines_N,  says(u"Columns aligned")},
+    {u"tbMKD",  pure<markdownTable>(),                  lines_N,  says(u"Markdown table")},
+    {u"tbCSV",  pure<csvTable>(),                       lines_N,  says(u"Columns parted by commas")},
+    {u"tbTAB",  pure<tabTable>(),                       lines_N,  says(u"Columns parted by tabs")},
+    {u"tbTRA",  pure<transposedTable>(),                lines_N,  says(u"Rows and columns swapped")},
+
+    {u"cdHTE",  pure<htmlEncoded>(),                    N,        says(u"Encoded")},
+    {u"cdURE",  pure<urlEncoded>(),                     N,        says(u"Encoded")},
+    {u"cdURD",  decoding<urlDecoded>(),                 N},
+    {u"cdB6E",  pure<base64Encoded>(),                  N,        says(u"Encoded")},
+    {u"cdB6D",  decoding<base64Decoded>(),              N},
+    {u"cdJSE",  pure<jsonEscaped>(),                    N,        says(u"Escaped")},
+    {u"cdJSD",  decoding<unescapedString>(),            N},
+    {u"cdUNE",  pure<unicodeEscaped>(),                 N,        says(u"Escaped")},
+    {u"tyACC",  pure<withoutAccents>(),                 N,        says(u"Accents removed")},
+    {u"tyCOM",  pure<composed>(),                       N,        says(u"Accents composed")},
+    {u"tyLIG",  pure<withoutLigatures>(),               N,        says(u"Ligatures removed")},
+    {u"tyUNS",  pure<withoutUnseen>(),                  N,        removed},
+    {u"idCAM",  pure<camelCase>(),                      N,        says(u"camelCase")},
+    {u"idPAS",  pure<pascalCase>(),                     N,        says(u"PascalCase")},
+    {u"idSNA",  pure<snakeCase>(),                      N,        says(u"snake_case")},
+    {u"idKEB",  pure<kebabCase>(),                      N,        says(u"kebab-case")},
+    {u"idCON",  pure<constantCase>(),                   N,        says(u"CONSTANT_CASE")},
 
     {u"pbPBT",  nestedPowerButton(),                    own},
     {u"pbCLR",  onText<clearSelection>(),               own},

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+// The tools that other libraries have too, beside those of Python, on random texts.
+#include "tests/support/commands.h"
+#include "tests/support/print.h"
+#include "text/coding.h"
+#include "text/letters.h"
+#include "text/line_sets.h"
+#include "text/tables.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace tolvo::test {
+
+namespace {
+
+class RandomText {
+  public:
+    /// Up to 30 of these units; "|" is a line end.
+    QString of(const QStringList &units) {
+        QString text;
+        for (int i = below(30); i > 0; --i)
+            text += units.at(below(static_cast<int>(units.size())));
+        return text.replace(u'|', u"\r\n"_s);
+    }
+    int below(int n) { return static_cast<int>(m_random() % static_cast<unsigned>(n)); }
+
+  private:
+    std::mt19937 m_random{20261123};
+};
+
+TEST(AgainstPython, ToolsComeToTheSame) {
+    if (!isInstalled("python3"))
+        GTEST_SKIP() << "python3 is not installed";
+    const QStringList any = {"a",  "B", "1",  " ", "|", "é", "\u0301", "ß", "😀",      "\u4E2D", "&", "<",
+                             "\"", "'", "\\", "/", "%", "+", "\t",     "~", "\u0007", "%41",    ";"};
+    const QStringList lines = {"a", "b", "|", "|", " "};
+    const QStringList cells = {"a", "1", "\"", ",", "b c", "é"};
+    RandomText random;
+    QJsonArray cases;
+    const auto add = [&](const char *tool, const QString &text, const QString &result) {
+        cases.append(QJsonArray{tool, text, result});
+    };
+    for (int i = 0; i < 3000; ++i) {
+        const QString text = random.of(any);
+        add("htmlEncoded", text, htmlEncoded(text));
+        add("urlEncoded", text, urlEncoded(text));
+        add("urlDecoded", urlEncoded(text), urlDecoded(urlEncoded(text)).text);
+        add("base64Encoded", text, base64Encoded(text));
+        add("base64Decoded", base64Encoded(text), base64Decoded(base64Encoded(text)).text);
+        add("jsonEscaped", text, jsonEscaped(text));
+        const QString escaped = unicodeEscaped(jsonEscaped(text));
+        add("unescapedString", escaped, unescapedString(escaped).text);
+        add("unicodeEscaped", text, unicodeEscaped(text));
+        add("composed", text, composed(text));
+        const QString list = random.of(lines);
+        add("withoutDuplicates", list, withoutDuplicates(list));
+        add("countedLines", list, countedLines(list));
+        QStringList rows;
+        for (int row = 0; row < 3; ++row)
+            rows += "x" + random.of(cells) + "\ty" + random.of(cells) + "\tz";
+        const QString table = rows.join(u"\r\n");
+        add("csvTable", table, csvTable(table));
+        if (readTable(csvTable(table)) != readTable(table))
+            ADD_FAILURE() << shown(table);
+    }
+    const QString script = qEnvironmentVariable("TOLVO_SOURCE") + "/tests/text/against_python.py";
+    EXPECT_EQ(outputOf("python3", {script}, QJsonDocument(cases).toJson()).trimmed(), "[]");
+}
+
+} // namespace
+
+} // namespace tolvo::test
