@@ -3,6 +3,7 @@
 
 #include "base/application.h"
 #include "platform/desktop/stand_ins.h"
+#include "platform/desktop/text_tint.h"
 #include "platform/headless/clipboard_line_ends.h"
 #include "platform/text_box.h"
 
@@ -15,14 +16,6 @@ class QAction;
 class QMenu;
 
 namespace tolvo {
-
-/// A part of a text, in UTF-16 units from 0.
-struct Stretch {
-    int start = 0;
-    int length = 0;
-
-    bool operator==(const Stretch &) const = default;
-};
 
 /// The text box of the window. It keeps every unit of a text unchanged, in one block per CR LF line, and
 /// enforces its capacity for typing, input methods, paste, drop and code.
@@ -75,9 +68,12 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     void setZoom(int percent);
     /// Shows blanks, tabs, line ends and characters without a shape of their own.
     void setMarks(bool on);
-    /// Tints parts of the text until other ones are set (PlainTextBox_tint.cpp); an empty one is a thin
-    /// upright. They stand in the order of the text, apart from each other, and do not move with it.
-    void setTint(const QList<Stretch> &stretches);
+    /// Tints parts of the text until others are set in that layer; an empty one is a thin upright. They stand
+    /// in the order of the text and do not move with it.
+    void setTint(TintLayer layer, const QList<Stretch> &stretches);
+    [[nodiscard]] const QList<Stretch> &tint(TintLayer layer) const { return m_tint.of(layer); }
+    /// What of the text is in sight, in whole lines as the box breaks them.
+    [[nodiscard]] Stretch textInSight() const;
     /// Font, size and marks as another box shows its text.
     void lookLike(const PlainTextBox &other);
     /// Keeps so many pixels free above the text, until it is scrolled.
@@ -125,7 +121,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     bool rereadText();
     void reportChange();
     void chooseLayout(QStringView text);
-    void paintTint(const QRect &exposed);
+    void paintTint(TextTint::Side side, const QRect &exposed);
 
     Lines m_lines;
     int m_capacity = textLimit;
@@ -146,7 +142,7 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     int m_zoom = 100;
     int m_wheel = 0; ///< eighths of a degree that have not made a step yet
     bool m_marks = false;
-    QList<Stretch> m_tint;
+    TextTint m_tint;
 };
 
 } // namespace tolvo

@@ -89,8 +89,9 @@ void PlainTextBox::wheelEvent(QWheelEvent *event) {
 }
 
 void PlainTextBox::paintEvent(QPaintEvent *event) {
-    paintTint(event->rect());
+    paintTint(TextTint::Side::BeneathText, event->rect());
     QPlainTextEdit::paintEvent(event);
+    paintTint(TextTint::Side::OverText, event->rect());
     if (!m_marks)
         return;
     QPainter painter(viewport());

@@ -37,7 +37,7 @@ ChangeView::ChangeView(std::array<PlainTextBox *, 2> boxes, QObject *parent)
 qsizetype ChangeView::showPlaces(const ToolChange &change) {
     PlainTextBox &box = *m_boxes.at(shown());
     const QList<Stretch> places = changedStretches(change.before.text, box.Text());
-    box.setTint(places);
+    box.setTint(TintLayer::Changes, places);
     m_tintEnds.start(tintTime);
     return places.size();
 }
@@ -62,7 +62,7 @@ void ChangeView::endInstead() {
 void ChangeView::endPlaces() {
     m_tintEnds.stop();
     for (PlainTextBox *box : m_boxes)
-        box->setTint({});
+        box->setTint(TintLayer::Changes, {});
 }
 
 TextOverlay &ChangeView::overlay() {

@@ -21,7 +21,7 @@ class TextOverlay : public QWidget {
     /// Shows a text with its selection, and says below it what it is: "Text before Title Case". The first
     /// time it is scrolled as the box is; from then on it stays in its place.
     void showText(const TextState &state, const QString &title);
-    void setTint(const QList<Stretch> &stretches) { m_text->setTint(stretches); }
+    void setTint(const QList<Stretch> &stretches) { m_text->setTint(TintLayer::Changes, stretches); }
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -6,19 +6,15 @@
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/hint_strip.h"
 #include "widgets/announce.h"
-#include "widgets/themed_icon.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QTextBlock>
-#include <utility>
 
 namespace tolvo {
 
 namespace {
-
-constexpr qsizetype mostMarks = 2000; // more can't be told apart, and painting would be slow
 
 bool types(const QEvent &event) {
     if (event.type() == QEvent::InputMethod)
@@ -40,19 +36,12 @@ bool types(const QEvent &event) {
     }
 }
 
-QTextEdit::ExtraSelection markOf(const PlainTextBox &box, const LinePart &part) {
-    QTextEdit::ExtraSelection mark;
+/// Within a line; an empty line has none.
+Stretch stretchOf(const PlainTextBox &box, const LinePart &part) {
     const QTextBlock block = box.document()->findBlockByNumber(part.line);
-    const int last = block.position() + block.length() - 1;
-    const int start = std::min(block.position() + part.column, last);
-    mark.cursor = QTextCursor(block);
-    mark.cursor.setPosition(start);
-    mark.cursor.setPosition(std::min(start + part.length, last), QTextCursor::KeepAnchor);
-    mark.format.setProperty(QTextFormat::FullWidthSelection, part.length == 0);
-    QColor tint = accentOn(box.palette(), QPalette::Base);
-    tint.setAlpha(90);
-    mark.format.setBackground(tint);
-    return mark;
+    const int column = std::min(part.column, block.length() - 1);
+    return {block.position() + part.line + column, // a line end is two units of the text
+            std::min(part.length, block.length() - 1 - column)};
 }
 
 } // namespace
@@ -145,20 +134,13 @@ void TroubleWatch::mend(int place) {
 
 void TroubleWatch::mark(int place) {
     PlainTextBox &box = m_window.shownTextBox();
-    if (std::exchange(m_marked, false)) { // others mark places too
-        m_window.txtText1().setExtraSelections({});
-        m_window.txtTextWW().setExtraSelections({});
-    }
-    QList<QTextEdit::ExtraSelection> marks;
+    QList<Stretch> marks;
     if (place >= 0 && place < m_troubles.size()) {
-        const QList<LinePart> &places = m_troubles.at(place).places;
-        for (const LinePart &part : places.first(std::min(places.size(), mostMarks)))
-            marks += markOf(box, part);
+        for (const LinePart &part : m_troubles.at(place).places)
+            marks += stretchOf(box, part);
     }
-    if (marks.isEmpty())
-        return;
-    box.setExtraSelections(marks);
-    m_marked = true;
+    for (PlainTextBox *one : {&m_window.txtText1(), &m_window.txtTextWW()})
+        one->setTint(TintLayer::Troubles, one == &box ? marks : QList<Stretch>());
 }
 
 /// With `keepingPlace` the text stays where it is on the screen.

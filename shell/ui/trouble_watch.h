@@ -47,7 +47,6 @@ class TroubleWatch : public QObject {
     HintStrip *m_line = nullptr; ///< made at the first trouble
     QTimer m_later;              ///< after the present event
     QList<Trouble> m_troubles;
-    bool m_marked = false;
     bool m_painted = false;
     bool m_watching = false; ///< from the intake on, as long as the line may stand
 };

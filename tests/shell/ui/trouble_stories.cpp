@@ -29,8 +29,9 @@ class TroubleStory : public MainWindowStory {
     }
     static QStringList marked() {
         QStringList texts;
-        for (const QTextEdit::ExtraSelection &mark : text()->extraSelections())
-            texts += mark.cursor.selectedText();
+        const auto &box = dynamic_cast<PlainTextBox &>(*text());
+        for (const Stretch &mark : box.tint(TintLayer::Troubles))
+            texts += box.Text().mid(mark.start, mark.length);
         return texts;
     }
     static void leave() { QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier); }
