@@ -7,6 +7,7 @@
 #include "shell/tool_table.h"
 #include "shell/trouble_rules.h"
 #include "text/cTextMethods.h"
+#include "text/silent_text_host.h"
 
 namespace tolvo {
 
@@ -36,12 +37,6 @@ constexpr Rule rules[] = {
     {u"edPLA", u"curly quotes", curlyQuotes},
 };
 
-/// The engine has nothing to say to anybody here.
-class NobodyHears final : public TextHost {
-    void setStatus(const QString &) override {}
-    void warn(const QString &, const QString &) override {}
-};
-
 /// Whether the tool of a token would change the text.
 class Mender {
   public:
@@ -63,7 +58,7 @@ class Mender {
     }
 
   private:
-    NobodyHears m_host;
+    SilentTextHost m_host;
     MemoryTextBox m_box{MemoryTextBox::unlimited};
     cTextMethods m_engine;
 };

@@ -8,6 +8,7 @@
 #include "shell/selection_tools.h"
 #include "shell/tool_call.h"
 #include "shell/tool_preview.h"
+#include "text/silent_text_host.h"
 
 #include <limits>
 
@@ -64,11 +65,6 @@ void writeResult(TextBox &box, const ToolInput &input, const QString &result, Se
     if (length == SelectionRule::Length::Old)
         select(box, input.start, static_cast<int>(input.text.size()));
 }
-
-class SilentHost final : public TextHost {
-    void setStatus(const QString &) override {}
-    void warn(const QString &, const QString &) override {}
-};
 
 /// A sort can't work on the text, which stays.
 void refuse(const ToolRow &row, const ToolCall &call, bool selected) {
@@ -131,7 +127,7 @@ std::optional<TextState> textAfterTool(const ToolRow &row, const ToolSettings &s
         return std::nullopt;
     MemoryTextBox box(present.capacity());
     restore(box, textState(present));
-    SilentHost host;
+    SilentTextHost host;
     const ToolContext context{engine, box, host};
     const ToolInput input = toolInput(context, row, &settings);
     const std::optional<QString> result = row.operation.run(input);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/hint_strip.h"
 
-#include "shell/ui/ElidedLabel.h"
+#include "widgets/ElidedLabel.h"
 #include "shell/ui/ImageButton.h"
 #include "shell/ui/row_painting.h"
 #include "widgets/grid.h"

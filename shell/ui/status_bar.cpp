@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/status_bar.h"
 
-#include "shell/ui/ElidedLabel.h"
+#include "widgets/ElidedLabel.h"
 #include "shell/zoom_levels.h"
 #include "widgets/announce.h"
 #include "widgets/themed_icon.h"

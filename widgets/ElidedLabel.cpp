@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/ui/ElidedLabel.h"
+#include "widgets/ElidedLabel.h"
 
 #include "platform/desktop/plain_tool_tip.h"
 
