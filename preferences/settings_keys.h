@@ -140,6 +140,7 @@ struct ViewKeys {
 
     Setting<forms::Bounded<50, 400, 100>> zoom{section, u"Zoom", 100}; // percent of the font's size
     Setting<forms::Check> marks{section, u"Marks", false};             // for blanks and line ends
+    Setting<forms::Check> matches{section, u"Matches", true};          // of the search that is being written
 };
 
 /// What the main window offers without being asked.

@@ -3,6 +3,8 @@
 
 #include "base/application.h"
 #include "platform/report_error.h"
+#include "search/ui/replacement_list.h"
+#include "widgets/ElidedLabel.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -97,8 +99,7 @@ void frmSearch::showForm() {
 }
 
 void frmSearch::readTexts() {
-    m_form.request.find = m_controls.cmbSearchText->currentText();
-    m_form.request.replace = m_controls.cmbReplaceText->currentText();
+    m_form.request = presentRequest();
 }
 
 /// Options, what is enabled and what is shown, from the form.
@@ -128,7 +129,34 @@ void frmSearch::applyRules() {
     c.cmdMore->setText(m_form.expanded ? QStringLiteral("Less     ") : QStringLiteral("&More     "));
     c.picMoreArrowDown->setVisible(!m_form.expanded);
     c.picMoreArrowUp->setVisible(m_form.expanded);
+    applyLiveRules();
     fitSize();
+}
+
+void frmSearch::applyLiveRules() {
+    SearchControls &c = m_controls;
+    const bool isLive = m_live != nullptr && !m_collecting;
+    c.labAnswer->setVisible(m_live != nullptr);
+    c.labForecast->setVisible(m_live != nullptr && m_replacing);
+    c.chkMarkMatches->setVisible(isLive);
+    c.lstReplacements->setVisible(isLive && m_replacing && m_form.expanded);
+    if (m_live == nullptr)
+        return;
+    const auto role = m_replacing ? LiveSearch::Role::Replacing : LiveSearch::Role::Searching;
+    m_live->ask(m_collecting ? LiveSearch::Role::Collecting : role);
+}
+
+void frmSearch::watch(const WatchedText &text) {
+    m_live =
+        std::make_unique<LiveSearch>(m_controls, *this, text, m_store, [this] { return presentRequest(); });
+    applyRules();
+}
+
+SearchRequest frmSearch::presentRequest() const {
+    SearchRequest present = m_form.request;
+    present.find = m_controls.cmbSearchText->currentText();
+    present.replace = m_controls.cmbReplaceText->currentText();
+    return present;
 }
 
 /// To be called before what is shown changes: that may enlarge the window by itself.

@@ -4,9 +4,11 @@
 #include "platform/message_box.h"
 #include "search/CSearch.h"
 #include "search/search_form.h"
+#include "search/ui/live_search.h"
 #include "search/ui/search_controls.h"
 
 #include <QDialog>
+#include <memory>
 
 namespace tolvo {
 
@@ -29,6 +31,8 @@ class frmSearch final : public QDialog, public SearchWindow {
     void showDialog(bool bReplace) override;
     void cmdSearch_Click() override;
 
+    /// From here on the window shows in a text what it finds, while it is shown.
+    void watch(const WatchedText &text);
     void setDirection(SearchDirection direction);
     /// Fills the form from `settings`, lets the user change it, and writes it back. False, and `settings` as
     /// they were, if the user cancelled.
@@ -46,6 +50,8 @@ class frmSearch final : public QDialog, public SearchWindow {
     void useMode(bool bReplace);
     void showForm();
     void readTexts();
+    [[nodiscard]] SearchRequest presentRequest() const;
+    void applyLiveRules();
     [[nodiscard]] QComboBox &listOf(QString SearchRequest::*text) const;
     void applyRules();
     void noteSizeOfUser();
@@ -63,6 +69,7 @@ class frmSearch final : public QDialog, public SearchWindow {
     MessageBoxes &m_boxes;
     SearchForm m_form;
     SearchControls m_controls;
+    std::unique_ptr<LiveSearch> m_live; ///< while a text is watched
     SearchListEdit *m_lastList;
     QSize m_fittedSize;  ///< what the contents needed last
     QSize m_givenSize;   ///< what the window got for it

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "search/ui/search_controls.h"
 
+#include "search/ui/replacement_list.h"
 #include "search/wildcard_translation.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/themed_icon.h"
 
 #include <QButtonGroup>
@@ -19,6 +21,8 @@
 namespace tolvo {
 
 namespace {
+
+constexpr int lettersOfAnswer = 44; // what most answers need
 
 template <class Control>
 Control *make(const char *name, const QString &caption, QWidget *parent) {
@@ -61,6 +65,8 @@ SearchControls::SearchControls(QDialog &window) : m_window(window) {
     left->addWidget(fraOptions);
     left->addWidget(fraSpecialChars);
     left->addWidget(fraWildcards);
+    lstReplacements = new ReplacementList(QStringLiteral("lstReplacements"), &window);
+    left->addWidget(lstReplacements);
     left->addStretch(1);
 
     auto *body = new QHBoxLayout;
@@ -86,13 +92,20 @@ QWidget *SearchControls::textRows() {
     labReplace->setBuddy(cmbReplaceText);
     cmbSearchText->setAccessibleName(QStringLiteral("Search for"));
     cmbReplaceText->setAccessibleName(QStringLiteral("Replace with"));
+    labAnswer = new ElidedLabel(QStringLiteral("labAnswer"), {});
+    labForecast = new ElidedLabel(QStringLiteral("labForecast"), {});
+    for (ElidedLabel *label : {labAnswer, labForecast}) // words that change don't change the window
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto *grid = new QGridLayout(part);
     grid->setContentsMargins({});
     grid->addWidget(labSearch, 0, 0);
     grid->addWidget(cmbSearchText, 0, 1);
-    grid->addWidget(labReplace, 1, 0);
-    grid->addWidget(cmbReplaceText, 1, 1);
-    grid->addWidget(imgSwop, 0, 2, 2, 1, Qt::AlignVCenter);
+    grid->addWidget(labAnswer, 1, 1, 1, 2);
+    grid->addWidget(labReplace, 2, 0);
+    grid->addWidget(cmbReplaceText, 2, 1);
+    grid->addWidget(labForecast, 3, 1, 1, 2);
+    grid->addWidget(imgSwop, 0, 2, 3, 1, Qt::AlignVCenter);
+    grid->setColumnMinimumWidth(1, lettersOfAnswer * part->fontMetrics().averageCharWidth());
     grid->setColumnStretch(1, 1);
     // The swop button comes and goes without moving the lists.
     QSizePolicy keepsPlace = imgSwop->sizePolicy();
@@ -122,11 +135,14 @@ void SearchControls::makeOptions() {
     chkSmart = make<QCheckBox>("chkSmart", QStringLiteral("&Smart Replace"), fraOptions);
     chkSmart->setToolTip(QStringLiteral("The replacement takes the capitals of the text that it replaces"));
     chkWholeWord = make<QCheckBox>("chkWholeWord", QStringLiteral("&Whole words"), fraOptions);
+    chkMarkMatches = make<QCheckBox>("chkMarkMatches", QStringLiteral("Mar&k in the text"), fraOptions);
+    chkMarkMatches->setToolTip(QStringLiteral("Marks all that the search finds while this window is open"));
     auto *grid = new QGridLayout(fraOptions);
     grid->setContentsMargins({});
     grid->addWidget(chkMatchCase, 0, 0);
     grid->addWidget(chkSmart, 0, 1);
     grid->addWidget(chkWholeWord, 1, 0);
+    grid->addWidget(chkMarkMatches, 1, 1);
     grid->setColumnStretch(1, 1);
 }
 

@@ -20,6 +20,9 @@ class QVBoxLayout;
 
 namespace tolvo {
 
+class ElidedLabel;
+class ReplacementList;
+
 /// The tab of a mode, from 0.
 constexpr int tabOf(SearchMode mode) {
     return static_cast<int>(mode) - static_cast<int>(SearchMode::Simple);
@@ -35,6 +38,8 @@ struct SearchControls {
     QTabBar *TabStrip1;
     SearchListEdit *cmbSearchText;
     SearchListEdit *cmbReplaceText;
+    ElidedLabel *labAnswer;   ///< what the search finds
+    ElidedLabel *labForecast; ///< what Replace All would do
     QLabel *labReplace;
     QToolButton *imgSwop;
     QRadioButton *optSrchDown;
@@ -45,6 +50,8 @@ struct SearchControls {
     QCheckBox *chkSmart;
     QCheckBox *chkWholeWord;
     QCheckBox *chkReplaceAll;
+    QCheckBox *chkMarkMatches;
+    ReplacementList *lstReplacements;
     QWidget *fraSpecialChars;
     QCheckBox *chkSpecialChars;
     std::vector<std::pair<QPushButton *, QString>> insertButtons; ///< with what each inserts

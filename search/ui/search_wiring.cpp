@@ -81,6 +81,7 @@ void frmSearch::connectOptions() {
     onClick(c.chkWholeWord, [this](bool on) { m_form.checkWholeWords(on); });
     onClick(c.chkReplaceAll, [this](bool on) { m_form.request.replaceAll = on; });
     onClick(c.chkSpecialChars, [this](bool on) { m_form.request.specialChars = on; });
+    onClick(c.chkMarkMatches, [](bool) {});
     for (std::size_t i = 0; i < c.optWildcardOptions.size(); ++i)
         onClick(c.optWildcardOptions[i], [this, i](bool) { m_form.chooseAnchor(static_cast<Anchor>(i)); });
     connect(c.cmbDecimalSep, &QComboBox::editTextChanged, this,

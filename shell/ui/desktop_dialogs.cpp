@@ -137,6 +137,9 @@ frmSearch &DesktopDialogs::searchWindow() {
     if (!m_search) {
         m_search =
             std::make_unique<frmSearch>(m_session->oSearch, m_services.store, m_services.boxes, &m_parent);
+        m_search->watch({.boxes = {&m_parent.txtText1(), &m_parent.txtTextWW()},
+                         .shown = [this]() -> PlainTextBox & { return m_parent.shownTextBox(); },
+                         .worker = m_parent.worker()});
         bringBackCorner(*m_search, m_services.store, settingKeys.windows.search);
     }
     return *m_search;
