@@ -67,8 +67,8 @@ void MatchCopy::save(SettingsStore &store) const {
     set(store, settingKeys.matchCopy.inPlace, inPlace);
 }
 
-MatchCopy readMatchCopy(const CParams &params) {
-    return {.search = readRequest(params, false, actionReading()),
+MatchCopy readMatchCopy(const CParams &params, const RequestReading &reading) {
+    return {.search = readRequest(params, false, reading),
             .form = params.arg(formKey),
             .inPlace = forms::Check::read(params.arg(inPlaceKey))};
 }

@@ -20,9 +20,9 @@ struct MatchCopy {
     void save(SettingsStore &store) const;
 };
 
-/// Reads the settings string of an Action. Missing keys are empty or off. Fails for a mode that doesn't
-/// exist.
-[[nodiscard]] MatchCopy readMatchCopy(const CParams &params);
+/// Reads the settings string of an Action; the search in it as `reading` says. A missing form is empty, and a
+/// copy goes to the clipboard then.
+[[nodiscard]] MatchCopy readMatchCopy(const CParams &params, const RequestReading &reading = actionReading());
 
 /// The settings string, what is special to a copy at its end:
 ///   "Mode=3, Find=(a)b, MatchCase=0, Direction=D, WholeWords=0, Form=<$1>, InPlace=0"

@@ -5,6 +5,7 @@
 #include "preferences/settings_keys.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tolvo {
 
@@ -40,6 +41,8 @@ void putInFront(QStringList &list, const QString &text) {
 void SearchForm::load(const SettingsStore &store) {
     request.load(store);
     expanded = request.specialChars || get(store, keys.expanded);
+    copyForm = get(store, settingKeys.matchCopy.form);
+    copyInPlace = get(store, settingKeys.matchCopy.inPlace);
     recentFinds = loadList(store, keys.recentFinds);
     recentReplaces = loadList(store, keys.recentReplaces);
     request.find = recentFinds.value(0);
@@ -49,20 +52,64 @@ void SearchForm::load(const SettingsStore &store) {
 void SearchForm::save(SettingsStore &store) const {
     SettingsStore::Transaction transaction(store);
     request.save(store);
+    saveCopy(store);
     set(store, keys.expanded, expanded);
     set(store, keys.recentFinds, recentFinds.first(std::min(recentFinds.size(), longestList)));
     set(store, keys.recentReplaces, recentReplaces.first(std::min(recentReplaces.size(), longestList)));
     transaction.commit();
 }
 
-void SearchForm::readSettings(const QString &settings, bool replacing) {
-    if (!settings.isEmpty())
-        request = readRequest(CParams(settings), replacing, windowReading(request));
+void SearchForm::saveCopy(SettingsStore &store) const {
+    set(store, settingKeys.matchCopy.form, copyForm);
+    set(store, settingKeys.matchCopy.inPlace, copyInPlace);
 }
 
-std::optional<SearchForm::Unkept> SearchForm::unkeptText(bool replacing) const {
+QString SearchForm::optionsOn(SearchRole role) const {
+    static const SearchRequest atFirst;
+    constexpr std::array anchors{u"at start of word", u"at end of word", u"at start of line",
+                                 u"at end of line", u""};
+    QStringList on;
+    const auto add = [&on](bool isOn, const char16_t *name) {
+        if (isOn)
+            on += QString::fromUtf16(name);
+    };
+    add(request.matchCase, u"match case");
+    add(request.wholeWords && wholeWordsEnabled(), u"whole words");
+    add(request.smartReplace && role == SearchRole::Replace, u"smart replace");
+    add(request.specialChars && specialCharsShown(), u"special characters");
+    if (wildcardsShown()) {
+        add(request.anchor != Anchor::Anywhere, anchors[static_cast<std::size_t>(request.anchor)]);
+        add(request.decimalSep != atFirst.decimalSep || request.groupingSep != atFirst.groupingSep,
+            u"other separators in numbers");
+    }
+    if (!on.isEmpty())
+        on.front().front() = on.front().front().toUpper();
+    return on.join(QStringLiteral(", "));
+}
+
+void SearchForm::readSettings(const QString &settings, SearchRole role) {
+    if (settings.isEmpty())
+        return;
+    const CParams params(settings);
+    const RequestReading reading = windowReading(request);
+    if (role != SearchRole::CopyMatches) {
+        request = readRequest(params, role == SearchRole::Replace, reading);
+        return;
+    }
+    const MatchCopy copy = readMatchCopy(params, reading);
+    request = copy.search;
+    copyForm = copy.form;
+    copyInPlace = copy.inPlace;
+}
+
+QString SearchForm::settings(SearchRole role) const {
+    return role == SearchRole::CopyMatches ? settingsString(matchCopy())
+                                           : settingsString(request, role == SearchRole::Replace);
+}
+
+std::optional<SearchForm::Unkept> SearchForm::unkeptText(SearchRole role) const {
     // A regular expression knows the escape by itself; so do the replacements of all but simple search.
-    const auto otherwise = [&](QString SearchRequest::*text, bool knowsEscapes) -> Unkept {
+    const auto otherwise = [&](SearchText text, bool knowsEscapes) -> Unkept {
         if (knowsEscapes || request.specialChars)
             return {text, false, CParams::refusal(QStringLiteral("Please write ,\\x20 instead"))};
         return {text, true,
@@ -70,15 +117,17 @@ std::optional<SearchForm::Unkept> SearchForm::unkeptText(bool replacing) const {
                     QStringLiteral("Please check \"Allow special characters\" and write ,\\x20 instead"))};
     };
     if (!CParams::canHold(request.find))
-        return otherwise(&SearchRequest::find, request.mode == SearchMode::RegularExpression);
-    if (replacing && !CParams::canHold(request.replace))
-        return otherwise(&SearchRequest::replace, request.mode != SearchMode::Simple);
+        return otherwise(SearchText::Find, request.mode == SearchMode::RegularExpression);
+    if (role == SearchRole::Replace && !CParams::canHold(request.replace))
+        return otherwise(SearchText::Replace, request.mode != SearchMode::Simple);
+    if (role == SearchRole::CopyMatches && !CParams::canHold(copyForm))
+        return otherwise(SearchText::Form, request.mode != SearchMode::Simple);
     if (request.mode != SearchMode::Wildcard)
         return {};
-    for (QString SearchRequest::*separator : {&SearchRequest::decimalSep, &SearchRequest::groupingSep}) {
-        if (!CParams::canHold(request.*separator))
-            return Unkept{separator, false,
-                          CParams::refusal(QStringLiteral("Please enter another separator"))};
+    for (const auto &[separator, text] : {std::pair(&request.decimalSep, SearchText::DecimalSep),
+                                          std::pair(&request.groupingSep, SearchText::GroupingSep)}) {
+        if (!CParams::canHold(*separator))
+            return Unkept{text, false, CParams::refusal(QStringLiteral("Please enter another separator"))};
     }
     return {};
 }

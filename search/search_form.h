@@ -3,7 +3,7 @@
 // remembered.
 #pragma once
 
-#include "search/search_request.h"
+#include "search/match_copy.h"
 
 #include <QString>
 #include <QStringList>
@@ -11,27 +11,41 @@
 
 namespace tolvo {
 
+/// What the window is there for; each shows a part of its own.
+enum class SearchRole { Search, Replace, CopyMatches };
+
+/// The texts of the window.
+enum class SearchText { Find, Replace, Form, DecimalSep, GroupingSep };
+
 struct SearchForm {
     SearchRequest request;
+    QString copyForm; ///< what each match that is copied becomes
+    bool copyInPlace = false;
     QStringList recentFinds; ///< the newest first
     QStringList recentReplaces;
     bool expanded = false; ///< the button says "Less"
 
-    /// The section `Search`. Values that make no sense give the default. With special characters on, the form
-    /// is expanded whatever was stored.
+    /// The section `Search`, and that of copied matches. Values that make no sense give the default. With
+    /// special characters on, the form is expanded whatever was stored.
     void load(const SettingsStore &store);
-    /// Writes the section; of each list no more than 20 entries.
+    /// Writes the sections; of each list no more than 20 entries.
     void save(SettingsStore &store) const;
 
     /// Takes over a settings string. An empty one changes nothing.
-    void readSettings(const QString &settings, bool replacing);
+    void readSettings(const QString &settings, SearchRole role);
+    /// What an Action stores.
+    [[nodiscard]] QString settings(SearchRole role) const;
+    [[nodiscard]] MatchCopy matchCopy() const { return {request, copyForm, copyInPlace}; }
     /// The first of its texts that its settings string can't hold.
     struct Unkept {
-        QString SearchRequest::*text;
+        SearchText text;
         bool needsSpecialChars; ///< the text can be written otherwise, but not with special characters off
         QString message;        ///< for the user, with the other way to write it if there is one
     };
-    [[nodiscard]] std::optional<Unkept> unkeptText(bool replacing) const;
+    [[nodiscard]] std::optional<Unkept> unkeptText(SearchRole role) const;
+
+    /// Writes what is special to a copy, without the search.
+    void saveCopy(SettingsStore &store) const;
 
     /// Puts both texts in front of their lists. Nothing for an empty search text.
     void rememberTexts();
@@ -40,12 +54,12 @@ struct SearchForm {
     void chooseAnchor(Anchor anchor);
     void checkWholeWords(bool on);
 
-    /// Something is on that only the larger layout shows.
-    [[nodiscard]] bool isOnUnseen() const {
-        return request.matchCase || (request.wholeWords && wholeWordsEnabled()) ||
-               (request.specialChars && specialCharsShown()) ||
-               (request.anchor != Anchor::Anywhere && wildcardsShown());
-    }
+    /// The options that are on and mean something, of those that only the larger layout shows.
+    ///   "Match case, whole words"; empty if none is on
+    [[nodiscard]] QString optionsOn(SearchRole role) const;
+    /// Something is on that only the larger layout shows. Smart replacement, which is on from the start, is
+    /// left out.
+    [[nodiscard]] bool isOnUnseen() const { return !optionsOn(SearchRole::Search).isEmpty(); }
 
     /// Which options mean something in the mode that is on; the window offers these alone.
     [[nodiscard]] bool wholeWordsEnabled() const { return request.mode != SearchMode::RegularExpression; }

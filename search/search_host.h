@@ -33,6 +33,8 @@ class SearchWindow {
     virtual void expandDialog() = 0;
     /// Shows the window for replacing or for searching only, and puts it in front.
     virtual void showDialog(bool bReplace) = 0;
+    /// Shows the window for copying all matches.
+    virtual void showCopyMatches() = 0;
     /// Searches for what the controls hold.
     virtual void cmdSearch_Click() = 0;
 };

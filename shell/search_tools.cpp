@@ -24,6 +24,21 @@ QString countedMatches(int count) {
     return count == 1 ? QStringLiteral("1 match") : groupedNumber(count) + QStringLiteral(" matches");
 }
 
+/// A short selection becomes the search text.
+void seed(SearchWindow &window, const TextBox &box) {
+    const int length = box.SelLength();
+    if (length >= 1 && length <= longestSeed) {
+        const EscapedText seed = escapedControls(box.SelText());
+        window.setSearchText(seed.text);
+        if (seed.specialChars)
+            window.setSpecialChars(true);
+    }
+    if (window.request().specialChars)
+        window.expandDialog();
+}
+
+} // namespace
+
 void copyMatches(const ToolCall &call, const MatchCopy &copy) {
     const std::optional<CopiedMatches> copied = call.search.copyMatches(copy);
     if (!copied)
@@ -40,8 +55,6 @@ void copyMatches(const ToolCall &call, const MatchCopy &copy) {
                    (copy.inPlace ? QStringLiteral(" in place of the text") : QStringLiteral(" copied")));
 }
 
-} // namespace
-
 void copyMatches(const ToolCall &call) {
     SearchWindow &window = call.services.dialogs.searchWindow();
     if (call.action) {
@@ -52,7 +65,8 @@ void copyMatches(const ToolCall &call) {
         copy.search = window.request();
         copyMatches(call, copy);
     } else {
-        openSearchDialog(window, call.context.box, false);
+        seed(window, call.context.box);
+        window.showCopyMatches();
     }
 }
 
@@ -66,15 +80,7 @@ void runSearchTool(const ToolCall &call, bool replace) {
 }
 
 void openSearchDialog(SearchWindow &window, const TextBox &box, bool replace) {
-    const int length = box.SelLength();
-    if (length >= 1 && length <= longestSeed) {
-        const EscapedText seed = escapedControls(box.SelText());
-        window.setSearchText(seed.text);
-        if (seed.specialChars)
-            window.setSpecialChars(true);
-    }
-    if (window.request().specialChars)
-        window.expandDialog();
+    seed(window, box);
     window.showDialog(replace);
 }
 

@@ -8,6 +8,7 @@ class CAction;
 class CSearch;
 class SearchWindow;
 class TextBox;
+struct MatchCopy;
 struct ToolCall;
 
 /// The tools edSRC and edREP. An Action searches as its settings say, a step of a PowerButton with the last
@@ -18,6 +19,8 @@ void runSearchTool(const ToolCall &call, bool replace);
 /// copies as its settings say, a step of a PowerButton with the last settings; any other call shows the
 /// search window.
 void copyMatches(const ToolCall &call);
+/// Copies all matches as `copy` says, whatever the call brings. Nothing for an empty search text.
+void copyMatches(const ToolCall &call, const MatchCopy &copy);
 
 /// Shows the search window. A selection of 1 to 24 units becomes its search text, with tabs, line ends and
 /// other control characters as escapes.

@@ -16,6 +16,7 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QToolButton>
+#include <tuple>
 
 namespace tolvo {
 
@@ -27,13 +28,13 @@ frmSearch::frmSearch(CSearch &oSearch, SettingsStore &store, MessageBoxes &boxes
     connectControls();
     connectKeys();
     connectOptions();
-    useMode(false);
+    useRole(SearchRole::Search);
     showForm();
 }
 
 frmSearch::~frmSearch() {
     // The lists lose the focus as they go, when there is no window left that could remember it.
-    for (SearchListEdit *list : {m_controls.cmbSearchText, m_controls.cmbReplaceText})
+    for (SearchListEdit *list : m_controls.textLists())
         list->disconnect(this);
 }
 
@@ -61,31 +62,46 @@ void frmSearch::toggleMore() {
     applyRules();
 }
 
-/// Which controls there are: for searching or replacing, for doing it or for collecting settings.
-void frmSearch::useMode(bool bReplace) {
+/// Which controls there are: for searching, replacing or copying, for doing it or for collecting settings.
+void frmSearch::useRole(SearchRole role) {
     noteSizeOfUser();
-    m_replacing = bReplace;
+    m_role = role;
+    const bool replaces = role == SearchRole::Replace;
+    const bool copies = role == SearchRole::CopyMatches;
     SearchControls &c = m_controls;
-    setWindowTitle(applicationTitle() +
-                   (bReplace ? QStringLiteral(" Search & Replace") : QStringLiteral(" Search")));
-    c.cmdReplaceAll->setText(bReplace ? QStringLiteral("Replace &All") : QStringLiteral("Find &All"));
-    c.cmbReplaceText->setEnabled(bReplace);
-    c.labReplace->setEnabled(bReplace);
-    c.imgSwop->setVisible(bReplace);
-    c.imgSwop->setEnabled(bReplace);
-    c.chkSmart->setEnabled(bReplace);
-    c.cmdReplace->setVisible(bReplace && !m_collecting);
-    for (QPushButton *button : {c.cmdSearch, c.cmdReplaceAll})
-        button->setVisible(!m_collecting);
-    for (QPushButton *button : {c.cmdSearch, c.cmdReplace, c.cmdReplaceAll})
-        button->setEnabled(!m_collecting);
-    c.chkReplaceAll->setVisible(m_collecting && bReplace);
-    c.cmdOK->setVisible(m_collecting);
-    c.cmdCancel->setVisible(m_collecting);
-    (m_collecting ? c.cmdOK : c.cmdSearch)->setDefault(true);
-    if (!bReplace)
+    setWindowTitle(applicationTitle() + (replaces ? QStringLiteral(" Search & Replace")
+                                         : copies ? QStringLiteral(" Search - Copy matches")
+                                                  : QStringLiteral(" Search")));
+    c.cmbReplaceText->setEnabled(replaces);
+    c.labReplace->setEnabled(replaces);
+    c.cmbReplaceText->setVisible(!copies);
+    c.labReplace->setVisible(!copies);
+    c.copyPart->setVisible(copies);
+    c.imgSwop->setVisible(replaces);
+    c.imgSwop->setEnabled(replaces);
+    c.chkSmart->setEnabled(replaces);
+    showButtons();
+    if (m_lastList == (copies ? c.cmbReplaceText : c.copyPart->cmbForm) || role == SearchRole::Search)
         m_lastList = c.cmbSearchText;
     applyRules();
+}
+
+void frmSearch::showButtons() {
+    SearchControls &c = m_controls;
+    const bool replaces = m_role == SearchRole::Replace;
+    const bool copies = m_role == SearchRole::CopyMatches;
+    c.cmdReplaceAll->setText(replaces ? QStringLiteral("Replace &All") : QStringLiteral("Find &All"));
+    c.cmdReplace->setVisible(replaces && !m_collecting);
+    c.cmdCopyMatches->setVisible(!replaces && !m_collecting);
+    showPurpose(*c.cmdCopyMatches, !copies);
+    for (QPushButton *button : {c.cmdSearch, c.cmdReplaceAll})
+        button->setVisible(!m_collecting);
+    for (QPushButton *button : {c.cmdSearch, c.cmdReplace, c.cmdReplaceAll, c.cmdCopyMatches})
+        button->setEnabled(!m_collecting);
+    c.chkReplaceAll->setVisible(m_collecting && replaces);
+    c.cmdOK->setVisible(m_collecting);
+    c.cmdCancel->setVisible(m_collecting);
+    (m_collecting ? c.cmdOK : copies ? c.cmdCopyMatches : c.cmdSearch)->setDefault(true);
 }
 
 /// Brings all controls to what the form says.
@@ -93,6 +109,7 @@ void frmSearch::showForm() {
     SearchControls &c = m_controls;
     c.cmbSearchText->show(m_form.recentFinds, m_form.request.find);
     c.cmbReplaceText->show(m_form.recentReplaces, m_form.request.replace);
+    c.copyPart->show(m_form.copyForm, m_form.copyInPlace);
     c.cmbDecimalSep->setEditText(m_form.request.decimalSep);
     c.cmbThousandsSep->setEditText(m_form.request.groupingSep);
     applyRules();
@@ -100,6 +117,7 @@ void frmSearch::showForm() {
 
 void frmSearch::readTexts() {
     m_form.request = presentRequest();
+    m_form.copyForm = m_controls.copyPart->cmbForm->currentText();
 }
 
 /// Options, what is enabled and what is shown, from the form.
@@ -130,6 +148,7 @@ void frmSearch::applyRules() {
     c.picMoreArrowDown->setVisible(!m_form.expanded);
     c.picMoreArrowUp->setVisible(m_form.expanded);
     applyLiveRules();
+    c.labFolded->setText(m_form.expanded ? QString() : m_form.optionsOn(m_role));
     fitSize();
 }
 
@@ -177,45 +196,65 @@ void frmSearch::fitSize() {
 }
 
 void frmSearch::showDialog(bool bReplace) {
-    useMode(bReplace);
+    open(bReplace ? SearchRole::Replace : SearchRole::Search);
+}
+
+void frmSearch::showCopyMatches() {
+    open(SearchRole::CopyMatches);
+}
+
+void frmSearch::open(SearchRole role) {
+    useRole(role);
     show();
     raise();
     activateWindow();
     m_controls.cmbSearchText->begin();
 }
 
-bool frmSearch::getSettings(QString &settings, bool bReplace) {
+bool frmSearch::getSettings(QString &settings, SearchRole role) {
     hide();
     readTexts();
-    m_form.readSettings(settings, bReplace);
+    const auto copyOfUser = std::pair(m_form.copyForm, m_form.copyInPlace);
+    m_form.readSettings(settings, role);
     m_collecting = true;
     // What is on has to be seen. The user's own choice of the layout comes back afterwards.
     const bool wasExpanded = m_form.expanded;
     m_form.expanded = wasExpanded || m_form.isOnUnseen();
-    useMode(bReplace);
+    useRole(role);
     showForm();
     m_controls.cmbSearchText->begin();
     const bool confirmed = exec() == QDialog::Accepted;
     m_collecting = false;
     m_form.expanded = wasExpanded;
-    useMode(bReplace);
+    useRole(role);
     readTexts();
     if (confirmed)
-        settings = settingsString(m_form.request, bReplace);
+        settings = m_form.settings(role);
+    // A copy of the user's own goes on as it was used last.
+    std::tie(m_form.copyForm, m_form.copyInPlace) = copyOfUser;
+    m_controls.copyPart->show(m_form.copyForm, m_form.copyInPlace);
     return confirmed;
 }
 
-QComboBox &frmSearch::listOf(QString SearchRequest::*text) const {
-    if (text == &SearchRequest::find)
-        return *m_controls.cmbSearchText;
-    if (text == &SearchRequest::replace)
+QComboBox &frmSearch::listOf(SearchText text) const {
+    switch (text) {
+    case SearchText::Replace:
         return *m_controls.cmbReplaceText;
-    return text == &SearchRequest::decimalSep ? *m_controls.cmbDecimalSep : *m_controls.cmbThousandsSep;
+    case SearchText::Form:
+        return *m_controls.copyPart->cmbForm;
+    case SearchText::DecimalSep:
+        return *m_controls.cmbDecimalSep;
+    case SearchText::GroupingSep:
+        return *m_controls.cmbThousandsSep;
+    case SearchText::Find:
+        break;
+    }
+    return *m_controls.cmbSearchText;
 }
 
 void frmSearch::accept() {
     readTexts();
-    const auto unkept = m_form.unkeptText(m_replacing);
+    const auto unkept = m_form.unkeptText(m_role);
     if (!unkept) {
         QDialog::accept();
         return;
@@ -253,7 +292,19 @@ void frmSearch::cmdReplace_Click() {
 }
 
 void frmSearch::cmdReplaceAll_Click() {
-    run([this] { m_search.run(m_replacing ? SearchVerb::ReplaceAll : SearchVerb::FindAll, m_form.request); });
+    const bool replaces = m_role == SearchRole::Replace;
+    run([=, this] { m_search.run(replaces ? SearchVerb::ReplaceAll : SearchVerb::FindAll, m_form.request); });
+}
+
+/// The first click shows what there is to choose.
+void frmSearch::cmdCopyMatches_Click() {
+    if (m_role != SearchRole::CopyMatches)
+        return showCopyMatches();
+    run([this] {
+        m_form.saveCopy(m_store);
+        if (onCopyMatches)
+            onCopyMatches(m_form.matchCopy());
+    });
 }
 
 void frmSearch::swop() {

@@ -8,6 +8,7 @@
 #include "search/ui/search_controls.h"
 
 #include <QDialog>
+#include <functional>
 #include <memory>
 
 namespace tolvo {
@@ -29,6 +30,7 @@ class frmSearch final : public QDialog, public SearchWindow {
     void setSpecialChars(bool on) override;
     void expandDialog() override;
     void showDialog(bool bReplace) override;
+    void showCopyMatches() override;
     void cmdSearch_Click() override;
 
     /// From here on the window shows in a text what it finds, while it is shown.
@@ -36,9 +38,15 @@ class frmSearch final : public QDialog, public SearchWindow {
     void setDirection(SearchDirection direction);
     /// Fills the form from `settings`, lets the user change it, and writes it back. False, and `settings` as
     /// they were, if the user cancelled.
-    bool getSettings(QString &settings, bool bReplace);
+    bool getSettings(QString &settings, bool bReplace) {
+        return getSettings(settings, bReplace ? SearchRole::Replace : SearchRole::Search);
+    }
+    bool getSettings(QString &settings, SearchRole role);
     /// Writes the state and the lists to the store.
     void saveState();
+
+    /// Carries out a copy of all matches.
+    std::function<void(const MatchCopy &)> onCopyMatches;
 
     /// OK: refuses, with a message, a text that the settings can't hold.
     void accept() override;
@@ -47,12 +55,14 @@ class frmSearch final : public QDialog, public SearchWindow {
     void connectControls();
     void connectKeys();
     void connectOptions();
-    void useMode(bool bReplace);
+    void useRole(SearchRole role);
+    void showButtons();
+    void open(SearchRole role);
     void showForm();
     void readTexts();
     [[nodiscard]] SearchRequest presentRequest() const;
     void applyLiveRules();
-    [[nodiscard]] QComboBox &listOf(QString SearchRequest::*text) const;
+    [[nodiscard]] QComboBox &listOf(SearchText text) const;
     void applyRules();
     void noteSizeOfUser();
     void fitSize();
@@ -61,6 +71,7 @@ class frmSearch final : public QDialog, public SearchWindow {
     void toggleMore();
     void cmdReplace_Click();
     void cmdReplaceAll_Click();
+    void cmdCopyMatches_Click();
     void swop();
     void ConvertToRegExp();
 
@@ -74,7 +85,7 @@ class frmSearch final : public QDialog, public SearchWindow {
     QSize m_fittedSize;  ///< what the contents needed last
     QSize m_givenSize;   ///< what the window got for it
     QSize m_added{0, 0}; ///< by the user
-    bool m_replacing = false;
+    SearchRole m_role = SearchRole::Search;
     bool m_collecting = false; ///< getSettings is running
 };
 

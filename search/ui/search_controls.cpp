@@ -69,11 +69,18 @@ SearchControls::SearchControls(QDialog &window) : m_window(window) {
     left->addWidget(lstReplacements);
     left->addStretch(1);
 
-    auto *body = new QHBoxLayout;
-    body->addLayout(left, 1);
-    body->addLayout(buttonColumn());
+    auto *body = new QGridLayout;
+    body->setColumnStretch(0, 1);
+    body->setRowStretch(0, 1);
+    body->addLayout(left, 0, 0);
+    body->addLayout(buttonColumn(), 0, 1);
+    labFolded = make<QLabel>("labFolded", QString(), &window);
+    labFolded->setWordWrap(true);
+    labFolded->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    body->addWidget(labFolded, 1, 0);
+    body->addLayout(moreRow(), 1, 1);
     makeWildcardHelp();
-    body->addWidget(fraWildcardHelp);
+    body->addWidget(fraWildcardHelp, 0, 2, 2, 1);
 
     auto *all = new QVBoxLayout(&window);
     all->addWidget(TabStrip1);
@@ -107,6 +114,7 @@ QWidget *SearchControls::textRows() {
     grid->addWidget(imgSwop, 0, 2, 3, 1, Qt::AlignVCenter);
     grid->setColumnMinimumWidth(1, lettersOfAnswer * part->fontMetrics().averageCharWidth());
     grid->setColumnStretch(1, 1);
+    copyPart.emplace(*grid, 2, *part);
     // The swop button comes and goes without moving the lists.
     QSizePolicy keepsPlace = imgSwop->sizePolicy();
     keepsPlace.setRetainSizeWhenHidden(true);
@@ -232,31 +240,36 @@ QVBoxLayout *SearchControls::buttonColumn() {
     cmdSearch = make<QPushButton>("cmdSearch", QStringLiteral("Find &Next"), &m_window);
     cmdReplace = make<QPushButton>("cmdReplace", QStringLiteral("&Replace"), &m_window);
     cmdReplaceAll = make<QPushButton>("cmdReplaceAll", QStringLiteral("Find &All"), &m_window);
+    cmdCopyMatches = makeCopyButton(m_window);
     cmdOK = make<QPushButton>("cmdOK", QStringLiteral("OK"), &m_window);
     cmdCancel = make<QPushButton>("cmdCancel", QStringLiteral("Cancel"), &m_window);
-    cmdMore = make<QPushButton>("cmdMore", QStringLiteral("&More     "), &m_window);
-    cmdMore->setToolTip(QStringLiteral("Show more or less (Alt-V)"));
     cmdSearchHelp = make<QPushButton>("cmdSearchHelp", QStringLiteral("&Help"), &m_window);
+    auto *column = new QVBoxLayout;
+    for (QPushButton *button : {cmdSearch, cmdReplace, cmdReplaceAll, cmdCopyMatches, cmdOK, cmdCancel})
+        column->addWidget(button);
+    column->addStretch(1);
+    column->addWidget(cmdSearchHelp);
+    for (QPushButton *button : {cmdReplace, cmdReplaceAll, cmdCancel, cmdSearchHelp})
+        button->setAutoDefault(false);
+    return column;
+}
+
+QHBoxLayout *SearchControls::moreRow() {
+    cmdMore = make<QPushButton>("cmdMore", QStringLiteral("&More     "), &m_window);
+    cmdMore->setAutoDefault(false);
+    cmdMore->setToolTip(QStringLiteral("Show more or less (Alt-V)"));
     picMoreArrowDown = makePicture("picMoreArrowDown", QStringLiteral("Show more"), &m_window);
     picMoreArrowDown->setArrowType(Qt::DownArrow);
     picMoreArrowUp = makePicture("picMoreArrowUp", QStringLiteral("Show less"), &m_window);
     picMoreArrowUp->setArrowType(Qt::UpArrow);
     for (QToolButton *arrow : {picMoreArrowDown, picMoreArrowUp})
         arrow->setFocusPolicy(Qt::NoFocus);
-    auto *column = new QVBoxLayout;
-    for (QPushButton *button : {cmdSearch, cmdReplace, cmdReplaceAll, cmdOK, cmdCancel})
-        column->addWidget(button);
-    column->addStretch(1);
     auto *more = new QHBoxLayout;
     more->setSpacing(0);
     more->addWidget(cmdMore, 1);
     more->addWidget(picMoreArrowDown);
     more->addWidget(picMoreArrowUp);
-    column->addLayout(more);
-    column->addWidget(cmdSearchHelp);
-    for (QPushButton *button : {cmdReplace, cmdReplaceAll, cmdCancel, cmdMore, cmdSearchHelp})
-        button->setAutoDefault(false);
-    return column;
+    return more;
 }
 
 } // namespace tolvo

@@ -2,15 +2,17 @@
 #pragma once
 
 #include "search/search_request.h"
-#include "search/ui/search_list_edit.h"
+#include "search/ui/copy_part.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 class QCheckBox;
 class QDialog;
 class QGridLayout;
 class QGroupBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QRadioButton;
@@ -35,6 +37,11 @@ constexpr SearchMode modeOfTab(int tab) {
 struct SearchControls {
     explicit SearchControls(QDialog &window);
 
+    /// The texts that elements can be inserted into.
+    [[nodiscard]] std::array<SearchListEdit *, 3> textLists() const {
+        return {cmbSearchText, cmbReplaceText, copyPart->cmbForm};
+    }
+
     QTabBar *TabStrip1;
     SearchListEdit *cmbSearchText;
     SearchListEdit *cmbReplaceText;
@@ -42,6 +49,7 @@ struct SearchControls {
     ElidedLabel *labForecast; ///< what Replace All would do
     QLabel *labReplace;
     QToolButton *imgSwop;
+    std::optional<CopyPart> copyPart; ///< always there
     QRadioButton *optSrchDown;
     QRadioButton *optSrchUp;
     QRadioButton *optSrchFromStart;
@@ -63,12 +71,14 @@ struct SearchControls {
     QPushButton *cmdSearch;
     QPushButton *cmdReplace;
     QPushButton *cmdReplaceAll;
+    QPushButton *cmdCopyMatches;
     QPushButton *cmdOK;
     QPushButton *cmdCancel;
     QPushButton *cmdMore;
     QToolButton *picMoreArrowUp;
     QToolButton *picMoreArrowDown;
     QPushButton *cmdSearchHelp;
+    QLabel *labFolded; ///< the options that are on while they are not shown
 
   private:
     QWidget *textRows();
@@ -78,6 +88,7 @@ struct SearchControls {
     void makeWildcards();
     void makeWildcardHelp();
     QVBoxLayout *buttonColumn();
+    QHBoxLayout *moreRow();
 
     QDialog &m_window;
 };

@@ -17,7 +17,7 @@ void frmSearch::connectControls() {
         m_form.request.mode = modeOfTab(index);
         applyRules();
     });
-    for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText}) {
+    for (SearchListEdit *list : c.textLists()) {
         connect(list, &SearchListEdit::used, this, [this, list] { m_lastList = list; });
         connect(list, &SearchListEdit::escaped, this, [this] {
             if (m_form.specialCharsShown())
@@ -27,6 +27,7 @@ void frmSearch::connectControls() {
     connect(c.cmdSearch, &QPushButton::clicked, this, &frmSearch::cmdSearch_Click);
     connect(c.cmdReplace, &QPushButton::clicked, this, &frmSearch::cmdReplace_Click);
     connect(c.cmdReplaceAll, &QPushButton::clicked, this, &frmSearch::cmdReplaceAll_Click);
+    connect(c.cmdCopyMatches, &QPushButton::clicked, this, &frmSearch::cmdCopyMatches_Click);
     connect(c.cmdOK, &QPushButton::clicked, this, &frmSearch::accept);
     connect(c.cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(c.imgSwop, &QToolButton::clicked, this, &frmSearch::swop);
@@ -79,6 +80,8 @@ void frmSearch::connectOptions() {
     onClick(c.chkMatchCase, [this](bool on) { m_form.request.matchCase = on; });
     onClick(c.chkSmart, [this](bool on) { m_form.request.smartReplace = on; });
     onClick(c.chkWholeWord, [this](bool on) { m_form.checkWholeWords(on); });
+    onClick(c.copyPart->optToClipboard, [this](bool) { m_form.copyInPlace = false; });
+    onClick(c.copyPart->optInPlace, [this](bool) { m_form.copyInPlace = true; });
     onClick(c.chkReplaceAll, [this](bool on) { m_form.request.replaceAll = on; });
     onClick(c.chkSpecialChars, [this](bool on) { m_form.request.specialChars = on; });
     onClick(c.chkMarkMatches, [](bool) {});

@@ -45,6 +45,7 @@ class HeadlessWindows : public SessionView, public SessionDialogs, public Search
     void setSpecialChars(bool) override {}
     void expandDialog() override {}
     void showDialog(bool) override {}
+    void showCopyMatches() override {}
     void cmdSearch_Click() override {}
 
     // SearchResults

@@ -8,6 +8,8 @@
 #include "search/ui/frmSearch.h"
 #include "search/ui/frmSearchResults.h"
 #include "shell/apply_options.h"
+#include "shell/search_tools.h"
+#include "shell/tool_call.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/dialog_sizes.h"
 #include "shell/ui/dlgConfirmClose.h"
@@ -140,9 +142,21 @@ frmSearch &DesktopDialogs::searchWindow() {
         m_search->watch({.boxes = {&m_parent.txtText1(), &m_parent.txtTextWW()},
                          .shown = [this]() -> PlainTextBox & { return m_parent.shownTextBox(); },
                          .worker = m_parent.worker()});
+        m_search->onCopyMatches = [this](const MatchCopy &copy) { copyMatchesOfWindow(copy); };
         bringBackCorner(*m_search, m_services.store, settingKeys.windows.search);
     }
     return *m_search;
+}
+
+/// A copy in place of the text is one step of undo.
+void DesktopDialogs::copyMatchesOfWindow(const MatchCopy &copy) {
+    m_session->guarded(u"copyMatches", [&] {
+        if (copy.inPlace)
+            m_session->pushUndo();
+        copyMatches(m_session->toolCall(), copy);
+        if (copy.inPlace)
+            m_session->pushUndo();
+    });
 }
 
 void DesktopDialogs::showSearchDirection(SearchDirection direction) {

@@ -47,10 +47,11 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     std::optional<QString> getSettings(const QString &token, const QString &details) override;
 
     [[nodiscard]] ToolDialogContext toolDialogContext();
-    std::optional<QString> editSearch(const QString &details, bool replace);
+    std::optional<QString> editSearch(const QString &details, SearchRole role);
     std::optional<QString> editLanguage(const QString &details);
     void prepareOptions();
     void configureProvider(int provider);
+    void copyMatchesOfWindow(const MatchCopy &copy);
     void takeFocusBack();
     [[nodiscard]] dlgDicQuickList &languageForm();
 

@@ -31,11 +31,11 @@ std::optional<QString> DesktopDialogs::getSettings(const QString &token, const Q
         return editInToolDialog(m_session->toolSettings().get(row->operation.settings()), details,
                                 toolDialogContext());
     case SettingsWindow::Search:
-        return editSearch(details, false);
+        return editSearch(details, SearchRole::Search);
     case SettingsWindow::Replace:
-        return editSearch(details, true);
+        return editSearch(details, SearchRole::Replace);
     case SettingsWindow::CopyMatches:
-        break; // the search window has no fields for it yet
+        return editSearch(details, SearchRole::CopyMatches);
     case SettingsWindow::Language:
         return editLanguage(details);
     case SettingsWindow::PowerButton: // the editor has a window of its own for it
@@ -46,9 +46,9 @@ std::optional<QString> DesktopDialogs::getSettings(const QString &token, const Q
     return std::nullopt;
 }
 
-std::optional<QString> DesktopDialogs::editSearch(const QString &details, bool replace) {
+std::optional<QString> DesktopDialogs::editSearch(const QString &details, SearchRole role) {
     QString settings = details;
-    return searchWindow().getSettings(settings, replace) ? std::optional(settings) : std::nullopt;
+    return searchWindow().getSettings(settings, role) ? std::optional(settings) : std::nullopt;
 }
 
 std::optional<QString> DesktopDialogs::editLanguage(const QString &details) {
