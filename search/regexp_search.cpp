@@ -106,8 +106,7 @@ int CSearch::listMatches(const RegularExpression &expression, const QString &tex
             continue;
         const int line = lines.lineOf(start);
         // Each line passed is one character longer in the text box. The context begins one character early.
-        results.add(joined({u"Line ", QString::number(line), u": ", hitContext(text, start, length)}),
-                    packLocation(start + line - 1, length));
+        results.add(hitLine(line, text, start, start, length), packLocation(start + line - 1, length));
         ++count;
     }
     return count;

@@ -2,6 +2,7 @@
 #include "search/result_lines.h"
 
 #include "base/failure.h"
+#include "search/joined.h"
 
 #include <algorithm>
 #include <limits>
@@ -51,6 +52,37 @@ QStringView hitContext(QStringView text, qsizetype position, qsizetype length) {
         }
     }
     return text.sliced(start - 1, std::min(size, text.size() - start + 1));
+}
+
+HitLine hitLine(int line, QStringView text, qsizetype index, qsizetype position, qsizetype length) {
+    const QStringView context = hitContext(text, position, length);
+    HitLine result{.text = joined({u"Line ", QString::number(line), u": "})};
+    const qsizetype contextStart = result.text.size();
+    const qsizetype before = contextStart + (index - (context.data() - text.data()));
+    result.text += context;
+    // The context of a hit that begins with a line end begins after it.
+    const qsizetype start = std::clamp(before, contextStart, result.text.size());
+    result.hitStart = static_cast<int>(start);
+    result.hitLength =
+        static_cast<int>(std::clamp<qsizetype>(before + length - start, 0, result.text.size() - start));
+    return result;
+}
+
+HitLine shownHitLine(const HitLine &line) {
+    HitLine shown;
+    const int hitEnd = line.hitStart + line.hitLength;
+    for (int i = 0; i < line.text.size(); ++i) {
+        const QChar unit = line.text[i];
+        if (i == line.hitStart)
+            shown.hitStart = static_cast<int>(shown.text.size());
+        if (unit != u'\r' || !QStringView(line.text).sliced(i + 1).startsWith(u'\n'))
+            shown.text += unit == u'\r' || unit == u'\n' ? QChar(u'\u00B6')
+                          : unit < u' '                  ? QChar(u' ')
+                                                         : unit;
+        if (i + 1 == hitEnd)
+            shown.hitLength = static_cast<int>(shown.text.size()) - shown.hitStart;
+    }
+    return shown;
 }
 
 qint32 packLocation(qsizetype index, qsizetype length) {

@@ -28,6 +28,21 @@ class LineCounter {
 /// the window one unit to the left.
 [[nodiscard]] QStringView hitContext(QStringView text, qsizetype position, qsizetype length);
 
+/// One line of the list, and where the hit stands in it.
+struct HitLine {
+    QString text; ///< line ends as they stand in what was searched
+    int hitStart = 0;
+    int hitLength = 0;
+
+    bool operator==(const HitLine &) const = default;
+};
+/// The line for a hit at an index from 0. `position` is that of its context, as for hitContext().
+///   hitLine(1, u"a cat", 2, 3, 3) is {"Line 1: a cat", 10, 3}
+[[nodiscard]] HitLine hitLine(int line, QStringView text, qsizetype index, qsizetype position,
+                              qsizetype length);
+/// The same on one line: each line end is a "\u00B6", each other control character a blank.
+[[nodiscard]] HitLine shownHitLine(const HitLine &line);
+
 /// A hit as one number: index from 0 times 10000 plus length. Lengths above 9999 spill into the index. Fails
 /// with an overflow beyond 32 bits.
 ///   packLocation(123, 5) == 1230005

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/text_box.h"
+#include "search/result_lines.h"
 #include "search/search_request.h"
 
 #include <QString>
@@ -15,7 +16,7 @@ class SearchResults {
     virtual ~SearchResults() = default;
     /// Empties the list.
     virtual void clear() = 0;
-    virtual void add(const QString &line, qint32 location) = 0;
+    virtual void add(const HitLine &line, qint32 location) = 0;
     virtual void setCaption(const QString &caption) = 0;
     /// Shows the list, modally: it returns once the list is closed.
     virtual void show() = 0;

@@ -62,9 +62,7 @@ void CSearch::listLiterals(SearchRequest request) {
         const qsizetype length = request.find.size();
         literalOf(request).forEachMatch(text, 0, [&](qsizetype index) {
             const qint32 location = packLocation(index, length);
-            results.add(joined({u"Line ", QString::number(lines.lineOf(index)), u": ",
-                                hitContext(text, index + 1, length)}),
-                        location);
+            results.add(hitLine(lines.lineOf(index), text, index, index + 1, length), location);
             ++count;
             return true;
         });

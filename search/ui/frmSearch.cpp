@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShowEvent>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QToolButton>
@@ -195,6 +196,12 @@ void frmSearch::fitSize() {
     m_givenSize = size();
 }
 
+void frmSearch::showEvent(QShowEvent *event) {
+    if (onShow && !event->spontaneous())
+        onShow();
+    QDialog::showEvent(event);
+}
+
 void frmSearch::showDialog(bool bReplace) {
     open(bReplace ? SearchRole::Replace : SearchRole::Search);
 }
@@ -277,6 +284,8 @@ void frmSearch::run(const std::function<void()> &command) {
     }
     const bool wasActive = isActiveWindow();
     command();
+    if (onSearched)
+        onSearched();
     // Under the list of results the window manager may have chosen another window.
     if (wasActive)
         activateWindow();

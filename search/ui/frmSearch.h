@@ -48,8 +48,14 @@ class frmSearch final : public QDialog, public SearchWindow {
     /// Carries out a copy of all matches.
     std::function<void(const MatchCopy &)> onCopyMatches;
 
+    std::function<void()> onShow;     ///< about to be shown, with its size
+    std::function<void()> onSearched; ///< a command is over; the window may lie over what it has selected
+
     /// OK: refuses, with a message, a text that the settings can't hold.
     void accept() override;
+
+  protected:
+    void showEvent(QShowEvent *event) override;
 
   private:
     void connectControls();

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "search/ui/frmSearchResults.h"
 
-#include "search/result_lines.h"
+#include "search/ui/hit_delegate.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
+#include <QShowEvent>
 #include <QStringListModel>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -16,15 +20,17 @@ namespace tolvo {
 frmSearchResults::frmSearchResults(const QFont &textFont, std::function<TextBox &()> txtCurrent,
                                    QWidget *parent)
     : QDialog(parent), m_txtCurrent(std::move(txtCurrent)), labResults(new QLabel(this)),
-      lstResults(new QListView(this)), m_lines(new QStringListModel(this)) {
+      lstResults(new QListView(this)), m_lines(new QStringListModel(this)),
+      m_delegate(new HitDelegate(this)) {
     setObjectName(QStringLiteral("frmSearchResults"));
     labResults->setObjectName(QStringLiteral("labResults"));
-    labResults->setText(QStringLiteral("Choose a line to &see it in the text:"));
+    labResults->setText(QStringLiteral("Choose a line to &see it in the text, Enter to go there:"));
     labResults->setBuddy(lstResults);
     lstResults->setObjectName(QStringLiteral("lstResults"));
     lstResults->setAccessibleName(QStringLiteral("Search results"));
     lstResults->setFont(textFont);
     lstResults->setModel(m_lines);
+    lstResults->setItemDelegate(m_delegate);
     lstResults->setUniformItemSizes(true);
     lstResults->setEditTriggers(QAbstractItemView::NoEditTriggers);
     auto *layout = new QVBoxLayout(this);
@@ -43,14 +49,29 @@ frmSearchResults::frmSearchResults(const QFont &textFont, std::function<TextBox 
     // A second click on the line where the list stands brings its hit back.
     connect(lstResults, &QListView::clicked, this,
             [this](const QModelIndex &index) { selectHit(index.row()); });
+    connect(lstResults, &QListView::doubleClicked, this,
+            [this](const QModelIndex &index) { goToHit(index.row()); });
 }
 
-void frmSearchResults::setHits(const QStringList &lines, const QList<qint32> &locations) {
-    m_lines->setStringList(lines);
+void frmSearchResults::showEvent(QShowEvent *event) {
+    if (onShow && !event->spontaneous())
+        onShow();
+    QDialog::showEvent(event);
+}
+
+void frmSearchResults::setHits(const QList<HitLine> &lines, const QList<qint32> &locations) {
+    QList<HitLine> shown;
+    QStringList texts;
+    for (const HitLine &line : lines) {
+        shown += shownHitLine(line);
+        texts += shown.last().text;
+    }
+    m_delegate->setLines(shown);
+    m_lines->setStringList(texts);
     m_locations = locations;
 }
 
-void frmSearchResults::setOldHits(const QStringList &lines) {
+void frmSearchResults::setOldHits(const QList<HitLine> &lines) {
     setHits(lines, {});
     lstResults->setEnabled(lines.isEmpty());
     if (!lines.isEmpty())
@@ -59,9 +80,19 @@ void frmSearchResults::setOldHits(const QStringList &lines) {
 
 /// The first arrow key chooses the line where the list stands.
 bool frmSearchResults::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == lstResults && event->type() == QEvent::KeyPress &&
-        !lstResults->selectionModel()->hasSelection() && lstResults->currentIndex().isValid()) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
+    if (watched != lstResults || event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    const auto *stroke = static_cast<QKeyEvent *>(event);
+    const int key = stroke->key();
+    if (stroke->matches(QKeySequence::Copy)) {
+        copyLines();
+        return true;
+    }
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        goToHit(lstResults->currentIndex().row());
+        return true;
+    }
+    if (!lstResults->selectionModel()->hasSelection() && lstResults->currentIndex().isValid()) {
         if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Home) {
             lstResults->selectionModel()->select(lstResults->currentIndex(),
                                                  QItemSelectionModel::ClearAndSelect);
@@ -76,6 +107,19 @@ void frmSearchResults::selectHit(int row) {
         return;
     const HitLocation hit = unpackLocation(m_locations[row]);
     select(m_txtCurrent(), hit.start, hit.length);
+    if (onHit)
+        onHit();
+}
+
+void frmSearchResults::goToHit(int row) {
+    if (row < 0 || row >= m_locations.size())
+        return;
+    selectHit(row);
+    accept();
+}
+
+void frmSearchResults::copyLines() {
+    QGuiApplication::clipboard()->setText(m_lines->stringList().join(u'\n'));
 }
 
 SearchResultsWindow::SearchResultsWindow(std::function<QFont()> textFont,
@@ -89,7 +133,7 @@ void SearchResultsWindow::clear() {
     m_isOld = false;
 }
 
-void SearchResultsWindow::add(const QString &line, qint32 location) {
+void SearchResultsWindow::add(const HitLine &line, qint32 location) {
     m_lines += line;
     m_locations += location;
 }
@@ -101,7 +145,22 @@ void SearchResultsWindow::show() {
         window.setOldHits(m_lines);
     else
         window.setHits(m_lines, m_locations);
-    window.exec();
+    window.onShow = [&] {
+        if (onShow)
+            onShow(window);
+    };
+    window.onHit = [&] {
+        if (onHit)
+            onHit(window);
+    };
+    if (window.exec() != QDialog::Accepted)
+        return;
+    // The search window takes the focus back first.
+    QTimer::singleShot(0, m_parent, [this] {
+        if (m_parent)
+            m_parent->activateWindow();
+        m_txtCurrent().setFocus();
+    });
 }
 
 } // namespace tolvo

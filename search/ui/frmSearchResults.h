@@ -13,7 +13,10 @@ class QStringListModel;
 
 namespace tolvo {
 
-/// The hits of a Find All. A click on one selects it in the text; the window stays open.
+class HitDelegate;
+
+/// The hits of a Find All. A click on one selects it in the text; the window stays open. Enter and a double
+/// click end it as accepted, with the hit selected; Ctrl-C copies all lines.
 class frmSearchResults final : public QDialog {
     Q_OBJECT
 
@@ -21,21 +24,28 @@ class frmSearchResults final : public QDialog {
     frmSearchResults(const QFont &textFont, std::function<TextBox &()> txtCurrent, QWidget *parent);
 
     /// One line and one packed location for each hit.
-    void setHits(const QStringList &lines, const QList<qint32> &locations);
+    void setHits(const QList<HitLine> &lines, const QList<qint32> &locations);
     /// The lines of another search: they can be read, but lead nowhere.
-    void setOldHits(const QStringList &lines);
+    void setOldHits(const QList<HitLine> &lines);
+
+    std::function<void()> onShow; ///< about to be shown, with its size
+    std::function<void()> onHit;  ///< a hit has been selected in the text
 
   protected:
+    void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
     void selectHit(int row);
+    void goToHit(int row);
+    void copyLines();
 
     std::function<TextBox &()> m_txtCurrent;
     QList<qint32> m_locations;
     QLabel *labResults;
     QListView *lstResults;
     QStringListModel *m_lines;
+    HitDelegate *m_delegate;
 };
 
 /// Collects hits, and makes the window when it is first shown.
@@ -46,15 +56,18 @@ class SearchResultsWindow final : public SearchResults {
                         QWidget *parent);
 
     void clear() override;
-    void add(const QString &line, qint32 location) override;
+    void add(const HitLine &line, qint32 location) override;
     void setCaption(const QString &caption) override { m_caption = caption; }
     void show() override;
+
+    std::function<void(QWidget &)> onShow; ///< places the list
+    std::function<void(QWidget &)> onHit;  ///< a hit has been selected; the list may lie over it
 
   private:
     std::function<QFont()> m_textFont;
     std::function<TextBox &()> m_txtCurrent;
     QWidget *m_parent;
-    QStringList m_lines;
+    QList<HitLine> m_lines;
     QList<qint32> m_locations;
     QString m_caption;
     bool m_isOld = true; ///< nothing has been listed since the list was last shown

@@ -50,7 +50,7 @@ class HeadlessWindows : public SessionView, public SessionDialogs, public Search
 
     // SearchResults
     void clear() override {}
-    void add(const QString &, qint32) override {}
+    void add(const HitLine &, qint32) override {}
     void setCaption(const QString &) override {}
     void show() override {}
 

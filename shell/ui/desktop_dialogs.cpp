@@ -11,6 +11,7 @@
 #include "shell/search_tools.h"
 #include "shell/tool_call.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/clear_of_text.h"
 #include "shell/ui/dialog_sizes.h"
 #include "shell/ui/dlgConfirmClose.h"
 #include "shell/ui/window_memory.h"
@@ -23,6 +24,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <utility>
 
 namespace tolvo {
 
@@ -31,6 +33,12 @@ DesktopDialogs::DesktopDialogs(const RunServices &services, MainWindow &parent)
     m_results = std::make_unique<SearchResultsWindow>(
         [this] { return toQFont(m_session->currentFont()); },
         [this]() -> TextBox & { return m_session->txtCurrent(); }, &m_parent);
+    m_results->onShow = [this](QWidget &list) { placeBesideText(list, m_parent); };
+    m_results->onHit = [this](QWidget &list) {
+        moveOffSelection(list, m_parent);
+        if (m_search)
+            moveOffSelection(*m_search, m_parent);
+    };
 }
 
 DesktopDialogs::~DesktopDialogs() = default;
@@ -143,9 +151,22 @@ frmSearch &DesktopDialogs::searchWindow() {
                          .shown = [this]() -> PlainTextBox & { return m_parent.shownTextBox(); },
                          .worker = m_parent.worker()});
         m_search->onCopyMatches = [this](const MatchCopy &copy) { copyMatchesOfWindow(copy); };
-        bringBackCorner(*m_search, m_services.store, settingKeys.windows.search);
+        m_searchIsPlaced = bringBackCorner(*m_search, m_services.store, settingKeys.windows.search);
+        keepSearchClear();
     }
     return *m_search;
+}
+
+/// At its first place and after each search.
+void DesktopDialogs::keepSearchClear() {
+    m_search->onShow = [this] {
+        if (!m_search->isModal() && !std::exchange(m_searchIsPlaced, true))
+            placeBesideText(*m_search, m_parent);
+    };
+    m_search->onSearched = [this] {
+        if (!m_search->isModal())
+            moveOffSelection(*m_search, m_parent);
+    };
 }
 
 /// A copy in place of the text is one step of undo.

@@ -51,6 +51,7 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     std::optional<QString> editLanguage(const QString &details);
     void prepareOptions();
     void configureProvider(int provider);
+    void keepSearchClear();
     void copyMatchesOfWindow(const MatchCopy &copy);
     void takeFocusBack();
     [[nodiscard]] dlgDicQuickList &languageForm();
@@ -66,6 +67,7 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     std::unique_ptr<dlgDicQuickList> m_languageDialog;
     std::unique_ptr<SearchResultsWindow> m_results;
     std::unique_ptr<frmSearch> m_search;
+    bool m_searchIsPlaced = false; ///< by the user, or beside the text
 };
 
 } // namespace tolvo

@@ -43,9 +43,11 @@ void bringBack(QWidget &window, const SettingsStore &store, const PlaceKey &key)
         window.setWindowState(Qt::WindowMaximized);
 }
 
-void bringBackCorner(QWidget &window, const SettingsStore &store, const PlaceKey &key) {
-    if (const auto place = storedPlace(store, key))
+bool bringBackCorner(QWidget &window, const SettingsStore &store, const PlaceKey &key) {
+    const auto place = storedPlace(store, key);
+    if (place)
         window.move(place->area.topLeft());
+    return place.has_value();
 }
 
 void keepPlace(SettingsStore &store, const PlaceKey &key, const QString &place) {

@@ -19,7 +19,8 @@ using PlaceKey = Setting<forms::Text, ScreenSection>;
 /// Gives a window that is not shown yet its place and size, or its place alone for one with a size of its
 /// own. It stays as it is if the store has no place that still lies on a screen.
 void bringBack(QWidget &window, const SettingsStore &store, const PlaceKey &key);
-void bringBackCorner(QWidget &window, const SettingsStore &store, const PlaceKey &key);
+/// True if the window has been moved.
+bool bringBackCorner(QWidget &window, const SettingsStore &store, const PlaceKey &key);
 
 /// Writes what differs from the store; an empty text is not written.
 void keepPlace(SettingsStore &store, const PlaceKey &key, const QString &place);

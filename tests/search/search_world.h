@@ -15,16 +15,22 @@ namespace tolvo::test {
 struct KeptResults : SearchResults {
     void clear() override {
         lines.clear();
+        shown.clear();
         locations.clear();
     }
-    void add(const QString &line, qint32 location) override {
-        lines.append(line);
+    void add(const HitLine &line, qint32 location) override {
+        lines.append(line.text);
+        const HitLine painted = shownHitLine(line);
+        shown.append(QString(painted.text)
+                         .insert(painted.hitStart + painted.hitLength, u'\u00BB')
+                         .insert(painted.hitStart, u'\u00AB'));
         locations.append(location);
     }
     void setCaption(const QString &text) override { caption = text; }
     void show() override { ++timesShown; }
 
     QStringList lines;
+    QStringList shown; ///< as the list paints them, the hit between guillemets
     QList<qint32> locations;
     QString caption;
     int timesShown = 0;

@@ -3,7 +3,9 @@
 #include "preferences/settings_keys.h"
 #include "tests/search/ui/search_window_world.h"
 
+#include <QClipboard>
 #include <QLabel>
+#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
@@ -68,6 +70,30 @@ TEST_F(SeekWindow, CollectsTheSettingsOfACopy) {
     window->showCopyMatches();
     EXPECT_EQ(find<QComboBox>("cmbForm").currentText(), "");
     EXPECT_TRUE(find<QRadioButton>("optToClipboard").isChecked());
+}
+
+TEST_F(SeekWindow, GoesFromTheListToTheText) {
+    show("«»one two One");
+    open(false);
+    window->setSearchText("o(n|\\n)");
+    find<QTabBar>("TabStrip1").setCurrentIndex(2);
+    int chosen = 0;
+    resultsWindow.onHit = [&chosen](QWidget &) { ++chosen; };
+    withModal<QDialog>([&, this](QDialog &shown) {
+        auto &listed = child<QListView>(shown, "lstResults");
+        QTest::keyClick(&listed, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), "Line 1: one two One\nLine 1: one two One");
+        QTest::keyClick(&listed, Qt::Key_Down);
+        QTest::keyClick(&listed, Qt::Key_Down);
+        EXPECT_EQ(picture(), "one two «On»e");
+        QTest::keyClick(&listed, Qt::Key_Up);
+        EXPECT_TRUE(shown.isVisible());
+        QTest::keyClick(&listed, Qt::Key_Return);
+        EXPECT_TRUE(!shown.isVisible() && shown.result() == QDialog::Accepted);
+    });
+    click("cmdReplaceAll");
+    EXPECT_EQ(picture(), "«on»e two One");
+    EXPECT_EQ(chosen, 4);
 }
 
 TEST_F(SeekWindow, NamesTheOptionsThatAreFoldedAway) {
