@@ -78,6 +78,9 @@ void frmSearch::useRole(SearchRole role) {
     c.cmbReplaceText->setVisible(!copies);
     c.labReplace->setVisible(!copies);
     c.copyPart->setVisible(copies);
+    c.elementButtons[1]->setVisible(!copies);
+    c.elementButtons[1]->setEnabled(replaces);
+    c.elementButtons[2]->setVisible(copies);
     c.imgSwop->setVisible(replaces);
     c.imgSwop->setEnabled(replaces);
     c.chkSmart->setEnabled(replaces);
@@ -138,6 +141,8 @@ void frmSearch::applyRules() {
     c.chkWholeWord->setEnabled(m_form.wholeWordsEnabled());
     c.chkReplaceAll->setChecked(m_form.request.replaceAll);
     c.chkSpecialChars->setChecked(m_form.request.specialChars);
+    for (ElementButton *button : c.elementButtons)
+        button->offer(m_form.request.mode, m_form.request.specialChars && m_form.specialCharsShown());
     for (const auto &[button, text] : c.insertButtons)
         button->setEnabled(m_form.request.specialChars);
     c.optWildcardOptions[static_cast<std::size_t>(m_form.request.anchor)]->setChecked(true);

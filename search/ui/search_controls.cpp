@@ -111,10 +111,16 @@ QWidget *SearchControls::textRows() {
     grid->addWidget(labReplace, 2, 0);
     grid->addWidget(cmbReplaceText, 2, 1);
     grid->addWidget(labForecast, 3, 1, 1, 2);
-    grid->addWidget(imgSwop, 0, 2, 3, 1, Qt::AlignVCenter);
+    grid->addWidget(imgSwop, 0, 3, 3, 1, Qt::AlignVCenter);
     grid->setColumnMinimumWidth(1, lettersOfAnswer * part->fontMetrics().averageCharWidth());
     grid->setColumnStretch(1, 1);
-    copyPart.emplace(*grid, 2, *part);
+    copyPart.emplace(*grid, 4, *part);
+    elementButtons = {
+        new ElementButton(SearchText::Find, *cmbSearchText, QStringLiteral("Search for"), part),
+        new ElementButton(SearchText::Replace, *cmbReplaceText, QStringLiteral("Replace with"), part),
+        new ElementButton(SearchText::Form, *copyPart->cmbForm, QStringLiteral("Form"), part)};
+    for (int i = 0; i < static_cast<int>(elementButtons.size()); ++i)
+        grid->addWidget(elementButtons[static_cast<std::size_t>(i)], 2 * i, 2);
     // The swop button comes and goes without moving the lists.
     QSizePolicy keepsPlace = imgSwop->sizePolicy();
     keepsPlace.setRetainSizeWhenHidden(true);

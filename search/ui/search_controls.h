@@ -3,6 +3,7 @@
 
 #include "search/search_request.h"
 #include "search/ui/copy_part.h"
+#include "search/ui/element_button.h"
 
 #include <array>
 #include <optional>
@@ -48,6 +49,7 @@ struct SearchControls {
     ElidedLabel *labAnswer;   ///< what the search finds
     ElidedLabel *labForecast; ///< what Replace All would do
     QLabel *labReplace;
+    std::array<ElementButton *, 3> elementButtons; ///< beside the texts
     QToolButton *imgSwop;
     std::optional<CopyPart> copyPart; ///< always there
     QRadioButton *optSrchDown;

@@ -36,6 +36,8 @@ void frmSearch::connectControls() {
     connect(c.picMoreArrowUp, &QToolButton::clicked, this, &frmSearch::toggleMore);
     connect(c.cmdSearchHelp, &QPushButton::clicked, this,
             [this] { m_boxes.show({.text = QStringLiteral("Help is not implemented yet")}); });
+    for (ElementButton *button : c.elementButtons)
+        connect(button, &ElementButton::specialCharsWanted, this, [this] { setSpecialChars(true); });
     for (const auto &[button, text] : c.insertButtons)
         connect(button, &QPushButton::clicked, this,
                 [this, inserted = text] { m_lastList->insertText(inserted); });
@@ -51,6 +53,14 @@ void frmSearch::connectKeys() {
     const auto turn = [tabs = m_controls.TabStrip1](int step) {
         tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
     };
+    // The menu of the list that has the focus.
+    shortcut(Qt::ALT | Qt::Key_Insert, [this] {
+        const auto lists = m_controls.textLists();
+        for (std::size_t i = 0; i < lists.size(); ++i) {
+            if (lists[i] == m_lastList)
+                m_controls.elementButtons[i]->showMenu();
+        }
+    });
     const auto unlessCollecting = [this](auto action) {
         return [this, action] {
             if (!m_collecting)

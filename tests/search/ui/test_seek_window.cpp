@@ -6,9 +6,11 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QToolButton>
 
 namespace tolvo::test {
 namespace {
@@ -94,6 +96,31 @@ TEST_F(SeekWindow, GoesFromTheListToTheText) {
     click("cmdReplaceAll");
     EXPECT_EQ(picture(), "«on»e two One");
     EXPECT_EQ(chosen, 4);
+}
+
+TEST_F(SeekWindow, InsertsElements) {
+    open(true);
+    const auto choose = [this](const char *button, const QString &element) {
+        QMenu &menu = *find<QToolButton>(button).menu();
+        emit menu.aboutToShow();
+        for (QAction *action : menu.actions()) {
+            if (action->text().startsWith(element))
+                return action->trigger();
+        }
+        ADD_FAILURE() << element.toStdString() << " is not offered";
+    };
+    type("ab");
+    press(Qt::Key_Left);
+    choose("cmbSearchTextElements", "Allow special");
+    EXPECT_TRUE(find<QAbstractButton>("chkSpecialChars").isChecked());
+    choose("cmbSearchTextElements", "\\t");
+    EXPECT_EQ(window->request().find, "a\\tb");
+    find<QTabBar>("TabStrip1").setCurrentIndex(2);
+    choose("cmbSearchTextElements", "()");
+    type("x");
+    EXPECT_EQ(window->request().find, "a\\t(x)b");
+    choose("cmbReplaceTextElements", "$&&"); // as menus write it
+    EXPECT_EQ(window->request().replace, "$&");
 }
 
 TEST_F(SeekWindow, NamesTheOptionsThatAreFoldedAway) {
