@@ -3,6 +3,7 @@
 
 #include "widgets/contrast.h"
 #include "widgets/house_style.h"
+#include "widgets/screen_fit.h"
 #include "widgets/themed_icon.h"
 
 #include <QApplication>
@@ -57,6 +58,7 @@ void dressApplication() {
     QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));
     dressPalette();
     qApp->installEventFilter(new ThemeWatch(qApp));
+    new ScreenFit(qApp);
 }
 
 } // namespace tolvo

@@ -20,8 +20,9 @@ class Grid {
     [[nodiscard]] constexpr int gap() const { return 2 * m_unit; }
     /// Between the controls and the edge of the window.
     [[nodiscard]] constexpr int margin() const { return 3 * m_unit; }
-    /// The least side of what is clicked; buttons are as high. Grid(16).target() is 32.
-    [[nodiscard]] constexpr int target() const { return 8 * m_unit; }
+    /// The least side of what is clicked; buttons are as high. Grid(16).target() is 32. Very large letters
+    /// are large targets by themselves and leave the room to the text.
+    [[nodiscard]] constexpr int target() const { return 4 * m_unit + std::min(4 * m_unit, 20); }
     /// The side of an icon on a button.
     [[nodiscard]] constexpr int icon() const { return 5 * m_unit; }
 

@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
 
 namespace tolvo {
 
@@ -58,6 +59,20 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
                           QStyleHintReturn *data) const {
     return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0
                                                        : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+    case PM_ButtonIconSize:
+        return isFaint() && widget ? std::max(usual, widget->fontMetrics().ascent() * 9 / 10) : usual;
+    default:
+        return usual;
+    }
 }
 
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

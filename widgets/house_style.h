@@ -7,11 +7,13 @@ namespace tolvo {
 
 /// The platform's style with words alone on the buttons of dialogs. Where that style is the toolkit's own,
 /// whose edges and focus are too faint to be seen by everybody, controls get edges, and a ring with the
-/// focus, that stand out from the window by lineContrast.
+/// focus, that stand out from the window by lineContrast; signs and icons grow with the letters beside them.
 class HouseStyle : public QProxyStyle {
   public:
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                                 QStyleHintReturn *data) const override;
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                                  const QWidget *widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

@@ -5,6 +5,7 @@
 #include "platform/report_error.h"
 #include "search/ui/replacement_list.h"
 #include "widgets/ElidedLabel.h"
+#include "widgets/screen_fit.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -161,13 +162,14 @@ void frmSearch::applyRules() {
 void frmSearch::applyLiveRules() {
     SearchControls &c = m_controls;
     const bool isLive = m_live != nullptr && !m_collecting;
+    const bool replaces = m_role == SearchRole::Replace;
     c.labAnswer->setVisible(m_live != nullptr);
-    c.labForecast->setVisible(m_live != nullptr && m_replacing);
+    c.labForecast->setVisible(m_live != nullptr && replaces);
     c.chkMarkMatches->setVisible(isLive);
-    c.lstReplacements->setVisible(isLive && m_replacing && m_form.expanded);
+    c.lstReplacements->setVisible(isLive && replaces && m_form.expanded);
     if (m_live == nullptr)
         return;
-    const auto role = m_replacing ? LiveSearch::Role::Replacing : LiveSearch::Role::Searching;
+    const auto role = replaces ? LiveSearch::Role::Replacing : LiveSearch::Role::Searching;
     m_live->ask(m_collecting ? LiveSearch::Role::Collecting : role);
 }
 
@@ -193,7 +195,7 @@ void frmSearch::noteSizeOfUser() {
 
 /// As large as what is shown needs, and larger by what the user has added.
 void frmSearch::fitSize() {
-    layout()->activate();
+    activateLayout(*this);
     if (const QSize needed = sizeHint(); needed != m_fittedSize) {
         m_fittedSize = needed;
         resize(needed + m_added);

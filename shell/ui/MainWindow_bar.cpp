@@ -5,9 +5,9 @@
 #include "shell/ui/ImageButton.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/any_click.h"
+#include "widgets/FoldingRow.h"
 #include "widgets/themed_icon.h"
 
-#include <QHBoxLayout>
 #include <QMenu>
 #include <array>
 
@@ -38,7 +38,7 @@ QToolButton *MainWindow::imageButton(const char *name, const char *icon, const Q
 
 QWidget *MainWindow::topBar() {
     auto *bar = new QWidget;
-    auto *layout = new QHBoxLayout(bar);
+    auto *layout = new FoldingRow(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
     for (std::size_t i = 0; i < favourites.size(); ++i) {

@@ -9,6 +9,7 @@
 #include "shell/ui/status_bar.h"
 #include "shell/ui/window_size.h"
 #include "shell/window_place.h"
+#include "widgets/FoldingRow.h"
 #include "widgets/PrimaryButton.h"
 #include "widgets/grid.h"
 #include "widgets/roving_focus.h"
@@ -41,7 +42,7 @@ QAccessibleInterface *describeMainWindow(const QString &className, QObject *obje
 }
 
 QHBoxLayout *row(QWidget *parent) {
-    auto *layout = new QHBoxLayout(parent);
+    auto *layout = new FoldingRow(parent);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Grid(*parent).gap());
     return layout;

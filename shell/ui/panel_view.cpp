@@ -66,7 +66,16 @@ QSize PanelRowButton::sizeHint() const {
 }
 
 QSize PanelRowButton::minimumSizeHint() const {
-    return {150, fontMetrics().height() - 2};
+    return {150, fontMetrics().height() * 4 / 5}; // the letters shrink with the row
+}
+
+/// The window's letters, smaller in a row that is too low for them.
+QFont PanelRowButton::letters() const {
+    QFont face = font();
+    const int needed = fontMetrics().height() - 2;
+    if (height() < needed)
+        face.setPixelSize(std::max(1, QFontInfo(face).pixelSize() * height() / needed));
+    return face;
 }
 
 void PanelRowButton::paintEvent(QPaintEvent *) {
@@ -85,7 +94,7 @@ void PanelRowButton::paintEvent(QPaintEvent *) {
         painter.setPen(QPen(green, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         paintMark(painter, area.center().y(), open);
     }
-    QFont face = font();
+    QFont face = letters();
     face.setBold(category && open);
     painter.setFont(face);
     painter.setPen(category ? palette().color(QPalette::Text) : green);

@@ -26,6 +26,8 @@ class PanelRowButton : public QAbstractButton {
     void paintEvent(QPaintEvent *event) override;
 
   private:
+    [[nodiscard]] QFont letters() const;
+
     cToolbox::Row m_row;
 };
 

@@ -6,12 +6,12 @@
 #include "powerbuttons/ui/icon_painter.h"
 #include "shell/ui/any_click.h"
 #include "shell/ui/tool_drag.h"
+#include "widgets/FoldingRow.h"
 #include "widgets/contrast.h"
 #include "widgets/grid.h"
 #include "widgets/themed_icon.h"
 
 #include <QDropEvent>
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -161,7 +161,7 @@ void PowerButtonImage::paintPlus(QPainter &painter, const QRectF &tile) const {
 PowerButtonBar::PowerButtonBar(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("frmIcontray"));
     setAccessibleName(QStringLiteral("PowerButtons"));
-    auto *layout = new QHBoxLayout(this);
+    auto *layout = new FoldingRow(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
     for (int i = 0; i < CPowerButtonCollection::buttonCount; ++i) {

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "widgets/FoldingRow.h"
+
+#include <QStyle>
+#include <QWidget>
+#include <algorithm>
+
+namespace tolvo {
+
+QSize FoldingRow::minimumSize() const {
+    int widest = 0;
+    for (int i = 0; i < count(); ++i)
+        widest = std::max(widest, itemAt(i)->minimumSize().width());
+    return {widest, QHBoxLayout::minimumSize().height()};
+}
+
+QList<FoldingRow::Place> FoldingRow::folded(int width) const {
+    QList<Place> places;
+    QPoint next;
+    int lineHeight = 0;
+    for (int i = 0; i < count(); ++i) {
+        QLayoutItem *item = itemAt(i);
+        if (item->isEmpty() || item->spacerItem() != nullptr)
+            continue;
+        QSize size = item->sizeHint().boundedTo({width, QLAYOUTSIZE_MAX});
+        if (item->hasHeightForWidth())
+            size.setHeight(item->heightForWidth(size.width()));
+        if (next.x() > 0 && next.x() + size.width() > width) {
+            next = {0, next.y() + lineHeight + spacing()};
+            lineHeight = 0;
+        }
+        places += {item, QRect(next, size)};
+        next.rx() += size.width() + spacing();
+        lineHeight = std::max(lineHeight, size.height());
+    }
+    return places;
+}
+
+int FoldingRow::heightForWidth(int width) const {
+    if (!isFoldedAt(width))
+        return QHBoxLayout::hasHeightForWidth() ? QHBoxLayout::heightForWidth(width)
+                                                : QHBoxLayout::sizeHint().height();
+    int height = 0;
+    for (const Place &place : folded(width))
+        height = std::max(height, place.area.bottom() + 1);
+    return height;
+}
+
+void FoldingRow::setGeometry(const QRect &area) {
+    QHBoxLayout::setGeometry(area); // makes up for what has changed, and remembers the area
+    if (!isFoldedAt(area.width()))
+        return;
+    const Qt::LayoutDirection direction = parentWidget()->layoutDirection();
+    for (const Place &place : folded(area.width()))
+        place.item->setGeometry(QStyle::visualRect(direction, area, place.area.translated(area.topLeft())));
+}
+
+} // namespace tolvo

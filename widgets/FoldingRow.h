@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHBoxLayout>
+
+namespace tolvo {
+
+/// A row that goes on in further lines where it is too narrow for the least widths of its items: with large
+/// letters, or in a small window. With room it is a QHBoxLayout. Stretches count for nothing in folded lines.
+class FoldingRow final : public QHBoxLayout {
+    Q_OBJECT
+
+  public:
+    using QHBoxLayout::QHBoxLayout;
+
+    [[nodiscard]] QSize minimumSize() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] int minimumHeightForWidth(int width) const override { return heightForWidth(width); }
+    void setGeometry(const QRect &area) override;
+
+  private:
+    struct Place {
+        QLayoutItem *item;
+        QRect area;
+    };
+    [[nodiscard]] bool isFoldedAt(int width) const { return width < QHBoxLayout::minimumSize().width(); }
+    /// The items in lines that are so wide, from the upper left corner on.
+    [[nodiscard]] QList<Place> folded(int width) const;
+};
+
+} // namespace tolvo
