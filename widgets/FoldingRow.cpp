@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/FoldingRow.h"
 
+#include <QResizeEvent>
 #include <QStyle>
-#include <QWidget>
 #include <algorithm>
 
 namespace tolvo {
@@ -53,6 +53,18 @@ void FoldingRow::setGeometry(const QRect &area) {
     const Qt::LayoutDirection direction = parentWidget()->layoutDirection();
     for (const Place &place : folded(area.width()))
         place.item->setGeometry(QStyle::visualRect(direction, area, place.area.translated(area.topLeft())));
+}
+
+QSize FoldingColumn::minimumSizeHint() const {
+    const QSize least = QWidget::minimumSizeHint();
+    const int here = std::max(width(), least.width());
+    return {least.width(), std::max(least.height(), layout()->totalMinimumHeightForWidth(here))};
+}
+
+void FoldingColumn::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    if (event->oldSize().width() != width())
+        updateGeometry();
 }
 
 } // namespace tolvo

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHBoxLayout>
+#include <QWidget>
 
 namespace tolvo {
 
@@ -27,6 +28,18 @@ class FoldingRow final : public QHBoxLayout {
     [[nodiscard]] bool isFoldedAt(int width) const { return width < QHBoxLayout::minimumSize().width(); }
     /// The items in lines that are so wide, from the upper left corner on.
     [[nodiscard]] QList<Place> folded(int width) const;
+};
+
+/// Holds folding rows, and is never lower than they are at its width: what holds it need not ask for that.
+class FoldingColumn final : public QWidget {
+    Q_OBJECT
+
+  public:
+    using QWidget::QWidget;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+  protected:
+    void resizeEvent(QResizeEvent *event) override;
 };
 
 } // namespace tolvo

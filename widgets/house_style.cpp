@@ -35,6 +35,19 @@ void outline(QPainter &painter, const QStyleOption &option, bool focused, Shape 
     painter.restore();
 }
 
+/// A second ring where the first can't be told from the button's ground.
+void ringInside(QPainter &painter, const QStyleOption &option) {
+    if (contrast(ringColour(option), option.palette.color(QPalette::Button)) >= lineContrast)
+        return;
+    constexpr int ringWidth = 2;
+    const QRectF area = QRectF(option.rect).adjusted(ringWidth, ringWidth, -ringWidth, -ringWidth);
+    painter.save();
+    painter.setPen(QPen(accentOn(option.palette, QPalette::Button), ringWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area.adjusted(1, 1, -1, -1));
+    painter.restore();
+}
+
 bool hasFocus(const QStyleOption &option) {
     return option.state.testFlag(QStyle::State_HasFocus);
 }
@@ -98,6 +111,8 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
     case PE_PanelButtonCommand:
         if (!isFlat(*option) || hasFocusByKeys(*option))
             outline(*painter, *option, hasFocusByKeys(*option));
+        if (hasFocusByKeys(*option))
+            ringInside(*painter, *option);
         break;
     case PE_Frame:
         outline(*painter, *option, false);

@@ -61,7 +61,9 @@ class FittedArea final : public QScrollArea {
         const auto away = [](int start, int end, int room) {
             return start < 0 || end - start > room ? start : std::max(0, end - room);
         };
-        const int across = away(area.left(), area.right() + 1, view.width());
+        // Not for a bit of its end: the label before it would go.
+        const bool seen = area.left() >= -gap && 2 * area.intersected(view).width() >= area.width();
+        const int across = seen ? 0 : away(area.left(), area.right() + 1, view.width());
         const int down = away(area.top(), area.bottom() + 1, view.height());
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() +
                                         (isRightToLeft() ? -across : across));

@@ -16,13 +16,26 @@ namespace {
 constexpr QColor darkGreen(1, 99, 49);
 constexpr QColor lightGreen(104, 200, 140);
 
-void paintThemed(QPainter &painter, const QRect &rect, QIcon::Mode mode, const QByteArray &file) {
+/// The role of what is written on a ground.
+QPalette::ColorRole inkOn(QPalette::ColorRole ground) {
+    switch (ground) {
+    case QPalette::Base:
+        return QPalette::Text;
+    case QPalette::Button:
+        return QPalette::ButtonText;
+    default:
+        return QPalette::WindowText;
+    }
+}
+
+void paintThemed(QPainter &painter, const QRect &rect, QIcon::Mode mode, const QByteArray &file,
+                 QPalette::ColorRole ground) {
     const QPalette palette = QGuiApplication::palette();
     const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     const QColor text =
-        palette.color(group, mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText);
+        palette.color(group, mode == QIcon::Selected ? QPalette::HighlightedText : inkOn(ground));
     const bool plain = mode == QIcon::Normal || mode == QIcon::Active;
-    const QColor second = plain ? accent(palette) : text;
+    const QColor second = plain ? accentOn(palette, ground) : text;
     QByteArray svg = file;
     svg.replace("currentColor", text.name().toLatin1()).replace("accentColor", second.name().toLatin1());
     const int side = qMin(rect.width(), rect.height());
@@ -44,17 +57,17 @@ QColor accent(const QPalette &palette) {
 QColor accentOn(const QPalette &palette, QPalette::ColorRole ground) {
     const QColor back = palette.color(ground);
     const QColor green = contrast(darkGreen, back) > contrast(lightGreen, back) ? darkGreen : lightGreen;
-    const QPalette::ColorRole text = ground == QPalette::Base ? QPalette::Text : QPalette::WindowText;
-    return contrast(green, back) >= textContrast ? green : palette.color(text);
+    return contrast(green, back) >= textContrast ? green : palette.color(inkOn(ground));
 }
 
-QIcon themedIcon(const QString &name) {
+QIcon themedIcon(const QString &name, QPalette::ColorRole ground) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    return paintedIcon([svg = file.readAll()](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
-        paintThemed(painter, rect, mode, svg);
-    });
+    return paintedIcon(
+        [svg = file.readAll(), ground](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
+            paintThemed(painter, rect, mode, svg, ground);
+        });
 }
 
 } // namespace tolvo

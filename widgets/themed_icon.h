@@ -11,8 +11,8 @@
 namespace tolvo {
 
 /// The icon of data/icons/NAME.svg. In the file "currentColor" stands for the text colour, "accentColor" for
-/// accent().
-[[nodiscard]] QIcon themedIcon(const QString &name);
+/// accentOn(). It is readable on that ground of the palette: QPalette::Button for an icon on a push button.
+[[nodiscard]] QIcon themedIcon(const QString &name, QPalette::ColorRole ground = QPalette::Window);
 
 /// The dark green of the tools (red 1, green 99, blue 49) on a light ground, a lighter green on a dark one.
 [[nodiscard]] QColor accent(const QPalette &palette);

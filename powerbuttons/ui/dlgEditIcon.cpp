@@ -27,7 +27,7 @@ constexpr int previewMagnification = 5;
 QToolButton *makeTextButton(QWidget *parent, const char *name, const char *icon, const QString &text) {
     auto *button = new QToolButton(parent);
     button->setObjectName(QLatin1StringView(name));
-    button->setIcon(themedIcon(QLatin1StringView(icon)));
+    button->setIcon(themedIcon(QLatin1StringView(icon), QPalette::Button));
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setText(text);
     button->setFocusPolicy(Qt::StrongFocus);

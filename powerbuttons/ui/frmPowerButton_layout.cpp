@@ -93,7 +93,7 @@ void frmPowerButton::makeHead() {
     connect(m_icon, &QToolButton::clicked, this, &frmPowerButton::editIcon);
     QToolButton *trash = makeImageButton(
         m_head, "imgTrash", QStringLiteral("Destroy this PowerButton and Exit (Alt-X)"), Qt::Key_X, iconSide);
-    trash->setIcon(themedIcon(QStringLiteral("trash")));
+    trash->setIcon(themedIcon(QStringLiteral("trash"), QPalette::Button));
     connect(trash, &QToolButton::clicked, this, [this] {
         if (m_rules.destroy())
             accept();

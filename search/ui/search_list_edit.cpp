@@ -17,7 +17,7 @@ SearchListEdit::SearchListEdit(const QString &name, QWidget *parent) : QComboBox
     // Completion would put letters into a pattern that the user didn't type.
     setCompleter(nullptr);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(24);
+    setMinimumContentsLength(18);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setMaxVisibleItems(20);
     connect(lineEdit(), &QLineEdit::textEdited, this, &SearchListEdit::escapeLineEnds);

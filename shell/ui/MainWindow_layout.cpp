@@ -62,7 +62,7 @@ MainWindow::MainWindow(EscapeWatch &escape)
     m_textArea = textArea();
     m_powerRow = powerRow();
     m_buttonRow = buttonRow();
-    auto *rightSide = new QWidget;
+    auto *rightSide = new FoldingColumn;
     auto *right = new QVBoxLayout(rightSide);
     right->setContentsMargins(0, 0, 0, 0);
     right->setSpacing(grid.gap());
@@ -91,7 +91,8 @@ MainWindow::MainWindow(EscapeWatch &escape)
     constexpr int edge = 4; // of a window manager's frame, which is not known yet
     resize(firstSize(screen()->availableSize(),
                      {2 * edge, style()->pixelMetric(QStyle::PM_TitleBarHeight) + edge}));
-    setPanelWidth(std::max(m_panel->sizeHint().width(), 7 * grid.target()));
+    const int most = width() * 2 / 5; // of large letters; the text comes first
+    setPanelWidth(std::min(std::max(m_panel->sizeHint().width(), 7 * grid.target()), most));
 }
 
 int MainWindow::panelWidth() const {
@@ -155,8 +156,8 @@ QWidget *MainWindow::powerRow() {
     m_cmdRedo =
         button("cmdRedo", QStringLiteral("&Redo"), QStringLiteral("Bring back what Undo took (Ctrl-Y)"),
                [this] { m_session->cmdRedo_Click(); });
-    m_cmdUndo->setIcon(themedIcon(QStringLiteral("undo")));
-    m_cmdRedo->setIcon(themedIcon(QStringLiteral("redo")));
+    m_cmdUndo->setIcon(themedIcon(QStringLiteral("undo"), QPalette::Button));
+    m_cmdRedo->setIcon(themedIcon(QStringLiteral("redo"), QPalette::Button));
     layout->addWidget(m_cmdUndo);
     layout->addWidget(m_cmdRedo);
     return bar;
@@ -164,13 +165,13 @@ QWidget *MainWindow::powerRow() {
 
 /// What the keys do, in the context menu of the text.
 void MainWindow::offerUndoInTextBoxes() {
-    const auto action = [this](const QPushButton &like, const QString &text, void (frmMain::*command)()) {
-        auto *result = new QAction(like.icon(), text, this);
+    const auto action = [this](const char *icon, const QString &text, void (frmMain::*command)()) {
+        auto *result = new QAction(themedIcon(QLatin1StringView(icon)), text, this);
         connect(result, &QAction::triggered, this, [this, command] { std::invoke(command, m_session); });
         return result;
     };
-    m_undoAction = action(*m_cmdUndo, QStringLiteral("&Undo\tCtrl+Z"), &frmMain::undoStep);
-    m_redoAction = action(*m_cmdRedo, QStringLiteral("&Redo\tCtrl+Y"), &frmMain::cmdRedo_Click);
+    m_undoAction = action("undo", QStringLiteral("&Undo\tCtrl+Z"), &frmMain::undoStep);
+    m_redoAction = action("redo", QStringLiteral("&Redo\tCtrl+Y"), &frmMain::cmdRedo_Click);
     for (PlainTextBox *box : {m_txtText1, m_txtTextWW})
         box->setUndoActions(*m_undoAction, *m_redoAction);
 }
@@ -182,7 +183,7 @@ QWidget *MainWindow::buttonRow() {
         button("cmdRefresh", QStringLiteral("Re&fresh with current Clipboard"),
                QStringLiteral("Replace the text by what is on the clipboard now; Undo brings it back"),
                [this] { m_session->cmdRefresh_Click(); });
-    refresh->setIcon(themedIcon(QStringLiteral("refresh")));
+    refresh->setIcon(themedIcon(QStringLiteral("refresh"), QPalette::Button));
     layout->addWidget(refresh);
     layout->addStretch(1);
     layout->addWidget(button("cmdCancel", QStringLiteral("Cancel"),

@@ -4,18 +4,17 @@
 #include "shell/frmMain.h"
 #include "shell/ui/window_memory.h"
 #include "shell/window_sizes.h"
+#include "widgets/screen_fit.h"
 
 #include <QChildEvent>
 #include <QDialog>
 #include <QLayout>
-#include <QScreen>
 
 namespace tolvo {
 
 namespace {
 
 constexpr const auto &sizesKey = settingKeys.windows.sizes;
-constexpr QSize frameOfDialogs{8, 36}; ///< about what a window manager adds, which is not known yet
 
 bool isResizable(const QDialog &dialog) {
     const QLayout *layout = dialog.layout();
@@ -49,9 +48,8 @@ bool DialogSizes::eventFilter(QObject *watched, QEvent *event) {
 void DialogSizes::comes(QDialog &dialog) {
     m_session.guarded(u"DialogSizes", [&] {
         const WindowSizes sizes = readSizes(get(m_session.services().store, sizesKey, presentScreen()));
-        const QSize room = dialog.screen()->availableSize() - frameOfDialogs;
         const QSize remembered = sizes.value(dialog.objectName(), dialog.size());
-        dialog.resize(allowedSize(remembered, dialog.minimumSizeHint(), room));
+        dialog.resize(allowedSize(remembered, dialog.minimumSizeHint(), roomOnScreen(dialog)));
     });
     m_shown[dialog.objectName()] = dialog.size();
 }

@@ -10,6 +10,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -92,13 +93,21 @@ void PanelRowButton::paintEvent(QPaintEvent *) {
     painter.setBrush(Qt::NoBrush);
     if (m_row.mark != cToolbox::Mark::Hidden) {
         painter.setPen(QPen(green, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.save();
+        if (isRightToLeft()) {
+            painter.translate(width(), 0);
+            painter.scale(-1, 1);
+        }
         paintMark(painter, area.center().y(), open);
+        painter.restore();
     }
     QFont face = letters();
     face.setBold(category && open);
     painter.setFont(face);
     painter.setPen(category ? palette().color(QPalette::Text) : green);
-    const QRect textArea = rect().adjusted(category ? textLeft : textLeft + toolIndent, 0, -rightMargin, 0);
+    const QRect textArea =
+        QStyle::visualRect(layoutDirection(), rect(),
+                           rect().adjusted(category ? textLeft : textLeft + toolIndent, 0, -rightMargin, 0));
     painter.drawText(textArea, Qt::AlignVCenter | Qt::AlignLeft,
                      QFontMetrics(face).elidedText(m_row.text, Qt::ElideRight, textArea.width()));
 }

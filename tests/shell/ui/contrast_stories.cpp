@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOption>
@@ -22,6 +23,7 @@ namespace {
 struct Theme {
     const char *name;
     QPalette palette;
+    std::string_view windows{}; ///< how the names of the windows begin that it is for
 };
 
 QPalette withFields(QPalette palette, const QColor &ground, const QColor &ink) {
@@ -31,14 +33,22 @@ QPalette withFields(QPalette palette, const QColor &ground, const QColor &ink) {
     return palette;
 }
 
+QPalette withButtons(QPalette palette, const QColor &ground, const QColor &ink) {
+    palette.setColor(QPalette::Button, ground);
+    palette.setColor(QPalette::ButtonText, ink);
+    return palette;
+}
+
 QList<Theme> themes() {
     const QPalette light(QColor(239, 239, 239));
     const QPalette dark(QColor(45, 45, 48));
-    return {{"light", light},
-            {"dark", dark},
-            {"black", QPalette(Qt::black)},
-            {"dark fields in light windows", withFields(light, QColor(35, 35, 38), Qt::white)},
-            {"light fields in dark windows", withFields(dark, Qt::white, Qt::black)}};
+    return {
+        {"light", light},
+        {"dark", dark},
+        {"black", QPalette(Qt::black)},
+        {"dark fields in light windows", withFields(light, QColor(35, 35, 38), Qt::white)},
+        {"light fields in dark windows", withFields(dark, Qt::white, Qt::black)},
+        {"dark buttons in light windows", withButtons(light, QColor(30, 40, 60), Qt::white), "main window"}};
 }
 
 /// A part of a window as it is seen.
@@ -104,6 +114,17 @@ QRect indicatorOf(const QWidget &widget) {
     return {};
 }
 
+/// The icon before the text of a push button, in the button.
+QRect iconOf(const QWidget &widget) {
+    const auto *button = qobject_cast<const QPushButton *>(&widget);
+    if (button == nullptr || button->icon().isNull() || button->text().isEmpty())
+        return {};
+    constexpr int gap = 4; // between icon and text, as the toolkit has it
+    const int side = button->iconSize().width();
+    const int both = side + gap + button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+    return {(button->width() - both) / 2, (button->height() - side) / 2, side, side};
+}
+
 class ContrastStory : public AllWindows {
   protected:
     static void check(QWidget &window, const std::string &where) {
@@ -123,6 +144,11 @@ class ContrastStory : public AllWindows {
                 const QRect row(sign.left(), sign.center().y(), 3, 1);
                 EXPECT_GE(Look(image, row.translated(area.topLeft())).strongest(outside), lineContrast)
                     << control << " the sign";
+            }
+            if (const QRect icon = iconOf(*widget); icon.isValid()) {
+                const QColor ground = Look(image, area.adjusted(3, 3, -3, -3)).ground();
+                EXPECT_GE(Look(image, icon.translated(area.topLeft())).strongest(ground), lineContrast)
+                    << control << " the icon";
             }
             if (hasEdge(*widget)) {
                 const QRect row(area.left(), area.center().y(), 3, 1);
@@ -161,6 +187,8 @@ TEST_F(ContrastStory, holdsInEveryWindowAndFollowsThePalette) {
     dressApplication();
     inEachWindow([](QWidget &window, const std::string &name) {
         for (const Theme &theme : themes()) {
+            if (!std::string_view(name).starts_with(theme.windows))
+                continue;
             QApplication::setPalette(theme.palette); // while the window stands
             QCoreApplication::processEvents();
             const std::string where = std::string(theme.name) + ", " + name;
