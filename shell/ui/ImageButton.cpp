@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <algorithm>
 
 namespace tolvo {
 
@@ -20,11 +21,31 @@ ImageButton::ImageButton(const QString &icon, const QString &name) {
     setIconSize({Grid(*this).icon(), Grid(*this).icon()});
 }
 
+void ImageButton::showName(bool shown) {
+    const QString text = shown ? m_shortName : QString();
+    if (this->text() == text)
+        return;
+    setText(text);
+    setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+    updateGeometry();
+}
+
+QSize ImageButton::namedSize() const {
+    const Grid grid(*this);
+    const QSize name = fontMetrics().size(Qt::TextSingleLine, m_shortName);
+    return {std::max(grid.target(), name.width() + grid.gap()),
+            grid.icon() + name.height() + 3 * grid.smallGap()};
+}
+
 QSize ImageButton::sizeHint() const {
+    if (!text().isEmpty())
+        return namedSize();
     return {Grid(*this).target(), Grid(*this).target()};
 }
 
 QSize ImageButton::minimumSizeHint() const {
+    if (!text().isEmpty())
+        return namedSize();
     return {Grid(*this).icon() + Grid(*this).smallGap(), Grid(*this).target()};
 }
 

@@ -15,9 +15,19 @@ class ImageButton final : public QToolButton {
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+    /// A short name for the place under the icon.
+    void setShortName(const QString &name) { m_shortName = name; }
+    /// Full targets with the short name, if there is one, or icons alone.
+    void showName(bool shown);
+    /// The size with the short name.
+    [[nodiscard]] QSize namedSize() const;
+
   protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+  private:
+    QString m_shortName;
 };
 
 /// A thin upright line between two groups.

@@ -3,6 +3,7 @@
 
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
+#include "shell/ui/names_under_icons.h"
 #include "shell/ui/text_view.h"
 #include "shell/ui/window_size.h"
 
@@ -17,6 +18,12 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox, const ClipboardLine
     m_toolbox = &toolbox;
     m_keys.emplace(session);
     m_textView = new TextView(session, {m_txtText1, m_txtTextWW}, *m_statusBar, lineEnds);
+    using Choice = NamesUnderIcons::Choice;
+    SettingsStore &store = session.services().store;
+    m_iconNames->setChoice(static_cast<Choice>(get(store, settingKeys.view.iconNames)));
+    m_iconNames->onChosen = [&store](Choice choice) {
+        set(store, settingKeys.view.iconNames, static_cast<int>(choice));
+    };
     connectAltLetters();
     watchButtons();
     for (PlainTextBox *box : {m_txtText1, m_txtTextWW})

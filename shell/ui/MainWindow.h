@@ -30,6 +30,8 @@ namespace tolvo {
 class ChangeView;
 class ClipboardLineEnds;
 class EscapeWatch;
+class ImageButton;
+class NamesUnderIcons;
 class StatusBar;
 class TextView;
 class frmMain;
@@ -96,14 +98,14 @@ class MainWindow : public QWidget, public SessionView {
     QWidget *textArea();
     QWidget *powerRow();
     QWidget *buttonRow();
-    QToolButton *imageButton(const char *name, const char *icon, const QString &tip,
+    ImageButton *imageButton(const char *name, const char *icon, const QString &tip,
                              std::function<void(bool)> clicked);
     QPushButton *button(const char *name, const QString &caption, const QString &tip,
                         std::function<void()> clicked);
     QPushButton *prepare(QPushButton *result, const char *name, const QString &tip,
                          std::function<void()> clicked);
     void arrangeTabOrder();
-    void oneStop(const QString &name, int count);
+    void oneStop(const QStringList &names);
     void offerUndoInTextBoxes();
     void connectAltLetters();
     struct OwnKey;
@@ -130,6 +132,7 @@ class MainWindow : public QWidget, public SessionView {
     QPointer<QWidget> m_overText; ///< the line of hints that stands there, if any
     QPointer<QWidget> m_overPowerButtons;
     QWidget *m_topBar = nullptr;
+    NamesUnderIcons *m_iconNames = nullptr;
     QWidget *m_textArea = nullptr;
     QWidget *m_powerRow = nullptr;
     QWidget *m_buttonRow = nullptr;

@@ -5,6 +5,7 @@
 #include "shell/ui/ImageButton.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/any_click.h"
+#include "shell/ui/names_under_icons.h"
 #include "widgets/FoldingRow.h"
 #include "widgets/themed_icon.h"
 
@@ -20,12 +21,17 @@ constexpr std::array<const char *, favourites.size()> favouriteIcons{
     "indent",    "unindent",     "title-case",    "plain-punctuation", "trim",          "spelling",
     "paragraph", "remove-lines", "numbered-list", "bullet-list",       "trim-and-space"};
 
+/// What stands under them.
+constexpr std::array<const char16_t *, favourites.size()> shortNames{
+    u"Indent",    u"Unindent",    u"Title case", u"Plain",       u"Trim",        u"Spelling",
+    u"Paragraph", u"Extra lines", u"Numbered",   u"Bullet list", u"Single space"};
+
 /// Favourites that belong together stand side by side.
 constexpr std::size_t groupSize = 2;
 
 } // namespace
 
-QToolButton *MainWindow::imageButton(const char *name, const char *icon, const QString &tip,
+ImageButton *MainWindow::imageButton(const char *name, const char *icon, const QString &tip,
                                      std::function<void(bool)> clicked) {
     auto *image = new ImageButton(QLatin1StringView(icon), tip);
     image->setObjectName(QLatin1StringView(name));
@@ -45,33 +51,39 @@ QWidget *MainWindow::topBar() {
         if (i > 0 && i % groupSize == 0)
             layout->addWidget(new GroupLine);
         const QString tag = QString::fromUtf16(favourites.at(i).tag);
-        layout->addWidget(imageButton(QStringLiteral("imgFavourites_%1").arg(i).toLatin1().constData(),
+        auto *favourite = imageButton(QStringLiteral("imgFavourites_%1").arg(i).toLatin1().constData(),
                                       favouriteIcons.at(i), QString::fromUtf16(favourites.at(i).tooltip),
                                       [this, tag](bool right) {
                                           m_session->bRightButton = right;
                                           m_session->imgFavourites_Click(tag);
-                                      }));
+                                      });
+        favourite->setShortName(QString::fromUtf16(shortNames.at(i)));
+        layout->addWidget(favourite);
     }
     layout->addStretch(1);
-    m_imgWordwrap = imageButton("imgWordwrap", "word-wrap", QStringLiteral("Toggle word wrap"), [this](bool) {
+    auto *wrap = imageButton("imgWordwrap", "word-wrap", QStringLiteral("Toggle word wrap"), [this](bool) {
         m_session->imgWordwrap_Click();
         m_imgWordwrap->setChecked(m_session->bWordWrap);
     });
+    m_imgWordwrap = wrap;
     m_imgWordwrap->setToolTip(QStringLiteral("Toggle word wrap (Alt-W)"));
     m_imgWordwrap->setCheckable(true);
-    layout->addWidget(m_imgWordwrap);
     auto *options = imageButton("imgOptions", "options", QStringLiteral("Options"), [this](bool right) {
         m_session->bRightButton = right;
         m_session->imgOptions_Click();
     });
     options->setToolTip(QStringLiteral("Options (Ctrl-O)\nRight click: switch the font"));
-    layout->addWidget(options);
     auto *help =
         imageButton("imgHelp", "help", QStringLiteral("Help"), [this](bool) { m_session->imgHelp_Click(); });
     help->setToolTip(QStringLiteral("Help (F1)"));
-    layout->addWidget(help);
-    layout->addWidget(imageButton("imgAbout", "about", QStringLiteral("About"),
-                                  [this](bool) { m_session->imgAbout_Click(); }));
+    auto *about = imageButton("imgAbout", "about", QStringLiteral("About"),
+                              [this](bool) { m_session->imgAbout_Click(); });
+    wrap->setShortName(QStringLiteral("Word wrap"));
+    for (ImageButton *button : {options, help, about})
+        button->setShortName(button->accessibleName());
+    for (ImageButton *button : {wrap, options, help, about})
+        layout->addWidget(button);
+    m_iconNames = new NamesUnderIcons(*bar);
     return bar;
 }
 
@@ -86,6 +98,7 @@ void MainWindow::extendMenu(QMenu &menu) {
                            m_session->imgFavourites_Click(tag);
                        });
     }
+    m_iconNames->extendMenu(*menu.addMenu(QStringLiteral("Bar of icons")));
     menu.addSeparator();
     menu.addAction(QStringLiteral("Copy and Close\tAlt+D"), this, [this] { m_session->cmdClose_Click(); });
     menu.addAction(QStringLiteral("Keyboard shortcuts\tCtrl+?"), this, &MainWindow::showKeySheet);

@@ -135,6 +135,8 @@ void MainWindow::showKeySheet() {
     add(KeyGroup::Window, QStringLiteral("Enter"), QStringLiteral("Press the button that has the focus"));
     add(KeyGroup::Window, QStringLiteral("Arrows, Home, End"),
         QStringLiteral("Move among favourites, tools or PowerButtons"));
+    add(KeyGroup::Window, QStringLiteral("Left, Right"),
+        QStringLiteral("Move the edge between the tools and the text, when it has the focus"));
     add(KeyGroup::Window, QStringLiteral("Menu"),
         QStringLiteral("Run a tool with its last settings, edit a PowerButton"));
     for (const auto *button : findChildren<QAbstractButton *>()) {

@@ -5,6 +5,7 @@
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/PanelSplitter.h"
 #include "shell/ui/change_view.h"
 #include "shell/ui/status_bar.h"
 #include "shell/ui/window_size.h"
@@ -20,7 +21,6 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
-#include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <functional>
@@ -70,13 +70,12 @@ MainWindow::MainWindow(EscapeWatch &escape)
     right->addWidget(m_textArea, 1);
     right->addWidget(m_powerRow);
     right->addWidget(m_buttonRow);
-    m_splitter = new QSplitter;
-    m_splitter->setObjectName(QStringLiteral("panelSplitter"));
-    m_splitter->setChildrenCollapsible(false);
+    m_splitter = new PanelSplitter;
     m_splitter->setHandleWidth(grid.gap());
     m_splitter->addWidget(m_toolFinder);
     m_splitter->addWidget(rightSide);
     m_splitter->setStretchFactor(1, 1);
+    m_splitter->handle(1)->setObjectName(QStringLiteral("panelEdge"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(grid.margin(), grid.gap(), grid.margin(), grid.smallGap());
     layout->setSpacing(grid.smallGap());
@@ -213,19 +212,28 @@ void MainWindow::arrangeTabOrder() {
     follow(QStringLiteral("txtFindTool"));
     for (int i = 1; i <= cToolbox::rowCount; ++i)
         follow(QStringLiteral("lblToolbox_%1").arg(i));
+    follow(QStringLiteral("panelEdge"));
     for (std::size_t i = 0; i < favourites.size(); ++i)
         follow(QStringLiteral("imgFavourites_%1").arg(i));
     for (const char *name : {"imgWordwrap", "imgOptions", "imgHelp", "imgAbout", "cmdZoom", "cmdPlace"})
         follow(QLatin1StringView(name));
-    oneStop(QStringLiteral("imgFavourites_%1"), static_cast<int>(favourites.size()));
-    oneStop(QStringLiteral("imgPower_%1"), CPowerButtonCollection::buttonCount);
+    const auto numbered = [](const QString &name, int count) {
+        QStringList names;
+        for (int i = 0; i < count; ++i)
+            names += name.arg(i);
+        return names;
+    };
+    oneStop(numbered(QStringLiteral("imgFavourites_%1"), static_cast<int>(favourites.size())));
+    oneStop({QStringLiteral("imgWordwrap"), QStringLiteral("imgOptions"), QStringLiteral("imgHelp"),
+             QStringLiteral("imgAbout")});
+    oneStop(numbered(QStringLiteral("imgPower_%1"), CPowerButtonCollection::buttonCount));
 }
 
-/// Makes controls one stop of the Tab key; `name` holds "%1" for their number from 0.
-void MainWindow::oneStop(const QString &name, int count) {
+/// Makes controls one stop of the Tab key.
+void MainWindow::oneStop(const QStringList &names) {
     QList<QWidget *> members;
-    for (int i = 0; i < count; ++i)
-        members += findChild<QWidget *>(name.arg(i));
+    for (const QString &name : names)
+        members += findChild<QWidget *>(name);
     new RovingFocus(members, this);
 }
 

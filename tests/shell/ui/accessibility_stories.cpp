@@ -70,7 +70,8 @@ void checkNames(const QWidget &window, const std::string &where) {
         EXPECT_TRUE(isLabelled(*face)) << where << ": no label has " << named(*control);
         const auto *button = qobject_cast<const QAbstractButton *>(control);
         if (button != nullptr && button->text().size() > 3 && !button->inherits("tolvo::PanelRowButton")) {
-            EXPECT_TRUE(name.contains(spoken(button->text()))) << where << ": " << name.toStdString();
+            EXPECT_TRUE(name.contains(spoken(button->text()), Qt::CaseInsensitive))
+                << where << ": " << name.toStdString();
         }
     }
     for (const QLabel *label : window.findChildren<QLabel *>()) {

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QSplitter>
 #include <QTreeWidget>
 
 using namespace tolvo;
@@ -46,6 +47,34 @@ TEST_F(KeyStory, workOnTheTextFromEveryControl) {
             EXPECT_EQ(focused(), QStringLiteral("txtText1"));
             EXPECT_EQ(text()->toPlainText(), QStringLiteral("one\ntwo"));
         }
+        close();
+    });
+}
+
+TEST_F(KeyStory, moveTheEdgeOfThePanelAndAmongTheIconsBesideTheFavourites) {
+    run(QStringLiteral("one"), [] {
+        const auto panel = [] { return child<QSplitter>(*window(), "panelSplitter").sizes().front(); };
+        window()->resize(1000, 600);
+        const int first = panel();
+        focus("panelEdge");
+        press(Qt::Key_Right);
+        EXPECT_GT(panel(), first);
+        press(Qt::Key_Left);
+        EXPECT_EQ(panel(), first);
+        press(Qt::Key_End);
+        EXPECT_GT(panel(), first + 100) << "as far as it goes";
+        press(Qt::Key_Home);
+        EXPECT_LT(panel(), first);
+        press(Qt::Key_Tab);
+        EXPECT_EQ(focused(), QStringLiteral("imgFavourites_0"));
+        press(Qt::Key_Tab);
+        EXPECT_EQ(focused(), QStringLiteral("imgWordwrap"));
+        press(Qt::Key_Right);
+        EXPECT_EQ(focused(), QStringLiteral("imgOptions"));
+        press(Qt::Key_End);
+        EXPECT_EQ(focused(), QStringLiteral("imgAbout"));
+        press(Qt::Key_Tab);
+        EXPECT_EQ(focused(), QStringLiteral("cmdPlace")) << "one stop";
         close();
     });
 }

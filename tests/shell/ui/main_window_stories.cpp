@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QTextDocumentFragment>
+#include <QToolButton>
 
 using namespace tolvo;
 
@@ -70,6 +71,34 @@ TEST_F(MainWindowStory, fitsOnTheScreenAndOffersUndoInItsMenu) {
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
     });
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("ONE TWOABC"));
+}
+
+TEST_F(MainWindowStory, namesStandUnderTheIconsWithRoomOrByChoice) {
+    struct Look {
+        const char *choice;
+        bool inNarrow;
+        bool inWide;
+    };
+    for (const Look &look : {Look{nullptr, false, true}, Look{"Always names under the icons", true, true},
+                             Look{nullptr, true, true}, Look{"Icons alone", false, false},
+                             Look{"Names under the icons where there is room", false, true}}) {
+        run({}, [&] {
+            const auto named = [](int width) {
+                window()->resize(width, 600);
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+                return child<QToolButton>(*window(), "imgFavourites_0").text() == QStringLiteral("Indent");
+            };
+            QMenu menu;
+            window()->findChild<PlainTextBox *>()->extendMenu(menu);
+            for (QAction *action : menu.findChildren<QAction *>()) {
+                if (action->text() == QLatin1StringView(look.choice))
+                    action->trigger();
+            }
+            EXPECT_EQ(named(640), look.inNarrow) << look.choice;
+            EXPECT_EQ(named(1900), look.inWide) << look.choice;
+            QTest::keyClick(text(), Qt::Key_Q, Qt::AltModifier);
+        });
+    }
 }
 
 TEST_F(MainWindowStory, remembersItsPlaceAndThePanelWhereTheyStillFit) {
