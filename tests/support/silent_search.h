@@ -14,7 +14,7 @@ struct SilentSearch : SearchHost, SearchResults {
     void directionChanged(SearchDirection) override {}
     SearchResults &results() override { return *this; }
     void clear() override {}
-    void add(const QString &, qint32) override {}
+    void add(const HitLine &, qint32) override {}
     void setCaption(const QString &) override {}
     void show() override {}
 
