@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The desktop program: makes what a run stands on and hands it down. One run is one clipboard session.
+// The desktop program: makes what a run stands on and hands it down. One run is one clipboard session, or one
+// command on the clipboard.
+#include "app/arguments.h"
+#include "app/command.h"
 #include "base/application.h"
 #include "base/paths.h"
 #include "platform/clock.h"
@@ -10,6 +13,8 @@
 #include "platform/desktop/DesktopSound.h"
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/clipboard_keeper.h"
+#include "platform/headless/ConsoleBoxes.h"
+#include "platform/headless/help_text.h"
 #include "platform/network/OnDemandHttpClient.h"
 #include "platform/program_folders.h"
 #include "platform/report_error.h"
@@ -80,12 +85,26 @@ int runOnce() {
 } // namespace
 
 int main(int argc, char **argv) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words += QString::fromLocal8Bit(argv[i]);
+    const Arguments arguments = readArguments(words);
+    if (!arguments.error.isEmpty()) {
+        ConsoleBoxes(QStringLiteral("tolvo: ")).say(arguments.error);
+        return 2;
+    }
+    if (arguments.mode == Arguments::Mode::Help || arguments.mode == Arguments::Mode::Version) {
+        printHelp(arguments.mode == Arguments::Mode::Help ? helpText()
+                                                          : versionText(QStringLiteral("tolvo")));
+        return 0;
+    }
     // This call forks, which has to come before anything of the toolkit exists.
     return runAsClipboardKeeper([&](KeeperSession &keeper) {
+        if (arguments.mode == Arguments::Mode::Command)
+            return runCommand(argc, argv, arguments, keeper);
         const Application application(argc, argv);
         const CommandKeys commandKeys;
         dressApplication();
-        QCoreApplication::setApplicationName(QStringLiteral("tolvo"));
         QCoreApplication::setApplicationVersion(applicationVersion());
         QGuiApplication::setQuitOnLastWindowClosed(false);
         const int code = runOnce();

@@ -4,6 +4,7 @@
 #include "base/failure.h"
 #include "companions/refresh.h"
 #include "companions/refresh_report.h"
+#include "platform/headless/help_text.h"
 #include "platform/network/NetworkHttpClient.h"
 #include "platform/processes.h"
 #include "preferences/settings_store.h"
@@ -16,6 +17,19 @@ namespace {
 
 using namespace tolvo;
 
+const QString help = QStringLiteral(R"(Usage: Refresher.exe [/update] [/stats] [/quiet]
+Looks for a newer version of Tolvo and sends the usage counters, if the deployment has set an address for that; otherwise it
+does nothing.
+
+  /update     look for a newer version
+  /stats      send the usage counters
+  /quiet      show nothing but a newer version
+  -h, --help  print this text
+  --version   print the version
+
+Exit status: 0 done or nothing to do, 1 not everything could be done, 2 an unknown switch.
+)");
+
 RefreshOutcome workQuietly(int argc, char **argv, const std::function<RefreshOutcome(HttpClient &)> &work) {
     const QCoreApplication application(argc, argv);
     NetworkHttpClient client;
@@ -25,6 +39,8 @@ RefreshOutcome workQuietly(int argc, char **argv, const std::function<RefreshOut
 } // namespace
 
 int main(int argc, char **argv) {
+    if (answersForHelp(argc, argv, QStringLiteral("Refresher.exe"), help))
+        return 0;
     QStringList switches;
     for (int i = 1; i < argc; ++i)
         switches += QString::fromLocal8Bit(argv[i]);

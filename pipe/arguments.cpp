@@ -29,7 +29,12 @@ bool readOption(const QString &option, PipeArguments &result, const std::functio
         result.mode = PipeArguments::Mode::Batch;
     else if (option == QLatin1StringView("--list-tools"))
         result.mode = PipeArguments::Mode::ListTools;
-    else if (option == QLatin1StringView("--help") || option == QLatin1StringView("-h"))
+    else if (option == QLatin1StringView("--list-buttons"))
+        result.mode = PipeArguments::Mode::ListButtons;
+    else if (option == QLatin1StringView("--complete")) { // for shells; --help leaves it out
+        result.mode = PipeArguments::Mode::Complete;
+        result.begun = next();
+    } else if (option == QLatin1StringView("--help") || option == QLatin1StringView("-h"))
         result.mode = PipeArguments::Mode::Help;
     else if (option == QLatin1StringView("--version"))
         result.mode = PipeArguments::Mode::Version;
@@ -70,9 +75,9 @@ QString helpText() {
 Reads text on standard input, runs the steps one after another and writes the result on standard output.
 
 A step is a tool, or a tool with settings:
-  TOKEN             such as foTRA; a tool that has settings runs with those last used
-  TOKEN:SETTINGS    such as 'foWRP:Width=60, Justify=0, Hanging=0, Tab=True'
-                    pbPBT:PowerButton=3 runs your third PowerButton
+  TOKEN                  such as foTRA; a tool that has settings runs with those last used
+  TOKEN:SETTINGS         such as 'foWRP:Width=60, Justify=0, Hanging=0, Tab=True';
+                         pbPBT:PowerButton=3 runs your third PowerButton
 
   --select START,LENGTH  select a part of the text; counts UTF-16 units from 0, a line end as two
   --raw                  take and give the text as it is; otherwise LF line ends become CR LF for the
@@ -82,7 +87,9 @@ A step is a tool, or a tool with settings:
   --batch                read requests as JSON Lines and answer each with one line:
                          {"text": "...", "selStart": 0, "selLength": 0, "steps": ["foTRA"], "clipboard": ""}
   --list-tools           print token, name and explanation of every tool
-  --help, --version
+  --list-buttons         print number and name of every PowerButton that is defined
+  -h, --help             print this text
+  --version              print the version
 
 Text is UTF-8. Status texts and messages go to standard error.
 Exit code: 0 done, 1 a tool reported a failure or a warning, 2 wrong usage or bad input (nothing has been

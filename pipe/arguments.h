@@ -9,9 +9,10 @@ namespace tolvo {
 
 /// What the command line asks for.
 struct PipeArguments {
-    enum class Mode { Steps, Batch, ListTools, Help, Version };
+    enum class Mode { Steps, Batch, ListTools, ListButtons, Complete, Help, Version };
     Mode mode = Mode::Steps;
     QStringList steps;
+    QString begun; ///< of Complete: the step that is being typed
     bool raw = false;
     bool json = false;
     int selStart = 0; ///< in UTF-16 units, from 0

@@ -54,7 +54,7 @@ PipeRequest readRequest(const QByteArray &line) {
 
 } // namespace
 
-QString answerRequest(const PipeWorld &world, const QByteArray &line) {
+QString answerRequest(const HeadlessWorld &world, const QByteArray &line) {
     try {
         RecordingBoxes boxes;
         return replyLine(runPipe(world, readRequest(line), boxes));

@@ -8,6 +8,6 @@
 namespace tolvo {
 
 /// Answers one line of --batch: a reply, or {"error": ...} for a request that can't be run.
-[[nodiscard]] QString answerRequest(const PipeWorld &world, const QByteArray &line);
+[[nodiscard]] QString answerRequest(const HeadlessWorld &world, const QByteArray &line);
 
 } // namespace tolvo

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 // tolvo-pipe: the same tools without a window, between standard input and standard output.
-#include "base/application.h"
 #include "base/failure.h"
 #include "base/paths.h"
 #include "pipe/arguments.h"
 #include "pipe/batch.h"
+#include "pipe/completion.h"
 #include "pipe/large_texts.h"
 #include "pipe/session.h"
 #include "pipe/streams.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/MemoryTextBox.h"
 #include "platform/headless/clipboard_line_ends.h"
+#include "platform/headless/help_text.h"
 #include "platform/program_folders.h"
 #include "preferences/settings_store.h"
 
@@ -32,7 +33,7 @@ void complain(const QString &text) {
     ConsoleBoxes().say(text);
 }
 
-int runSteps(const PipeWorld &world, const PipeArguments &arguments) {
+int runSteps(const HeadlessWorld &world, const PipeArguments &arguments) {
     ConsoleBoxes console;
     RecordingBoxes silent;
     ClipboardLineEnds lineEnds;
@@ -60,7 +61,7 @@ int runSteps(const PipeWorld &world, const PipeArguments &arguments) {
     return reply.warned() ? exitCode::warned : exitCode::done;
 }
 
-int runBatch(const PipeWorld &world) {
+int runBatch(const HeadlessWorld &world) {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
         throw Failure(failureNumber::fileAccess, QStringLiteral("standard input can't be read"));
@@ -84,6 +85,11 @@ void listTools(const Catalogue &catalogue) {
     writeStandardOutput(list.startsWith(u'\n') ? list.sliced(1) : list);
 }
 
+void listLines(const QStringList &lines) {
+    for (const QString &line : lines)
+        writeStandardOutput(line + u'\n');
+}
+
 int runWithCatalogue(const PipeArguments &arguments) {
     const QString folder = programFolders().data;
     const Catalogue catalogue = Catalogue::read(sAppPath(folder) + Catalogue::fileName);
@@ -93,8 +99,14 @@ int runWithCatalogue(const PipeArguments &arguments) {
     }
     FileExtensions extensions(sAppPath(folder) + QStringLiteral("FileExtensions.txt"));
     SettingsStore store(SettingsStore::defaultPath());
-    const PipeWorld world{
+    const HeadlessWorld world{
         .store = store, .catalogue = catalogue, .extensions = extensions, .dataFolder = folder};
+    if (arguments.mode == PipeArguments::Mode::Complete ||
+        arguments.mode == PipeArguments::Mode::ListButtons) {
+        const bool completes = arguments.mode == PipeArguments::Mode::Complete;
+        listLines(completes ? completions(world, arguments.begun) : buttonList(world));
+        return exitCode::done;
+    }
     if (const QString trouble = store.takeTrouble(); !trouble.isEmpty())
         complain(trouble);
     return arguments.mode == PipeArguments::Mode::Batch ? runBatch(world) : runSteps(world, arguments);
@@ -109,7 +121,7 @@ int run(const QStringList &commandLine) {
         writeStandardOutput(helpText());
         return exitCode::done;
     case PipeArguments::Mode::Version:
-        writeStandardOutput(QStringLiteral("tolvo-pipe %1\n").arg(applicationVersion()));
+        writeStandardOutput(versionText(QStringLiteral("tolvo-pipe")));
         return exitCode::done;
     default:
         return runWithCatalogue(arguments);

@@ -8,8 +8,6 @@
 #include "shell/headless/HeadlessSession.h"
 #include "shell/tool_table.h"
 
-#include <QSet>
-
 namespace tolvo {
 
 namespace {
@@ -28,63 +26,6 @@ class PipeWindows final : public HeadlessWindows {
 
   private:
     const std::function<void(const QString &)> &m_sayStatus;
-};
-
-/// A step with settings brings them along; one without runs with the settings last used.
-ActionPtr actionOf(const Catalogue &catalogue, const QString &step) {
-    const qsizetype colon = step.indexOf(u':');
-    const QString token = colon < 0 ? step : step.first(colon);
-    const ToolPtr tool = catalogue.tool(token);
-    if (!tool || tool->isHeading() || token == unknownToolToken)
-        throw BadRequest(QStringLiteral("there is no tool \"%1\"; --list-tools shows them all").arg(token));
-    if (colon >= 0 && !tool->gotDialog())
-        throw BadRequest(QStringLiteral("%1 (%2) has no settings").arg(token, tool->Name()));
-    return std::make_shared<CAction>(tool, colon < 0 ? SettingsFrom::Current : SettingsFrom::Custom,
-                                     colon < 0 ? QString() : step.sliced(colon + 1));
-}
-
-/// Refuses tools that live on a window, in the steps and in the PowerButtons that these run.
-class WindowCheck {
-  public:
-    explicit WindowCheck(const CPowerButtonCollection &buttons) : m_buttons(buttons) {}
-
-    void check(const CAction &action) {
-        const ToolPtr &tool = action.Tool();
-        if (!tool)
-            return;
-        const QString &token = tool->Token();
-        const ToolRow *row = toolRow(token);
-        switch (row ? row->operation.window : SettingsWindow::None) {
-        case SettingsWindow::Language:
-            throw BadRequest(QStringLiteral("%1 (%2) needs a window").arg(token, tool->Name()));
-        case SettingsWindow::Search:
-        case SettingsWindow::Replace:
-        case SettingsWindow::CopyMatches:
-            if (action.DlgOption() != SettingsFrom::Custom)
-                throw BadRequest(QStringLiteral("%1 (%2) needs a window, or settings: '%1:Mode=1, Find=...'")
-                                     .arg(token, tool->Name()));
-            break;
-        case SettingsWindow::PowerButton:
-            if (action.DlgOption() == SettingsFrom::Custom)
-                checkButton(targetOf(action).value_or(0));
-            break;
-        default:
-            break;
-        }
-    }
-
-  private:
-    void checkButton(int number) {
-        const auto button = m_buttons.Item(number);
-        if (!button || m_seen.contains(number))
-            return;
-        m_seen.insert(number);
-        for (int position = 1; position <= button->Count(); ++position)
-            check(*button->Item(position));
-    }
-
-    const CPowerButtonCollection &m_buttons;
-    QSet<int> m_seen;
 };
 
 /// The request of a step that searches; nothing for any other step.
@@ -162,12 +103,10 @@ QString statisticsJson(const TextStatistics &statistics) {
 } // namespace
 
 bool PipeReply::warned() const {
-    return toolWarned || std::any_of(messages.begin(), messages.end(), [](const Box &box) {
-               return box.icon == BoxIcon::Exclamation || box.icon == BoxIcon::Critical;
-           });
+    return toolWarned || hasWarning(messages);
 }
 
-PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
+PipeReply runPipe(const HeadlessWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
                   const std::function<void(const QString &)> &sayStatus) {
     QList<ActionPtr> actions;
     for (const QString &step : request.steps)
@@ -181,9 +120,8 @@ PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingB
     });
     if (runsButtons)
         headless.session.loadPowerButtons();
-    WindowCheck windowCheck(headless.oPowerButtons);
     for (const ActionPtr &action : actions)
-        windowCheck.check(*action);
+        refuseWindows(*action, headless.oPowerButtons);
 
     frmMain &session = headless.session;
     headless.clipboard.text = request.clipboard;

@@ -4,9 +4,7 @@
 
 #include "base/application.h"
 #include "platform/headless/ConsoleBoxes.h"
-#include "powerbuttons/CAction.h"
-#include "powerbuttons/catalogue.h"
-#include "text/file_extensions.h"
+#include "shell/headless/steps.h"
 #include "text/statistics.h"
 
 #include <QList>
@@ -17,16 +15,6 @@
 #include <optional>
 
 namespace tolvo {
-
-class SettingsStore;
-
-/// What all sessions of one process share.
-struct PipeWorld {
-    SettingsStore &store;
-    const Catalogue &catalogue;
-    FileExtensions &extensions;
-    QString dataFolder;
-};
 
 /// A text and the steps that run on it.
 struct PipeRequest {
@@ -63,15 +51,9 @@ struct PipeReply {
     [[nodiscard]] bool warned() const;
 };
 
-/// A request that can't be run; what() tells why. Nothing has run then.
-class BadRequest : public std::runtime_error {
-  public:
-    explicit BadRequest(const QString &why) : std::runtime_error(why.toStdString()) {}
-};
-
 /// Runs the steps as the Actions of one PowerButton. `boxes` hears every message, `sayStatus` every status
 /// text. Throws BadRequest for a step that is not a tool or that needs a window.
-[[nodiscard]] PipeReply runPipe(const PipeWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
+[[nodiscard]] PipeReply runPipe(const HeadlessWorld &world, const PipeRequest &request, RecordingBoxes &boxes,
                                 const std::function<void(const QString &)> &sayStatus = {});
 
 /// The reply as one line of JSON, without its line end.

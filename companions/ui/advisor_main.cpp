@@ -4,8 +4,10 @@
 #include "base/failure.h"
 #include "base/paths.h"
 #include "companions/ui/AdvisorWindow.h"
+#include "platform/headless/help_text.h"
 #include "platform/kept_free.h"
 #include "platform/processes.h"
+#include "platform/program_folders.h"
 #include "preferences/settings_keys.h"
 #include "preferences/settings_store.h"
 #include "widgets/dress_application.h"
@@ -21,7 +23,7 @@ namespace {
 void offerTools(tolvo::AdvisorWindow &window, tolvo::SettingsStore &store, const QString &run) {
     using namespace tolvo;
     try {
-        const QString folder = sAppPath(QCoreApplication::applicationDirPath());
+        const QString folder = sAppPath(programFolders().data);
         window.offerTools(Catalogue::read(folder + Catalogue::fileName).panelItems(),
                           [&store, run](const QString &token) {
                               set(store, settingKeys.hints.toolOfTip, run + u' ' + token);
@@ -31,9 +33,19 @@ void offerTools(tolvo::AdvisorWindow &window, tolvo::SettingsStore &store, const
     }
 }
 
+const QString help = QStringLiteral(R"(Usage: Advisor.exe
+Shows tips for Tolvo, one at a time. Tolvo starts it with every session as long as its window says so; a second one that is
+started while the first is open ends at once.
+
+  -h, --help  print this text
+  --version   print the version
+)");
+
 } // namespace
 
 int main(int argc, char **argv) {
+    if (tolvo::answersForHelp(argc, argv, QStringLiteral("Advisor.exe"), help))
+        return 0;
     const QApplication application(argc, argv);
     tolvo::dressApplication();
     const QString path = tolvo::SettingsStore::defaultPath();

@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "companions/ui/TallyWindow.h"
 #include "companions/ui/single_window.h"
+#include "platform/headless/help_text.h"
 #include "platform/program_folders.h"
 #include "powerbuttons/catalogue.h"
 #include "preferences/settings_store.h"
@@ -13,6 +14,14 @@
 #include <QApplication>
 
 namespace {
+
+const QString help = QStringLiteral(R"(Usage: Tally.exe
+Shows how often each tool and PowerButton of Tolvo has been used. A second one that is started while the first is open
+raises its window and ends.
+
+  -h, --help  print this text
+  --version   print the version
+)");
 
 tolvo::Catalogue catalogueIn(const QString &folder) {
     try {
@@ -25,6 +34,8 @@ tolvo::Catalogue catalogueIn(const QString &folder) {
 } // namespace
 
 int main(int argc, char **argv) {
+    if (tolvo::answersForHelp(argc, argv, QStringLiteral("Tally.exe"), help))
+        return 0;
     const QApplication application(argc, argv);
     tolvo::dressApplication();
     const QString path = tolvo::SettingsStore::defaultPath();

@@ -96,6 +96,31 @@ TEST_F(Pipe, saysWhatItCanDo) {
     EXPECT_EQ(reply.value("messages").toArray().size(), 1);
 }
 
+TEST_F(Pipe, completesAStep) {
+    {
+        SettingsStore store(storePath);
+        NamedBoxes boxes;
+        CPowerButton button;
+        button.Name = "Shout";
+        button.Add(User::action("ccUPP"));
+        CPowerButtonMethods(store, realCatalogue(), boxes).SavePBSettings(button, 4);
+    }
+    const std::pair<QString, QByteArray> rows[] = {
+        {"ccUP", "ccUPP\tUPPER CASE\n"},
+        {"foWR", "foWRP\tWord wrap...\nfoWRP:\tWord wrap... with settings\n"},
+        {"foWRP:", "foWRP:Width=50\tWidth\nfoWRP:Justify=0\tJustify\nfoWRP:Hanging=0\tHanging\n"
+                   "foWRP:Tab=True\tTab\n"},
+        {"foWRP:Width=60, Tab=True, H", "foWRP:Width=60, Tab=True, Hanging=0\tHanging\n"},
+        {"pbPBT:", "pbPBT:PowerButton=1\tPowerButton\n"},
+        {"pbPBT:PowerButton=", "pbPBT:PowerButton=4\tShout\n"},
+        {"ccUPP:", ""},
+        {"xx:", ""},
+    };
+    for (const auto &[begun, offered] : rows)
+        EXPECT_EQ(run({"--complete", begun}).out, offered) << begun.toStdString();
+    EXPECT_EQ(run({"--list-buttons"}).out, "4\tShout\n");
+}
+
 TEST_F(Pipe, refusesAPowerButtonThatNeedsAWindow) {
     {
         SettingsStore store(storePath);

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "app/command.h"
+
+#include "base/paths.h"
+#include "platform/desktop/DesktopClipboard.h"
+#include "platform/desktop/DesktopNotification.h"
+#include "platform/desktop/clipboard_keeper.h"
+#include "platform/program_folders.h"
+#include "preferences/settings_store.h"
+#include "shell/headless/clipboard_command.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QRasterWindow>
+
+namespace tolvo {
+
+namespace {
+
+constexpr int done = 0;
+constexpr int failed = 1;
+constexpr int badUsage = 2;
+
+/// What stands on the screen while the clipboard answers only to a window that has the focus.
+class SmallWindow : public QRasterWindow {
+  public:
+    explicit SmallWindow(const QString &text) : m_text(text) {
+        setTitle(text);
+        resize(240, 60);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent *) override {
+        QPainter painter(this);
+        painter.fillRect(QRect(QPoint(), size()), QGuiApplication::palette().window());
+        painter.setPen(QGuiApplication::palette().windowText().color());
+        painter.drawText(QRect(QPoint(), size()), Qt::AlignCenter, m_text);
+    }
+
+  private:
+    QString m_text;
+};
+
+bool hasDisplay() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+/// Runs the command and stays until the clipboard is taken over.
+int runWithClipboard(ClipboardCommand &command, KeeperSession &keeper, const ConsoleBoxes &console) {
+    DesktopClipboard clipboard;
+    CommandOutcome outcome;
+    {
+        SmallWindow window(command.name());
+        if (!clipboard.comesAtOnce())
+            window.show();
+        outcome = command.run(clipboard);
+    }
+    const int code = outcome.done ? done : failed;
+    console.say(command.name() + QStringLiteral(": ") + outcome.message);
+    keeper.sessionOver(code); // whoever waits for the command doesn't wait for the notification
+
+    DesktopNotification notification;
+    if (outcome.before)
+        notification.onUndo = [&] { clipboard.writeText(*outcome.before); };
+    notification.show(command.name(), QString(outcome.message).remove(u'\r'));
+    keeper.keepClipboardUntilTaken();
+    if (outcome.before)
+        notification.close(); // there is nothing left to undo
+    return code;
+}
+
+} // namespace
+
+int runCommand(int argc, char **argv, const Arguments &arguments, KeeperSession &keeper) {
+    const ConsoleBoxes console(QStringLiteral("tolvo: "));
+    try {
+        ProgramFolders folders;
+        {
+            const QCoreApplication application(argc, argv);
+            folders = programFolders();
+        }
+        SettingsStore store(SettingsStore::defaultPath());
+        const Catalogue catalogue = Catalogue::read(sAppPath(folders.data) + Catalogue::fileName);
+        FileExtensions extensions(sAppPath(folders.data) + QStringLiteral("FileExtensions.txt"));
+        ClipboardCommand command(
+            {.store = store, .catalogue = catalogue, .extensions = extensions, .dataFolder = folders.data},
+            arguments.button, arguments.tool);
+        if (!hasDisplay())
+            throw std::runtime_error("there is no display, so there is no clipboard");
+        const QGuiApplication application(argc, argv);
+        QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        return runWithClipboard(command, keeper, console);
+    } catch (const BadRequest &refusal) {
+        console.say(QString::fromUtf8(refusal.what()));
+        return badUsage;
+    } catch (const std::exception &failure) {
+        console.say(QString::fromUtf8(failure.what()));
+        return failed;
+    }
+}
+
+} // namespace tolvo

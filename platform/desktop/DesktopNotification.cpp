@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/DesktopNotification.h"
+
+#include "base/application.h"
+
+#include <QDBusMessage>
+#include <QFile>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace tolvo {
+
+namespace {
+
+constexpr int patience = 2000; // milliseconds
+
+QString service() {
+    return QStringLiteral("org.freedesktop.Notifications");
+}
+
+QString path() {
+    return QStringLiteral("/org/freedesktop/Notifications");
+}
+
+QString undoAction() {
+    return QStringLiteral("undo");
+}
+
+/// Without one the library would start a bus of its own, which takes a while and has nobody on it.
+bool busIsThere() {
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
+           QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
+}
+
+QDBusMessage call(const QString &method) {
+    return QDBusMessage::createMethodCall(service(), path(), service(), method);
+}
+
+} // namespace
+
+bool DesktopNotification::takesMarkup() {
+    const QDBusMessage reply = m_bus->call(call(QStringLiteral("GetCapabilities")), QDBus::Block, patience);
+    return reply.type() == QDBusMessage::ReplyMessage &&
+           reply.arguments().value(0).toStringList().contains(QStringLiteral("body-markup"));
+}
+
+bool DesktopNotification::show(const QString &title, const QString &text) {
+    if (!busIsThere())
+        return false;
+    m_bus = QDBusConnection::sessionBus();
+    if (!m_bus->isConnected())
+        return false;
+    m_bus->connect(service(), path(), service(), QStringLiteral("ActionInvoked"), this,
+                   SLOT(chosen(uint, QString)));
+    m_bus->connect(service(), path(), service(), QStringLiteral("NotificationClosed"), this,
+                   SLOT(closed(uint, uint)));
+    QStringList actions;
+    if (onUndo)
+        actions = {undoAction(), QStringLiteral("Undo")};
+    QDBusMessage notify = call(QStringLiteral("Notify"));
+    notify << applicationTitle() << m_id << QStringLiteral("tolvo") << title
+           << (takesMarkup() ? text.toHtmlEscaped() : text) << actions
+           << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("tolvo")}} << -1;
+    const QDBusMessage reply = m_bus->call(notify, QDBus::Block, patience);
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return false;
+    m_id = reply.arguments().value(0).toUInt();
+    return true;
+}
+
+void DesktopNotification::close() {
+    if (m_id == 0)
+        return;
+    QDBusMessage message = call(QStringLiteral("CloseNotification"));
+    message << m_id;
+    m_bus->call(message, QDBus::Block, patience);
+    m_id = 0;
+}
+
+void DesktopNotification::chosen(uint id, const QString &action) {
+    if (id == m_id && action == undoAction() && onUndo)
+        onUndo();
+}
+
+void DesktopNotification::closed(uint id, uint) {
+    if (id == m_id)
+        m_id = 0;
+}
+
+} // namespace tolvo
