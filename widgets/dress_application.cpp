@@ -55,7 +55,8 @@ class ThemeWatch : public QObject {
 void dressApplication() {
     QApplication::setStyle(new HouseStyle);
     QGuiApplication::setWindowIcon(themedIcon(QStringLiteral("tolvo"))); // a file's would load two plugins
-    QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));        // what Wayland calls the window
+    QCoreApplication::setApplicationName(QStringLiteral("tolvo"));       // and the class that X11 knows it by
     dressPalette();
     qApp->installEventFilter(new ThemeWatch(qApp));
     new ScreenFit(qApp);
