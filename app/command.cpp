@@ -9,10 +9,12 @@
 #include "preferences/settings_store.h"
 #include "shell/headless/clipboard_command.h"
 
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
 #include <QRasterWindow>
+#include <QTimer>
 
 namespace tolvo {
 
@@ -22,15 +24,42 @@ constexpr int done = 0;
 constexpr int failed = 1;
 constexpr int badUsage = 2;
 
-/// What stands on the screen while the clipboard answers only to a window that has the focus.
+/// What stands on the screen while the clipboard answers only to a window with the focus, or with input.
 class SmallWindow : public QRasterWindow {
   public:
     explicit SmallWindow(const QString &text) : m_text(text) {
         setTitle(text);
-        resize(240, 60);
+        resize(300, 80);
+    }
+
+    /// Shows the window until a key is pressed or let go in it, or a click comes: the key that has started
+    /// the command will do. False if none comes in time, or the window is closed.
+    bool waitForInput() {
+        m_text += QStringLiteral("\nPress a key or click here");
+        QTimer::singleShot(inputMilliseconds, &m_loop, &QEventLoop::quit);
+        show();
+        m_loop.exec();
+        return m_hadInput;
     }
 
   protected:
+    bool event(QEvent *event) override {
+        switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::MouseButtonPress:
+        case QEvent::TouchBegin:
+            m_hadInput = true;
+            [[fallthrough]];
+        case QEvent::Close:
+            m_loop.quit();
+            break;
+        default:
+            break;
+        }
+        return QRasterWindow::event(event);
+    }
+
     void paintEvent(QPaintEvent *) override {
         QPainter painter(this);
         painter.fillRect(QRect(QPoint(), size()), QGuiApplication::palette().window());
@@ -39,7 +68,11 @@ class SmallWindow : public QRasterWindow {
     }
 
   private:
+    static constexpr int inputMilliseconds = 10'000;
+
     QString m_text;
+    QEventLoop m_loop;
+    bool m_hadInput = false;
 };
 
 bool hasDisplay() {
@@ -47,23 +80,27 @@ bool hasDisplay() {
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-/// Runs the command and stays until the clipboard is taken over.
+CommandOutcome runOnDesktop(ClipboardCommand &command, DesktopClipboard &clipboard) {
+    SmallWindow window(command.name());
+    if (DesktopClipboard::needsInputToWrite() && !window.waitForInput())
+        return {.message =
+                    QStringLiteral("This desktop gives its clipboard only to a window that is in use")};
+    if (!clipboard.comesAtOnce())
+        window.show();
+    return command.run(clipboard);
+}
+
+/// Runs the command, reports, and stays until the clipboard is taken over.
 int runWithClipboard(ClipboardCommand &command, KeeperSession &keeper, const ConsoleBoxes &console) {
     DesktopClipboard clipboard;
-    CommandOutcome outcome;
-    {
-        SmallWindow window(command.name());
-        if (!clipboard.comesAtOnce())
-            window.show();
-        outcome = command.run(clipboard);
-    }
+    const CommandOutcome outcome = runOnDesktop(command, clipboard);
     const int code = outcome.done ? done : failed;
     console.say(command.name() + QStringLiteral(": ") + outcome.message);
     keeper.sessionOver(code); // whoever waits for the command doesn't wait for the notification
 
     DesktopNotification notification;
     if (outcome.before)
-        notification.onUndo = [&] { clipboard.writeText(*outcome.before); };
+        notification.onUndo = [&] { clipboard.replaceOwnText(*outcome.before); };
     notification.show(command.name(), QString(outcome.message).remove(u'\r'));
     keeper.keepClipboardUntilTaken();
     if (outcome.before)

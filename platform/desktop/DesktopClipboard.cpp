@@ -23,11 +23,14 @@ constexpr int offerMilliseconds = 500;  // how long the first offer may take aft
 constexpr int settleMilliseconds = 100; // how long it may take once the window has the focus
 constexpr int stepMilliseconds = 20;    // between two repaints of the windows during a wait
 
+bool isWayland() {
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
 /// Whether only the program with the focus can read the clipboard. That holds for X11 programs under a
 /// Wayland compositor too.
 bool clipboardFollowsFocus() {
-    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) ||
-           (isX11() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
+    return isWayland() || (isX11() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
 }
 
 bool clipboardOffers() {
@@ -144,6 +147,20 @@ void DesktopClipboard::writeText(const QString &text) {
         QGuiApplication::clipboard()->clear();
     else
         QGuiApplication::clipboard()->setText(m_lineEnds.goOut(text));
+}
+
+bool DesktopClipboard::needsInputToWrite() {
+    return isWayland(); // which wants the serial number of an input event
+}
+
+void DesktopClipboard::replaceOwnText(const QString &text) {
+    if (!needsInputToWrite()) {
+        writeText(text);
+    } else if (QGuiApplication::clipboard()->ownsClipboard()) {
+        // The object is the one that writeText has given away; the window system asks it at each paste.
+        auto *own = const_cast<QMimeData *>(QGuiApplication::clipboard()->mimeData());
+        own->setText(m_lineEnds.goOut(text));
+    }
 }
 
 /// The text that a transfer brings; without a transfer, the text that the toolkit reads. The wait is

@@ -30,6 +30,12 @@ class DesktopClipboard final : public Clipboard {
     /// first, and after a moment without an answer from the owner.
     [[nodiscard]] bool comesAtOnce();
 
+    /// Whether the window system takes a text only from a window that has had a key or a click.
+    [[nodiscard]] static bool needsInputToWrite();
+    /// Puts another text in the place of the one that this program has put on the clipboard and still owns.
+    /// That needs no input anywhere, but where a write would, no other program learns of it before it pastes.
+    void replaceOwnText(const QString &text);
+
     /// The line ends of outgoing text, for what is copied or dragged out of a text box.
     [[nodiscard]] const ClipboardLineEnds &lineEnds() const { return m_lineEnds; }
 

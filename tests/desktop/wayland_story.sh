@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# One run on Wayland with a Russian keyboard: the text comes in, Copy and Close, and it can be pasted after the end. A
-# compositor stands as a window on a virtual X server, so that real keys reach it; it takes the server's layouts.
+# One run on Wayland with a Russian keyboard: the text comes in, Copy and Close, and it can be pasted after the end; then a
+# command without a window. A compositor stands as a window on a virtual X server, so that real keys reach it; it takes the
+# server's layouts.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 if [ "${1:-}" != inside ]; then exec "$here/on_display.sh" "$0" inside; fi
@@ -50,4 +51,14 @@ wait "$run" || fail "the run ended with $?: $(cat "$store/tolvo.log")"
 pasted=$(timeout 10 wl-paste --no-newline || true)
 [ "$pasted" = "WORDS FROM WAYLAND" ] || fail "pasted: '$pasted' $(cat "$store/tolvo.log")"
 [ ! -s "$store/tolvo.log" ] || fail "the run wrote: $(cat "$store/tolvo.log")"
+# A command needs some input: the key that is let go after it has started is enough.
+QT_QPA_PLATFORM=wayland timeout 20 "$TOLVO_BIN/tolvo" --tool ccLOW >"$store/command.log" 2>&1 &
+run=$!
+for _ in $(seq 50); do
+    kill -0 "$run" 2>/dev/null || break
+    xdotool key Shift_L
+    sleep 0.2
+done
+wait "$run" || fail "the command ended with $?: $(cat "$store/command.log")"
+[ "$(timeout 10 wl-paste --no-newline)" = "words from wayland" ] || fail "the command: $(cat "$store/command.log")"
 echo "passed: '$pasted' pasted after the end"
