@@ -15,12 +15,14 @@ as_user() { runuser -u somebody -- env -i HOME=/home/somebody PATH=/usr/bin:/bin
 everything() { find / -xdev \( -path /proc -o -path /dev -o -path /var/cache -o -path /var/lib/apt -o -path /var/lib/dpkg \
     -o -path /var/log -o -path /tmp -o -path /home \) -prune -o -print | sort; }
 
-# What bash offers for the last of the words; the quote of an open word counts.
+# What bash offers at the end of a line: the line, then the words that bash sees in it.
 offers() {
     as_user bash -c '
         . /usr/share/bash-completion/bash_completion
-        COMP_LINE=$* COMP_POINT=${#COMP_LINE} COMP_WORDS=("$@") COMP_CWORD=$(($# - 1)) COMP_TYPE=9
         compopt() { :; } # is for the line editor alone
+        COMP_LINE=$1 COMP_POINT=${#1} COMP_TYPE=9
+        shift
+        COMP_WORDS=("$@") COMP_CWORD=$(($# - 1))
         . "/usr/share/bash-completion/completions/$1"
         _tolvo "$1" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
         printf "%s\n" "${COMPREPLY[@]}"' offers "$@" | paste -s -d '|'
@@ -39,9 +41,10 @@ for program in tolvo tolvo-pipe /usr/libexec/tolvo/{Advisor,Refresher,Tally}.exe
     expect "$program --version" "${program##*/} $version" "$(as_user "$program" --version)"
 done
 expect "the checker of updates runs" "0" "$(as_user env /usr/libexec/tolvo/Refresher.exe /update /quiet; echo $?)"
-as_user env QT_QPA_PLATFORM=offscreen timeout 4 tolvo >/tmp/said 2>&1 && code=0 || code=$?
+as_user mkdir -m 700 /home/somebody/run
+as_user env XDG_RUNTIME_DIR=/home/somebody/run QT_QPA_PLATFORM=offscreen timeout 4 tolvo >/tmp/said 2>&1 && code=0 || code=$?
 expect "the window stays until it is closed" "124" "$code"
-expect "and nothing is complained of" "" "$(cat /tmp/said)"
+expect "and nothing is complained of" "" "$(grep -v '^This plugin does not support' /tmp/said)" # offscreen, raise()
 
 for page in tolvo tolvo-pipe tolvo-advisor tolvo-refresher tolvo-tally; do
     case $page in tolvo | tolvo-pipe) program=$page ;; *)
@@ -55,11 +58,12 @@ for page in tolvo tolvo-pipe tolvo-advisor tolvo-refresher tolvo-tally; do
     done
 done
 
-expect "completion of a tool" "foTRA" "$(offers tolvo-pipe foTRA)"
-expect "completion of a tool after --tool" "ccUPP" "$(offers tolvo --tool ccUP)"
-expect "completion of a setting" "Width=50|Justify=0|Hanging=0|Tab=True" "$(offers tolvo-pipe foWRP : '')"
-expect "completion in quotes" "foWRP:Width=9, Tab=True" "$(offers tolvo-pipe "'foWRP:Width=9, T")"
-expect "completion of an option" "--list-buttons|--list-tools" "$(offers tolvo-pipe --li)"
+expect "completion of a tool" "foTRA" "$(offers 'tolvo-pipe foTRA' tolvo-pipe foTRA)"
+expect "completion of a tool after --tool" "ccUPP" "$(offers 'tolvo --tool ccUP' tolvo --tool ccUP)"
+expect "completion of a setting" "Width=50|Justify=0|Hanging=0|Tab=True" "$(offers 'tolvo-pipe foWRP:' tolvo-pipe foWRP :)"
+expect "completion in quotes" "foWRP:Width=9, Tab=True" \
+    "$(offers "tolvo-pipe 'foWRP:Width=9, T" tolvo-pipe "'foWRP:Width=9, T")"
+expect "completion of an option" "--list-buttons|--list-tools" "$(offers 'tolvo-pipe --li' tolvo-pipe --li)"
 
 apt-get purge -y -qq --autoremove tolvo >/tmp/purge.log 2>&1 || { cat /tmp/purge.log; exit 1; }
 everything >/tmp/after
