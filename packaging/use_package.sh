@@ -40,6 +40,7 @@ expect "a pipe" "a b" "$(printf 'b  \na\n' | as_user tolvo-pipe foTRA soALP 2>/d
 for program in tolvo tolvo-pipe /usr/libexec/tolvo/{Advisor,Refresher,Tally}.exe; do
     expect "$program --version" "${program##*/} $version" "$(as_user "$program" --version)"
 done
+expect "the manual has its pages" "8" "$(find /usr/share/tolvo/manual -name '*.html' | wc -l)"
 expect "the checker of updates runs" "0" "$(as_user env /usr/libexec/tolvo/Refresher.exe /update /quiet; echo $?)"
 as_user mkdir -m 700 /home/somebody/run
 as_user env XDG_RUNTIME_DIR=/home/somebody/run QT_QPA_PLATFORM=offscreen timeout 4 tolvo >/tmp/said 2>&1 && code=0 || code=$?

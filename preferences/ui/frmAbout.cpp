@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace tolvo {
@@ -37,7 +38,7 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
         QStringLiteral("Copyright %1 The Tolvo developers").arg(built.toString(QStringLiteral("yyyy"))));
     copyright->setObjectName(QStringLiteral("lblCopyright"));
 
-    auto *text = new QVBoxLayout;
+    auto *text = m_text = new QVBoxLayout;
     for (QLabel *label : {title, version, copyright})
         text->addWidget(label);
     text->addSpacing(8);
@@ -68,6 +69,11 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
     layout->addLayout(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     ok->setFocus();
+}
+
+void frmAbout::offerManual(const QString &path) {
+    m_text->addWidget(link("lblManual", QStringLiteral("Manual"),
+                           QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded())));
 }
 
 QLabel *frmAbout::link(const char *name, const QString &text, const QString &address) {

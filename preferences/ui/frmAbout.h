@@ -5,6 +5,7 @@
 #include <QDialog>
 
 class QLabel;
+class QVBoxLayout;
 
 namespace tolvo {
 
@@ -18,10 +19,14 @@ class frmAbout : public QDialog {
     /// `built` is the date of the executable.
     frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built, QWidget *parent = nullptr);
 
+    /// Adds a link that opens the manual, a file on this machine.
+    void offerManual(const QString &path);
+
   private:
     QLabel *link(const char *name, const QString &text, const QString &address);
     void cmdSysInfo_Click();
 
+    QVBoxLayout *m_text = nullptr; ///< version and links
     Processes &m_processes;
     MessageBoxes &m_boxes;
 };

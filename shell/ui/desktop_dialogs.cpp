@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/desktop_dialogs.h"
 
+#include "base/paths.h"
 #include "platform/desktop/font_conversion.h"
 #include "powerbuttons/ui/frmPowerButton.h"
 #include "preferences/settings_keys.h"
@@ -124,7 +125,11 @@ void DesktopDialogs::configureProvider(int provider) {
 
 void DesktopDialogs::showAbout() {
     const QDate built = QFileInfo(QCoreApplication::applicationFilePath()).lastModified().date();
-    frmAbout(m_services.processes, m_services.boxes, built, &m_parent).exec();
+    frmAbout about(m_services.processes, m_services.boxes, built, &m_parent);
+    const QString manual = sAppPath(m_services.dataFolder) + QStringLiteral("manual/index.html");
+    if (QFileInfo::exists(manual))
+        about.offerManual(manual);
+    about.exec();
 }
 
 void DesktopDialogs::showStatistics(const TextStatistics &statistics) {

@@ -233,7 +233,11 @@ TEST(About, showsVersionAndDateAndOpensTheAddress) {
     EXPECT_TRUE(child<QLabel>(about, "lblVersion").text().startsWith(u"Version 1.0 Build 0 ("));
     EXPECT_TRUE(child<QLabel>(about, "lblCopyright").text().contains(u"2026"));
     emit child<QLabel>(about, "lblWeb").linkActivated(QStringLiteral("https://tolvo.example"));
-    EXPECT_EQ(processes.opened, QStringList{QStringLiteral("https://tolvo.example")});
+    about.offerManual(QStringLiteral("/a blank/index.html"));
+    auto &manual = child<QLabel>(about, "lblManual");
+    emit manual.linkActivated(manual.text().section(u'"', 1, 1)); // the address that it shows
+    EXPECT_EQ(processes.opened, QStringList({QStringLiteral("https://tolvo.example"),
+                                             QStringLiteral("file:///a%20blank/index.html")}));
 }
 
 } // namespace
