@@ -104,7 +104,7 @@ int runWithClipboard(ClipboardCommand &command, KeeperSession &keeper, const Con
     notification.show(command.name(), QString(outcome.message).remove(u'\r'));
     keeper.keepClipboardUntilTaken();
     if (outcome.before)
-        notification.close(); // there is nothing left to undo
+        notification.withdrawUndo();
     return code;
 }
 

@@ -12,7 +12,8 @@ namespace tolvo {
 
 namespace {
 
-constexpr int patience = 2000; // milliseconds
+constexpr int patience = 2000;    // milliseconds
+constexpr int readingTime = 3000; // the same
 
 QString service() {
     return QStringLiteral("org.freedesktop.Notifications");
@@ -54,23 +55,35 @@ bool DesktopNotification::show(const QString &title, const QString &text) {
                    SLOT(chosen(uint, QString)));
     m_bus->connect(service(), path(), service(), QStringLiteral("NotificationClosed"), this,
                    SLOT(closed(uint, uint)));
+    m_title = title;
+    m_text = takesMarkup() ? text.toHtmlEscaped() : text;
+    m_shown.start();
+    return notify();
+}
+
+/// Shows what is to be shown now, in the place of what shows already.
+bool DesktopNotification::notify() {
     QStringList actions;
     if (onUndo)
         actions = {undoAction(), QStringLiteral("Undo")};
-    QDBusMessage notify = call(QStringLiteral("Notify"));
-    notify << applicationTitle() << m_id << QStringLiteral("tolvo") << title
-           << (takesMarkup() ? text.toHtmlEscaped() : text) << actions
-           << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("tolvo")}} << -1;
-    const QDBusMessage reply = m_bus->call(notify, QDBus::Block, patience);
+    QDBusMessage message = call(QStringLiteral("Notify"));
+    message << applicationTitle() << m_id << QStringLiteral("tolvo") << m_title << m_text << actions
+            << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("tolvo")}} << -1;
+    const QDBusMessage reply = m_bus->call(message, QDBus::Block, patience);
     if (reply.type() != QDBusMessage::ReplyMessage)
         return false;
     m_id = reply.arguments().value(0).toUInt();
     return true;
 }
 
-void DesktopNotification::close() {
+void DesktopNotification::withdrawUndo() {
+    onUndo = nullptr;
     if (m_id == 0)
         return;
+    if (m_shown.elapsed() < readingTime) {
+        notify();
+        return;
+    }
     QDBusMessage message = call(QStringLiteral("CloseNotification"));
     message << m_id;
     m_bus->call(message, QDBus::Block, patience);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QElapsedTimer>
 #include <QObject>
 #include <functional>
 #include <optional>
@@ -18,8 +19,9 @@ class DesktopNotification : public QObject {
     /// Shows the notification, with a button "Undo" if `onUndo` is set; a text that the service takes for
     /// markup is escaped. False if there is no such service, or none that answers within two seconds.
     bool show(const QString &title, const QString &text);
-    /// Takes it away if it still shows.
-    void close();
+    /// There is nothing left to undo: takes the notification away if it still shows; one that has only just
+    /// come up loses its button instead, so that the user can read it.
+    void withdrawUndo();
 
     std::function<void()> onUndo; ///< called from the event loop when the user chooses "Undo"
 
@@ -29,8 +31,12 @@ class DesktopNotification : public QObject {
 
   private:
     [[nodiscard]] bool takesMarkup();
+    bool notify();
 
     std::optional<QDBusConnection> m_bus;
+    QString m_title;
+    QString m_text;
+    QElapsedTimer m_shown;
     uint m_id = 0; ///< 0: nothing shows
 };
 

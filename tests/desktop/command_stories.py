@@ -5,6 +5,7 @@ happened. The notification service is one of our own on the bus of the display."
 import os
 import subprocess
 import threading
+import time
 import unittest
 
 from gi.repository import Gio, GLib
@@ -50,7 +51,7 @@ class Notifications:
             reply.return_value(GLib.Variant("(as)", (["actions", "body", "body-markup"],)))
         elif method == "Notify":
             self.shown.append((given[3], given[4], given[5]))
-            reply.return_value(GLib.Variant("(u)", (len(self.shown),)))
+            reply.return_value(GLib.Variant("(u)", (given[1] or len(self.shown),)))
         else:
             self.closed.append(given[0])
             reply.return_value(None)
@@ -102,10 +103,20 @@ class CommandStories(unittest.TestCase):
         self.assertEqual(self.notified(), ("Shout <now>", "10 characters: upper case", ["undo", "Undo"]))
         self.desktop.choose("undo")
         clipboard_becomes("one\n<two>")
-        self.assertEqual(self.desktop.closed, [])
         set_clipboard("another program's")
-        wait_for(lambda: self.desktop.closed == [1], "the notification to go when there is nothing left to undo")
+        wait_for(lambda: self.desktop.shown[1:] == [("Shout <now>", "10 characters: upper case", [])],
+                 "the notification to lose its button when there is nothing left to undo")
+        self.assertEqual(self.desktop.closed, [])
         self.assertEqual(get_clipboard(), "another program's")
+
+    def test_a_notification_goes_when_it_has_been_read(self):
+        set_clipboard("one")
+        self.run_tolvo("--tool", "ccUPP")
+        clipboard_becomes("ONE")
+        time.sleep(3.2)
+        set_clipboard("another program's")
+        wait_for(lambda: self.desktop.closed == [1], "the notification to go")
+        self.assertEqual(len(self.desktop.shown), 1)
 
     def test_by_name_and_a_single_tool(self):
         self.define_button(5, "Shout", "ccUPP")
