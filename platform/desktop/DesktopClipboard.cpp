@@ -159,7 +159,10 @@ void DesktopClipboard::replaceOwnText(const QString &text) {
     } else if (QGuiApplication::clipboard()->ownsClipboard()) {
         // The object is the one that writeText has given away; the window system asks it at each paste.
         auto *own = const_cast<QMimeData *>(QGuiApplication::clipboard()->mimeData());
-        own->setText(m_lineEnds.goOut(text));
+        for (const QString &format : own->formats()) { // with and without a character set
+            if (format.startsWith(QLatin1StringView("text/plain")))
+                own->setData(format, m_lineEnds.goOut(text).toUtf8());
+        }
     }
 }
 
