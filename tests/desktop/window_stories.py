@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: MIT
 """The main window with keys alone, and its place from one run to the next."""
 
+import os
 import subprocess
 import unittest
 
-from desk import Story, clipboard_becomes, keys, type_text, wait_for
+from desk import Story, Tolvo, clipboard_becomes, keys, type_text, wait_for
 
 
 def place_of_active_window():
@@ -18,6 +19,16 @@ def place_of_active_window():
 class WindowStories(Story):
     def focus_becomes(self, run, name):
         wait_for(lambda: run.focused() == name, lambda: f"the focus at {name!r}, it is at {run.focused()!r}")
+
+    def test_all_programs_belong_to_the_entry_in_the_menu(self):
+        entry = os.path.join(os.path.dirname(__file__), "..", "..", "packaging", "tolvo.desktop")
+        with open(entry, encoding="utf-8") as lines:
+            name = next(line.strip().split("=")[1] for line in lines if line.startswith("StartupWMClass="))
+        for program in "tolvo", "Advisor.exe", "Tally.exe":
+            self.runs.append(Tolvo(self.settings, wait=False, program=program))
+            wait_for(lambda: f" {program}.{name} " in subprocess.run(["wmctrl", "-lx"], capture_output=True, text=True).stdout,
+                     f"a window of {program} with the class {name}")
+            self.runs[-1].kill()
 
     def test_a_text_is_cleaned_with_keys_alone(self):
         run = self.start("one  \ntwo  ")
