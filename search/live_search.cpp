@@ -28,6 +28,8 @@ struct Job {
 };
 
 QString troubleInWords(const FoundMatches &found, const QString &find) {
+    if (found.more)
+        return QStringLiteral("this takes too long on this text");
     if (found.troubleAt < 0)
         return found.trouble;
     if (found.troubleAt >= find.size())

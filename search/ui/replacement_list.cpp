@@ -4,6 +4,7 @@
 #include "search/escaped_text.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 
 namespace tolvo {
 
@@ -29,13 +30,21 @@ ReplacementList::ReplacementList(const QString &name, QWidget *parent) : QTreeWi
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setTabKeyNavigation(false);
-    const auto choose = [this](QTreeWidgetItem *item) {
-        const int row = indexOfTopLevelItem(item);
-        if (onChosen && row >= 0 && row < m_places.size())
-            onChosen(m_places.at(row));
-    };
-    connect(this, &QTreeWidget::itemClicked, this, choose);
-    connect(this, &QTreeWidget::itemActivated, this, choose);
+    connect(this, &QTreeWidget::itemClicked, this, &ReplacementList::choose);
+}
+
+/// The key would go on to the default button of the window.
+void ReplacementList::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        choose(currentItem());
+    else
+        QTreeWidget::keyPressEvent(event);
+}
+
+void ReplacementList::choose(QTreeWidgetItem *item) {
+    const int row = indexOfTopLevelItem(item);
+    if (onChosen && row >= 0 && row < m_places.size())
+        onChosen(m_places.at(row));
 }
 
 void ReplacementList::showReplacements(const QString &text, const QList<PreviewedReplacement> &replacements) {

@@ -17,12 +17,16 @@ class ReplacementList final : public QTreeWidget {
 
     /// Shows the matches of a text, at most mostRows.
     void showReplacements(const QString &text, const QList<PreviewedReplacement> &replacements);
-    /// Called when the user chooses a match.
+    /// Called when the user chooses a match, by a click or Enter.
     std::function<void(RegularExpression::Span)> onChosen;
 
     [[nodiscard]] QSize sizeHint() const override;
 
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
   private:
+    void choose(QTreeWidgetItem *item);
     void addRow(const QString &before, const QString &after);
 
     QList<RegularExpression::Span> m_places;

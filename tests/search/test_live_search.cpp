@@ -109,7 +109,7 @@ TEST(LiveSearch, EndsWhenNobodyWaits) {
     const auto start = std::chrono::steady_clock::now();
     const LiveAnswer answer = liveAnswer(question, cancellation);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
-    EXPECT_FALSE(answer.found.isValid());
+    EXPECT_EQ(answerInWords(answer, question.request, {0, 0}), "this takes too long on this text");
 }
 
 } // namespace

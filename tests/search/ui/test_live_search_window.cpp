@@ -176,6 +176,9 @@ TEST_F(LiveSearchWindow, ShowsWhatAReplacementBecomes) {
     QTest::mouseClick(shown.viewport(), Qt::LeftButton, {}, second);
     becomes("2 of 3");
     EXPECT_EQ(text.SelText(), "One");
+    QTest::keyClick(&shown, Qt::Key_Down);
+    QTest::keyClick(&shown, Qt::Key_Return);
+    EXPECT_EQ(text.SelStart(), 12);
     text.setCapacity(text.length());
     find<QComboBox>("cmbReplaceText").setEditText("three");
     listBecomes("one>three One>Three one>three");
