@@ -63,6 +63,7 @@ struct SearchKeys {
     Setting<forms::Bounded<1, 3, 1>> mode{section, u"Tab", 1}; // from 1
     SettingList recentFinds{{u"Search\\SearchMRU"}};           // the newest first
     SettingList recentReplaces{{u"Search\\ReplaceMRU"}};
+    SettingList modesOfTexts{{u"SearchModes"}}; // each the number of a mode, and a text of the two lists
 };
 
 /// What was copied of matches last; the search itself has its own keys.

@@ -31,6 +31,17 @@ bool isOfWord(Anchor anchor) {
     return anchor == Anchor::WordStart || anchor == Anchor::WordEnd;
 }
 
+QString numberOf(SearchMode mode) {
+    return QString::number(static_cast<int>(mode));
+}
+
+void noteMode(QStringList &modes, const QString &text, SearchMode mode) {
+    if (text.isEmpty())
+        return;
+    modes.removeIf([&text](const QString &entry) { return QStringView(entry).sliced(1) == text; });
+    modes.prepend(numberOf(mode) + text);
+}
+
 void putInFront(QStringList &list, const QString &text) {
     list.removeAll(text);
     list.prepend(text);
@@ -45,6 +56,8 @@ void SearchForm::load(const SettingsStore &store) {
     copyInPlace = get(store, settingKeys.matchCopy.inPlace);
     recentFinds = loadList(store, keys.recentFinds);
     recentReplaces = loadList(store, keys.recentReplaces);
+    modesOfTexts = get(store, keys.modesOfTexts);
+    modesOfTexts.removeAll(QString());
     request.find = recentFinds.value(0);
     request.replace = recentReplaces.value(0);
 }
@@ -56,6 +69,7 @@ void SearchForm::save(SettingsStore &store) const {
     set(store, keys.expanded, expanded);
     set(store, keys.recentFinds, recentFinds.first(std::min(recentFinds.size(), longestList)));
     set(store, keys.recentReplaces, recentReplaces.first(std::min(recentReplaces.size(), longestList)));
+    set(store, keys.modesOfTexts, modesOfTexts.first(std::min(modesOfTexts.size(), 2 * longestList)));
     transaction.commit();
 }
 
@@ -137,6 +151,22 @@ void SearchForm::rememberTexts() {
         return;
     putInFront(recentReplaces, request.replace);
     putInFront(recentFinds, request.find);
+    for (const QString &text : {request.replace, request.find})
+        noteMode(modesOfTexts, text, request.mode);
+}
+
+QString SearchForm::modeOf(const QString &text) const {
+    if (text.isEmpty())
+        return {};
+    const std::pair<SearchMode, QString> modes[] = {
+        {SearchMode::Simple, QStringLiteral("Simple Search")},
+        {SearchMode::Wildcard, QStringLiteral("Wildcard Search")},
+        {SearchMode::RegularExpression, QStringLiteral("Regular Expression")}};
+    for (const auto &[mode, name] : modes) {
+        if (modesOfTexts.contains(numberOf(mode) + text))
+            return name;
+    }
+    return {};
 }
 
 void SearchForm::chooseAnchor(Anchor anchor) {

@@ -23,7 +23,8 @@ struct SearchForm {
     bool copyInPlace = false;
     QStringList recentFinds; ///< the newest first
     QStringList recentReplaces;
-    bool expanded = false; ///< the button says "Less"
+    QStringList modesOfTexts; ///< the number of a mode before each text
+    bool expanded = false;    ///< the button says "Less"
 
     /// The section `Search`, and that of copied matches. Values that make no sense give the default. With
     /// special characters on, the form is expanded whatever was stored.
@@ -49,6 +50,9 @@ struct SearchForm {
 
     /// Puts both texts in front of their lists. Nothing for an empty search text.
     void rememberTexts();
+
+    /// In which mode a text of the lists was used last, as its tab says it; empty if that is not known.
+    [[nodiscard]] QString modeOf(const QString &text) const;
 
     /// The start and the end of a word go together with any match, but not with whole words only.
     void chooseAnchor(Anchor anchor);

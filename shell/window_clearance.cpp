@@ -33,6 +33,10 @@ QRect movedInto(QRect area, const QRect &screen) {
 
 } // namespace
 
+QPoint cornerOnScreen(const QRect &window, const QRect &screen) {
+    return movedInto(window, screen).topLeft();
+}
+
 QPoint cornerBesideText(QSize window, const TextPlace &place) {
     if (const QList<QRect> free = outside(window, place); !free.isEmpty())
         return free.first().topLeft();

@@ -19,6 +19,9 @@ struct TextPlace {
 /// has room, else at an edge of the text. It lies over the caret's line only where there is no other way.
 [[nodiscard]] QPoint cornerBesideText(QSize window, const TextPlace &place);
 
+/// The corner of a window that lies on the screen as a whole, or begins there if the screen is too small.
+[[nodiscard]] QPoint cornerOnScreen(const QRect &window, const QRect &screen);
+
 /// Where a window goes that lies over `hit`: the shortest way that frees it and stays on the screen. Nothing
 /// if the hit is free, or can't be freed.
 ///   A window {0, 0, 100, 50} over {90, 20, 30, 10} goes to (-14, 0) if the screen goes on there.

@@ -199,6 +199,8 @@ void frmSearch::fitSize() {
     if (const QSize needed = sizeHint(); needed != m_fittedSize) {
         m_fittedSize = needed;
         resize(needed + m_added);
+        if (onFitted)
+            onFitted();
     }
     m_givenSize = size();
 }

@@ -49,6 +49,7 @@ class frmSearch final : public QDialog, public SearchWindow {
     std::function<void(const MatchCopy &)> onCopyMatches;
 
     std::function<void()> onShow;     ///< about to be shown, with its size
+    std::function<void()> onFitted;   ///< the window has taken another size by itself
     std::function<void()> onSearched; ///< a command is over; the window may lie over what it has selected
 
     /// OK: refuses, with a message, a text that the settings can't hold.

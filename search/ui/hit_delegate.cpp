@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "search/ui/hit_delegate.h"
 
+#include "search/ui/row_ink.h"
+
 #include <QPainter>
 #include <QTextLayout>
 #include <algorithm>
@@ -16,25 +18,13 @@ QFont bold(QFont font) {
     return font;
 }
 
-QPalette::ColorRole inkOf(const QStyleOptionViewItem &option) {
-    return option.state.testFlag(QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
-}
-
-QPalette::ColorGroup groupOf(const QStyleOptionViewItem &option) {
-    if (!option.state.testFlag(QStyle::State_Enabled))
-        return QPalette::Disabled;
-    return option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-}
-
 } // namespace
 
 void HitDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                         const QModelIndex &index) const {
     QStyleOptionViewItem row = option;
     initStyleOption(&row, index);
-    row.text.clear();
-    const QStyle *style = row.widget->style();
-    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+    paintBareRow(*painter, row);
 
     const HitLine line = m_lines.value(index.row());
     const QRect inside = row.rect.adjusted(room, 0, -room, 0);
@@ -54,7 +44,7 @@ void HitDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     layout.endLayout();
     painter->save();
     painter->setClipRect(row.rect);
-    painter->setPen(row.palette.color(groupOf(row), inkOf(row)));
+    painter->setPen(inkOf(row));
     layout.draw(painter, QPointF(inside.left(),
                                  inside.top() + (inside.height() - layout.boundingRect().height()) / 2));
     painter->restore();

@@ -3,6 +3,7 @@
 
 #include "platform/line_ends.h"
 #include "search/escaped_text.h"
+#include "search/ui/history_delegate.h"
 
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -20,6 +21,7 @@ SearchListEdit::SearchListEdit(const QString &name, QWidget *parent) : QComboBox
     setMinimumContentsLength(18);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setMaxVisibleItems(20);
+    setItemDelegate(new HistoryDelegate(this));
     connect(lineEdit(), &QLineEdit::textEdited, this, &SearchListEdit::escapeLineEnds);
     connect(this, &QComboBox::activated, this, [this] { remember(); });
     // Some selections come and go with the focus itself. Only what changes while it is here is the user's.
@@ -39,9 +41,20 @@ void SearchListEdit::show(const QStringList &entries, const QString &text) {
         const QSignalBlocker quietEdit(lineEdit());
         clear();
         addItems(entries);
+        addWords();
         setEditText(text);
     }
     m_place = isSame ? place : Place{static_cast<int>(text.size()), 0};
+}
+
+void SearchListEdit::addWords() {
+    for (int i = 0; wordOn && i < count(); ++i) {
+        const QString word = wordOn(itemText(i));
+        if (word.isEmpty())
+            continue;
+        setItemData(i, word, HistoryDelegate::wordRole);
+        setItemData(i, itemText(i) + QStringLiteral(", ") + word, Qt::AccessibleTextRole);
+    }
 }
 
 void SearchListEdit::remember() {

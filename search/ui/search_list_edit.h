@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <functional>
 
 namespace tolvo {
 
@@ -15,6 +16,8 @@ class SearchListEdit final : public QComboBox {
 
     /// Shows a list and a text.
     void show(const QStringList &entries, const QString &text);
+    /// What is said of each entry of the lists that are shown from now on.
+    std::function<QString(const QString &entry)> wordOn;
     /// Takes the focus, if it doesn't have it, with caret and selection as the user left them.
     void resume();
     /// Takes the focus with all of its text selected, for a new one to be typed over it.
@@ -36,6 +39,7 @@ class SearchListEdit final : public QComboBox {
     };
 
     void remember();
+    void addWords();
     void goTo(Place place);
     void escapeLineEnds(const QString &text);
 

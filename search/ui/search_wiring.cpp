@@ -17,6 +17,8 @@ void frmSearch::connectControls() {
         m_form.request.mode = modeOfTab(index);
         applyRules();
     });
+    for (SearchListEdit *list : {c.cmbSearchText, c.cmbReplaceText})
+        list->wordOn = [this](const QString &entry) { return m_form.modeOf(entry); };
     for (SearchListEdit *list : c.textLists()) {
         connect(list, &SearchListEdit::used, this, [this, list] { m_lastList = list; });
         connect(list, &SearchListEdit::escaped, this, [this] {

@@ -4,6 +4,7 @@
 #include "shell/ui/MainWindow.h"
 #include "shell/window_clearance.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QTextBlock>
 
@@ -12,6 +13,11 @@ namespace tolvo {
 namespace {
 
 constexpr QSize frameToCome{8, 36}; ///< about what a window manager adds, which is not known yet
+
+/// Wayland alone places its windows itself, and says nothing of where they are.
+bool canPlaceWindows() {
+    return !QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"));
+}
 
 QRect onDesktop(const QWidget &widget, const QRect &area) {
     return {widget.mapToGlobal(area.topLeft()), area.size()};
@@ -41,6 +47,8 @@ QRect startOfSelection(PlainTextBox &text) {
 } // namespace
 
 void placeBesideText(QWidget &window, MainWindow &main) {
+    if (!canPlaceWindows())
+        return;
     PlainTextBox &text = main.shownTextBox();
     const TextPlace place{.main = main.frameGeometry(),
                           .text = onDesktop(text, text.rect()),
@@ -49,9 +57,16 @@ void placeBesideText(QWidget &window, MainWindow &main) {
     window.move(cornerBesideText(window.size() + frameToCome, place));
 }
 
+void moveOntoScreen(QWidget &window) {
+    const QRect area = window.frameGeometry();
+    const QPoint corner = cornerOnScreen(area, window.screen()->availableGeometry());
+    if (canPlaceWindows() && window.isVisible() && corner != area.topLeft())
+        window.move(corner);
+}
+
 void moveOffSelection(QWidget &window, MainWindow &main) {
     PlainTextBox &text = main.shownTextBox();
-    if (!window.isVisible() || !text.textCursor().hasSelection())
+    if (!canPlaceWindows() || !window.isVisible() || !text.textCursor().hasSelection())
         return;
     const auto corner =
         cornerAside(window.frameGeometry(), startOfSelection(text), window.screen()->availableGeometry());

@@ -11,6 +11,9 @@ class MainWindow;
 /// Places a window that is about to be shown beside the text.
 void placeBesideText(QWidget &window, MainWindow &main);
 
+/// Moves a window that has grown back onto its screen.
+void moveOntoScreen(QWidget &window);
+
 /// Moves a window off the selection, if it lies over the beginning of it. A hidden window stays.
 void moveOffSelection(QWidget &window, MainWindow &main);
 

@@ -162,12 +162,13 @@ frmSearch &DesktopDialogs::searchWindow() {
     return *m_search;
 }
 
-/// At its first place and after each search.
+/// At its first place, when it grows, and after each search.
 void DesktopDialogs::keepSearchClear() {
     m_search->onShow = [this] {
         if (!m_search->isModal() && !std::exchange(m_searchIsPlaced, true))
             placeBesideText(*m_search, m_parent);
     };
+    m_search->onFitted = [this] { moveOntoScreen(*m_search); };
     m_search->onSearched = [this] {
         if (!m_search->isModal())
             moveOffSelection(*m_search, m_parent);

@@ -39,6 +39,12 @@ TEST(WindowClearance, ComesUpBesideTheTextOrAtItsEdge) {
     }
 }
 
+TEST(WindowClearance, StaysOnTheScreen) {
+    EXPECT_EQ(cornerOnScreen({900, 700, 300, 200}, screen), QPoint(900, 700));
+    EXPECT_EQ(cornerOnScreen({1000, 900, 300, 200}, screen), QPoint(980, 800));
+    EXPECT_EQ(cornerOnScreen({-10, 500, 300, 2000}, screen), QPoint(0, 0));
+}
+
 TEST(WindowClearance, StepsAsideByTheShortestWay) {
     struct Row {
         const char *name;

@@ -123,6 +123,27 @@ TEST_F(SeekWindow, InsertsElements) {
     EXPECT_EQ(window->request().replace, "$&");
 }
 
+TEST_F(SeekWindow, SaysInWhichModeAnEntryWasUsed) {
+    set(store, settingKeys.search.recentFinds, {"two", "o?e", "Older"});
+    set(store, settingKeys.search.modesOfTexts, {"", "3two", "9Older", "2o?e"});
+    reopen();
+    const auto words = [this] {
+        QComboBox &history = find<QComboBox>("cmbSearchText");
+        QStringList all;
+        for (int i = 0; i < history.count(); ++i)
+            all += history.itemText(i) + u'/' + history.itemData(i, Qt::UserRole + 1).toString();
+        return all.join(u' ').toStdString();
+    };
+    EXPECT_EQ(words(), "two/Regular Expression o?e/Wildcard Search Older/");
+    open(false);
+    find<QTabBar>("TabStrip1").setCurrentIndex(0);
+    press(Qt::Key_F3);
+    EXPECT_EQ(said(), "Text not found");
+    EXPECT_EQ(words(), "two/Simple Search o?e/Wildcard Search Older/");
+    window->saveState();
+    EXPECT_EQ(get(store, settingKeys.search.modesOfTexts), QStringList({"1two", "9Older", "2o?e"}));
+}
+
 TEST_F(SeekWindow, NamesTheOptionsThatAreFoldedAway) {
     struct Row {
         const char *settings;

@@ -122,6 +122,12 @@ void AllWindows::searchWindow(const Act &act) {
         modes.setCurrentIndex(mode);
         lookAt(search, "search with " + modes.tabText(mode).toStdString(), act);
     }
+    QTest::keyClick(&search, Qt::Key_F, Qt::ControlModifier);
+    click(search, "cmdCopyMatches");
+    for (int mode = 0; mode < modes.count(); ++mode) {
+        modes.setCurrentIndex(mode);
+        lookAt(search, "copying matches, " + modes.tabText(mode).toStdString(), act);
+    }
     search.close();
 }
 
