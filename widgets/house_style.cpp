@@ -68,6 +68,14 @@ bool HouseStyle::isFaint() const {
     return baseStyle()->name().compare(QLatin1StringView("fusion"), Qt::CaseInsensitive) == 0;
 }
 
+void HouseStyle::polish(QWidget *widget) {
+    QProxyStyle::polish(widget);
+    if (!widget->inherits("QLineEditIconButton") || !widget->accessibleName().isEmpty())
+        return;
+    const bool clears = widget->objectName() == QLatin1StringView("_q_qlineeditclearbutton");
+    widget->setAccessibleName(clears ? QStringLiteral("Clear") : widget->parentWidget()->accessibleName());
+}
+
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                           QStyleHintReturn *data) const {
     return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0

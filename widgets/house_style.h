@@ -8,8 +8,11 @@ namespace tolvo {
 /// The platform's style with words alone on the buttons of dialogs. Where that style is the toolkit's own,
 /// whose edges and focus are too faint to be seen by everybody, controls get edges, and a ring with the
 /// focus, that stand out from the window by lineContrast; signs and icons grow with the letters beside them.
+/// Buttons inside fields get names.
 class HouseStyle : public QProxyStyle {
   public:
+    void polish(QWidget *widget) override;
+    using QProxyStyle::polish;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                                 QStyleHintReturn *data) const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
