@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/FoldingRow.h"
 
+#include "widgets/grid.h"
+#include "widgets/screen_fit.h"
+
 #include <QResizeEvent>
 #include <QStyle>
 #include <algorithm>
@@ -12,6 +15,18 @@ QSize FoldingRow::minimumSize() const {
     for (int i = 0; i < count(); ++i)
         widest = std::max(widest, itemAt(i)->minimumSize().width());
     return {widest, QHBoxLayout::minimumSize().height()};
+}
+
+int FoldingRow::unfoldedWidth() const {
+    int sum = 0;
+    for (int i = 0; i < count(); ++i) {
+        QLayoutItem *item = itemAt(i);
+        if (item->isEmpty() || item->spacerItem() != nullptr)
+            continue;
+        const auto *inner = item->widget() ? qobject_cast<FoldingRow *>(item->widget()->layout()) : nullptr;
+        sum += (sum > 0 ? spacing() : 0) + (inner ? inner->unfoldedWidth() : item->minimumSize().width());
+    }
+    return sum;
 }
 
 QList<FoldingRow::Place> FoldingRow::folded(int width) const {
@@ -56,7 +71,13 @@ void FoldingRow::setGeometry(const QRect &area) {
 }
 
 QSize FoldingColumn::minimumSizeHint() const {
-    const QSize least = QWidget::minimumSizeHint();
+    QSize least = QWidget::minimumSizeHint();
+    int unfolded = least.width();
+    for (const FoldingRow *row : findChildren<FoldingRow *>())
+        unfolded = std::max(unfolded, row->unfoldedWidth());
+    const int margins = 4 * Grid(*this).margin();
+    if (m_neighbour.minimumSizeHint().width() + unfolded + margins <= roomOnScreen(*this).width())
+        least.setWidth(unfolded);
     const int here = std::max(width(), least.width());
     return {least.width(), std::max(least.height(), layout()->totalMinimumHeightForWidth(here))};
 }

@@ -19,27 +19,33 @@ class FoldingRow final : public QHBoxLayout {
     [[nodiscard]] int heightForWidth(int width) const override;
     [[nodiscard]] int minimumHeightForWidth(int width) const override { return heightForWidth(width); }
     void setGeometry(const QRect &area) override;
+    /// The least width of all in one line.
+    [[nodiscard]] int unfoldedWidth() const;
 
   private:
     struct Place {
         QLayoutItem *item;
         QRect area;
     };
-    [[nodiscard]] bool isFoldedAt(int width) const { return width < QHBoxLayout::minimumSize().width(); }
+    [[nodiscard]] bool isFoldedAt(int width) const { return width < unfoldedWidth(); }
     /// The items in lines that are so wide, from the upper left corner on.
     [[nodiscard]] QList<Place> folded(int width) const;
 };
 
 /// Holds folding rows, and is never lower than they are at its width: what holds it need not ask for that.
+/// Where the screen has room for them beside the neighbour, rows don't fold.
 class FoldingColumn final : public QWidget {
     Q_OBJECT
 
   public:
-    using QWidget::QWidget;
+    explicit FoldingColumn(const QWidget &neighbour) : m_neighbour(neighbour) {}
     [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void resizeEvent(QResizeEvent *event) override;
+
+  private:
+    const QWidget &m_neighbour;
 };
 
 } // namespace tolvo

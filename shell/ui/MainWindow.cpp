@@ -72,13 +72,20 @@ bool MainWindow::event(QEvent *event) {
         if (onActivated)
             onActivated();
     }
-    return QWidget::event(event);
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible() && !isMinimized())
+        keepSmallestSize(); // rows have folded
+    return handled;
 }
 
 void MainWindow::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
     if (isMinimized())
         return;
+    keepSmallestSize();
+}
+
+void MainWindow::keepSmallestSize() {
     const QSize frame = frameGeometry().size() - size();
     setMinimumSize(minimumSizeHint().expandedTo(allowedOuterSize(QSize()) / twipsPerPixel - frame));
 }

@@ -104,6 +104,7 @@ class MainWindow : public QWidget, public SessionView {
                         std::function<void()> clicked);
     QPushButton *prepare(QPushButton *result, const char *name, const QString &tip,
                          std::function<void()> clicked);
+    void keepSmallestSize();
     void arrangeTabOrder();
     void oneStop(const QStringList &names);
     void offerUndoInTextBoxes();

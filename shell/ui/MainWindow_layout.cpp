@@ -62,7 +62,7 @@ MainWindow::MainWindow(EscapeWatch &escape)
     m_textArea = textArea();
     m_powerRow = powerRow();
     m_buttonRow = buttonRow();
-    auto *rightSide = new FoldingColumn;
+    auto *rightSide = new FoldingColumn(*m_toolFinder);
     auto *right = new QVBoxLayout(rightSide);
     right->setContentsMargins(0, 0, 0, 0);
     right->setSpacing(grid.gap());
