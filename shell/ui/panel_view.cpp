@@ -10,6 +10,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -67,7 +68,10 @@ QSize PanelRowButton::sizeHint() const {
 }
 
 QSize PanelRowButton::minimumSizeHint() const {
-    return {150, fontMetrics().height() * 4 / 5}; // the letters shrink with the row
+    constexpr int letters = 20; // of a category and its mark
+    const int share = screen()->availableSize().width() / 5;
+    const int width = std::max(150, std::min(letters * fontMetrics().averageCharWidth(), share));
+    return {width, fontMetrics().height() * 4 / 5}; // the letters shrink with the row
 }
 
 /// The window's letters, smaller in a row that is too low for them.
