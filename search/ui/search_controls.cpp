@@ -68,19 +68,16 @@ SearchControls::SearchControls(QDialog &window) : m_window(window) {
     lstReplacements = new ReplacementList(QStringLiteral("lstReplacements"), &window);
     left->addWidget(lstReplacements);
     left->addStretch(1);
-
-    auto *body = new QGridLayout;
-    body->setColumnStretch(0, 1);
-    body->setRowStretch(0, 1);
-    body->addLayout(left, 0, 0);
-    body->addLayout(buttonColumn(), 0, 1);
     labFolded = make<QLabel>("labFolded", QString(), &window);
     labFolded->setWordWrap(true);
     labFolded->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    body->addWidget(labFolded, 1, 0);
-    body->addLayout(moreRow(), 1, 1);
+    left->addWidget(labFolded);
+
+    auto *body = new QHBoxLayout;
+    body->addLayout(left, 1);
+    body->addLayout(buttonColumn());
     makeWildcardHelp();
-    body->addWidget(fraWildcardHelp, 0, 2, 2, 1);
+    body->addWidget(fraWildcardHelp);
 
     auto *all = new QVBoxLayout(&window);
     all->addWidget(TabStrip1);
@@ -255,6 +252,7 @@ QVBoxLayout *SearchControls::buttonColumn() {
         column->addWidget(button);
     column->addStretch(1);
     column->addWidget(cmdSearchHelp);
+    column->addLayout(moreRow());
     for (QPushButton *button : {cmdReplace, cmdReplaceAll, cmdCancel, cmdSearchHelp})
         button->setAutoDefault(false);
     return column;
