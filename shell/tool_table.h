@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The tools as one table: token, operation with its settings, selection rule, status. Adding a tool is one
-// row here, one function that does it, and one line in data/Tools.dat.
+// row here, one function that does it, one line in data/Tools.dat and its place in the manual.
 #pragma once
 
 #include "text/tool_settings.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/hint_strip.h"
 
-#include "widgets/ElidedLabel.h"
 #include "shell/ui/ImageButton.h"
 #include "shell/ui/row_painting.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/grid.h"
 #include "widgets/themed_icon.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/status_bar.h"
 
-#include "widgets/ElidedLabel.h"
 #include "shell/zoom_levels.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/announce.h"
 #include "widgets/themed_icon.h"
 

@@ -80,7 +80,7 @@ class FindStories(Story):
         wait_for(lambda: run.focused() == "Capitals" or keys("Tab"), "the panel by the Tab key")
         self.assertEqual(run.find("Tools").get_role(), Atspi.Role.TREE)
         keys("End")
-        focus_is_on("Check")
+        focus_is_on("Codes & Signs")
         keys("Home", "Right")
         run.find("Title Case")
         run.panel_rests()

@@ -103,8 +103,7 @@ class TroubleStories(Story):
         def tip():
             desktop = Atspi.get_desktop(0)
             programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
-            return other._named(lambda n: n.get_name().startswith("Join paragraphs turns"),
-                                [program for program in programs if program.get_name() == "Advisor.exe"])
+            return other._named(lambda n: n.get_name().startswith("Join paragraphs turns"), programs)
 
         area = wait_for(tip, "the tip").get_component_iface().get_extents(Atspi.CoordType.SCREEN)
         subprocess.run(["wmctrl", "-a", "Tips for Tolvo"], check=True)
