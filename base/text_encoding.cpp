@@ -60,7 +60,7 @@ std::optional<QString> anyText(QByteArrayView bytes) {
         return decoded(bytes, *marked);
     if (const auto utf16 = unmarkedUtf16(bytes))
         return decoded(bytes, *utf16);
-    if (const auto utf8 = decoded(bytes, QStringConverter::Utf8))
+    if (auto utf8 = decoded(bytes, QStringConverter::Utf8))
         return utf8;
     return fromWindows1252(bytes);
 }
