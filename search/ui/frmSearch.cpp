@@ -5,6 +5,7 @@
 #include "platform/report_error.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QShowEvent>
 #include <tuple>
 
