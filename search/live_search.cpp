@@ -116,9 +116,8 @@ QString answerInWords(const LiveAnswer &answer, const SearchRequest &request, Sp
         return found.empty == 0 ? QStringLiteral("no match")
                                 : QStringLiteral("only empty matches: Replace All fills them");
     const qsizetype current = matchAt(found.places, selection);
-    QString what = current < 0
-                             ? counted(found)
-                             : QStringLiteral("%1 of %2").arg(groupedNumber(current + 1), total(found));
+    QString what = current < 0 ? counted(found)
+                               : QStringLiteral("%1 of %2").arg(groupedNumber(current + 1), total(found));
     const bool isOneAlone = current >= 0 && found.places.size() == 1;
     const auto ahead = [&](Span place) { return isAhead(place, request, selection); };
     if (found.more || isOneAlone || std::any_of(found.places.begin(), found.places.end(), ahead))

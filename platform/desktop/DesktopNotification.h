@@ -10,7 +10,7 @@
 namespace tolvo {
 
 /// A notification of the desktop, if it has any: the service org.freedesktop.Notifications on the session bus
-/// (Desktop Notifications Specification 1.2). Nothing of the bus is touched before show(). Needs a
+/// (Desktop Notifications 1.2). Nothing of the bus is touched before show(). Needs a
 /// QCoreApplication.
 class DesktopNotification : public QObject {
     Q_OBJECT
