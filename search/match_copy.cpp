@@ -61,12 +61,6 @@ void MatchCopy::load(const SettingsStore &store) {
     inPlace = get(store, settingKeys.matchCopy.inPlace);
 }
 
-void MatchCopy::save(SettingsStore &store) const {
-    search.save(store);
-    set(store, settingKeys.matchCopy.form, form);
-    set(store, settingKeys.matchCopy.inPlace, inPlace);
-}
-
 MatchCopy readMatchCopy(const CParams &params, const RequestReading &reading) {
     return {.search = readRequest(params, false, reading),
             .form = params.arg(formKey),

@@ -16,8 +16,8 @@ struct MatchCopy {
     QString form = {};
     bool inPlace = false; ///< the copy takes the place of the text; otherwise it goes to the clipboard
 
+    /// As it was used last.
     void load(const SettingsStore &store);
-    void save(SettingsStore &store) const;
 };
 
 /// Reads the settings string of an Action; the search in it as `reading` says. A missing form is empty, and a

@@ -156,7 +156,7 @@ void SearchResultsWindow::show() {
     if (window.exec() != QDialog::Accepted)
         return;
     // The search window takes the focus back first.
-    QTimer::singleShot(0, m_parent, [this] {
+    QTimer::singleShot(0, &m_later, [this] {
         if (m_parent)
             m_parent->activateWindow();
         m_txtCurrent().setFocus();

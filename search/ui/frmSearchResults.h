@@ -70,6 +70,7 @@ class SearchResultsWindow final : public SearchResults {
     QList<HitLine> m_lines;
     QList<qint32> m_locations;
     QString m_caption;
+    QObject m_later;     ///< what is to come goes with it
     bool m_isOld = true; ///< nothing has been listed since the list was last shown
 };
 
