@@ -20,7 +20,7 @@ LinePart part(qsizetype line, qsizetype column, qsizetype length) {
     return {static_cast<int>(line), static_cast<int>(column), static_cast<int>(length)};
 }
 
-Places atLeast(qsizetype count, Places places) {
+Places atLeast(qsizetype count, const Places &places) {
     return places.size() >= count ? places : Places();
 }
 
@@ -122,7 +122,7 @@ Places wrappedLines(const TextLines &text) {
 Places lineNumbers(const TextLines &text) {
     constexpr qsizetype least = 4;
     const Places places = countedMarks(text, u"^[ \\t]*(?<mark>\\d{1,6})(?=[ \\t]|$)", least);
-    return places.size() * 5 >= text.filled * 4 ? places : Places();
+    return places.size() * 5 >= qsizetype{text.filled} * 4 ? places : Places();
 }
 
 /// One is enough: it is nothing that anybody writes, but in the source of a web page.
