@@ -73,14 +73,14 @@ void frmSearch::showEvent(QShowEvent *event) {
 }
 
 void frmSearch::showDialog(bool bReplace) {
-    open(bReplace ? SearchRole::Replace : SearchRole::Search);
+    showRole(bReplace ? SearchRole::Replace : SearchRole::Search);
 }
 
 void frmSearch::showCopyMatches() {
-    open(SearchRole::CopyMatches);
+    showRole(SearchRole::CopyMatches);
 }
 
-void frmSearch::open(SearchRole role) {
+void frmSearch::showRole(SearchRole role) {
     useRole(role);
     show();
     raise();

@@ -64,7 +64,7 @@ class frmSearch final : public QDialog, public SearchWindow {
     void connectOptions();
     void useRole(SearchRole role);
     void showButtons();
-    void open(SearchRole role);
+    void showRole(SearchRole role);
     void showForm();
     void readTexts();
     [[nodiscard]] SearchRequest presentRequest() const;
