@@ -67,8 +67,8 @@ TEST(TextTroubles, areNotSeenWhereTheTextIsMeantSo) {
         "Name   Age   City|Ann    31   Rome  |Bob    4    Paris",
         "int main() {|  int a = 1;  // one|  int b = 2;  // two|  return a  + b;|}",
         // Headlines and poems end their lines on purpose.
-        "The first of many headlines on the page|The second of many headlines here|"
-        "Another one that has a similar length|The last of all the headlines there",
+        QStringLiteral("The first of many headlines on the page|The second of many headlines here|") +
+            "Another one that has a similar length|The last of all the headlines there",
         "roses are red|violets are blue|sugar is sweet|and so are you",
         // Paragraphs in one line each.
         QStringLiteral("word and ").repeated(30) + "so.|" + QStringLiteral("word and ").repeated(30) + "so.",

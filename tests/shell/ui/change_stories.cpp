@@ -49,7 +49,7 @@ TEST_F(ChangeStory, changedPlacesAreTintedForAMoment) {
 }
 
 TEST_F(ChangeStory, theTextBeforeShowsWhileItsKeyIsHeld) {
-    run(u"the cat\n"_s.repeated(200), [this] {
+    run(u"the cat\n"_s.repeated(200), [] {
         const auto press = [] { QTest::keyPress(text(), Qt::Key_F8); };
         press();
         EXPECT_EQ(hint(), u"No tool has changed the text yet"_s);
@@ -158,7 +158,7 @@ TEST_F(ChangeStory, thePanelOpensAtOnceWhereMotionIsNotWanted) {
 }
 
 TEST_F(ChangeStory, aToolIsDroppedOnAPowerButton) {
-    run(u"text"_s, [this] {
+    run(u"text"_s, [] {
         auto &button = child<QAbstractButton>(*window(), "imgPower_4");
         const std::unique_ptr<QMimeData> tool(draggedTool(u"ccUPP"_s));
         QMimeData words;
