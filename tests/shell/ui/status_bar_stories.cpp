@@ -6,6 +6,7 @@
 #include "widgets/contrast.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
