@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTest>
+#include <algorithm>
+#include <array>
 #include <ctime>
 
 namespace {
@@ -47,9 +49,8 @@ class Typist {
 
     /// The median of several keys.
     double key(const Pattern &pattern) {
-        std::vector<double> costs;
-        for (int i = 0; i < 5; ++i)
-            costs.push_back(once(pattern));
+        std::array<double, 5> costs{};
+        std::generate(costs.begin(), costs.end(), [&] { return once(pattern); });
         std::nth_element(costs.begin(), costs.begin() + 2, costs.end());
         return costs[2];
     }
