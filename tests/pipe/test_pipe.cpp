@@ -2,6 +2,7 @@
 // tolvo-pipe as the shell runs it, and beside a session with the same Actions.
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "tests/support/User.h"
+#include "tests/support/examples.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -35,44 +36,31 @@ class Pipe : public ::testing::Test {
                 QString::fromUtf8(process.readAllStandardError())};
     }
 
+    void definesShout() const {
+        SettingsStore store(storePath);
+        NamedBoxes boxes;
+        CPowerButton button;
+        button.Name = "Shout";
+        button.Add(User::action("ccUPP"));
+        CPowerButtonMethods(store, realCatalogue(), boxes).SavePBSettings(button, 4);
+    }
+
     QTemporaryDir folder;
     QString storePath = folder.filePath("settings.sqlite");
 };
 
 TEST_F(Pipe, runsStepsOnText) {
-    const struct {
-        QStringList arguments;
-        QByteArray in, out;
-        int code;
-    } cases[] = {{{"ccUPP", "foTRA"}, "a \nb\n", "A\nB\n", 0},
-                 {{"soREV"}, "a\r\nb", "b\r\na", 0},
-                 {{"--raw", "soREV"}, "a\nb", "a\nb", 1}, // one line for the tool
-                 {{"--select", "1,1", "ccUPP"}, "abc", "aBc", 0},
-                 {{"--select=3,9", "ccUPP"}, "a\nb\nc", "a\nB\nC", 0},
-                 {{"foIND:Spaces=4, Text=> , RadioButton=2"}, "a\nb", "> a\n> b", 0},
-                 {{"foIND:RadioButton=x", "ccUPP"}, "a", "A", 1},
-                 {{"ccLOW"},
-                  "\xEF\xBB\xBF"
-                  "A\xF0\x9F\x98\x80",
-                  "\xEF\xBB\xBF"
-                  "a\xF0\x9F\x98\x80",
-                  0},
-                 {{"ccLOW"}, "", "", 0},
-                 {{"ccLOW"}, "A\xED\xA0\x80", "", 2},
-                 {{"chSPE"}, "a", "", 2},
-                 {{"edSRC"}, "a", "", 2},
-                 {{"foTRA:x"}, "a", "", 2},
-                 {{"nothing"}, "a", "", 2},
-                 {{}, "a", "", 2},
-                 {{"--nothing", "ccUPP"}, "a", "", 2},
-                 {{"--select", "1", "ccUPP"}, "a", "", 2}};
-    for (const auto &row : cases) {
-        SCOPED_TRACE(row.arguments.join(u' ').toStdString());
-        const Result result = run(row.arguments, row.in);
-        EXPECT_EQ(result.out, row.out);
-        EXPECT_EQ(result.code, row.code) << result.err.toStdString();
-        EXPECT_TRUE(row.code == 0 || result.err.startsWith("tolvo-pipe: "));
-    }
+    definesShout();
+    forEachExample("/tests/pipe/examples.txt", [this](const QString &section, const QStringList &row) {
+        if (section != u"Runs" && section != u"Completes")
+            return;
+        const Result result = run(listOf(row[0]), listOf(row[1]).first().toUtf8());
+        EXPECT_EQ(QString::fromUtf8(result.out), listOf(row[2]).first());
+        EXPECT_EQ(result.code, row[3].toInt()) << result.err.toStdString();
+        EXPECT_TRUE(result.code == 0 || result.err.startsWith("tolvo-pipe: "));
+    });
+    EXPECT_EQ(run({"ccLOW"}, "A\xED\xA0\x80").code, 2) << "a lone surrogate in UTF-8";
+    EXPECT_EQ(run({"--list-buttons"}).out, "4\tShout\n");
 }
 
 TEST_F(Pipe, hasNoTextLimit) {
@@ -94,31 +82,6 @@ TEST_F(Pipe, saysWhatItCanDo) {
     EXPECT_EQ(reply.value("text").toString(), "a\r\nb");
     EXPECT_EQ(reply.value("statistics").toArray().size(), 8);
     EXPECT_EQ(reply.value("messages").toArray().size(), 1);
-}
-
-TEST_F(Pipe, completesAStep) {
-    {
-        SettingsStore store(storePath);
-        NamedBoxes boxes;
-        CPowerButton button;
-        button.Name = "Shout";
-        button.Add(User::action("ccUPP"));
-        CPowerButtonMethods(store, realCatalogue(), boxes).SavePBSettings(button, 4);
-    }
-    const std::pair<QString, QByteArray> rows[] = {
-        {"ccUP", "ccUPP\tUPPER CASE\n"},
-        {"foWR", "foWRP\tWord wrap...\nfoWRP:\tWord wrap... with settings\n"},
-        {"foWRP:", "foWRP:Width=50\tWidth\nfoWRP:Justify=0\tJustify\nfoWRP:Hanging=0\tHanging\n"
-                   "foWRP:Tab=True\tTab\n"},
-        {"foWRP:Width=60, Tab=True, H", "foWRP:Width=60, Tab=True, Hanging=0\tHanging\n"},
-        {"pbPBT:", "pbPBT:PowerButton=1\tPowerButton\n"},
-        {"pbPBT:PowerButton=", "pbPBT:PowerButton=4\tShout\n"},
-        {"ccUPP:", ""},
-        {"xx:", ""},
-    };
-    for (const auto &[begun, offered] : rows)
-        EXPECT_EQ(run({"--complete", begun}).out, offered) << begun.toStdString();
-    EXPECT_EQ(run({"--list-buttons"}).out, "4\tShout\n");
 }
 
 TEST_F(Pipe, refusesAPowerButtonThatNeedsAWindow) {
@@ -147,29 +110,15 @@ TEST_F(Pipe, batchAnswersEachLineAndGoesOn) {
 }
 
 TEST_F(Pipe, tellsWhatASearchFoundOrWhyItCouldNot) {
-    const struct {
-        const char *steps;
-        const char *searches;
-        const char *text;
-        const char *clipboard;
-    } cases[] = {
-        {"\"ccUPP\",\"edSRC:Mode=1, Find=a, Direction=S\"", R"([{"matches":2,"step":1}])", "A B A", ""},
-        {"\"edREP:Mode=3, Find=^, Replace=> , ReplaceAll=1\"", R"([{"matches":1,"step":0}])", "> a b a", ""},
-        {"\"edREP:Mode=3, Find=b(, Replace=x, ReplaceAll=1\"",
-         R"([{"error":"a group is not closed","errorAt":1,"matches":0,"step":0}])", "a b a", ""},
-        {"\"edCPM:Mode=2, Find=?, Form=<$1>, InPlace=0\"", R"([{"matches":5,"step":0}])", "a b a",
-         "<a>\r\n< >\r\n<b>\r\n< >\r\n<a>"},
-        {"\"edCPM:Mode=1, Find=a, InPlace=1\"", R"([{"matches":2,"step":0}])", "a\r\na", ""},
-        {"\"edCPM:Mode=1, Find=q, InPlace=1\"", R"([{"matches":0,"step":0}])", "a b a", ""},
-    };
-    for (const auto &row : cases) {
-        SCOPED_TRACE(row.steps);
-        const QByteArray request = QByteArray(R"({"text":"a b a","steps":[)") + row.steps + "]}\n";
+    forEachExample("/tests/pipe/examples.txt", [this](const QString &section, const QStringList &row) {
+        if (section != u"Searches")
+            return;
+        const QByteArray request = "{\"text\":\"a b a\",\"steps\":" + row[0].toUtf8() + "}\n";
         const QJsonObject reply = QJsonDocument::fromJson(run({"--batch"}, request).out).object();
-        EXPECT_EQ(QJsonDocument(reply["searches"].toArray()).toJson(QJsonDocument::Compact), row.searches);
-        EXPECT_EQ(reply["text"].toString(), row.text);
-        EXPECT_EQ(reply["clipboard"].toString(), row.clipboard);
-    }
+        EXPECT_EQ(reply["text"].toString(), listOf(row[1]).first());
+        EXPECT_EQ(reply["clipboard"].toString(), listOf(row[2]).first());
+        EXPECT_EQ(QJsonDocument(reply["searches"].toArray()).toJson(QJsonDocument::Compact), row[3]);
+    });
 }
 
 TEST_F(Pipe, batchSaysWhatIsCutOfRequestAndResult) {
@@ -216,33 +165,18 @@ QJsonObject replyOfSession(const QString &picture, const QStringList &steps) {
 }
 
 TEST_F(Pipe, batchAndSessionComeToTheSame) {
-    const struct {
-        QString picture;
-        QStringList steps;
-    } cases[] = {
-        {"THE «old» man", {"ccUPP", "pbCUT", "pbPST"}},
-        {"b|a", {"soALP", "foIND"}},
-        {"b|«a»", {"foWRP:Width=12, Justify=0, Hanging=0, Tab=True", "soREV"}},
-        {"one two", {"edREP:Mode=3, Find=o, Replace=0, ReplaceAll=1", "edSRC:Mode=1, Find=zzz, Direction=D"}},
-        {"a", {"liBUL:Bullet=*, Tab=maybe, Spaces=2", "ccUPP"}},
-        {"a «b c»", {"liNUM", "liREN:Start=1", "chPNC", "foCOL:"}},
-        {"x", {"pbPBT:PowerButton=9", "pbTAG", "soKEY"}}};
-    QByteArray requests;
-    for (const auto &row : cases) {
-        const TextState state = stateOf(row.picture);
-        requests += QJsonDocument(QJsonObject{{"text", state.text},
-                                              {"selStart", state.selStart},
-                                              {"selLength", state.selLength},
-                                              {"clipboard", state.text},
-                                              {"steps", QJsonArray::fromStringList(row.steps)}})
-                        .toJson(QJsonDocument::Compact) +
-                    '\n';
-    }
-    const QList<QByteArray> lines = run({"--batch"}, requests).out.split('\n');
-    ASSERT_EQ(lines.size(), std::ssize(cases) + 1);
-    for (qsizetype i = 0; i < std::ssize(cases); ++i) {
-        SCOPED_TRACE(cases[i].steps.join(u' ').toStdString());
-        QJsonObject reply = QJsonDocument::fromJson(lines.at(i)).object();
+    forEachExample("/tests/pipe/examples.txt", [this](const QString &section, const QStringList &row) {
+        if (section != u"Same")
+            return;
+        const TextState state = stateOf(row[0]);
+        const QJsonObject request{{"text", state.text},
+                                  {"selStart", state.selStart},
+                                  {"selLength", state.selLength},
+                                  {"clipboard", state.text},
+                                  {"steps", QJsonArray::fromStringList(listOf(row[1]))}};
+        QJsonObject reply = QJsonDocument::fromJson(
+                                run({"--batch"}, QJsonDocument(request).toJson(QJsonDocument::Compact)).out)
+                                .object();
         QJsonArray texts;
         for (const QJsonValue message : reply.value("messages").toArray())
             texts += message.toObject().value("text");
@@ -250,8 +184,8 @@ TEST_F(Pipe, batchAndSessionComeToTheSame) {
         reply.remove("clipboard");
         reply.remove("searches");
         EXPECT_EQ(QJsonDocument(reply).toJson(),
-                  QJsonDocument(replyOfSession(cases[i].picture, cases[i].steps)).toJson());
-    }
+                  QJsonDocument(replyOfSession(row[0], listOf(row[1]))).toJson());
+    });
 }
 
 } // namespace

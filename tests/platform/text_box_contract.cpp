@@ -2,6 +2,7 @@
 #include "tests/platform/text_box_contract.h"
 
 #include "base/application.h"
+#include "tests/support/examples.h"
 #include "tests/support/pictures.h"
 
 #include <gtest/gtest.h>
@@ -74,26 +75,16 @@ TEST_P(TextBoxContract, HoldsEveryTextUnchanged) {
 }
 
 TEST_P(TextBoxContract, PutsSelectionsWhereTheyAreAskedFor) {
-    const std::tuple<int, int, QString> rows[] = {
-        {5, 2, u"one|«tw»o"_s},
-        {3, 2, u"one«|»two"_s},
-        {3, 1, u"one«|»two"_s},
-        {4, 0, u"one«»|two"_s},
-        {4, 2, u"one«|»two"_s},
-        {1, 3, u"o«ne|»two"_s},
-        {99, 5, u"one|two«»"_s},
-        {-3, -1, u"«»one|two"_s},
-        {6, 2147483647, u"one|t«wo»"_s},
-        {2, 1, u"a\r«|»b\n\rc"_s},
-        {6, 1, u"a\r|b\n«\r»c"_s},
-        {3, 3, u"|«||»"_s},
-        {2, 1, QString(u"x\U0001F600y"_s).insert(3, u'»').insert(2, u'«')},
-    };
-    for (const auto &[start, length, shown] : rows) {
-        box->setText(test::readPicture(shown).text);
-        select(*box, start, length);
-        EXPECT_EQ(picture(), shown);
-    }
+    test::forEachExample("/tests/platform/selection_examples.txt",
+                         [this](const QString &, const QStringList &row) {
+                             const QStringList asked = row[0].split(u' ');
+                             box->setText(test::readPicture(row[1]).text);
+                             select(*box, asked[0].toInt(), asked[1].toInt());
+                             EXPECT_EQ(picture(), row[1]);
+                         });
+    box->setText(u"x\U0001F600y"_s);
+    select(*box, 2, 1);
+    EXPECT_EQ(box->SelText(), QString(QChar(0xDE00))) << "half a pair";
 }
 
 TEST_P(TextBoxContract, ReportsChangesAndNothingElse) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The registry editor's text format: what is written, what is taken, what is refused.
 #include "preferences/reg_file.h"
+#include "tests/support/examples.h"
 #include "tests/support/failures.h"
 
 using namespace Qt::StringLiterals;
@@ -97,38 +98,25 @@ TEST(RegFile, RefusesInWords) {
     const struct {
         QByteArray file;
         const char *says;
-    } cases[] = {
-        {"", "empty"},
-        {"\xFF\xFE", "Line 1"},
-        {"[HKCU\\K]\r\n", "Line 1: this is no file of the registry editor"},
-        {"Windows Registry Editor Version 6.00\r\n", "Line 1"},
-        {utf16(QString::fromLatin1(withLines(""))), "without a byte order mark"},
-        {"\xFF\xFE" + utf16(QString::fromLatin1(withLines("\"a\"=\"b\""))).chopped(1),
-         "Line 4: the file is cut off"},
-        {withLines("\"a\"=\"b"), "Line 4: the closing quotation mark"},
-        {withLines("\"a\"=\"b\\"), "Line 4: the closing quotation mark"},
-        {withLines("\"a"), "Line 4: the closing quotation mark"},
-        {withLines("\"a\""), "Line 4: the equals sign"},
-        {withLines("\"a\"="), "Line 4: the value is no text"},
-        {withLines("\r\n\r\n[HKCU\\L"), "Line 6: the closing bracket"},
-        {withLines("\"a\"=\"b\" c"), "Line 4: unexpected text"},
-        {withLines("\"a\"=\"\\q\""), "Line 4: unknown escape '\\q'"},
-        {withLines("a=b"), "Line 4: neither"},
-        {withLines(QByteArray("\"a\"=\"b\0\"", 8)), "Line 4: a NUL"},
-        {withLines("\"a\"=dword:00000001"), "Line 4: the value 'a' has the type REG_DWORD"},
-        {withLines("\"a\"=hex:00"), "REG_BINARY"},
-        {withLines("\"a\"=hex(2):00,00"), "REG_EXPAND_SZ"},
-        {withLines("\"a\"=hex(b):00"), "REG_QWORD"},
-        {withLines("\"a\"=hex(1):41,00,\\\r\n"), "Line 4: the bytes of the value are cut off"},
-        {withLines("\"a\"=hex(1):41,00,\r\n"), "cut off"},
-        {withLines("\"a\"=hex(1):41,00,42"), "half a character"},
-        {withLines("\"a\"=hex(1):41,\\\r\n  0x"), "Line 5: '0x' is no hexadecimal byte"},
-        {"REGEDIT4\r\n\"a\"=\"b\"", "Line 2: a value before the first key"},
-        {withLines("[-HKCU\\L]\r\n\"a\"=\"b\""), "Line 5: a value below a key that is to be deleted"},
-        {withLines("\"\xC3\"=\"b\""), "Line 4: the file is neither UTF-16 nor UTF-8"}};
-    for (const auto &row : cases)
+    } cases[] = {{"", "empty"},
+                 {"\xFF\xFE", "Line 1"},
+                 {"[HKCU\\K]\r\n", "Line 1: this is no file of the registry editor"},
+                 {"Windows Registry Editor Version 6.00\r\n", "Line 1"},
+                 {utf16(QString::fromLatin1(withLines(""))), "without a byte order mark"},
+                 {"\xFF\xFE" + utf16(QString::fromLatin1(withLines("\"a\"=\"b\""))).chopped(1),
+                  "Line 4: the file is cut off"},
+                 {withLines(QByteArray("\"a\"=\"b\0\"", 8)), "Line 4: a NUL"},
+                 {"REGEDIT4\r\n\"a\"=\"b\"", "Line 2: a value before the first key"},
+                 {withLines("\"\xC3\"=\"b\""), "Line 4: the file is neither UTF-16 nor UTF-8"}};
+    const auto refuses = [](const QByteArray &file, const QString &reason) {
         expectFailure(
-            failureNumber::invalidArgument, [&] { (void)readRegFile(row.file); }, QString(row.says));
+            failureNumber::invalidArgument, [&] { (void)readRegFile(file); }, reason);
+    };
+    for (const auto &row : cases)
+        refuses(row.file, QString(row.says));
+    test::forEachExample("/tests/preferences/reg_examples.txt", [&](const QString &, const QStringList &row) {
+        refuses(withLines(row[0].toUtf8()), row[1]);
+    });
 }
 
 } // namespace

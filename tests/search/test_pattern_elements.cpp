@@ -3,6 +3,7 @@
 #include "search/pattern_elements.h"
 #include "search/wildcard_translation.h"
 #include "tests/search/search_world.h"
+#include "tests/support/examples.h"
 
 namespace tolvo::test {
 namespace {
@@ -38,59 +39,19 @@ using PatternElementsTest = SearchWorld;
 
 /// Each element between two bounds finds what it is said to find, and nothing else.
 TEST_F(PatternElementsTest, FindWhatTheySay) {
-    using enum SearchMode;
-    struct Row {
-        SearchMode mode;
-        const char *written, *filled, *found, *notFound;
-    };
-    const Row rows[] = {
-        {Wildcard, "?", "<?>", "<x>", "<>"},
-        {Wildcard, "*", "<*>", "<>", "<"},
-        {Wildcard, "+", "<+>", "<xy>", "<>"},
-        {Wildcard, "&", "<&>", "<x>", "<1>"},
-        {Wildcard, "!", "<!>", "<1>", "<->"},
-        {Wildcard, "%", "<%>", "<1>", "<x>"},
-        {Wildcard, "%*", "<%*>", "<>", "<x>"},
-        {Wildcard, "%+", "<%+>", "<12>", "<>"},
-        {Wildcard, "~", "<~>", "< >", "<x>"},
-        {Wildcard, "~+", "<~+>", "<  >", "<>"},
-        {Wildcard, "#", "<#>", "<1,234.5>", "<x>"},
-        {Wildcard, "@", "<@>", "<word>", "<+>"},
-        {Wildcard, "[]", "<[ab]>", "<a>", "<c>"},
-        {Wildcard, "[^]", "<[^ab]>", "<c>", "<a>"},
-        {Wildcard, "\\?", "<\\?>", "<?>", "<x>"},
-        {Wildcard, "\\n", "<\\n>", "<|>", "<n>"},
-        {Wildcard, "\\x41", "<\\x41>", "<A>", "<x>"},
-        {Wildcard, "\\u20AC", "<\\u20AC>", "<€>", "<u>"},
-        {Simple, "\\n", "<\\n>", "<|>", "<n>"},
-        {Simple, "\\t", "<\\t>", "<\t>", "<t>"},
-        {Simple, "\\x41", "<\\x41>", "<A>", "<x>"},
-        {Simple, "\\u20AC", "<\\u20AC>", "<€>", "<u>"},
-        {Simple, "\\\\", "<\\\\>", "<\\>", "<\\\\>"},
-        {RegularExpression, ".", "<.>", "<x>", "<|>"},
-        {RegularExpression, "\\d", "<\\d>", "<1>", "<x>"},
-        {RegularExpression, "\\w", "<\\w>", "<_>", "<->"},
-        {RegularExpression, "\\s", "<\\s>", "< >", "<x>"},
-        {RegularExpression, "[]", "<[a-f]>", "<a>", "<g>"},
-        {RegularExpression, "[^]", "<[^a]>", "<c>", "<a>"},
-        {RegularExpression, "*?", "<x*?>", "<xx>", "<y>"},
-        {RegularExpression, "{2,4}", "<x{2,4}>", "<xx>", "<x>"},
-        {RegularExpression, "\\b", "\\bx\\b", "x", "xy"},
-        {RegularExpression, "()", "<(x)>", "<x>", "<>"},
-        {RegularExpression, "|", "<(x|y)>", "<y>", "<>"},
-        {RegularExpression, "(?=)", "x(?=y)", "xy", "xz"},
-        {RegularExpression, "(?!)", "x(?!y)", "xz", "xy"},
-        {RegularExpression, "\\.", "<\\.>", "<.>", "<x>"},
-    };
-    for (const auto &[mode, element, filled, found, notFound] : rows) {
-        EXPECT_TRUE(written(SearchText::Find, mode, true).contains(element)) << element;
-        for (const char *text : {found, notFound}) {
-            test::show(box, QString::fromUtf8(text));
-            list.clear();
-            search.run(SearchVerb::FindAll, {.mode = mode, .find = filled, .specialChars = true});
-            EXPECT_EQ(list.lines.size(), text == found ? 1 : 0) << filled << " in " << text;
-        }
-    }
+    forEachExample(
+        "/tests/search/element_examples.txt", [this](const QString &section, const QStringList &row) {
+            const SearchMode mode = section == u"Simple"     ? SearchMode::Simple
+                                    : section == u"Wildcard" ? SearchMode::Wildcard
+                                                             : SearchMode::RegularExpression;
+            EXPECT_TRUE(written(SearchText::Find, mode, true).contains(row[0]));
+            for (const int side : {2, 3}) {
+                test::show(box, row[side]);
+                list.clear();
+                search.run(SearchVerb::FindAll, {.mode = mode, .find = row[1], .specialChars = true});
+                EXPECT_EQ(list.lines.size(), side == 2 ? 1 : 0) << row[side].toStdString();
+            }
+        });
 }
 
 TEST(PatternElements, AreThoseOfTheBox) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/changed_places.h"
+#include "tests/support/examples.h"
 #include "tests/support/pictures.h"
 
 #include <gtest/gtest.h>
@@ -7,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace tolvo;
+using namespace tolvo::test;
 
 namespace {
 
@@ -35,23 +37,9 @@ QString withPlaces(const QString &before, const QString &after, const QList<Chan
 }
 
 TEST(ChangedPlaces, areFoundByLinesWordsAndCharacters) {
-    const std::tuple<QString, QString, QString> rows[] = {
-        {u""_s, u""_s, u""_s},
-        {u"same"_s, u"same"_s, u"same"_s},
-        {u""_s, u"new"_s, u"[new]"_s},
-        {u"old"_s, u""_s, u"[]"_s},
-        {u"the cat sat"_s, u"The Cat Sat"_s, u"[T]he [C]at [S]at"_s},
-        {u"a1b c"_s, u"A1B C"_s, u"[A1B] [C]"_s},
-        {u"one  two   three"_s, u"one two three"_s, u"one []two[] three"_s},
-        {u"one \r\ntwo \r\n"_s, u"one\r\ntwo\r\n"_s, u"one[]|two[]|"_s},
-        {u"one\r\ntwo"_s, u"one two"_s, u"one[ ]two"_s},
-        {u"one\r\ntwo\r\nsix"_s, u"  one\r\n  two\r\n  six"_s, u"[  ]one|[  ]two|[  ]six"_s},
-        {u"move me\r\nstay\r\nstay too"_s, u"stay\r\nmove me\r\nstay too"_s, u"[stay|]move me[]|stay too"_s},
-        {u"it\u2019s \u201cso\u201d"_s, u"it's \"so\""_s, u"it[']s [\"so\"]"_s},
-        {u"colour and grey"_s, u"color and gray"_s, u"colo[]r and gr[a]y"_s},
-    };
-    for (const auto &[before, after, places] : rows)
-        EXPECT_EQ(picture(before, after), places);
+    forEachExample("/tests/shell/change_examples.txt", [](const QString &, const QStringList &row) {
+        EXPECT_EQ(picture(readPicture(row[0]).text, readPicture(row[1]).text), row[2]);
+    });
     EXPECT_EQ(placesText(1), u"1 place changed"_s);
     EXPECT_EQ(placesText(1234), u"1,234 places changed"_s);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFile>
+#include <QJsonDocument>
 #include <QStringList>
 #include <gtest/gtest.h>
 
@@ -15,6 +16,11 @@ namespace tolvo::test {
     for (qsizetype i = 0; i < signs.size(); ++i)
         text.replace(signs[i], units[i]);
     return text;
+}
+
+/// The texts of a list as JSON writes it, for texts with control characters: ["a\b", "c"].
+[[nodiscard]] inline QStringList listOf(const QString &json) {
+    return QJsonDocument::fromJson(json.toUtf8()).toVariant().toStringList();
 }
 
 /// Calls with the name of the section, as in "[Sort]", and the sides of each row, "before→after"; a side that
