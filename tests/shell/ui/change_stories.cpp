@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What the window shows of the changes that tools make.
 #include "shell/ui/change_view.h"
-#include "shell/ui/tool_drag.h"
 #include "tests/shell/ui/MainWindowStory.h"
 #include "widgets/contrast.h"
 
 #include <QAbstractButton>
-#include <QDropEvent>
 #include <QLabel>
-#include <QMimeData>
 #include <QProxyStyle>
 #include <QScrollBar>
 
@@ -153,28 +150,6 @@ TEST_F(ChangeStory, thePanelOpensAtOnceWhereMotionIsNotWanted) {
         EXPECT_FALSE(waitsInBetween());
         EXPECT_EQ(child<QAbstractButton>(*window(), "lblToolbox_2").accessibleName(), u"Clean & Replace"_s);
         window()->setStyle(nullptr);
-        close();
-    });
-}
-
-TEST_F(ChangeStory, aToolIsDroppedOnAPowerButton) {
-    run(u"text"_s, [] {
-        auto &button = child<QAbstractButton>(*window(), "imgPower_4");
-        const std::unique_ptr<QMimeData> tool(draggedTool(u"ccUPP"_s));
-        QMimeData words;
-        words.setText(u"words"_s);
-        for (const QMimeData *data :
-             {static_cast<const QMimeData *>(&words), static_cast<const QMimeData *>(tool.get())}) {
-            QDragEnterEvent enter({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
-            enter.ignore();
-            QApplication::sendEvent(&button, &enter);
-            EXPECT_EQ(enter.isAccepted(), data == tool.get());
-        }
-        QDropEvent drop({5, 5}, Qt::CopyAction, tool.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(&button, &drop);
-        EXPECT_EQ(button.accessibleName(), u"PowerButton 5: UPPER CASE"_s);
-        button.click();
-        EXPECT_EQ(text()->toPlainText(), u"TEXT"_s);
         close();
     });
 }

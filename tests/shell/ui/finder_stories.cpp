@@ -83,27 +83,6 @@ TEST_F(Column, runsWhatIsChosenAndShowsThePanelAgain) {
     EXPECT_TRUE(panel->isVisible()) << "nothing runs after the end";
 }
 
-TEST_F(Column, takesTheLastSettingsWithShiftOrTheRightButton) {
-    user.cancelsDialogs = true; // after "> " was entered
-    field().setFocus();
-    field().setText(QStringLiteral("indent"));
-    EXPECT_TRUE(explained().contains(QStringLiteral("Shift-Enter: with last settings")))
-        << explained().toStdString();
-    keys({Qt::Key_Return});
-    user.sees(QStringLiteral("«»b|a"));
-    field().setText(QStringLiteral("indent"));
-    QTest::keyClick(&field(), Qt::Key_Return, Qt::ShiftModifier);
-    user.sees(QStringLiteral("«»> b|> a"), QStringLiteral("Indent increased"));
-    field().setText(QStringLiteral("indent"));
-    auto &list = child<FoundToolsList>(column, "lstFoundTools");
-    const QPoint first = list.visualRect(list.model()->index(0, 0)).center();
-    const QPoint second = list.visualRect(list.model()->index(1, 0)).center();
-    QTest::mousePress(list.viewport(), Qt::RightButton, {}, first);
-    QTest::mouseRelease(list.viewport(), Qt::RightButton, {}, second); // slipped off
-    QTest::mouseClick(list.viewport(), Qt::RightButton, {}, first);
-    user.sees(QStringLiteral("«»> > b|> > a"), QStringLiteral("Indent increased"));
-}
-
 TEST_F(Column, listsTheLastUsedUntilTheTabKeyGoesOn) {
     for (const char *token : {"ccUPP", "foTRA", "ccLOW", "foPAR", "foSSP", "edPLA", "foTRA"})
         user.runs(QLatin1StringView(token));
