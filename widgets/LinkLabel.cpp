@@ -4,6 +4,7 @@
 #include "widgets/themed_icon.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace tolvo {
@@ -40,6 +41,18 @@ void LinkLabel::paintEvent(QPaintEvent *event) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(accentOn(palette(), QPalette::Window), 2));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
+}
+
+void LinkLabel::keyPressEvent(QKeyEvent *event) {
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)
+        emit linkActivated(m_address);
+    else
+        QLabel::keyPressEvent(event);
+}
+
+bool LinkLabel::focusNextPrevChild(bool next) {
+    return QFrame::focusNextPrevChild(next); // QLabel would stop a second time, at the link in its text
 }
 
 } // namespace tolvo

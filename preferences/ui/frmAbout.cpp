@@ -5,6 +5,7 @@
 #include "platform/message_box.h"
 #include "platform/processes.h"
 #include "platform/system_information.h"
+#include "preferences/ui/ThirdPartiesWindow.h"
 #include "widgets/LinkLabel.h"
 
 #include <QHBoxLayout>
@@ -16,6 +17,12 @@
 #include <QVBoxLayout>
 
 namespace tolvo {
+namespace {
+
+/// Stands for a window of ours where others have an address.
+const QString thirdPartiesLink = QStringLiteral("#third-parties");
+
+} // namespace
 
 frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built, QWidget *parent)
     : QDialog(parent), m_processes(processes), m_boxes(boxes) {
@@ -45,6 +52,7 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
     text->addWidget(link("lblWeb", QStringLiteral(TOLVO_HOME_PAGE), QStringLiteral(TOLVO_HOME_PAGE)));
     text->addWidget(
         link("lblSupport", QStringLiteral(TOLVO_SUPPORT), QStringLiteral("mailto:" TOLVO_SUPPORT)));
+    text->addWidget(link("lblThirdParties", QStringLiteral("Third-party software"), thirdPartiesLink));
     auto *top = new QHBoxLayout;
     top->setSpacing(20);
     top->addWidget(picture, 0, Qt::AlignTop);
@@ -79,8 +87,15 @@ void frmAbout::offerManual(const QString &path) {
 QLabel *frmAbout::link(const char *name, const QString &text, const QString &address) {
     auto *label = new LinkLabel(text, address, LinkLabel::Underline::UnderPointer);
     label->setObjectName(QLatin1StringView(name));
-    connect(label, &QLabel::linkActivated, this, [this](const QString &target) { m_processes.open(target); });
+    connect(label, &QLabel::linkActivated, this, &frmAbout::follow);
     return label;
+}
+
+void frmAbout::follow(const QString &address) {
+    if (address == thirdPartiesLink)
+        ThirdPartiesWindow(m_processes, this).exec();
+    else
+        m_processes.open(address);
 }
 
 void frmAbout::cmdSysInfo_Click() {

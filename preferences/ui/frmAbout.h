@@ -12,7 +12,7 @@ namespace tolvo {
 class MessageBoxes;
 class Processes;
 
-/// "About Tolvo": version, date, two addresses, system information.
+/// "About Tolvo": version, date, two addresses, third parties, system information.
 class frmAbout : public QDialog {
     Q_OBJECT
   public:
@@ -24,6 +24,7 @@ class frmAbout : public QDialog {
 
   private:
     QLabel *link(const char *name, const QString &text, const QString &address);
+    void follow(const QString &address);
     void cmdSysInfo_Click();
 
     QVBoxLayout *m_text = nullptr; ///< version and links

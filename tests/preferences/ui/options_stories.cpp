@@ -2,6 +2,7 @@
 // A user in the Options.
 #include "platform/desktop/FontDialog.h"
 #include "preferences/settings_keys.h"
+#include "preferences/ui/ThirdPartiesWindow.h"
 #include "preferences/ui/dlgPreferences.h"
 #include "preferences/ui/frmAbout.h"
 #include "tests/support/boxes.h"
@@ -236,8 +237,15 @@ TEST(About, showsVersionAndDateAndOpensTheAddress) {
     about.offerManual(QStringLiteral("/a blank/index.html"));
     auto &manual = child<QLabel>(about, "lblManual");
     emit manual.linkActivated(manual.text().section(u'"', 1, 1)); // the address that it shows
+    withModal<ThirdPartiesWindow>([](ThirdPartiesWindow &parties) {
+        emit child<QLabel>(parties, "lblSQLite").linkActivated(QStringLiteral("https://www.sqlite.org"));
+        parties.reject();
+    });
+    auto &parties = child<QWidget>(about, "lblThirdParties");
+    QTest::keyClick(&parties, Qt::Key_Return);
     EXPECT_EQ(processes.opened, QStringList({QStringLiteral("https://tolvo.example"),
-                                             QStringLiteral("file:///a%20blank/index.html")}));
+                                             QStringLiteral("file:///a%20blank/index.html"),
+                                             QStringLiteral("https://www.sqlite.org")}));
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "powerbuttons/ui/dlgChoosePB.h"
 #include "powerbuttons/ui/dlgEditIcon.h"
 #include "powerbuttons/ui/dlgPickCharacter.h"
+#include "preferences/ui/ThirdPartiesWindow.h"
 #include "preferences/ui/frmAbout.h"
 #include "shell/ui/GoToLine.h"
 #include "shell/ui/dlgConfirmClose.h"
@@ -104,6 +105,8 @@ void AllWindows::ownDialogs(const Act &act) {
     lookAt(line, "Go to line", act);
     frmAbout about(processes, boxes, QDate(2020, 2, 20), window());
     lookAt(about, "About", act);
+    ThirdPartiesWindow parties(processes, window());
+    lookAt(parties, "Third-party software", act);
     const StatisticsRow words{
         .name = QStringLiteral("Words"), .fullText = QStringLiteral("12"), .selection = QStringLiteral("3")};
     frmStats statistics(boxes, {.rows = {words}, .hasSelection = true}, window());

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "preferences/third_parties.h"
+
+#include <sqlite3.h>
+#include <unicode/uversion.h>
+
+using namespace Qt::StringLiterals;
+
+namespace tolvo {
+
+QList<ThirdParty> thirdParties() {
+    return {
+        {u"Hunspell"_s, QStringLiteral(TOLVO_HUNSPELL_VERSION), u"LGPL-2.1-or-later"_s, u"Spelling"_s,
+         u"https://hunspell.github.io"_s},
+        {u"ICU"_s, QStringLiteral(U_ICU_VERSION), u"Unicode-3.0"_s, u"Order, names and forms of characters"_s,
+         u"https://icu.unicode.org"_s},
+        {u"PCRE2"_s, QStringLiteral(TOLVO_PCRE2_VERSION), u"BSD-3-Clause"_s, u"Regular expressions"_s,
+         u"https://www.pcre.org"_s},
+        {u"Qt"_s, QString::fromLatin1(qVersion()), u"LGPL-3.0-only"_s, u"Windows, clipboard, network"_s,
+         u"https://www.qt.io"_s},
+        {u"SQLite"_s, QString::fromLatin1(sqlite3_libversion()), u"blessing"_s, u"Settings"_s,
+         u"https://www.sqlite.org"_s},
+    };
+}
+
+} // namespace tolvo
