@@ -46,6 +46,7 @@ frmAbout::frmAbout(Processes &processes, MessageBoxes &boxes, const QDate &built
     copyright->setObjectName(QStringLiteral("lblCopyright"));
 
     auto *text = m_text = new QVBoxLayout;
+    text->setSpacing(6);
     for (QLabel *label : {title, version, copyright})
         text->addWidget(label);
     text->addSpacing(8);

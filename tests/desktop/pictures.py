@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Opens the windows of the real program one after another and saves a picture of each: pictures.py FOLDER SCALE"""
+"""Opens the windows of the real program one after another and saves a picture of each:
+pictures.py FOLDER SCALE [PART...], where a part is the name of a function here, such as options."""
 
 import os
 import subprocess
@@ -165,6 +166,8 @@ def key_sheet(run, photographer):
 def about(run, photographer):
     run.click("About")
     photographer.take("about", "About Tolvo")
+    run.click("Third-party software")
+    photographer.take("third-parties", "Third-party software")
 
 
 def box(run, photographer):
@@ -191,6 +194,7 @@ def companions(settings, environment, folder, suffix):
 
 def main():
     folder, scale, troubles = sys.argv[1], sys.argv[2], 0
+    parts = [part for part in PARTS if len(sys.argv) == 3 or part.__name__ in sys.argv[3:]]
     for theme in ("light", "dark"):
         settings = Settings()
         settings.write("Tolvo", "Preferences", "Show Tips at Startup", "0")
@@ -203,7 +207,7 @@ def main():
         suffix = f"{theme}-{int(scale) * 100}"
         run = Tolvo(settings, **environment)
         photographer = Photographer(run, folder, suffix)
-        for part in PARTS + (lambda run, _: run.kill(), lambda *_: companions(settings, environment, folder, suffix)):
+        for part in parts:
             try:
                 part(run, photographer)
             except (AssertionError, subprocess.CalledProcessError) as trouble:
@@ -211,6 +215,9 @@ def main():
                 print(f"{theme} {scale}: {part.__name__}: {trouble}", file=sys.stderr)
             if run.process.poll() is None:
                 photographer.leave()
+        run.kill()
+        if len(parts) == len(PARTS):
+            companions(settings, environment, folder, suffix)
         settings.close()
     sys.exit(troubles > 0)
 
