@@ -89,7 +89,7 @@ QString jsonString(const QString &text) {
         else if (c == u'\t')
             json += QLatin1StringView("\\t");
         else if (c.unicode() < 0x20 || c.isSurrogate())
-            json += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+            json += QStringLiteral("\\u%1").arg(uint(c.unicode()), 4, 16, QLatin1Char('0'));
         else
             json += c;
     }

@@ -105,7 +105,7 @@ Member readMember(QStringView text, bool matchCase) {
 QString patternCharacter(char16_t unit) {
     if (isLetter(unit) || (unit >= u'0' && unit <= u'9'))
         return QChar(unit);
-    return QStringLiteral("\\x{%1}").arg(unit, 0, 16);
+    return QStringLiteral("\\x{%1}").arg(uint(unit), 0, 16);
 }
 
 QStringView classMembers(char16_t letter) {
