@@ -14,4 +14,9 @@ void CAction::setDetails(const QString &details) {
     m_params.init(details);
 }
 
+bool CAction::operator==(const CAction &other) const {
+    return m_tool == other.m_tool && m_dlgOption == other.m_dlgOption && m_details == other.m_details &&
+           m_switchedOff == other.m_switchedOff;
+}
+
 } // namespace tolvo

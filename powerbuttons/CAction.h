@@ -26,7 +26,7 @@ class CAction {
     [[nodiscard]] QString Param(const QString &key) const { return m_params.arg(key); }
     /// All pairs of Details.
     [[nodiscard]] const CParams &params() const { return m_params; }
-    /// Sets all three and parses `details`.
+    /// Sets all three and parses `details`; whether the step is switched off stays.
     void init(ToolPtr tool, SettingsFrom dlgOption, const QString &details);
 
     /// Setting Details parses them.
@@ -37,11 +37,18 @@ class CAction {
     [[nodiscard]] const ToolPtr &Tool() const { return m_tool; }
     void setDlgOption(SettingsFrom option) { m_dlgOption = option; }
     [[nodiscard]] SettingsFrom DlgOption() const { return m_dlgOption; }
+    /// A step that is switched off stays in its PowerButton, and a run passes it by as if it were not there.
+    void setSwitchedOff(bool off) { m_switchedOff = off; }
+    [[nodiscard]] bool switchedOff() const { return m_switchedOff; }
+
+    /// Equal in all that the store keeps.
+    bool operator==(const CAction &other) const;
 
   private:
     ToolPtr m_tool;
     QString m_details;
     SettingsFrom m_dlgOption = SettingsFrom::Prompt;
+    bool m_switchedOff = false;
     CParams m_params;
 };
 

@@ -35,9 +35,16 @@ bool CPowerButton::operator==(const CPowerButton &other) const {
                         button.IconFontBold, button.IconFontItalic, button.IconX, button.IconY);
     };
     const auto equal = [](const std::shared_ptr<CAction> &a, const std::shared_ptr<CAction> &b) {
-        return a->Tool() == b->Tool() && a->DlgOption() == b->DlgOption() && a->Details() == b->Details();
+        return *a == *b;
     };
     return properties(*this) == properties(other) && std::ranges::equal(m_actions, other.m_actions, equal);
+}
+
+bool allSwitchedOff(const CPowerButton &button) {
+    int position = button.Count();
+    while (position > 0 && button.Item(position)->switchedOff())
+        --position;
+    return button.Count() > 0 && position == 0;
 }
 
 void CPowerButtonCollection::Add(std::shared_ptr<CPowerButton> button, int number) {

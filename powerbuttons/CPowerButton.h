@@ -50,6 +50,9 @@ class CPowerButton {
     QList<std::shared_ptr<CAction>> m_actions;
 };
 
+/// Whether the button has steps and runs none of them.
+[[nodiscard]] bool allSwitchedOff(const CPowerButton &button);
+
 /// The eight buttons, by number from 1 to 8.
 class CPowerButtonCollection {
   public:

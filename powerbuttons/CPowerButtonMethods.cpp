@@ -33,7 +33,9 @@ class ButtonReader {
                 tool = m_tools.tool(unknownToolToken);
                 unknownTokens += m_token;
             }
-            button.Add(std::make_shared<CAction>(tool, m_dlgOption, m_details), ++position);
+            const auto action = std::make_shared<CAction>(tool, m_dlgOption, m_details);
+            action->setSwitchedOff(get(m_store, actionKeys.switchedOff, m_number, subsection));
+            button.Add(action, ++position);
         }
     }
 
@@ -74,8 +76,8 @@ class ButtonReader {
         button.IconY = value(buttonKeys.y);
     }
 
-    /// Reads an Action's keys. One that isn't there keeps the value of the Action before: users have
-    /// stores with such gaps.
+    /// Reads an Action's keys, all but whether it is switched off. One that isn't there keeps the value of
+    /// the Action before: users have stores with such gaps.
     void take(const QString &subsection) {
         const QString section = ActionSection::path(m_number, subsection);
         const auto is = [](const QString &key, const auto &setting) {
@@ -130,6 +132,8 @@ void CPowerButtonMethods::SavePBSettings(const CPowerButton &button, int number)
             save(actionKeys.token, action->Tool() ? action->Tool()->Token() : QString(), place);
             save(actionKeys.details, action->Details(), place);
             save(actionKeys.dlgOption, static_cast<int>(action->DlgOption()), place);
+            if (action->switchedOff())
+                save(actionKeys.switchedOff, true, place);
         }
         transaction.commit();
     });

@@ -25,8 +25,12 @@ QString nameOf(const ToolPtr &tool) {
 QString stepWords(const CPowerButton &button) {
     QStringList words;
     const int named = button.Count() <= mostNamed + 1 ? button.Count() : mostNamed;
-    for (int i = 1; i <= named; ++i)
-        words += QStringLiteral("%1. %2").arg(i).arg(nameOf(button.Item(i)->Tool()));
+    for (int i = 1; i <= named; ++i) {
+        const auto action = button.Item(i);
+        words += QStringLiteral("%1. %2%3")
+                     .arg(QString::number(i), nameOf(action->Tool()),
+                          action->switchedOff() ? QStringLiteral(" (off)") : QString());
+    }
     if (named < button.Count())
         words += QStringLiteral("and %1 more").arg(button.Count() - named);
     return words.join(QStringLiteral(", "));

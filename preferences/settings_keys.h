@@ -108,6 +108,7 @@ struct ActionKeys {
     Setting<forms::Text, ActionSection> token{{}, u"Token"};
     Setting<forms::Text, ActionSection> details{{}, u"Details"}; // a settings string
     Setting<forms::Integer, ActionSection> dlgOption{{}, u"DlgOption"};
+    Setting<forms::Check, ActionSection> switchedOff{{}, u"SwitchedOff", false}; // written when it is on
 };
 
 /// Where the keys of windows on one kind of screen lie; `screen` is what screenName() gives.

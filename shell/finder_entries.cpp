@@ -94,9 +94,9 @@ QList<FinderEntry> powerButtonEntries(const CPowerButtonCollection &buttons) {
         const QString number = QStringLiteral("PowerButton %1").arg(i + 1);
         QStringList steps;
         for (int step = 1; step <= button->Count(); ++step) {
-            const auto tool = button->Item(step)->Tool();
-            if (tool)
-                steps += tool->Name();
+            const auto action = button->Item(step);
+            if (action->Tool() && !action->switchedOff())
+                steps += action->Tool()->Name();
         }
         entries.append({.id = powerButtonId(i),
                         .name = button->isDefined() ? button->Name : number,

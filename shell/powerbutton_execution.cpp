@@ -75,7 +75,10 @@ void frmMain::runButton(int index) {
     const std::shared_ptr<CPowerButton> button = m_services.oPowerButtons.Item(index + 1);
     const QString name = button ? button->Name : QString();
     const bool toChange = button && isToChangeText(*button);
-    if (!showingChange(name, [&] { runPowerButton(index); }) && toChange)
+    const bool changed = showingChange(name, [&] { runPowerButton(index); });
+    if (button && allSwitchedOff(*button))
+        m_services.view.hintChanged(QStringLiteral("All its steps are switched off"));
+    else if (!changed && toChange)
         m_services.view.hintChanged(QStringLiteral("Nothing changed"));
 }
 
@@ -164,7 +167,7 @@ void frmMain::addToPowerButton(int index, const QString &token) {
 
 void frmMain::runAction(const CAction &action) {
     const ToolPtr &tool = action.Tool();
-    if (!tool)
+    if (!tool || action.switchedOff())
         return;
     const QString token = tool->Token();
     increment(m_services.store, settingKeys.statistics.powerButtonUses.of(token));

@@ -34,7 +34,8 @@ bool frmMain::noteChange(const ToolChange &change) {
 bool frmMain::isToChangeText(const CPowerButton &button) const {
     for (int position = 1; position <= button.Count(); ++position) {
         const std::shared_ptr<CAction> action = button.Item(position);
-        const ToolRow *row = action && action->Tool() ? toolRow(action->Tool()->Token()) : nullptr;
+        const ToolRow *row =
+            action && action->Tool() && !action->switchedOff() ? toolRow(action->Tool()->Token()) : nullptr;
         if (row && row->operation.run)
             return true;
     }

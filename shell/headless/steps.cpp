@@ -17,7 +17,7 @@ class WindowCheck {
 
     void check(const CAction &action) {
         const ToolPtr &tool = action.Tool();
-        if (!tool)
+        if (!tool || action.switchedOff())
             return;
         const QString &token = tool->Token();
         const ToolRow *row = toolRow(token);

@@ -79,6 +79,27 @@ TEST_F(PowerButtons, areReadFromStoresWithGaps) {
     EXPECT_EQ(read.Item(1)->Param("Single"), "1");
 }
 
+TEST_F(PowerButtons, keepWhichStepsAreSwitchedOff) {
+    CPowerButton button;
+    button.IconFontSize = 16;
+    for (const char *token : {"soALP", "foREM", "ccUPP"})
+        button.Add(action(token));
+    EXPECT_FALSE(allSwitchedOff(button));
+    button.Item(2)->setSwitchedOff(true);
+    methods.SavePBSettings(button, 3);
+    const CPowerButton read = reread(3);
+    EXPECT_EQ(read, button);
+    EXPECT_TRUE(read.Item(2)->switchedOff());
+    EXPECT_FALSE(read.Item(3)->switchedOff()); // unlike the other keys, it doesn't hold for those after it
+    EXPECT_EQ(stepWords(read), "1. Sort A to Z, 2. Remove blank lines (off), 3. UPPER CASE");
+    const auto pairs = store.GetAllSettings(applicationTitle(), "PowerButtons\\Button 3\\3");
+    ASSERT_TRUE(pairs);
+    EXPECT_EQ(pairs->size(), 3); // the key is there only if it says something
+    EXPECT_EQ(methods.changedInStore(button, 3), nullptr);
+    button.Item(2)->setSwitchedOff(false);
+    EXPECT_NE(methods.changedInStore(button, 3), nullptr);
+}
+
 TEST_F(PowerButtons, keepThePlaceOfUnknownTools) {
     put("4", "Name", "Mine");
     put("4\\1", "Token", "zzOLD");

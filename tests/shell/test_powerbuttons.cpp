@@ -26,6 +26,28 @@ TEST(PowerButtons, runTheirActionsInTurn) {
     user.sees("a|«B C»");
 }
 
+TEST(PowerButtons, passBySwitchedOffSteps) {
+    User user("a");
+    const auto off = [](const QString &token, SettingsFrom option = Prompt, const QString &details = {}) {
+        auto action = User::action(token, option, details);
+        action->setSwitchedOff(true);
+        return action;
+    };
+    user.defines(1, {off("foIND"), User::action("ccUPP"), off("foIND", Current), off("edSRC"),
+                     off("pbPBT", Custom, "PowerButton=1")});
+    user.session.imgPower_Click(0);
+    user.sees("«»A", "1 characters: upper case");
+    EXPECT_EQ(user.opened, QStringList());
+    EXPECT_FALSE(user.session.bRightButton);
+    EXPECT_EQ(user.counter("PBUsage", "foIND") + user.counter("TotPBUsage", "foIND"), "");
+    user.session.cmdUndo_Click(); // the one step that ran
+    user.sees("«»a");
+    user.defines(2, {off("ccUPP")});
+    user.session.imgPower_Click(1);
+    user.sees("«»a");
+    EXPECT_EQ(user.hint, "All its steps are switched off");
+}
+
 TEST(PowerButtons, areThoseOfTheStoreWhenTheEditorOpens) {
     User user("a");
     user.defines(1, {User::action("ccUPP")});
