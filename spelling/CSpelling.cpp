@@ -82,6 +82,11 @@ void CSpelling::AddToCustomDic(const QString &word) {
         m_provider->AddToCustomDic(word);
 }
 
+void CSpelling::addForRun(const QString &word) {
+    if (m_dictionary)
+        m_dictionary->Add(word);
+}
+
 std::shared_ptr<CSpellingSuggestions> CSpelling::hunspellSuggest(const QString &word) {
     return m_dictionary ? m_dictionary->hunspellSuggest(word) : std::make_shared<CSpellingSuggestions>();
 }

@@ -39,6 +39,8 @@ class CSpelling {
 
     /// Remembers a word for later checks, if the provider can.
     void AddToCustomDic(const QString &word);
+    /// Makes a word known to the local dictionary for this check, if the provider has one.
+    void addForRun(const QString &word);
     /// The local dictionary's suggestions for a word; none if the provider has no local dictionary.
     [[nodiscard]] std::shared_ptr<CSpellingSuggestions> hunspellSuggest(const QString &word);
 

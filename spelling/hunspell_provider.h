@@ -22,6 +22,9 @@ class LocalDictionary {
     /// True if the word is spelled correctly, as HunspellEngine::Spell.
     [[nodiscard]] bool Spell(QStringView word) { return m_engine->Spell(word); }
 
+    /// As HunspellEngine::Add.
+    void Add(const QString &word) { m_engine->Add(word); }
+
     /// The words of a text that the dictionary doesn't know, each as an error. A text of one character has
     /// none.
     [[nodiscard]] CSpellingErrors checkHunspell(const QString &text);

@@ -105,6 +105,10 @@ class CSpellingErrors {
   public:
     using Pointer = std::shared_ptr<CSpellingError>;
 
+    CSpellingErrors() = default;
+    /// A list of these errors, without keys.
+    explicit CSpellingErrors(QList<Pointer> items) : m_items(std::move(items)) {}
+
     /// Appends a new error; an empty key stands for none. Fails with 457 if the key is taken.
     CSpellingError &Add(const QString &errorText, qsizetype textStart, qsizetype textEnd, int type,
                         const QString &key = {});

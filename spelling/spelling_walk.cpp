@@ -2,9 +2,13 @@
 #include "spelling/spelling_walk.h"
 
 #include "base/code_page.h"
+#include "base/numbers.h"
 #include "preferences/settings_keys.h"
+#include "spelling/error_order.h"
 #include "spelling/languages.h"
 #include "text/cTextMethods.h"
+
+#include <utility>
 
 namespace tolvo {
 
@@ -30,9 +34,7 @@ bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
     m_controls = {};
     m_controls.caption =
         QStringLiteral("Spelling and Grammar - ") + LanguageList(m_services.store).langFromID(LangID);
-    m_current = 1;
-    m_shifts.clear();
-    m_offset = {};
+    m_places.clear();
     m_host.setStatus(QStringLiteral("Checking. Please wait..."));
     m_host.processEvents();
 
@@ -41,11 +43,13 @@ bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
     // Left empty on purpose: a check runs in the default locale, whatever language is chosen.
     QString localeName;
     oSpelling->init(provider, LangID, localeName);
+    for (const QString &word : std::as_const(m_runWords))
+        oSpelling->addForRun(word);
     if (!oSpelling->Spell(text, grammar)) {
         end();
         return false;
     }
-    oErrors = oSpelling->SpellingErrors();
+    takeErrors();
     m_text = MarkedText(text);
     ShowNextError(true);
     m_host.setStatus({});
@@ -59,26 +63,20 @@ void ErrorWalk::end() {
     oSpelling.reset();
 }
 
-qsizetype ErrorWalk::errorStart() const {
-    return m_current <= oErrors.Count() ? placeOf(current()) : m_caret;
+/// Takes the provider's list over and goes to its front.
+void ErrorWalk::takeErrors() {
+    oErrors = innerFirst(oSpelling->SpellingErrors());
+    m_current = 1;
+    m_places.startAfresh();
 }
 
-/// The current place of an error of the checked text. Errors mostly come in the order of the text; one that
-/// doesn't is moved only by the changes before it.
-qsizetype ErrorWalk::placeOf(const CSpellingError &error) const {
-    const qsizetype start = error.TextStart();
-    if (start >= m_offset.furthest)
-        return start + m_offset.sum;
-    qsizetype place = start;
-    for (qsizetype i = m_offset.first; i < m_offset.count; ++i) {
-        if (m_shifts[i].start < start)
-            place += m_shifts[i].added;
-    }
-    return place;
-}
-
-qsizetype ErrorWalk::errorLength() const {
-    return m_current <= oErrors.Count() ? current().length() : 0;
+/// Where the current error stands in the text.
+ShiftedPlace ErrorWalk::place() const {
+    if (m_current > oErrors.Count())
+        return {m_caret, 0};
+    const CSpellingError &error = current();
+    return m_places.placeOf(error.TextStart(), error.TextEnd())
+        .value_or(ShiftedPlace{error.TextStart(), error.length()});
 }
 
 void ErrorWalk::ShowNextError(bool useChangeAll) {
@@ -92,6 +90,7 @@ void ErrorWalk::ShowNextError(bool useChangeAll) {
                 offerSuggestions(error);
             else
                 offerNothing(error);
+            showPlace();
             return;
         }
         ++m_current;
@@ -100,8 +99,11 @@ void ErrorWalk::ShowNextError(bool useChangeAll) {
     m_over = true;
 }
 
-/// Whether the error is handled without the user: its word is ignored or changed everywhere.
+/// Whether the error is handled without the user: its word is ignored or changed everywhere, or it went with
+/// the change of another one.
 bool ErrorWalk::passOver(const CSpellingError &error, bool useChangeAll) {
+    if (!m_places.placeOf(error.TextStart(), error.TextEnd()))
+        return true;
     const QString word = toUpper(error.ErrorText());
     if (oIgnore.value(word) == QStringLiteral("all"))
         return true;
@@ -125,8 +127,15 @@ void ErrorWalk::markError(const CSpellingError &error) {
         m_caret = 1;
         return;
     }
-    m_text.mark(placeOf(error), error.length(), Mark::Mistake);
+    m_text.mark(errorStart(), errorLength(), Mark::Mistake);
     m_caret = error.TextStart();
+}
+
+void ErrorWalk::showPlace() {
+    const qsizetype line = m_text.text().left(qMax<qsizetype>(errorStart(), 0)).count(u'\r') + 1;
+    m_controls.labPlace =
+        QStringLiteral("%1 of %2, line %3")
+            .arg(groupedNumber(m_current), groupedNumber(oErrors.Count()), groupedNumber(line));
 }
 
 void ErrorWalk::offerNothing(const CSpellingError &error) {
@@ -134,7 +143,7 @@ void ErrorWalk::offerNothing(const CSpellingError &error) {
     setCorrection(error.ErrorText());
     setChangeEnabled(false);
     QStringList &list = m_controls.lstSuggestions;
-    if (equalsIgnoringCase(PreviousWord(placeOf(error)), error.ErrorText())) {
+    if (equalsIgnoringCase(PreviousWord(errorStart()), error.ErrorText())) {
         list += repeatedWord();
         m_controls.cmdDeleteEnabled = true;
     } else if (!error.Description.isEmpty() && error.errorType != spellingErrorType::notInDictionary) {
@@ -216,18 +225,11 @@ void ErrorWalk::ReplaceCurrent() {
 
 void ErrorWalk::ReplaceAt(qsizetype start, qsizetype length, const QString &replacement) {
     m_text.replace(start, length, replacement, Mark::Replaced);
-    noteShift(current().TextStart(), replacement.size() - length);
-}
-
-void ErrorWalk::noteShift(qsizetype start, qsizetype added) {
-    m_shifts.append(Shift{start, added});
-    ++m_offset.count;
-    m_offset.sum += added;
-    m_offset.furthest = qMax(m_offset.furthest, start);
+    m_places.note(current().TextStart(), current().TextEnd(), replacement.size() - length);
 }
 
 void ErrorWalk::PushUndo() {
-    m_undo.append(UndoRecord{m_text.state(), m_current, m_offset, oErrors, oChangeAll});
+    m_undo.append(UndoRecord{m_text.state(), m_current, m_places.state(), oErrors, oChangeAll});
     m_controls.cmdUndoEnabled = true;
 }
 

@@ -6,6 +6,7 @@
 #include "spelling/CSpelling.h"
 #include "spelling/Proofing.h"
 #include "spelling/marked_text.h"
+#include "spelling/shifted_places.h"
 #include "spelling/spelling_services.h"
 
 #include <QHash>
@@ -27,6 +28,7 @@ struct WalkControls {
     QString labErrorType = QStringLiteral("Not in dictionary:");
     QString labMistake;
     QString labErrorDescription;
+    QString labPlace; ///< "3 of 41, line 12"
     QStringList lstSuggestions;
     int selectedSuggestion = -1; ///< index from 0 of the selected row, -1 for none
     bool lstSuggestionsEnabled = false;
@@ -53,11 +55,16 @@ class ErrorWalk {
     [[nodiscard]] const MarkedText &rtbText() const { return m_text; }
     /// The caret, and the place of the current error in rtbText.
     [[nodiscard]] qsizetype caret() const { return m_caret; }
-    [[nodiscard]] qsizetype errorStart() const;
-    [[nodiscard]] qsizetype errorLength() const;
+    [[nodiscard]] qsizetype errorStart() const { return place().start; }
+    [[nodiscard]] qsizetype errorLength() const { return place().length; }
     /// True once the dialog is to be hidden.
     [[nodiscard]] bool isOver() const { return m_over; }
     [[nodiscard]] bool bCancelled() const { return m_cancelled; }
+
+    /// Words that are known for as long as the program runs; to be set before start(). cmdAddForRun adds to
+    /// them.
+    void setRunWords(const QStringList &words) { m_runWords = words; }
+    [[nodiscard]] const QStringList &runWords() const { return m_runWords; }
 
     void setSmartReplace(bool ticked) { m_smartReplace = ticked; }
     /// Sets txtCorrection, as the user does by typing.
@@ -66,42 +73,37 @@ class ErrorWalk {
     void cmdIgnore();
     void cmdIgnoreAll();
     void cmdAddToDic();
+    void cmdAddForRun();
     void cmdChange();
     void cmdChangeAll();
     void cmdDelete();
     void cmdUndo();
     void cmdStop() { m_over = true; }
     void cmdCancel();
+    /// Cancels as Esc and the close box do: after a question if there are changes to be lost.
+    void leave();
+    /// The number of changes that Undo can take back.
+    [[nodiscard]] qsizetype changes() const { return m_undo.size(); }
     /// A click on a row, which makes it the correction, and a double click, which also replaces the error by
     /// it without a check. Rows count from 0.
     void clickSuggestion(int row);
     void doubleClickSuggestion(int row);
 
   private:
-    /// A change: its place in the checked text, and the length it added.
-    struct Shift {
-        qsizetype start;
-        qsizetype added;
-    };
-    /// The changes since the current list of errors was made.
-    struct Shifts {
-        qsizetype first = 0;     ///< the index of the first in m_shifts
-        qsizetype count = 0;     ///< the size of m_shifts
-        qsizetype sum = 0;       ///< of the added lengths
-        qsizetype furthest = -1; ///< the greatest of their places
-    };
     struct UndoRecord {
         qsizetype text; ///< state of the marked text
         qsizetype current;
-        Shifts shifts;
+        ShiftedPlaces::State places;
         CSpellingErrors errors;
         QHash<QString, QString> changeAll;
     };
 
-    [[nodiscard]] qsizetype placeOf(const CSpellingError &error) const;
+    [[nodiscard]] ShiftedPlace place() const;
+    void takeErrors();
     void ShowNextError(bool useChangeAll);
     [[nodiscard]] bool passOver(const CSpellingError &error, bool useChangeAll);
     void markError(const CSpellingError &error);
+    void showPlace();
     void offerSuggestions(const CSpellingError &error);
     void offerNothing(const CSpellingError &error);
     void select(int row);
@@ -110,7 +112,6 @@ class ErrorWalk {
     [[nodiscard]] QString PreviousWord(qsizetype position) const;
     void ReplaceCurrent();
     void ReplaceAt(qsizetype start, qsizetype length, const QString &replacement);
-    void noteShift(qsizetype start, qsizetype added);
     void PushUndo();
     void goOn();
     void replaceAndGoOn();
@@ -123,11 +124,11 @@ class ErrorWalk {
     std::unique_ptr<CSpelling> oSpelling;
     CSpellingErrors oErrors;
     qsizetype m_current = 1; ///< index of the current error, from 1
-    Shifts m_offset;         ///< iOffset
-    QList<Shift> m_shifts;
+    ShiftedPlaces m_places;  ///< iOffset
     QHash<QString, QString> oIgnore;
     QHash<QString, QString> oChangeAll;
     QStringList oMoreSuggestions;
+    QStringList m_runWords;
     QList<UndoRecord> m_undo;
     MarkedText m_text;
     WalkControls m_controls;

@@ -4,6 +4,7 @@
 
 #include "base/code_page.h"
 #include "base/failure.h"
+#include "base/numbers.h"
 #include "platform/message_box.h"
 
 #include <utility>
@@ -55,6 +56,14 @@ void ErrorWalk::cmdAddToDic() {
     if (m_over)
         return;
     oSpelling->AddToCustomDic(m_controls.labMistake);
+    cmdIgnoreAll();
+}
+
+void ErrorWalk::cmdAddForRun() {
+    if (m_over)
+        return;
+    m_runWords += m_controls.labMistake;
+    oSpelling->addForRun(m_controls.labMistake);
     cmdIgnoreAll();
 }
 
@@ -112,11 +121,9 @@ void ErrorWalk::replaceAndCheckAgain() {
         goOn();
         return;
     }
-    oErrors = oSpelling->SpellingErrors();
-    m_current = 1;
+    takeErrors();
     while (m_current <= oErrors.Count() && current().TextStart() > place)
         ++m_current;
-    m_offset = {.first = m_shifts.size(), .count = m_shifts.size()};
     ShowNextError(true);
 }
 
@@ -140,8 +147,7 @@ void ErrorWalk::cmdUndo() {
     const UndoRecord record = m_undo.takeLast();
     m_text.restore(record.text);
     m_current = record.current;
-    m_offset = record.shifts;
-    m_shifts.resize(m_offset.count);
+    m_places.restore(record.places);
     oErrors = record.errors;
     oChangeAll = record.changeAll;
     m_controls.cmdUndoEnabled = !m_undo.isEmpty();
@@ -151,6 +157,18 @@ void ErrorWalk::cmdUndo() {
 void ErrorWalk::cmdCancel() {
     m_cancelled = true;
     m_over = true;
+}
+
+void ErrorWalk::leave() {
+    const qsizetype lost = changes();
+    const QString what =
+        lost == 1 ? QStringLiteral("the change") : QStringLiteral("the %1 changes").arg(groupedNumber(lost));
+    const Box question{
+        .text = QStringLiteral("Do you really want to throw away %1 that you have made?").arg(what),
+        .icon = BoxIcon::Question,
+        .buttons = BoxButtons::YesNo};
+    if (lost == 0 || m_services.boxes.show(question) == BoxAnswer::Yes)
+        cmdCancel();
 }
 
 void ErrorWalk::clickSuggestion(int row) {

@@ -15,6 +15,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QShowEvent>
+#include <utility>
 
 namespace tolvo {
 
@@ -37,6 +38,7 @@ dlgSpelling::dlgSpelling(const SpellingServices &services, QWidget *parent)
           named(new QLabel(QStringLiteral("Not in dictionary:"), this), QStringLiteral("labErrorType"))),
       labMistake(named(new QLabel(this), QStringLiteral("labMistake"))),
       labErrorDescription(named(new QLabel(this), QStringLiteral("labErrorDescription"))),
+      labPlace(named(new QLabel(this), QStringLiteral("labPlace"))),
       lstSuggestions(
           named(new QListWidget(this), QStringLiteral("lstSuggestions"), QStringLiteral("Suggestions"))),
       txtCorrection(named(new QLineEdit(this), QStringLiteral("txtCorrection"), QStringLiteral("Change to"))),
@@ -81,7 +83,10 @@ QLayout *dlgSpelling::layOutText() {
     column->addWidget(rtbText, 3);
     column->addLayout(correction);
     column->addWidget(lstSuggestions, 2);
-    column->addWidget(chkSmartReplace);
+    auto *bottom = new QHBoxLayout;
+    bottom->addWidget(chkSmartReplace, 1);
+    bottom->addWidget(labPlace);
+    column->addLayout(bottom);
     return column;
 }
 
@@ -101,15 +106,18 @@ QPushButton *dlgSpelling::addRule(QBoxLayout &column, const QString &name, const
 
 QLayout *dlgSpelling::layOutButtons() {
     auto *column = new QVBoxLayout;
-    const int gap = fontMetrics().lineSpacing();
-    addRule(*column, QStringLiteral("cmdIgnore"), QStringLiteral("&Ignore"), &ErrorWalk::cmdIgnore);
+    const int gap = fontMetrics().lineSpacing() / 2;
+    cmdIgnore =
+        addRule(*column, QStringLiteral("cmdIgnore"), QStringLiteral("&Ignore"), &ErrorWalk::cmdIgnore);
     addRule(*column, QStringLiteral("cmdIgnoreAll"), QStringLiteral("I&gnore All"), &ErrorWalk::cmdIgnoreAll);
     addRule(*column, QStringLiteral("cmdAddToDic"), QStringLiteral("&Add to dictionary"),
             &ErrorWalk::cmdAddToDic);
+    addRule(*column, QStringLiteral("cmdAddForRun"), QStringLiteral("Add for this &run"),
+            &ErrorWalk::cmdAddForRun)
+        ->setToolTip(QStringLiteral("Knows the word until Tolvo ends"));
     column->addSpacing(gap);
     cmdChange =
         addRule(*column, QStringLiteral("cmdChange"), QStringLiteral("&Change"), &ErrorWalk::cmdChange);
-    cmdChange->setDefault(true);
     cmdChangeAll = addRule(*column, QStringLiteral("cmdChangeAll"), QStringLiteral("Change A&ll"),
                            &ErrorWalk::cmdChangeAll);
     cmdDelete =
@@ -220,19 +228,34 @@ void dlgSpelling::refresh() {
         txtCorrection->setText(controls.txtCorrection);
         txtCorrection->selectAll();
     }
-    tellMistake();
+    labPlace->setText(controls.labPlace);
     refreshSuggestions(controls);
+    tellMistake();
     setUsable(*cmdChange, controls.cmdChangeEnabled);
     setUsable(*cmdChangeAll, controls.cmdChangeAllEnabled);
     setUsable(*cmdDelete, controls.cmdDeleteEnabled);
     setUsable(*cmdUndo, controls.cmdUndoEnabled);
+    proposeNextStep();
     rtbText->showText(m_walk->rtbText(), m_walk->errorStart());
     m_refreshing = false;
 }
 
-/// The focus stays with the correction, whose text alone would be said: it comes with the mistake.
+/// What Enter does: the change that is proposed, the deletion of a repeated word, or else the next word.
+void dlgSpelling::proposeNextStep() {
+    QPushButton *proposed = cmdChange->isEnabled()   ? cmdChange
+                            : cmdDelete->isEnabled() ? cmdDelete
+                                                     : cmdIgnore;
+    if (std::exchange(m_proposed, proposed) != proposed)
+        proposed->setDefault(true);
+}
+
+/// The focus stays with the correction, whose text alone would be said: the mistake comes with it, and the
+/// remark of a list that can't be reached.
 void dlgSpelling::tellMistake() {
-    const QString mistake = labErrorType->text() + u' ' + labMistake->text();
+    QString mistake = labErrorType->text() + u' ' + labMistake->text() + QStringLiteral(", ");
+    if (!lstSuggestions->isEnabled() && lstSuggestions->count() > 0)
+        mistake += lstSuggestions->item(0)->text() + QStringLiteral(", ");
+    mistake += labPlace->text();
     if (txtCorrection->accessibleDescription() == mistake)
         return;
     txtCorrection->setAccessibleDescription(mistake);
@@ -264,6 +287,7 @@ void dlgSpelling::refreshSuggestions(const WalkControls &controls) {
 bool dlgSpelling::CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar) {
     m_walk = std::make_unique<ErrorWalk>(m_services, host);
     m_walk->setSmartReplace(chkSmartReplace->isChecked());
+    m_walk->setRunWords(m_runWords);
     const auto walkEnds = [this](ErrorWalk *) { m_walk.reset(); };
     const std::unique_ptr<ErrorWalk, decltype(walkEnds)> atEnd(m_walk.get(), walkEnds);
     if (!m_walk->start(text, LangID, grammar))
@@ -271,14 +295,16 @@ bool dlgSpelling::CheckSpelling(ProofingHost &host, QString &text, int LangID, b
     refresh();
     txtCorrection->setFocus();
     exec();
+    m_runWords = m_walk->runWords();
     text = m_walk->rtbText().text();
     return !m_walk->bCancelled();
 }
 
 void dlgSpelling::reject() {
     if (m_walk)
-        m_walk->cmdCancel();
-    QDialog::reject();
+        m_walk->leave();
+    if (!m_walk || m_walk->isOver())
+        QDialog::reject();
 }
 
 void dlgSpelling::showEvent(QShowEvent *event) {

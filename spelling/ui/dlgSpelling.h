@@ -7,6 +7,7 @@
 #include "spelling/spelling_walk.h"
 
 #include <QDialog>
+#include <QStringList>
 #include <functional>
 #include <memory>
 
@@ -30,7 +31,7 @@ class dlgSpelling : public QDialog {
     /// As SpellingWalk::CheckSpelling.
     bool CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar);
 
-    /// The close box and Esc are Cancel.
+    /// The close box and Esc are Cancel, after a question if there are changes.
     void reject() override;
 
   protected:
@@ -48,24 +49,29 @@ class dlgSpelling : public QDialog {
     void act(const QString &name, const std::function<void(ErrorWalk &)> &rule);
     void refresh();
     void setUsable(QWidget &control, bool usable);
+    void proposeNextStep();
     void tellMistake();
     void refreshSuggestions(const WalkControls &controls);
 
     const SpellingServices &m_services;
     std::unique_ptr<ErrorWalk> m_walk; ///< while a check runs
+    QStringList m_runWords;            ///< known for as long as the program runs
     bool m_refreshing = false;
 
     MarkedTextView *rtbText;
     QLabel *labErrorType;
     QLabel *labMistake;
     QLabel *labErrorDescription;
+    QLabel *labPlace;
     QListWidget *lstSuggestions;
     QLineEdit *txtCorrection;
     QCheckBox *chkSmartReplace;
+    QPushButton *cmdIgnore = nullptr;
     QPushButton *cmdChange = nullptr;
     QPushButton *cmdChangeAll = nullptr;
     QPushButton *cmdDelete = nullptr;
     QPushButton *cmdUndo = nullptr;
+    QPushButton *m_proposed = nullptr; ///< what Enter presses
 };
 
 } // namespace tolvo

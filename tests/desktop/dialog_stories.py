@@ -124,6 +124,8 @@ class DialogStories(Story):
         run = self.start("Thiss is wron.")
         self.check(run, "Thiss", "alt+c", "wron")
         keys("Escape")
+        run.box_says("Do you really want to throw away the change")
+        keys("alt+y")
         run.box_says("Spelling check complete")
         keys("Return")
         run.text_becomes("Thiss is wron.")

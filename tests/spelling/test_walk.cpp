@@ -201,6 +201,84 @@ TEST_F(Walk, ChangesTheRightPlaceOfAnErrorOutOfOrder) {
     EXPECT_EQ(said(), QStringList(4, u("5007 Text 'fox' cannot be found (CSpelling::findThePlace)")));
 }
 
+TEST_F(Walk, LandsChangesOfOverlappingErrorsWhereTheirWordsStand) {
+    const char *text = "hello the quick brown fox";
+    const auto go = [this](const char *steps) { // "c": takes the first suggestion, "i": ignores, "u": undoes
+        for (const char *step = steps; *step; ++step) {
+            if (*step == 'c')
+                walk.doubleClickSuggestion(0);
+            else
+                *step == 'i' ? walk.cmdIgnore() : walk.cmdUndo();
+        }
+        return mistake() + u(": ") + picture();
+    };
+    const auto phrases = [](const char *one, const char *contextOfOne, const char *two, const char *context) {
+        return error(one, "grammar", contextOfOne, {"there dog"}) +
+               error(two, "suggestion", context, {"colour"});
+    };
+    const std::pair<const char *, const char *> nested[] = {
+        {"", "brown: hello the quick [brown] fox"},
+        {"c", "the quick brown fox: hello [the quick colour fox]"},
+        {"cc", "(over): hello {there dog}"},
+        {"ic", "(over): hello {there dog}"},
+        {"cu", "brown: hello the quick [brown] fox"},
+        {"ci", "(over): hello the quick colour fox"},
+    };
+    service(phrases("the quick brown fox", "hello", "brown", "quick"));
+    for (const auto &[steps, end] : nested) {
+        ASSERT_TRUE(start(text));
+        EXPECT_EQ(go(steps), u(end)) << steps;
+    }
+    const std::pair<const char *, const char *> entwined[] = {
+        {"c", "(over): hello {there dog} brown fox"}, // the other phrase has lost a word
+        {"ic", "(over): hello the {colour} fox"},
+    };
+    service(phrases("the quick", "hello", "quick brown", "the"));
+    for (const auto &[steps, end] : entwined) {
+        ASSERT_TRUE(start(text));
+        EXPECT_EQ(go(steps), u(end)) << steps;
+    }
+}
+
+TEST_F(Walk, SaysWhereItStands) {
+    ASSERT_TRUE(start("the teh\r\rhte a helo\rzqx"));
+    QStringList places;
+    for (; !walk.isOver(); walk.cmdIgnore())
+        places += walk.controls().labPlace;
+    EXPECT_EQ(places.join(u'/'), u("1 of 4, line 1/2 of 4, line 3/3 of 4, line 3/4 of 4, line 4"));
+}
+
+TEST_F(Walk, AsksBeforeItIsLeftWithChanges) {
+    ASSERT_TRUE(start("a teh hte helo fox"));
+    walk.cmdIgnore();
+    walk.leave();
+    EXPECT_TRUE(walk.bCancelled()); // nothing to be lost
+
+    ASSERT_TRUE(start("a teh hte helo fox"));
+    change("the");
+    boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+    walk.leave();
+    EXPECT_FALSE(walk.isOver());
+    change("the");
+    walk.leave();
+    EXPECT_TRUE(walk.bCancelled());
+    EXPECT_EQ(said(), QStringList({u("Do you really want to throw away the change that you have made?"),
+                                   u("Do you really want to throw away the 2 changes that you have made?")}));
+}
+
+TEST_F(Walk, KnowsWordsForTheRestOfTheRun) {
+    ASSERT_TRUE(start("a zqx fox zqx xzj"));
+    walk.cmdAddForRun();
+    EXPECT_EQ(mistake(), u("xzj"));
+    change("zqx"); // known: not checked again
+    EXPECT_EQ(mistake(), u("(over)"));
+    EXPECT_EQ(walk.runWords(), QStringList(u("zqx")));
+    EXPECT_FALSE(start("a zqx"));
+    EXPECT_EQ(fileContents(dictionaries() + u("/persdict.dat")), "");
+    ErrorWalk later(services, *this);
+    EXPECT_TRUE(later.start(u("a zqx"), -1, false));
+}
+
 TEST_F(Walk, TakesThousandsOfChangesAndUndoesThem) {
     const QString text = u("a") + u(" teh").repeated(15000);
     ASSERT_TRUE(walk.start(text, -1, false));

@@ -151,7 +151,8 @@ TEST_F(AccessibilityStory, everyControlHasTheNameThatIsSeenAndIsReachedByKeys) {
         checkPlaces(window, name);
         if (name == "spelling") {
             auto &correction = child<QLineEdit>(window, "txtCorrection");
-            EXPECT_EQ(correction.accessibleDescription(), QStringLiteral("Not in dictionary: mistke"))
+            EXPECT_EQ(correction.accessibleDescription(),
+                      QStringLiteral("Not in dictionary: mistke, 1 of 1, line 1"))
                 << "said with the correction, which has the focus";
         }
     });

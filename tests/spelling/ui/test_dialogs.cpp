@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTextBlock>
 #include <QTreeWidget>
 
@@ -81,8 +82,18 @@ TEST_F(Dialogs, EndInStopOrCancel) {
     const std::pair<std::function<void(QDialog &)>, const char *> ends[] = {
         {[](QDialog &w) { click(w, "cmdStop"); }, "the fox hte dog"},
         {[](QDialog &w) { click(w, "cmdCancel"); }, "(cancelled)"},
-        {[](QDialog &w) { QTest::keyClick(&w, Qt::Key_Escape); }, "(cancelled)"},
-        {[](QDialog &w) { w.close(); }, "(cancelled)"},
+        {[this](QDialog &w) {
+             boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+             QTest::keyClick(&w, Qt::Key_Escape);
+             EXPECT_TRUE(w.isVisible());
+             QTest::keyClick(&w, Qt::Key_Escape);
+         },
+         "(cancelled)"},
+        {[this](QDialog &w) {
+             boxes.answers = {BoxAnswer::Yes};
+             w.close();
+         },
+         "(cancelled)"},
     };
     for (const auto &row : ends) {
         const QString left = check(text, [&end = row.first](QDialog &w) {
@@ -92,6 +103,32 @@ TEST_F(Dialogs, EndInStopOrCancel) {
         });
         EXPECT_EQ(left, u(row.second));
     }
+    EXPECT_EQ(said().size(), 3);
+}
+
+TEST_F(Dialogs, TakeEnterForWhatIsNext) {
+    const QString result = check("teh zqx zqx fox xzj", [](QDialog &window) {
+        auto &correction = child<QLineEdit>(window, "txtCorrection");
+        const auto enter = [&](const char *button, const char *next) {
+            EXPECT_TRUE(child<QPushButton>(window, button).isDefault()) << button;
+            QTest::keyClick(&correction, Qt::Key_Return);
+            EXPECT_EQ(mistake(window), u(next)) << button;
+        };
+        enter("cmdChange", "zqx");
+        EXPECT_EQ(child<QLabel>(window, "labPlace").text(), u("2 of 4, line 1"));
+        EXPECT_EQ(correction.accessibleDescription(),
+                  u("Not in dictionary: zqx, (No spelling suggestions), 2 of 4, line 1"));
+        enter("cmdIgnore", "zqx"); // no suggestions
+        enter("cmdDelete", "xzj"); // repeated
+        click(window, "cmdAddForRun");
+    });
+    EXPECT_EQ(result, u("the zqx fox xzj"));
+    EXPECT_EQ(check("teh xzj",
+                    [](QDialog &window) {
+                        EXPECT_EQ(child<QLabel>(window, "labPlace").text(), u("1 of 1, line 1"));
+                        click(window, "cmdStop");
+                    }),
+              u("teh xzj"));
 }
 
 TEST_F(Dialogs, ReportAFailureAndGoOn) {
@@ -117,11 +154,12 @@ TEST_F(Dialogs, AreUsedWithTheKeyboardAlone) {
     const QString result = check("teh zqx zqx fox", [&](QDialog &window) {
         const auto key = [](Qt::Key code) { QTest::keyClick(QApplication::focusWidget(), code); };
         QStringList order;
-        for (int i = 0; i < 15; ++i, key(Qt::Key_Tab))
+        for (int i = 0; i < 16; ++i, key(Qt::Key_Tab))
             order += focus();
         EXPECT_EQ(order.join(u' '),
                   u("txtCorrection lstSuggestions chkSmartReplace cmdIgnore cmdIgnoreAll cmdAddToDic "
-                    "cmdChange cmdChangeAll cmdExplain cmdHelp cmdStop cmdCancel rtbText txtCorrection "
+                    "cmdAddForRun cmdChange cmdChangeAll cmdExplain cmdHelp cmdStop cmdCancel rtbText "
+                    "txtCorrection "
                     "lstSuggestions"));
         child<QWidget>(window, "cmdChange").setFocus();
         key(Qt::Key_Space);
