@@ -12,6 +12,7 @@
 #include "text/cTextMethods.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -73,6 +74,15 @@ int main(int argc, char **argv) {
         return 1;
     }
     table.add("check of 65,535 characters, 1,000 errors", rules, 300, "ms");
+    constexpr int steps = 20;
+    const auto step = [&] { walk.cmdIgnore(); };
+    const double alone = bench::milliseconds(step, steps);
+    BackgroundWorker worker;
+    walk.lookAhead(worker);
+    QElapsedTimer time;
+    for (time.start(); !time.hasExpired(3000);) // the user reads
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    const double ahead = bench::milliseconds(step, steps);
     walk.end();
 
     const double shown = bench::milliseconds([&] {
@@ -85,6 +95,8 @@ int main(int argc, char **argv) {
         QString copy = text;
         dialog.CheckSpelling(world, copy, -1, false);
     });
+    table.add("step that looks for suggestions itself", alone, 100, "ms");
+    table.add("step to suggestions found ahead", ahead, 2, "ms");
     table.add("the same until the dialog shows", shown, 300, "ms");
     return table.exitCode();
 }

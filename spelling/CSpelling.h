@@ -44,6 +44,11 @@ class CSpelling {
     /// The local dictionary's suggestions for a word; none if the provider has no local dictionary.
     [[nodiscard]] std::shared_ptr<CSpellingSuggestions> hunspellSuggest(const QString &word);
 
+    /// The local dictionary's engine; null if the provider has none.
+    [[nodiscard]] std::shared_ptr<HunspellEngine> engine() const {
+        return m_dictionary ? m_dictionary->engine() : nullptr;
+    }
+
     /// The provider in use, which is Hunspell if Word was asked for but not available.
     [[nodiscard]] int ProviderType() const { return m_providerType; }
 

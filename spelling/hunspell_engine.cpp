@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QStringList>
 #include <hunspell.hxx>
+#include <mutex>
 #include <optional>
 
 #include "spelling/dictionary_encoding.h"
@@ -37,14 +38,32 @@ bool holdsSomething(const QString &path) {
 
 } // namespace
 
+/// The library counts the users of its tables without a lock: threads load and unload one after the other.
 class HunspellEngine::Library {
   public:
-    Library(const QString &aff, const QString &dic)
-        : hunspell(QFile::encodeName(aff).constData(), QFile::encodeName(dic).constData()),
-          encoding(QByteArray::fromStdString(hunspell.get_dict_encoding())) {}
+    Library(const QString &aff, const QString &dic) : m_hunspell(load(aff, dic)) {}
+    ~Library() {
+        const std::lock_guard lock(tables());
+        m_hunspell.reset();
+    }
+    Library(const Library &) = delete;
+    Library &operator=(const Library &) = delete;
 
-    Hunspell hunspell;
-    DictionaryEncoding encoding;
+  private:
+    static std::mutex &tables() {
+        static std::mutex mutex;
+        return mutex;
+    }
+    static std::unique_ptr<Hunspell> load(const QString &aff, const QString &dic) {
+        const std::lock_guard lock(tables());
+        return std::make_unique<Hunspell>(QFile::encodeName(aff).constData(),
+                                          QFile::encodeName(dic).constData());
+    }
+    std::unique_ptr<Hunspell> m_hunspell;
+
+  public:
+    Hunspell &hunspell = *m_hunspell;
+    DictionaryEncoding encoding{QByteArray::fromStdString(m_hunspell->get_dict_encoding())};
 };
 
 HunspellEngine::HunspellEngine() = default;
@@ -53,6 +72,8 @@ HunspellEngine::~HunspellEngine() = default;
 bool HunspellEngine::init(const QString &affPath, const QString &dicPath) {
     m_library.reset();
     m_known.clear();
+    m_suggested.clear();
+    m_recipe = {affPath, dicPath, {}};
     if (!holdsSomething(affPath) || !startsWithCount(dicPath))
         return false;
     auto library = std::make_unique<Library>(affPath, dicPath);
@@ -62,11 +83,20 @@ bool HunspellEngine::init(const QString &affPath, const QString &dicPath) {
     return true;
 }
 
+bool HunspellEngine::init(const EngineRecipe &recipe) {
+    if (!init(recipe.affPath, recipe.dicPath))
+        return false;
+    for (const QString &word : recipe.added)
+        Add(word);
+    return true;
+}
+
 void HunspellEngine::Add(const QString &word) {
     if (!m_library || word.isEmpty())
         return;
     if (const auto bytes = m_library->encoding.encode(word)) {
         m_library->hunspell.add(*bytes);
+        m_recipe.added += word;
         m_known.clear();
     }
 }
@@ -87,13 +117,16 @@ bool HunspellEngine::Spell(QStringView word) {
 QString HunspellEngine::suggest(const QString &word) {
     if (!m_library || word.isEmpty())
         return {};
+    const auto kept = m_suggested.constFind(word);
+    if (kept != m_suggested.cend())
+        return *kept;
     const auto bytes = m_library->encoding.encode(word);
     if (!bytes)
         return {};
     QStringList suggestions;
     for (const std::string &suggestion : m_library->hunspell.suggest(*bytes))
         suggestions += m_library->encoding.decode(suggestion);
-    return suggestions.join(u'|');
+    return *m_suggested.insert(word, suggestions.join(u'|'));
 }
 
 } // namespace tolvo

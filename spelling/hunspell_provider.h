@@ -25,6 +25,8 @@ class LocalDictionary {
     /// As HunspellEngine::Add.
     void Add(const QString &word) { m_engine->Add(word); }
 
+    [[nodiscard]] const std::shared_ptr<HunspellEngine> &engine() const { return m_engine; }
+
     /// The words of a text that the dictionary doesn't know, each as an error. A text of one character has
     /// none.
     [[nodiscard]] CSpellingErrors checkHunspell(const QString &text);

@@ -58,6 +58,7 @@ bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
 
 void ErrorWalk::end() {
     m_over = true;
+    m_ahead.reset();
     m_undo.clear();
     oErrors = {};
     oSpelling.reset();
@@ -68,6 +69,30 @@ void ErrorWalk::takeErrors() {
     oErrors = innerFirst(oSpelling->SpellingErrors());
     m_current = 1;
     m_places.startAfresh();
+    m_lookedAt = 0;
+    if (m_ahead)
+        m_ahead->goOn();
+}
+
+void ErrorWalk::lookAhead(BackgroundWorker &worker) {
+    const std::shared_ptr<HunspellEngine> engine = oSpelling ? oSpelling->engine() : nullptr;
+    if (!engine)
+        return;
+    m_ahead = std::make_unique<SuggestionsAhead>(worker, engine, [this] { return wordAhead(); });
+    m_ahead->goOn();
+}
+
+/// The next word whose suggestions the user may see; empty if there is none.
+QString ErrorWalk::wordAhead() {
+    for (m_lookedAt = qMax(m_lookedAt, m_current) + 1; m_lookedAt <= oErrors.Count(); ++m_lookedAt) {
+        const CSpellingError &error = oErrors.Item(m_lookedAt);
+        const QString &word = error.ErrorText();
+        if (error.errorType == spellingErrorType::notInDictionary &&
+            !oSpelling->engine()->hasSuggestions(word) &&
+            oIgnore.value(toUpper(word)) != QStringLiteral("all"))
+            return word;
+    }
+    return {};
 }
 
 /// Where the current error stands in the text.

@@ -8,6 +8,7 @@
 #include "spelling/marked_text.h"
 #include "spelling/shifted_places.h"
 #include "spelling/spelling_services.h"
+#include "spelling/suggestions_ahead.h"
 
 #include <QHash>
 #include <QList>
@@ -48,6 +49,9 @@ class ErrorWalk {
     /// Checks the text, whose lines end in CR alone, and goes to its first error. False if there is none, and
     /// so nothing to show.
     bool start(const QString &text, int LangID, bool grammar);
+    /// From now on, finds the suggestions of the words ahead beside the keys, so that no step waits for them.
+    /// To be called after start().
+    void lookAhead(BackgroundWorker &worker);
     /// Releases the provider.
     void end();
 
@@ -100,6 +104,7 @@ class ErrorWalk {
 
     [[nodiscard]] ShiftedPlace place() const;
     void takeErrors();
+    [[nodiscard]] QString wordAhead();
     void ShowNextError(bool useChangeAll);
     [[nodiscard]] bool passOver(const CSpellingError &error, bool useChangeAll);
     void markError(const CSpellingError &error);
@@ -123,8 +128,9 @@ class ErrorWalk {
     ProofingHost &m_host;
     std::unique_ptr<CSpelling> oSpelling;
     CSpellingErrors oErrors;
-    qsizetype m_current = 1; ///< index of the current error, from 1
-    ShiftedPlaces m_places;  ///< iOffset
+    qsizetype m_current = 1;  ///< index of the current error, from 1
+    qsizetype m_lookedAt = 0; ///< index of the last error whose suggestions have been looked for ahead
+    ShiftedPlaces m_places;   ///< iOffset
     QHash<QString, QString> oIgnore;
     QHash<QString, QString> oChangeAll;
     QStringList oMoreSuggestions;
@@ -137,6 +143,7 @@ class ErrorWalk {
     bool m_justExpanded = false; ///< the last click was on "<More...>"
     bool m_over = true;
     bool m_cancelled = false;
+    std::unique_ptr<SuggestionsAhead> m_ahead; ///< goes before what it looks at
 };
 
 } // namespace tolvo

@@ -78,8 +78,10 @@ dlgDicQuickList &DesktopDialogs::languageForm() {
 }
 
 bool DesktopDialogs::CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar) {
-    if (!m_spellingDialog)
+    if (!m_spellingDialog) {
         m_spellingDialog = std::make_unique<dlgSpelling>(m_services.spelling, &m_parent);
+        m_spellingDialog->setWorker(m_parent.worker());
+    }
     const bool changed = m_spellingDialog->CheckSpelling(host, text, LangID, grammar);
     takeFocusBack();
     return changed;

@@ -292,6 +292,8 @@ bool dlgSpelling::CheckSpelling(ProofingHost &host, QString &text, int LangID, b
     const std::unique_ptr<ErrorWalk, decltype(walkEnds)> atEnd(m_walk.get(), walkEnds);
     if (!m_walk->start(text, LangID, grammar))
         return false;
+    if (m_worker)
+        m_walk->lookAhead(*m_worker);
     refresh();
     txtCorrection->setFocus();
     exec();

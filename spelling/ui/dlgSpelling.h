@@ -28,6 +28,9 @@ class dlgSpelling : public QDialog {
     explicit dlgSpelling(const SpellingServices &services, QWidget *parent = nullptr);
     ~dlgSpelling() override;
 
+    /// Where suggestions are found before the user gets to their words; without one each step finds its own.
+    void setWorker(BackgroundWorker &worker) { m_worker = &worker; }
+
     /// As SpellingWalk::CheckSpelling.
     bool CheckSpelling(ProofingHost &host, QString &text, int LangID, bool grammar);
 
@@ -54,6 +57,7 @@ class dlgSpelling : public QDialog {
     void refreshSuggestions(const WalkControls &controls);
 
     const SpellingServices &m_services;
+    BackgroundWorker *m_worker = nullptr;
     std::unique_ptr<ErrorWalk> m_walk; ///< while a check runs
     QStringList m_runWords;            ///< known for as long as the program runs
     bool m_refreshing = false;

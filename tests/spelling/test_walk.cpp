@@ -2,6 +2,9 @@
 #include "spelling/spelling_walk.h"
 #include "spelling_world.h"
 
+#include <QEventLoop>
+#include <QTimer>
+
 namespace tolvo::test {
 
 class Walk : public SpellingWorld {
@@ -277,6 +280,46 @@ TEST_F(Walk, KnowsWordsForTheRestOfTheRun) {
     EXPECT_EQ(fileContents(dictionaries() + u("/persdict.dat")), "");
     ErrorWalk later(services, *this);
     EXPECT_TRUE(later.start(u("a zqx"), -1, false));
+}
+
+TEST_F(Walk, FindsSuggestionsAhead) {
+    ASSERT_TRUE(start("a teh zqx helo teh"));
+    dictionary(u("en_GB"), "SET UTF-8\nTRY st\n", "1\nhelos\n"); // what the second engine will know
+    BackgroundWorker worker(BackgroundWorker::Thread::None);
+    walk.lookAhead(worker);
+    QStringList found;
+    for (; !walk.isOver(); walk.cmdIgnore())
+        found += walk.controls().lstSuggestions;
+    EXPECT_EQ(found.join(u'/'), u("the/(No spelling suggestions)/helos/the"));
+}
+
+TEST_F(Walk, LooksAheadInAnotherThread) {
+    QStringList words{u("a"), u("hte")};
+    for (QChar letter = u'b'; letter <= u'z'; letter = QChar(letter.unicode() + 1))
+        words += u("helo") + letter;
+    BackgroundWorker worker;
+    const auto engine = [this] {
+        auto one = std::make_shared<HunspellEngine>();
+        EXPECT_TRUE(one->init(dictionaries() + u("/en_GB.aff"), dictionaries() + u("/en_GB.dic")));
+        one->Add(u("helox"));
+        return one;
+    };
+    const std::shared_ptr<HunspellEngine> first = engine();
+    qsizetype next = 0;
+    QEventLoop untilFound;
+    SuggestionsAhead ahead(worker, first, [&] {
+        if (next == words.size())
+            untilFound.quit();
+        return words.value(next++);
+    });
+    QTimer::singleShot(0, &untilFound, [&] { ahead.goOn(); });
+    QTimer::singleShot(30'000, &untilFound, &QEventLoop::quit);
+    untilFound.exec();
+    const std::shared_ptr<HunspellEngine> alone = engine();
+    for (const QString &each : words) {
+        EXPECT_TRUE(first->hasSuggestions(each)) << each.toStdString();
+        EXPECT_EQ(first->suggest(each), alone->suggest(each)) << each.toStdString();
+    }
 }
 
 TEST_F(Walk, TakesThousandsOfChangesAndUndoesThem) {
