@@ -5,11 +5,11 @@
 #include "base/failure.h"
 #include "base/paths.h"
 #include "base/private_files.h"
+#include "spelling/dictionary_folders.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 namespace tolvo {
 
@@ -51,16 +51,6 @@ QString decoded(const QByteArray &bytes) {
 
 } // namespace
 
-QStringList dictionaryFolders(const QString &dataFolder) {
-    QStringList folders{programDictionaries(dataFolder)};
-    for (const QString &data : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
-        for (const QLatin1String name :
-             {QLatin1String("/hunspell"), QLatin1String("/myspell"), QLatin1String("/myspell/dicts")})
-            folders += data + name;
-    }
-    return folders;
-}
-
 std::optional<DictionaryFiles> findDictionary(const QString &locale, const QStringList &folders) {
     // A locale must not lead to another folder.
     if (locale.isEmpty() || locale.contains(u'/') || locale.contains(u'\\'))
@@ -74,6 +64,13 @@ std::optional<DictionaryFiles> findDictionary(const QString &locale, const QStri
             return files;
     }
     return std::nullopt;
+}
+
+std::optional<DictionaryFiles> findDictionary(const QString &locale, const SpellingServices &services) {
+    QStringList paths;
+    for (const DictionaryFolder &folder : dictionaryFolders(services))
+        paths += folder.path;
+    return findDictionary(locale, paths);
 }
 
 QString personalDictionaryPath(const SpellingServices &services) {

@@ -17,14 +17,14 @@ struct DictionaryFiles {
     QString dic;
 };
 
-/// The folder Dictionaries of the program folder, then the system's folders of Hunspell dictionaries.
-[[nodiscard]] QStringList dictionaryFolders(const QString &dataFolder);
-
 /// The two files of a locale ("en-gb") in the first folder that holds both; nothing if none does. Names
 /// compare without regard to case and with "-" as "_"; an exact match is preferred. A locale with a path
 /// separator in it has no files.
 [[nodiscard]] std::optional<DictionaryFiles> findDictionary(const QString &locale,
                                                             const QStringList &folders);
+/// The same in all folders with dictionaries.
+[[nodiscard]] std::optional<DictionaryFiles> findDictionary(const QString &locale,
+                                                            const SpellingServices &services);
 
 /// The path of persdict.dat: in the folder Dictionaries of the program folder if that is writable, else in
 /// the user's folder. The file need not exist.

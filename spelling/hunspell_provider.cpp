@@ -9,7 +9,7 @@ namespace tolvo {
 
 void LocalDictionary::initHunspell(const SpellingServices &services, const QString &locale) {
     m_engine = std::make_shared<HunspellEngine>();
-    const auto files = findDictionary(locale, dictionaryFolders(services.dataFolder));
+    const auto files = findDictionary(locale, services);
     if (!files || !m_engine->init(files->aff, files->dic)) {
         ReportError(services.boxes, QStringLiteral("CSpelling"), QStringLiteral("init"),
                     QStringLiteral("Unable to initialise Hunspell provider"),

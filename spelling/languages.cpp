@@ -4,7 +4,6 @@
 #include "base/failure.h"
 #include "preferences/settings_keys.h"
 #include "spelling/locales.h"
-#include "spelling/spelling_provider.h"
 #include "spelling/word_automation.h"
 
 #include <memory>
@@ -47,9 +46,7 @@ QString LanguageList::langFromID(int LangID) const {
     return {};
 }
 
-QList<CSpellLanguage> LanguageList::quickList(int providerType, const Locales &locales) const {
-    if (providerType != providerType::word)
-        return quickHunspellLanguages(locales);
+QList<CSpellLanguage> LanguageList::wordQuickLanguages() const {
     const QList<CSpellLanguage> all = wordLanguages();
     QList<CSpellLanguage> quick;
     for (const QString &number : wordQuickList()) {
@@ -63,23 +60,11 @@ QList<CSpellLanguage> LanguageList::quickList(int providerType, const Locales &l
     return quick;
 }
 
-QList<CSpellLanguage> LanguageList::quickHunspellLanguages(const Locales &locales) const {
+QList<CSpellLanguage> LanguageList::hunspellList(const Locales &locales) const {
     QList<CSpellLanguage> all;
     for (const QStringList &fields : entries(get(m_store, keys.hunLangList), 2))
         all += CSpellLanguage::Constructor_Hun(fields[1], fields[1], fields[0], locales.idOf(fields[1], -1));
-    const QString chosen = get(m_store, keys.hunQuickList);
-    if (chosen == keys.hunQuickList.otherwise())
-        return all;
-    QList<CSpellLanguage> quick;
-    for (const QString &locale : chosen.split(u'|')) {
-        for (const CSpellLanguage &language : all) {
-            if (language.Locale == locale) {
-                quick += language;
-                break;
-            }
-        }
-    }
-    return quick;
+    return all;
 }
 
 QList<HunspellLanguage> LanguageList::hunspellLanguages() const {
@@ -119,10 +104,6 @@ int LanguageList::storedLangID() const {
 
 void LanguageList::saveLangID(int LangID) {
     set(m_store, keys.langID, LangID);
-}
-
-QString LanguageList::storedLocale() const {
-    return get(m_store, keys.hunLocale);
 }
 
 QString readWordLanguages(WordAutomation &automation, const std::function<bool()> &cancelled) {

@@ -52,9 +52,11 @@ class LanguageList {
     /// The name of the language of Word with a number; empty if Word has none.
     [[nodiscard]] QString langFromID(int LangID) const;
 
-    /// The rows of a provider's quick list: for Word those of `QuickList`, for any other those of
-    /// `HunQuickList`, or all of `HunLangList` while that list is "<none>".
-    [[nodiscard]] QList<CSpellLanguage> quickList(int providerType, const Locales &locales) const;
+    /// The languages of Word that `QuickList` names.
+    [[nodiscard]] QList<CSpellLanguage> wordQuickLanguages() const;
+    /// The entries of `HunLangList` as the quick list reads them; -1 is the number of a locale that the table
+    /// doesn't have.
+    [[nodiscard]] QList<CSpellLanguage> hunspellList(const Locales &locales) const;
 
     /// `HunLangList` as its window reads it: locale, language, territory.
     [[nodiscard]] QList<HunspellLanguage> hunspellLanguages() const;
@@ -69,12 +71,8 @@ class LanguageList {
     [[nodiscard]] int provider() const;
     [[nodiscard]] int storedLangID() const;
     void saveLangID(int LangID);
-    /// Hunspell's name of the language to start from while no language number has been chosen.
-    [[nodiscard]] QString storedLocale() const;
 
   private:
-    [[nodiscard]] QList<CSpellLanguage> quickHunspellLanguages(const Locales &locales) const;
-
     SettingsStore &m_store;
 };
 

@@ -5,6 +5,7 @@
 #include "spelling/dictionaries.h"
 #include "spelling/word_automation.h"
 
+#include <QLocale>
 #include <QStandardPaths>
 
 namespace tolvo {
@@ -16,6 +17,11 @@ QString SpellingServices::defaultAtdEndpoint() {
 
 QString SpellingServices::defaultUserFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/tolvo");
+}
+
+QString SpellingServices::defaultDesktopLocale() {
+    const QLocale desktop = QLocale::system();
+    return desktop.language() == QLocale::C ? QString() : desktop.name().replace(u'_', u'-').toLower();
 }
 
 void prepareSpelling(const SpellingServices &services) {

@@ -5,7 +5,8 @@
 #include "base/numbers.h"
 #include "preferences/settings_keys.h"
 #include "spelling/error_order.h"
-#include "spelling/languages.h"
+#include "spelling/language_rows.h"
+#include "spelling/spelling_provider.h"
 #include "text/cTextMethods.h"
 
 #include <utility>
@@ -32,16 +33,14 @@ bool ErrorWalk::start(const QString &text, int LangID, bool grammar) {
     oChangeAll.clear();
     m_undo.clear();
     m_controls = {};
-    m_controls.caption =
-        QStringLiteral("Spelling and Grammar - ") + LanguageList(m_services.store).langFromID(LangID);
+    m_controls.caption = QStringLiteral("Spelling and Grammar - ") + languageInTitle(m_services, LangID);
     m_places.clear();
     m_host.setStatus(QStringLiteral("Checking. Please wait..."));
     m_host.processEvents();
 
     oSpelling = std::make_unique<CSpelling>(m_services, m_host.textMethods());
     const int provider = get(m_services.store, providerForSpellingDialog);
-    // Left empty on purpose: a check runs in the default locale, whatever language is chosen.
-    QString localeName;
+    QString localeName = provider == providerType::word ? QString() : chosenLocale(m_services, LangID);
     oSpelling->init(provider, LangID, localeName);
     for (const QString &word : std::as_const(m_runWords))
         oSpelling->addForRun(word);

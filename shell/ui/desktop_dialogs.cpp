@@ -116,13 +116,12 @@ void DesktopDialogs::prepareOptions() {
 }
 
 void DesktopDialogs::configureProvider(int provider) {
-    if (provider == providerType::word) {
+    if (provider == providerType::word)
         dlgSpellLanguage(m_services.spelling, m_preferences.get()).DictionaryQuickList();
-        // The quick list may have changed: the language list reads it anew.
-        m_languageDialog.reset();
-    } else {
-        dlgHunspellLanguage(m_services.store, m_preferences.get()).exec();
-    }
+    else
+        dlgHunspellLanguage(m_services.spelling, m_preferences.get()).exec();
+    if (m_languageDialog)
+        m_languageDialog->readLanguagesAnew();
 }
 
 void DesktopDialogs::showAbout() {

@@ -5,8 +5,6 @@
 #include "base/conversions.h"
 #include "platform/desktop/enter_key.h"
 #include "platform/report_error.h"
-#include "preferences/settings_keys.h"
-#include "spelling/locales.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
@@ -15,6 +13,7 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -23,7 +22,8 @@
 namespace tolvo {
 
 dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *parent)
-    : QDialog(parent), m_services(services), cmbQuickList(new QComboBox(this)), labProvider(new QLabel(this)),
+    : QDialog(parent), m_services(services), cmbQuickList(new QComboBox(this)), labPlace(new QLabel(this)),
+      labProvider(new QLabel(this)),
       labChange(new LinkLabel(QStringLiteral("Change"), QStringLiteral("options"),
                               LinkLabel::Underline::Always, this)),
       imgBrowse(new QToolButton(this)) {
@@ -33,6 +33,8 @@ dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *pare
     cmbQuickList->setObjectName(QStringLiteral("cmbQuickList"));
     cmbQuickList->setAccessibleName(QStringLiteral("Dictionary"));
     cmbQuickList->setMinimumContentsLength(30);
+    labPlace->setObjectName(QStringLiteral("labPlace"));
+    labPlace->setTextFormat(Qt::PlainText);
     labProvider->setObjectName(QStringLiteral("labProvider"));
     labChange->setObjectName(QStringLiteral("labChange"));
     labChange->hide();
@@ -43,6 +45,7 @@ dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *pare
     imgBrowse->setFocusPolicy(Qt::StrongFocus);
     layOut();
     connect(imgBrowse, &QToolButton::clicked, this, [this] { manageDictionaries(); });
+    connect(cmbQuickList, &QComboBox::currentIndexChanged, this, [this] { showPlace(); });
     connect(labChange, &QLabel::linkActivated, this, &dlgDicQuickList::changeProvider);
 }
 
@@ -59,12 +62,14 @@ void dlgDicQuickList::layOut() {
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-    auto *choice = new QHBoxLayout;
+    auto *choice = new QGridLayout;
     auto *caption = new QLabel(QStringLiteral("&Dictionary:"), this);
     caption->setBuddy(cmbQuickList); // its accessible name, for a list that drops down
-    choice->addWidget(caption);
-    choice->addWidget(cmbQuickList, 1);
-    choice->addWidget(imgBrowse);
+    choice->addWidget(caption, 0, 0);
+    choice->addWidget(cmbQuickList, 0, 1);
+    choice->addWidget(imgBrowse, 0, 2);
+    choice->addWidget(labPlace, 1, 1);
+    choice->setColumnStretch(1, 1);
     auto *provider = new QHBoxLayout;
     provider->addWidget(labProvider);
     provider->addWidget(labChange);
@@ -108,28 +113,26 @@ void dlgDicQuickList::FillSpelling() {
     if (m_filled)
         return;
     m_filled = true;
-    const LanguageList lists(m_services.store);
-    m_languages = lists.quickList(m_provider, Locales(Locales::pathIn(m_services.dataFolder)));
+    m_rows = languageRows(m_services, m_provider);
     cmbQuickList->clear();
-    for (const CSpellLanguage &language : std::as_const(m_languages))
-        cmbQuickList->addItem(language.row());
-    selectLanguage(lists.storedLangID());
+    for (const LanguageRow &row : std::as_const(m_rows)) {
+        cmbQuickList->addItem(row.language.row());
+        cmbQuickList->setItemData(cmbQuickList->count() - 1, row.place, Qt::ToolTipRole);
+    }
+    selectLanguage(LanguageList(m_services.store).storedLangID());
 }
 
 void dlgDicQuickList::selectLanguage(int LangID) {
-    const LanguageList lists(m_services.store);
-    const bool noneChosen = LangID == settingKeys.spelling.langID.otherwise();
-    const QString locale = noneChosen ? lists.storedLocale() : QString();
-    int selected = cmbQuickList->currentIndex();
-    for (int row = 0; row < m_languages.size(); ++row) {
-        if (m_languages[row].ID == LangID)
-            selected = row;
-    }
-    for (int row = 0; row < m_languages.size() && !locale.isEmpty(); ++row) {
-        if (m_languages[row].Locale == locale)
-            selected = row;
-    }
-    cmbQuickList->setCurrentIndex(selected);
+    if (const int row = firstRow(m_rows, m_services, LangID); row >= 0)
+        cmbQuickList->setCurrentIndex(row);
+    showPlace();
+}
+
+void dlgDicQuickList::showPlace() {
+    const QString place = m_rows.value(cmbQuickList->currentIndex()).place;
+    labPlace->setText(place);
+    labPlace->setVisible(!place.isEmpty());
+    cmbQuickList->setAccessibleDescription(place);
 }
 
 int dlgDicQuickList::GetLangID(int LangID, bool save) {
@@ -143,7 +146,7 @@ int dlgDicQuickList::GetLangID(int LangID, bool save) {
         return languageCancelled;
     const int row = cmbQuickList->currentIndex();
     // A list without rows leaves the language as it is.
-    const int chosen = row < 0 ? asked : m_languages[row].ID;
+    const int chosen = row < 0 ? asked : m_rows[row].language.ID;
     if (save)
         lists.saveLangID(chosen);
     return chosen;
@@ -164,7 +167,7 @@ void dlgDicQuickList::manageDictionaries() {
     if (m_provider == providerType::word) {
         dlgSpellLanguage(m_services, this).DictionaryQuickList();
     } else {
-        dlgHunspellLanguage(m_services.store, this).exec();
+        dlgHunspellLanguage(m_services, this).exec();
     }
     m_filled = false;
     FillSpelling();

@@ -2,7 +2,7 @@
 // Asks for the language of a check.
 #pragma once
 
-#include "spelling/languages.h"
+#include "spelling/language_rows.h"
 #include "spelling/spelling_services.h"
 
 #include <QDialog>
@@ -30,6 +30,9 @@ class dlgDicQuickList : public QDialog {
     /// Opens the Options; while there is nothing to open them, labChange is not shown.
     void setOptionsOpener(std::function<void()> opener);
 
+    /// To be called when languages have come or gone.
+    void readLanguagesAnew() { m_filled = false; }
+
   protected:
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -38,17 +41,18 @@ class dlgDicQuickList : public QDialog {
     void changeProvider();
     void showProvider();
     void FillSpelling();
-    /// The row of a language number; while none has been chosen, that of Hunspell's stored locale.
     void selectLanguage(int LangID);
+    void showPlace();
     void manageDictionaries();
 
     const SpellingServices &m_services;
     std::function<void()> m_openOptions;
     int m_provider = -1;
     bool m_filled = false;
-    QList<CSpellLanguage> m_languages; ///< the rows of cmbQuickList
+    QList<LanguageRow> m_rows; ///< of cmbQuickList
 
     QComboBox *cmbQuickList;
+    QLabel *labPlace; ///< of the selected language's dictionary
     QLabel *labProvider;
     QLabel *labChange;
     QToolButton *imgBrowse;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/ui/dlgHunspellLanguage.h"
 
-#include "spelling/languages.h"
+#include "spelling/language_rows.h"
 
 #include <QBoxLayout>
 #include <QFontMetrics>
@@ -11,15 +11,15 @@
 
 namespace tolvo {
 
-dlgHunspellLanguage::dlgHunspellLanguage(SettingsStore &store, QWidget *parent)
-    : QDialog(parent), lvwHunspellLangs(new QTreeWidget(this)) {
+dlgHunspellLanguage::dlgHunspellLanguage(const SpellingServices &services, QWidget *parent)
+    : QDialog(parent), m_services(services), lvwHunspellLangs(new QTreeWidget(this)) {
     setObjectName(QStringLiteral("dlgHunspellLanguage"));
     setWindowTitle(QStringLiteral("Select Language"));
     setModal(true);
     lvwHunspellLangs->setObjectName(QStringLiteral("lvwHunspellLangs"));
     lvwHunspellLangs->setAccessibleName(QStringLiteral("Languages"));
-    lvwHunspellLangs->setHeaderLabels(
-        {QStringLiteral("Locale"), QStringLiteral("Language"), QStringLiteral("Territory")});
+    lvwHunspellLangs->setHeaderLabels({QStringLiteral("Locale"), QStringLiteral("Language"),
+                                       QStringLiteral("Territory"), QStringLiteral("Dictionary")});
     lvwHunspellLangs->setRootIsDecorated(false);
 
     // These two have no function yet.
@@ -41,12 +41,16 @@ dlgHunspellLanguage::dlgHunspellLanguage(SettingsStore &store, QWidget *parent)
     columns->addWidget(lvwHunspellLangs, 1);
     columns->addLayout(buttons);
     resize(fontMetrics().averageCharWidth() * 80, fontMetrics().lineSpacing() * 18);
-    fill(store);
+    fill();
 }
 
-void dlgHunspellLanguage::fill(SettingsStore &store) {
-    for (const HunspellLanguage &language : LanguageList(store).hunspellLanguages())
-        new QTreeWidgetItem(lvwHunspellLangs, {language.locale, language.language, language.territory});
+void dlgHunspellLanguage::fill() {
+    lvwHunspellLangs->clear();
+    for (const HunspellRow &row : hunspellWindowRows(m_services)) {
+        const HunspellLanguage &language = row.language;
+        new QTreeWidgetItem(lvwHunspellLangs,
+                            {language.locale, language.language, language.territory, row.place});
+    }
     for (int column = 0; column < lvwHunspellLangs->columnCount(); ++column)
         lvwHunspellLangs->resizeColumnToContents(column);
 }

@@ -8,15 +8,16 @@ class QTreeWidget;
 
 namespace tolvo {
 
-class SettingsStore;
+struct SpellingServices;
 
 class dlgHunspellLanguage : public QDialog {
   public:
-    explicit dlgHunspellLanguage(SettingsStore &store, QWidget *parent = nullptr);
+    explicit dlgHunspellLanguage(const SpellingServices &services, QWidget *parent = nullptr);
 
   private:
-    void fill(SettingsStore &store);
+    void fill();
 
+    const SpellingServices &m_services;
     QTreeWidget *lvwHunspellLangs;
 };
 

@@ -121,6 +121,8 @@ class SpellingWorld : public ::testing::Test, public ProofingHost {
             u("en_GB"), "SET UTF-8\nTRY esianrtolcdugmphbyfvkwz\nWORDCHARS '-\n",
             "14\nthe\nquick\nbrown\nfox\ndog\nhello\ncolour\nis\na\nI\nthen\ndon't\nwell-known\nthere\n");
         writeFile(dictionaries() + u("/persdict.dat"), "");
+        services.systemDictionaries = {};
+        services.desktopLocale = {};
         setProvider(1);
     }
 

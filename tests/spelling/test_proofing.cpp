@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "spelling_world.h"
 
+#include "spelling/language_rows.h"
 #include "spelling/languages.h"
 #include "spelling/locales.h"
 
@@ -123,12 +124,13 @@ TEST_F(ProofingWorld, FallsBackToHunspellWithoutWord) {
 using LanguageLists = SpellingWorld;
 
 TEST_F(LanguageLists, AreReadFromTheStore) {
-    const Locales locales(qEnvironmentVariable("TOLVO_SOURCE") + u("/data/Locales.txt"));
+    QFile::copy(qEnvironmentVariable("TOLVO_SOURCE") + u("/data/Locales.txt"),
+                services.dataFolder + u("/Locales.txt"));
     LanguageList lists(store);
     const auto rows = [&](int provider) {
         QStringList texts;
-        for (const CSpellLanguage &language : lists.quickList(provider, locales))
-            texts += language.row() + u'|' + QString::number(language.ID);
+        for (const LanguageRow &row : languageRows(services, provider))
+            texts += row.language.row() + u'|' + QString::number(row.language.ID);
         return texts;
     };
     EXPECT_EQ(rows(0), QStringList(u(" - <Default>|-1")));
