@@ -30,16 +30,4 @@ struct DictionaryFiles {
 /// the user's folder. The file need not exist.
 [[nodiscard]] QString personalDictionaryPath(const SpellingServices &services);
 
-/// Creates an empty personal dictionary if there is none. A file that can't be created is not reported here:
-/// the next check does so.
-void ensurePersonalDictionary(const SpellingServices &services);
-
-/// The lines of the personal dictionary as they are, blank ones too, in UTF-8 or, where a line is not UTF-8,
-/// in Windows-1252. Fails with 53 if the file is missing and with 75 if it can't be read.
-[[nodiscard]] QStringList readPersonalDictionary(const QString &path);
-
-/// Appends a word as one line (UTF-8, CR LF), after completing an unfinished last line. Fails with 53 if the
-/// file is missing (it is never created) and with 75 if it can't be written.
-void appendWord(const QString &path, const QString &word);
-
 } // namespace tolvo

@@ -3,12 +3,14 @@
 
 #include "platform/report_error.h"
 #include "spelling/dictionaries.h"
+#include "spelling/user_dictionaries.h"
 #include "spelling/words.h"
 
 namespace tolvo {
 
 void LocalDictionary::initHunspell(const SpellingServices &services, const QString &locale) {
     m_engine = std::make_shared<HunspellEngine>();
+    m_locale = locale;
     const auto files = findDictionary(locale, services);
     if (!files || !m_engine->init(files->aff, files->dic)) {
         ReportError(services.boxes, QStringLiteral("CSpelling"), QStringLiteral("init"),
@@ -16,7 +18,7 @@ void LocalDictionary::initHunspell(const SpellingServices &services, const QStri
                     failureNumber::hunspellNotInitialised);
         return;
     }
-    for (const QString &word : readPersonalDictionary(personalDictionaryPath(services)))
+    for (const QString &word : readUserDictionary(services, locale))
         m_engine->Add(word);
 }
 
@@ -48,7 +50,7 @@ std::shared_ptr<CSpellingSuggestions> LocalDictionary::hunspellSuggest(const QSt
 }
 
 void HunspellProvider::AddToCustomDic(const QString &word) {
-    AddWordToDict(m_services.boxes, personalDictionaryPath(m_services), word);
+    addUserWord(m_services, m_dictionary.locale(), word);
 }
 
 } // namespace tolvo

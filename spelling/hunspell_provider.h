@@ -11,13 +11,15 @@
 
 namespace tolvo {
 
-/// One dictionary with the personal word list, for one check. Other providers use it as well.
+/// One dictionary with the user's own words, for one check. Other providers use it as well.
 class LocalDictionary {
   public:
-    /// Loads the dictionary of a locale ("en-gb") and the personal words. A dictionary that can't be loaded
-    /// is reported with failure 5003; every word is then correct. Fails with 53 if there is no personal word
-    /// list.
+    /// Loads the dictionary of a locale ("en-gb") and the user's own words. A dictionary that can't be loaded
+    /// is reported with failure 5003; every word is then correct. Fails as readUserDictionary.
     void initHunspell(const SpellingServices &services, const QString &locale);
+
+    /// The locale of initHunspell.
+    [[nodiscard]] const QString &locale() const { return m_locale; }
 
     /// True if the word is spelled correctly, as HunspellEngine::Spell.
     [[nodiscard]] bool Spell(QStringView word) { return m_engine->Spell(word); }
@@ -37,6 +39,7 @@ class LocalDictionary {
   private:
     // Shared with the suggestion lists, which use it later.
     std::shared_ptr<HunspellEngine> m_engine = std::make_shared<HunspellEngine>();
+    QString m_locale;
 };
 
 /// Provider 1.
@@ -49,7 +52,7 @@ class HunspellProvider final : public SpellingProvider {
     [[nodiscard]] std::optional<CSpellingErrors> check(const QString &text) override {
         return m_dictionary.checkHunspell(text);
     }
-    /// Appends the word to the personal word list, which the next check reads.
+    /// Appends the word to the user's dictionary of the locale, which the next check reads.
     void AddToCustomDic(const QString &word) override;
 
   private:

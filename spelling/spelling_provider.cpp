@@ -2,7 +2,7 @@
 #include "spelling/spelling_provider.h"
 
 #include "platform/report_error.h"
-#include "spelling/dictionaries.h"
+#include "spelling/word_list.h"
 
 namespace tolvo {
 
@@ -23,7 +23,7 @@ QString providerName(int type) {
 
 void AddWordToDict(MessageBoxes &boxes, const QString &path, const QString &word) {
     reportFailures(boxes, QStringLiteral("CSpelling"), QStringLiteral("AddWordToDict"),
-                   [&] { appendWord(path, word); });
+                   [&] { appendWords(path, {word}); });
 }
 
 } // namespace tolvo

@@ -2,7 +2,7 @@
 #include "spelling/spelling_services.h"
 
 #include "preferences/settings_keys.h"
-#include "spelling/dictionaries.h"
+#include "spelling/user_dictionaries.h"
 #include "spelling/word_automation.h"
 
 #include <QLocale>
@@ -25,7 +25,7 @@ QString SpellingServices::defaultDesktopLocale() {
 }
 
 void prepareSpelling(const SpellingServices &services) {
-    ensurePersonalDictionary(services);
+    ensureUserDictionary(services, settingKeys.spelling.hunLocale.otherwise());
     const auto &provider = settingKeys.spelling.provider;
     // The checking dialog takes a missing provider for Word, all other readers take it for Hunspell. Where
     // Word can't run, they must agree.
