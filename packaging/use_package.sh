@@ -64,7 +64,8 @@ expect "completion of a tool after --tool" "ccUPP" "$(offers 'tolvo --tool ccUP'
 expect "completion of a setting" "Width=50|Justify=0|Hanging=0|Tab=True" "$(offers 'tolvo-pipe foWRP:' tolvo-pipe foWRP :)"
 expect "completion in quotes" "foWRP:Width=9, Tab=True" \
     "$(offers "tolvo-pipe 'foWRP:Width=9, T" tolvo-pipe "'foWRP:Width=9, T")"
-expect "completion of an option" "--list-buttons|--list-tools" "$(offers 'tolvo-pipe --li' tolvo-pipe --li)"
+expect "completion of an option" "--list-buttons|--list-dictionaries|--list-tools" "$(offers 'tolvo-pipe --li' tolvo-pipe --li)"
+expect "completion of a dictionary" "en_GB" "$(offers 'tolvo-pipe --spell en_G' tolvo-pipe --spell en_G)"
 
 apt-get purge -y -qq --autoremove tolvo >/tmp/purge.log 2>&1 || { cat /tmp/purge.log; exit 1; }
 everything >/tmp/after

@@ -19,6 +19,11 @@ bool readSelection(const QString &value, PipeArguments &result) {
     return startOk && lengthOk && result.selStart >= 0 && result.selLength >= 0;
 }
 
+/// Whether an option may have its value after an equals sign.
+bool isValued(const QString &option) {
+    return option == QLatin1StringView("--select") || option == QLatin1StringView("--spell");
+}
+
 /// Takes one option; false for an unknown one. `next` gives the argument after it.
 bool readOption(const QString &option, PipeArguments &result, const std::function<QString()> &next) {
     if (option == QLatin1StringView("--raw"))
@@ -31,7 +36,12 @@ bool readOption(const QString &option, PipeArguments &result, const std::functio
         result.mode = PipeArguments::Mode::ListTools;
     else if (option == QLatin1StringView("--list-buttons"))
         result.mode = PipeArguments::Mode::ListButtons;
-    else if (option == QLatin1StringView("--complete")) { // for shells; --help leaves it out
+    else if (option == QLatin1StringView("--list-dictionaries"))
+        result.mode = PipeArguments::Mode::ListDictionaries;
+    else if (option == QLatin1StringView("--spell")) {
+        result.mode = PipeArguments::Mode::Spell;
+        result.locale = next();
+    } else if (option == QLatin1StringView("--complete")) { // for shells; --help leaves it out
         result.mode = PipeArguments::Mode::Complete;
         result.begun = next();
     } else if (option == QLatin1StringView("--help") || option == QLatin1StringView("-h"))
@@ -58,8 +68,8 @@ PipeArguments readArguments(const QStringList &arguments) {
             result.steps += argument;
         else if (argument == QLatin1StringView("--"))
             optionsOver = true;
-        else if (argument.startsWith(QLatin1StringView("--select=")))
-            readOption(QStringLiteral("--select"), result, [&] { return argument.section(u'=', 1); });
+        else if (const qsizetype sign = argument.indexOf(u'='); isValued(argument.left(sign)) && sign > 0)
+            readOption(argument.first(sign), result, [&] { return argument.sliced(sign + 1); });
         else if (!readOption(argument, result, [&] { return arguments.value(++i); }))
             result.error = QStringLiteral("unknown option \"%1\"").arg(argument);
     }
@@ -67,6 +77,8 @@ PipeArguments readArguments(const QStringList &arguments) {
         result.error = QStringLiteral("no steps; --help tells how to use it");
     if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Batch && !result.steps.isEmpty())
         result.error = QStringLiteral("--batch reads its steps from standard input");
+    if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Spell && !result.steps.isEmpty())
+        result.error = QStringLiteral("--spell only lists: it runs no steps");
     return result;
 }
 
@@ -86,14 +98,20 @@ A step is a tool, or a tool with settings:
                          each search found, or why it could not ("searches")
   --batch                read requests as JSON Lines and answer each with one line:
                          {"text": "...", "selStart": 0, "selLength": 0, "steps": ["foTRA"], "clipboard": ""}
+  --spell LANGUAGE       print the words that the dictionary of a language such as en_GB doesn't know, one
+                         to a line: LINE:COLUMN: WORD: SUGGESTION, SUGGESTION...
+                         lines and columns (characters) count from 1; the text is only read;
+                         with --json one object for each: {"line": 1, "column": 5, "word": "teh",
+                         "suggestions": ["the", "ten"]}
+  --list-dictionaries    print the languages for --spell
   --list-tools           print token, name and explanation of every tool
   --list-buttons         print number and name of every PowerButton that is defined
   -h, --help             print this text
   --version              print the version
 
 Text is UTF-8. Status texts and messages go to standard error.
-Exit code: 0 done, 1 a tool reported a failure or a warning, 2 wrong usage or bad input (nothing has been
-written then), 3 internal error.
+Exit code: 0 done, 1 a tool reported a failure or a warning or --spell found a word, 2 wrong usage or bad
+input (nothing has been written then), 3 internal error.
 )");
 }
 

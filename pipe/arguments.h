@@ -9,10 +9,21 @@ namespace tolvo {
 
 /// What the command line asks for.
 struct PipeArguments {
-    enum class Mode { Steps, Batch, ListTools, ListButtons, Complete, Help, Version };
+    enum class Mode {
+        Steps,
+        Batch,
+        ListTools,
+        ListButtons,
+        ListDictionaries,
+        Spell,
+        Complete,
+        Help,
+        Version
+    };
     Mode mode = Mode::Steps;
     QStringList steps;
-    QString begun; ///< of Complete: the step that is being typed
+    QString begun;  ///< of Complete: the step that is being typed
+    QString locale; ///< of Spell: "en_GB"
     bool raw = false;
     bool json = false;
     int selStart = 0; ///< in UTF-16 units, from 0

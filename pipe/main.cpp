@@ -7,6 +7,7 @@
 #include "pipe/completion.h"
 #include "pipe/large_texts.h"
 #include "pipe/session.h"
+#include "pipe/spelling.h"
 #include "pipe/streams.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/MemoryTextBox.h"
@@ -90,6 +91,23 @@ void listLines(const QStringList &lines) {
         writeStandardOutput(line + u'\n');
 }
 
+int listWords(const PipeArguments &arguments) {
+    SettingsStore store(SettingsStore::defaultPath());
+    const SpellRequest request{.store = store,
+                               .dataFolder = programFolders().data,
+                               .locale = arguments.locale,
+                               .json = arguments.json};
+    const bool found = listMisspellings(request, readStandardInput(),
+                                        [](const QString &line) { writeStandardOutput(line + u'\n'); });
+    return found ? exitCode::warned : exitCode::done;
+}
+
+int listDictionaries() {
+    SettingsStore store(SettingsStore::defaultPath());
+    listLines(dictionaryList(store, programFolders().data));
+    return exitCode::done;
+}
+
 int runWithCatalogue(const PipeArguments &arguments) {
     const QString folder = programFolders().data;
     const Catalogue catalogue = Catalogue::read(sAppPath(folder) + Catalogue::fileName);
@@ -123,6 +141,10 @@ int run(const QStringList &commandLine) {
     case PipeArguments::Mode::Version:
         writeStandardOutput(versionText(QStringLiteral("tolvo-pipe")));
         return exitCode::done;
+    case PipeArguments::Mode::Spell:
+        return listWords(arguments);
+    case PipeArguments::Mode::ListDictionaries:
+        return listDictionaries();
     default:
         return runWithCatalogue(arguments);
     }

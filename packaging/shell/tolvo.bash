@@ -34,6 +34,10 @@ _tolvo() {
         _tolvo_steps "$cur"
         return
         ;;
+    --spell)
+        mapfile -t COMPREPLY < <(compgen -W "$(tolvo-pipe --list-dictionaries 2>/dev/null | cut -f 1)" -- "$cur")
+        return
+        ;;
     --select) return ;;
     esac
     if [[ $cur == -* ]]; then

@@ -4,6 +4,8 @@
 #include "tests/support/User.h"
 #include "tests/support/examples.h"
 
+#include <QDir>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -36,6 +38,14 @@ class Pipe : public ::testing::Test {
                 QString::fromUtf8(process.readAllStandardError())};
     }
 
+    /// A row of arguments, what comes in, what goes out, exit code.
+    void runs(const QStringList &row) {
+        const Result result = run(listOf(row[0]), listOf(row[1]).first().toUtf8());
+        EXPECT_EQ(QString::fromUtf8(result.out), listOf(row[2]).first());
+        EXPECT_EQ(result.code, row[3].toInt()) << result.err.toStdString();
+        EXPECT_TRUE(result.code == 0 || result.err.startsWith("tolvo-pipe: "));
+    }
+
     void definesShout() const {
         SettingsStore store(storePath);
         NamedBoxes boxes;
@@ -52,12 +62,8 @@ class Pipe : public ::testing::Test {
 TEST_F(Pipe, runsStepsOnText) {
     definesShout();
     forEachExample("/tests/pipe/examples.txt", [this](const QString &section, const QStringList &row) {
-        if (section != u"Runs" && section != u"Completes")
-            return;
-        const Result result = run(listOf(row[0]), listOf(row[1]).first().toUtf8());
-        EXPECT_EQ(QString::fromUtf8(result.out), listOf(row[2]).first());
-        EXPECT_EQ(result.code, row[3].toInt()) << result.err.toStdString();
-        EXPECT_TRUE(result.code == 0 || result.err.startsWith("tolvo-pipe: "));
+        if (section == u"Runs" || section == u"Completes")
+            runs(row);
     });
     EXPECT_EQ(run({"ccLOW"}, "A\xED\xA0\x80").code, 2) << "a lone surrogate in UTF-8";
     EXPECT_EQ(run({"--list-buttons"}).out, "4\tShout\n");
@@ -82,6 +88,25 @@ TEST_F(Pipe, saysWhatItCanDo) {
     EXPECT_EQ(reply.value("text").toString(), "a\r\nb");
     EXPECT_EQ(reply.value("statistics").toArray().size(), 8);
     EXPECT_EQ(reply.value("messages").toArray().size(), 1);
+}
+
+TEST_F(Pipe, listsMisspelledWords) {
+    const auto put = [this](const char *name, const QByteArray &bytes) {
+        QFile file(folder.filePath(QString("dictionaries/") + name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    };
+    QDir(folder.path()).mkpath("dictionaries");
+    put("xx_YY.aff", "SET UTF-8\nTRY thena\n");
+    put("xx_YY.dic", "3\nthe\nthen\ncat\n");
+    qputenv("DICPATH", folder.filePath("dictionaries").toUtf8());
+    forEachExample("/tests/pipe/examples.txt", [this](const QString &section, const QStringList &row) {
+        if (section == u"Spelling")
+            runs(row);
+    });
+    EXPECT_EQ(run({"--spell", "xx_YY"}, "the \xff").code, 2);
+    EXPECT_TRUE(run({"--list-dictionaries"}).out.contains("xx_YY\t"));
+    qunsetenv("DICPATH");
 }
 
 TEST_F(Pipe, refusesAPowerButtonThatNeedsAWindow) {
