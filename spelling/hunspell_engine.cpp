@@ -7,36 +7,10 @@
 #include <mutex>
 #include <optional>
 
+#include "spelling/dictionary_check.h"
 #include "spelling/dictionary_encoding.h"
 
 namespace tolvo {
-
-namespace {
-
-QByteArray firstLine(const QString &path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray line = file.readLine(4096);
-    if (line.startsWith("\xEF\xBB\xBF"))
-        line.remove(0, 3);
-    return line.trimmed();
-}
-
-/// A dictionary starts with the number of its words. Given any other file, the library prints an error and
-/// then accepts no word.
-bool startsWithCount(const QString &dicPath) {
-    const QByteArray line = firstLine(dicPath);
-    bool isNumber = false;
-    return line.split(' ').first().split('\t').first().toLongLong(&isNumber) > 0 && isNumber;
-}
-
-bool holdsSomething(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.size() > 0;
-}
-
-} // namespace
 
 /// The library counts the users of its tables without a lock: threads load and unload one after the other.
 class HunspellEngine::Library {
@@ -74,7 +48,7 @@ bool HunspellEngine::init(const QString &affPath, const QString &dicPath) {
     m_known.clear();
     m_suggested.clear();
     m_recipe = {affPath, dicPath, {}};
-    if (!holdsSomething(affPath) || !startsWithCount(dicPath))
+    if (!fileFault({affPath, dicPath}).isEmpty())
         return false;
     auto library = std::make_unique<Library>(affPath, dicPath);
     if (!library->encoding.isValid())

@@ -80,7 +80,7 @@ QString languageName(const QString &locale) {
             return uldn_localeDisplayName(names.get(), id.constData(), to, size, error);
         });
         if (!name.isEmpty())
-            return name;
+            return name.at(0).toTitleCase() + name.mid(1);
     }
     return locale;
 }

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Shows the Hunspell languages that the store lists. Nothing is changed here.
+// The languages that Hunspell can check in: those that the store lists and those with a dictionary here.
+// Dictionaries are added and taken away here; the lists of the store stay as they are.
 #pragma once
 
-#include <QDialog>
+#include "spelling/language_rows.h"
 
+#include <QDialog>
+#include <QList>
+
+class QPushButton;
 class QTreeWidget;
 
 namespace tolvo {
@@ -15,10 +20,18 @@ class dlgHunspellLanguage : public QDialog {
     explicit dlgHunspellLanguage(const SpellingServices &services, QWidget *parent = nullptr);
 
   private:
-    void fill();
+    void layOut();
+    /// Fills the list and selects a locale; its first row if there is no such locale.
+    void fill(const QString &selected);
+    void addLanguage();
+    void removeLanguage();
+    [[nodiscard]] HunspellRow selectedRow() const;
 
     const SpellingServices &m_services;
+    QList<HunspellRow> m_rows; ///< of lvwHunspellLangs
+
     QTreeWidget *lvwHunspellLangs;
+    QPushButton *cmdRemove;
 };
 
 } // namespace tolvo

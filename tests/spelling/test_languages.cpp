@@ -15,6 +15,7 @@ TEST(LanguageNames, AreTheLanguagesOwn) {
         {"de-at", "Deutsch (Österreich)", "Österreich"},
         {"de-de-frami", "Deutsch (Deutschland, FRAMI)", "Deutschland"},
         {"fr", "Français", ""},
+        {"hu-hu", "Magyar (Magyarország)", "Magyarország"},
         {"el-gr", "Ελληνικά (Ελλάδα)", "Ελλάδα"},
         {"tlh", "Klingon", ""}, // has a name in English only
         {"xq", "xq", ""},       // of no language
