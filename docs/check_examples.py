@@ -4,7 +4,7 @@
 and with the explanation that the catalogue gives, and every link leads to a page.
 
 An example is a block of code marked "example": a tolvo-pipe command, the text that goes in, a line ---, the text that comes
-out. A middle dot stands for a blank, a barred arrow for a tab."""
+out. A middle dot stands for a blank, a barred arrow for a tab. The commands run in the folder of the ready-made PowerButtons."""
 
 import glob
 import os
@@ -23,6 +23,7 @@ def run(arguments, text=""):
     """What tolvo-pipe writes for a user without settings."""
     with tempfile.TemporaryDirectory() as folder:
         return subprocess.run([PIPE, *arguments], input=text.encode(), stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=True,
+                              cwd=os.path.join(os.environ["TOLVO_BIN"], "PowerButtons"),
                               env={**os.environ, "TOLVO_SETTINGS": os.path.join(folder, "s"), "XDG_DATA_HOME": folder}).stdout.decode()
 
 

@@ -21,7 +21,8 @@ bool readSelection(const QString &value, PipeArguments &result) {
 
 /// Whether an option may have its value after an equals sign.
 bool isValued(const QString &option) {
-    return option == QLatin1StringView("--select") || option == QLatin1StringView("--spell");
+    return option == QLatin1StringView("--select") || option == QLatin1StringView("--spell") ||
+           option == QLatin1StringView("--button-file");
 }
 
 /// Takes one option; false for an unknown one. `next` gives the argument after it.
@@ -48,7 +49,11 @@ bool readOption(const QString &option, PipeArguments &result, const std::functio
         result.mode = PipeArguments::Mode::Help;
     else if (option == QLatin1StringView("--version"))
         result.mode = PipeArguments::Mode::Version;
-    else if (option == QLatin1StringView("--select")) {
+    else if (option == QLatin1StringView("--button-file")) {
+        result.buttonFile = next();
+        if (result.buttonFile.isEmpty())
+            result.error = QStringLiteral("--button-file needs a file");
+    } else if (option == QLatin1StringView("--select")) {
         if (!readSelection(next(), result))
             result.error = QStringLiteral("--select needs START,LENGTH, two numbers from 0");
     } else {
@@ -73,7 +78,12 @@ PipeArguments readArguments(const QStringList &arguments) {
         else if (!readOption(argument, result, [&] { return arguments.value(++i); }))
             result.error = QStringLiteral("unknown option \"%1\"").arg(argument);
     }
-    if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Steps && result.steps.isEmpty())
+    const bool hasFile = !result.buttonFile.isEmpty();
+    if (result.error.isEmpty() && hasFile &&
+        (result.mode != PipeArguments::Mode::Steps || !result.steps.isEmpty()))
+        result.error = QStringLiteral("--button-file takes the place of the steps");
+    if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Steps && result.steps.isEmpty() &&
+        !hasFile)
         result.error = QStringLiteral("no steps; --help tells how to use it");
     if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Batch && !result.steps.isEmpty())
         result.error = QStringLiteral("--batch reads its steps from standard input");
@@ -84,6 +94,7 @@ PipeArguments readArguments(const QStringList &arguments) {
 
 QString helpText() {
     return QStringLiteral(R"(Usage: tolvo-pipe [OPTION]... STEP...
+  or:  tolvo-pipe [OPTION]... --button-file FILE
 Reads text on standard input, runs the steps one after another and writes the result on standard output.
 
 A step is a tool, or a tool with settings:
@@ -91,6 +102,7 @@ A step is a tool, or a tool with settings:
   TOKEN:SETTINGS         such as 'foWRP:Width=60, Justify=0, Hanging=0, Tab=True';
                          pbPBT:PowerButton=3 runs your third PowerButton
 
+  --button-file FILE     run the PowerButton of a file that somebody has passed on
   --select START,LENGTH  select a part of the text; counts UTF-16 units from 0, a line end as two
   --raw                  take and give the text as it is; otherwise LF line ends become CR LF for the
                          tools and LF again at the end, unless the text holds a CR

@@ -22,8 +22,9 @@ struct PipeArguments {
     };
     Mode mode = Mode::Steps;
     QStringList steps;
-    QString begun;  ///< of Complete: the step that is being typed
-    QString locale; ///< of Spell: "en_GB"
+    QString begun;      ///< of Complete: the step that is being typed
+    QString locale;     ///< of Spell: "en_GB"
+    QString buttonFile; ///< the PowerButton that runs in place of steps; empty if there is none
     bool raw = false;
     bool json = false;
     int selStart = 0; ///< in UTF-16 units, from 0

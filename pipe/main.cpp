@@ -34,15 +34,27 @@ void complain(const QString &text) {
     ConsoleBoxes().say(text);
 }
 
+/// Throws BadRequest for a file that can't be taken.
+SharedButtons buttonOf(const PipeArguments &arguments, const Catalogue &catalogue) {
+    if (arguments.buttonFile.isEmpty())
+        return {};
+    SharedButtons button = loadButtonFile(arguments.buttonFile, catalogue);
+    if (!button.trouble.isEmpty())
+        throw BadRequest(arguments.buttonFile + QStringLiteral(": ") + button.trouble);
+    return button;
+}
+
 int runSteps(const HeadlessWorld &world, const PipeArguments &arguments) {
     ConsoleBoxes console;
     RecordingBoxes silent;
     ClipboardLineEnds lineEnds;
+    SharedButtons button = buttonOf(arguments, world.catalogue);
     const PipeRequest request{.text =
                                   arguments.raw ? readStandardInput() : lineEnds.takeIn(readStandardInput()),
                               .selStart = arguments.selStart,
                               .selLength = arguments.selLength,
                               .steps = arguments.steps,
+                              .button = std::move(button),
                               .capacity = MemoryTextBox::unlimited};
     const auto sayStatus = [&](const QString &status) {
         if (!arguments.json)

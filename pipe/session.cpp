@@ -111,6 +111,9 @@ PipeReply runPipe(const HeadlessWorld &world, const PipeRequest &request, Record
     QList<ActionPtr> actions;
     for (const QString &step : request.steps)
         actions += actionOf(world.catalogue, step);
+    const bool hasButton = !request.button.buttons.isEmpty();
+    if (hasButton)
+        actions += actionOf(world.catalogue, powerButtonToken + QStringLiteral(":PowerButton=1"));
 
     PipeWindows windows(sayStatus);
     HeadlessSession headless(world.store, world.catalogue, world.extensions, boxes, windows, world.dataFolder,
@@ -118,7 +121,9 @@ PipeReply runPipe(const HeadlessWorld &world, const PipeRequest &request, Record
     const bool runsButtons = std::any_of(actions.begin(), actions.end(), [](const ActionPtr &action) {
         return action->Tool()->Token() == powerButtonToken;
     });
-    if (runsButtons)
+    for (int i = 0; i < request.button.buttons.size(); ++i)
+        headless.oPowerButtons.Add(request.button.buttons.at(i), i + 1);
+    if (runsButtons && !hasButton)
         headless.session.loadPowerButtons();
     for (const ActionPtr &action : actions)
         refuseWindows(*action, headless.oPowerButtons);

@@ -4,6 +4,7 @@
 
 #include "base/application.h"
 #include "platform/headless/ConsoleBoxes.h"
+#include "powerbuttons/button_file.h"
 #include "shell/headless/steps.h"
 #include "text/statistics.h"
 
@@ -16,12 +17,13 @@
 
 namespace tolvo {
 
-/// A text and the steps that run on it.
+/// A text and the steps, or the PowerButton, that run on it.
 struct PipeRequest {
     QString text; ///< as the session holds it
     int selStart = 0;
     int selLength = 0;
-    QStringList steps; ///< TOKEN or TOKEN:SETTINGS
+    QStringList steps;         ///< TOKEN or TOKEN:SETTINGS
+    SharedButtons button = {}; ///< runs in place of the steps if there is one
     QString clipboard = {};
     int capacity = textLimit;
 };

@@ -6,6 +6,8 @@
 #include "powerbuttons/file_values.h"
 #include "powerbuttons/shared_steps.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QStringDecoder>
 #include <QStringList>
 
@@ -119,6 +121,18 @@ SharedButtons readButtonFile(const QByteArray &bytes, const Catalogue &tools) {
     if (decoder.hasError())
         return {{}, QStringLiteral("Line %1: this is not UTF-8").arg(firstBadLine(bytes))};
     return readButtonFile(text, tools);
+}
+
+SharedButtons loadButtonFile(const QString &path, const Catalogue &tools) {
+    const QFileInfo info(path);
+    if (!info.isFile()) // pipes and devices would wait for ever
+        return {{}, QStringLiteral("There is no file \"%1\"").arg(info.fileName())};
+    QFile file(path);
+    const bool opened = file.open(QIODevice::ReadOnly);
+    const QByteArray bytes = opened ? file.read(2 * longestText + 1) : QByteArray();
+    if (!opened || file.error() != QFileDevice::NoError)
+        return {{}, QStringLiteral("\"%1\" can't be read: %2").arg(info.fileName(), file.errorString())};
+    return readButtonFile(bytes, tools);
 }
 
 QString buttonFileText(const SharedButtons &shared) {

@@ -35,6 +35,9 @@ inline constexpr int mostSharedSteps = 1000;
 /// The same for the bytes of a file: UTF-8, or UTF-16 with its mark.
 [[nodiscard]] SharedButtons readButtonFile(const QByteArray &bytes, const Catalogue &tools);
 
+/// The same for a file. What can't be read is a trouble too.
+[[nodiscard]] SharedButtons loadButtonFile(const QString &path, const Catalogue &tools);
+
 /// The text of buttons without trouble, with LF line ends.
 [[nodiscard]] QString buttonFileText(const SharedButtons &shared);
 

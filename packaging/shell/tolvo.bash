@@ -38,6 +38,11 @@ _tolvo() {
         mapfile -t COMPREPLY < <(compgen -W "$(tolvo-pipe --list-dictionaries 2>/dev/null | cut -f 1)" -- "$cur")
         return
         ;;
+    --button-file)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$cur")
+        return
+        ;;
     --select) return ;;
     esac
     if [[ $cur == -* ]]; then

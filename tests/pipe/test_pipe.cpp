@@ -69,6 +69,35 @@ TEST_F(Pipe, runsStepsOnText) {
     EXPECT_EQ(run({"--list-buttons"}).out, "4\tShout\n");
 }
 
+TEST_F(Pipe, runsAButtonOfAFile) {
+    const QString path = folder.filePath("x.tolvobutton");
+    const QByteArray nested = "Tolvo PowerButton 1\nname: x\nstep: pbPBT\nsettings: own\nset: PowerButton=2\n"
+                              "step: foTRA\nbutton: 2\nstep: ccUPP\n";
+    const struct {
+        QByteArray file;
+        QStringList more;
+        QByteArray out, err;
+        int code;
+    } cases[] = {{nested, {}, "A\n", {}, 0},
+                 {nested, {"--select=0,0", "--json"}, "{\"text\":\"A\\r\\n\"", {}, 0},
+                 {nested, {"ccUPP"}, {}, "--button-file takes the place of the steps", 2},
+                 {nested, {"--batch"}, {}, "--button-file takes the place of the steps", 2},
+                 {nested + "run: ls", {}, {}, "x.tolvobutton: Line 9: \"run\" is not known here", 2},
+                 {"Tolvo PowerButton 1\nstep: chSPE", {}, {}, "chSPE (Spelling...) needs a window", 2}};
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.more.join(u' ').toStdString());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(row.file);
+        file.close();
+        const Result result = run(QStringList{"--button-file=" + path} + row.more, "a \n");
+        EXPECT_TRUE(result.out.startsWith(row.out) && result.out.isEmpty() == row.out.isEmpty());
+        EXPECT_TRUE(result.err.contains(QLatin1StringView(row.err))) << result.err.toStdString();
+        EXPECT_EQ(result.code, row.code);
+    }
+    EXPECT_EQ(run({"--button-file", folder.filePath("none")}, "a").code, 2);
+}
+
 TEST_F(Pipe, hasNoTextLimit) {
     // Large texts pass in pieces, whose edges fall on every byte of these characters.
     const QByteArray text = QByteArray("a\u00E9\u20AC\U0001F600\n").repeated(100000);

@@ -5,6 +5,9 @@
 #include "powerbuttons/shared_steps.h"
 #include "tests/powerbuttons/world.h"
 
+#include <QDir>
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 namespace tolvo {
@@ -88,6 +91,20 @@ TEST_F(ButtonFiles, comeBackWhole) {
     }
 }
 
+TEST_F(ButtonFiles, comeReadyMadeAsTheyAreWritten) {
+    const QDir folder(qEnvironmentVariable("TOLVO_SOURCE") + "/data/PowerButtons");
+    const QStringList names = folder.entryList(QDir::Files);
+    EXPECT_GE(names.size(), 8);
+    for (const QString &name : names) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly) && name.endsWith(buttonFileEnding));
+        const QString text = QString::fromUtf8(file.readAll());
+        const SharedButtons read = loadButtonFile(file.fileName(), tools);
+        ASSERT_EQ(read.trouble, QString()) << name.toStdString();
+        EXPECT_EQ(buttonFileText(read), text) << name.toStdString();
+    }
+}
+
 TEST_F(ButtonFiles, areRefusedByTheLine) {
     QString many;
     for (int i = 0; i < 10000; ++i)
@@ -136,6 +153,7 @@ TEST_F(ButtonFiles, areRefusedByTheLine) {
     }
     EXPECT_EQ(readButtonFile(QByteArray("Tolvo PowerButton 1\nname: \xC3\xA9\nicon: \xE9\n"), tools).trouble,
               "Line 3: this is not UTF-8");
+    EXPECT_EQ(loadButtonFile("/nowhere/x.tolvobutton", tools).trouble, "There is no file \"x.tolvobutton\"");
 }
 
 TEST_F(ButtonFiles, sayWhatTheyDo) {
