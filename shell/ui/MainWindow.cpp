@@ -35,6 +35,10 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox, const ClipboardLine
     m_powerButtons->onToolDropped = [this](int index, const QString &token) {
         m_session->addToPowerButton(index, token);
     };
+    m_powerButtons->onFileDropped = [this](int index, const QString &path) {
+        if (onButtonFileDropped)
+            onButtonFileDropped(index, path);
+    };
     m_powerButtons->onClick = [this](int index, bool right) {
         m_session->bRightButton = right;
         m_session->imgPower_Click(index);

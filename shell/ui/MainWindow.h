@@ -61,6 +61,8 @@ class MainWindow : public QWidget, public SessionView {
     /// Shows a line of hints there, which belongs to the window from now on.
     void putOverText(QWidget &strip);
     void putOverPowerButtons(QWidget &strip);
+    /// What the button beside the PowerButtons opens.
+    void setPowerButtonMenu(QMenu &menu);
     /// For work beside the keys, here and in the dialogs.
     [[nodiscard]] BackgroundWorker &worker() { return m_worker; }
 
@@ -84,6 +86,8 @@ class MainWindow : public QWidget, public SessionView {
 
     std::function<void()> onActivated; ///< each time the window becomes active
     std::function<void()> onPowerButtonChanged;
+    /// A file was dropped on the PowerButton of an index from 0.
+    std::function<void(int index, const QString &path)> onButtonFileDropped;
     std::function<void()> onClosed; ///< the session is over; the window still stands
 
   protected:
@@ -146,6 +150,7 @@ class MainWindow : public QWidget, public SessionView {
     ChangeView *m_changeView = nullptr;
     TextView *m_textView = nullptr; ///< once the session is there
     QToolButton *m_imgWordwrap = nullptr;
+    ImageButton *m_cmdMore = nullptr;
     QPushButton *m_cmdUndo = nullptr;
     QPushButton *m_cmdRedo = nullptr;
     QAction *m_undoAction = nullptr;

@@ -4,6 +4,7 @@
 #include "platform/desktop/font_conversion.h"
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
+#include "shell/ui/ImageButton.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/PanelSplitter.h"
 #include "shell/ui/change_view.h"
@@ -147,6 +148,11 @@ QWidget *MainWindow::powerRow() {
     auto *bar = new QWidget;
     auto *layout = row(bar);
     layout->addWidget(m_powerButtons);
+    m_cmdMore = new ImageButton(QStringLiteral("more"), QStringLiteral("More for PowerButtons"));
+    m_cmdMore->setObjectName(QStringLiteral("cmdMorePowerButtons"));
+    m_cmdMore->setToolTip(QStringLiteral("More: share PowerButtons, load those of others"));
+    m_cmdMore->setPopupMode(QToolButton::InstantPopup);
+    layout->addWidget(m_cmdMore);
     layout->addStretch(1);
     m_cmdUndo = button(
         "cmdUndo", QStringLiteral("&Undo"),
@@ -209,6 +215,7 @@ void MainWindow::arrangeTabOrder() {
         follow(QLatin1StringView(name));
     for (int i = 0; i < CPowerButtonCollection::buttonCount; ++i)
         follow(QStringLiteral("imgPower_%1").arg(i));
+    follow(QStringLiteral("cmdMorePowerButtons"));
     follow(QStringLiteral("txtFindTool"));
     for (int i = 1; i <= cToolbox::rowCount; ++i)
         follow(QStringLiteral("lblToolbox_%1").arg(i));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Lines of hints that come and go between the parts of the main window.
+#include "shell/ui/ImageButton.h"
 #include "shell/ui/MainWindow.h"
 
 #include <QBoxLayout>
@@ -14,6 +15,10 @@ void MainWindow::putOverText(QWidget &strip) {
 void MainWindow::putOverPowerButtons(QWidget &strip) {
     m_overPowerButtons = &strip;
     putBefore(strip, *m_powerRow);
+}
+
+void MainWindow::setPowerButtonMenu(QMenu &menu) {
+    m_cmdMore->setMenu(&menu);
 }
 
 void MainWindow::putBefore(QWidget &strip, QWidget &part) {

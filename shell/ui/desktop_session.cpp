@@ -6,6 +6,7 @@
 #include "shell/empty_text.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/power_button_hint.h"
+#include "shell/ui/power_button_menu.h"
 #include "shell/ui/trouble_watch.h"
 #include "shell/ui/window_memory.h"
 
@@ -78,6 +79,11 @@ void DesktopSession::attach(frmMain &session, cToolbox &toolbox) {
     m_session = &session;
     m_seenChanges = m_services.store.changesByOthers();
     m_window->attach(session, toolbox, m_clipboard.lineEnds());
+    m_powerButtonMenu = std::make_unique<PowerButtonMenu>(
+        session, *m_window, sAppPath(m_services.dataFolder) + QStringLiteral("PowerButtons"));
+    m_window->onButtonFileDropped = [this](int index, const QString &path) {
+        m_powerButtonMenu->loadFile(path, index + 1);
+    };
     m_window->toolFinder().attach(session,
                                   sAppPath(m_services.dataFolder) + QStringLiteral("OtherWords.txt"));
     m_dialogs.attach(session);

@@ -15,6 +15,7 @@ class DesktopClipboard;
 class EscapeWatch;
 class MainWindow;
 class PowerButtonHint;
+class PowerButtonMenu;
 class TroubleWatch;
 
 /// The window side of one run: the main window, and the dialogs that it opens.
@@ -47,6 +48,7 @@ class DesktopSession : public SessionWindow {
     DesktopClipboard &m_clipboard;
     std::unique_ptr<MainWindow> m_window;
     DesktopDialogs m_dialogs;
+    std::unique_ptr<PowerButtonMenu> m_powerButtonMenu;
     std::unique_ptr<PowerButtonHint> m_powerButtonHint;
     std::unique_ptr<TroubleWatch> m_troubles; ///< once the window is shown
     frmMain *m_session = nullptr;

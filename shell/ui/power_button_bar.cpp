@@ -2,6 +2,7 @@
 #include "shell/ui/power_button_bar.h"
 
 #include "platform/desktop/plain_tool_tip.h"
+#include "powerbuttons/button_file.h"
 #include "powerbuttons/step_words.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "shell/ui/any_click.h"
@@ -12,8 +13,11 @@
 #include "widgets/themed_icon.h"
 
 #include <QDropEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 
@@ -33,6 +37,17 @@ QString tooltip(const CPowerButton &button, int number) {
     return button.Count() == 0 ? keys : keys + u'\n' + stepWords(button);
 }
 
+/// The path of the first file of a PowerButton among what is dragged; empty if there is none.
+QString buttonFileOf(const QMimeData *dragged) {
+    if (dragged == nullptr)
+        return {};
+    for (const QUrl &url : dragged->urls()) {
+        if (url.isLocalFile() && url.path().endsWith(buttonFileEnding, Qt::CaseInsensitive))
+            return url.toLocalFile();
+    }
+    return {};
+}
+
 } // namespace
 
 PowerButtonImage::PowerButtonImage(int number, QWidget *parent) : QAbstractButton(parent), m_number(number) {
@@ -49,7 +64,7 @@ QSize PowerButtonImage::sizeHint() const {
 }
 
 QSize PowerButtonImage::minimumSizeHint() const {
-    constexpr int smallest = 28; // in a window as narrow as it can be
+    constexpr int smallest = 24; // in a window as narrow as it can be
     return {smallest, sizeHint().height()};
 }
 
@@ -64,7 +79,7 @@ void PowerButtonImage::showButton(const CPowerButton &button) {
 }
 
 void PowerButtonImage::dragEnterEvent(QDragEnterEvent *event) {
-    if (tokenOf(event->mimeData()).isEmpty())
+    if (tokenOf(event->mimeData()).isEmpty() && buttonFileOf(event->mimeData()).isEmpty())
         return;
     event->acceptProposedAction();
     showTaking(true);
@@ -77,8 +92,13 @@ void PowerButtonImage::dragLeaveEvent(QDragLeaveEvent *) {
 void PowerButtonImage::dropEvent(QDropEvent *event) {
     showTaking(false);
     event->acceptProposedAction();
-    if (onToolDropped)
-        onToolDropped(tokenOf(event->mimeData()));
+    const QString token = tokenOf(event->mimeData());
+    const QString file = buttonFileOf(event->mimeData());
+    if (!token.isEmpty() && onToolDropped)
+        onToolDropped(token);
+    else if (!file.isEmpty() && onFileDropped)
+        // Whoever was dragged from waits for the end of this event, not for a dialog.
+        QTimer::singleShot(0, this, [this, file] { onFileDropped(file); });
 }
 
 void PowerButtonImage::showTaking(bool taking) {
@@ -174,6 +194,10 @@ PowerButtonBar::PowerButtonBar(QWidget *parent) : QWidget(parent) {
         image->onToolDropped = [this, i](const QString &token) {
             if (onToolDropped)
                 onToolDropped(i, token);
+        };
+        image->onFileDropped = [this, i](const QString &path) {
+            if (onFileDropped)
+                onFileDropped(i, path);
         };
         layout->addWidget(image);
         m_images[static_cast<std::size_t>(i)] = image;

@@ -22,6 +22,8 @@ class PowerButtonImage : public QAbstractButton {
 
     /// A tool was dropped on it.
     std::function<void(const QString &token)> onToolDropped;
+    /// The file of a PowerButton was dropped on it.
+    std::function<void(const QString &path)> onFileDropped;
 
   protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -52,6 +54,8 @@ class PowerButtonBar : public QWidget {
     std::function<void(int index, bool right)> onClick;
     /// A tool was dropped on the button of an index from 0.
     std::function<void(int index, const QString &token)> onToolDropped;
+    /// The file of a PowerButton was dropped on the button of an index from 0.
+    std::function<void(int index, const QString &path)> onFileDropped;
 
   private:
     std::array<PowerButtonImage *, CPowerButtonCollection::buttonCount> m_images{};

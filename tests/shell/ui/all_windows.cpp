@@ -8,6 +8,8 @@
 #include "powerbuttons/ui/dlgChoosePB.h"
 #include "powerbuttons/ui/dlgEditIcon.h"
 #include "powerbuttons/ui/dlgPickCharacter.h"
+#include "powerbuttons/ui/dlgShareButton.h"
+#include "powerbuttons/ui/dlgTakeButton.h"
 #include "preferences/ui/ThirdPartiesWindow.h"
 #include "preferences/ui/frmAbout.h"
 #include "shell/ui/GoToLine.h"
@@ -162,6 +164,17 @@ void AllWindows::editors(const Act &act) {
         buttons.Add(std::make_shared<CPowerButton>(), number);
     dlgChoosePB choose(buttons, window());
     lookAt(choose, "choice of a PowerButton", act);
+    const auto shared = std::make_shared<CPowerButton>();
+    shared->Name = QStringLiteral("Own");
+    shared->Add(std::make_shared<CAction>(makeTool({}, QStringLiteral("ccUPP"), {}, false),
+                                          SettingsFrom::Prompt, QString()));
+    buttons.Add(shared, 2);
+    dlgShareButton share(buttons, 2, window());
+    lookAt(share, "sharing a PowerButton", act);
+    const SharedButtons coming{{shared}, {}};
+    dlgTakeButton take(coming, buttons, window());
+    withModal<QDialog>([&](QDialog &dialog) { lookAt(dialog, "loading a PowerButton", act); });
+    EXPECT_EQ(take.choosePlace(2), 0);
 }
 
 void AllWindows::spellingWindows(const Act &act) {
