@@ -2,8 +2,8 @@
 #include "shell/trouble_rules.h"
 
 #include "base/strings.h"
+#include "shell/line_matches.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 
 namespace tolvo {
@@ -24,33 +24,30 @@ Places atLeast(qsizetype count, const Places &places) {
     return places.size() >= count ? places : Places();
 }
 
-/// The places of all matches. Where the pattern has a group "mark", only that is the place.
-Places matches(const TextLines &text, const QRegularExpression &pattern) {
-    const qsizetype mark = pattern.namedCaptureGroups().indexOf(QStringLiteral("mark"));
-    const int group = std::max(0, static_cast<int>(mark)); // 0: all of the match
+/// The places of all that `matches` finds in the lines.
+template <class Matches>
+Places inLines(const TextLines &text, Matches matches) {
     Places places;
     for (qsizetype i = 0; i < text.lines.size(); ++i) {
-        for (auto walk = pattern.globalMatch(text.lines[i].toString()); walk.hasNext();) {
-            const QRegularExpressionMatch match = walk.next();
-            places += part(i, match.capturedStart(group), match.capturedLength(group));
-        }
+        for (const LineMatch &match : matches(text.lines[i]))
+            places += part(i, match.column, match.length);
     }
     return places;
 }
 
-Places matches(const TextLines &text, const char16_t *pattern) {
-    return matches(text, QRegularExpression(QString::fromUtf16(pattern)));
+Places anywhere(const TextLines &text, QStringView characters) {
+    return inLines(text, [=](QStringView line) { return anyOf(line, characters); });
 }
 
 /// The numbers at the front of lines, where most go on counting from the one before.
-Places countedMarks(const TextLines &text, const char16_t *pattern, qsizetype least) {
-    const Places places = atLeast(least, matches(text, pattern));
+Places countedMarks(const TextLines &text, qsizetype mostDigits, QStringView signs, qsizetype least) {
+    const auto marks = [=](QStringView line) { return leadingNumber(line, mostDigits, signs); };
+    const Places places = atLeast(least, inLines(text, marks));
     qsizetype steps = 0;
     for (qsizetype i = 1; i < places.size(); ++i) {
         const auto number = [&](const LinePart &place) {
             const QStringView mark = text.lines[place.line].sliced(place.column, place.length);
-            const auto end = std::find_if_not(mark.begin(), mark.end(), [](QChar c) { return c.isDigit(); });
-            return mark.first(end - mark.begin()).toInt();
+            return mark.first(countFrom(mark, 0, isAsciiDigit)).toInt();
         };
         steps += number(places[i]) == number(places[i - 1]) + 1 ? 1 : 0;
     }
@@ -87,7 +84,7 @@ TextLines::TextLines(QStringView text) : lines(splitLines(text)) {
 }
 
 Places mailQuotes(const TextLines &text) {
-    const Places places = atLeast(2, matches(text, u"^(?:> ?)+"));
+    const Places places = atLeast(2, inLines(text, quoteMarks));
     return places.size() * 10 >= text.filled ? places : Places();
 }
 
@@ -121,22 +118,23 @@ Places wrappedLines(const TextLines &text) {
 
 Places lineNumbers(const TextLines &text) {
     constexpr qsizetype least = 4;
-    const Places places = countedMarks(text, u"^[ \\t]*(?<mark>\\d{1,6})(?=[ \\t]|$)", least);
+    constexpr qsizetype mostDigits = 6;
+    const Places places = countedMarks(text, mostDigits, {}, least);
     return places.size() * 5 >= qsizetype{text.filled} * 4 ? places : Places();
 }
 
 /// One is enough: it is nothing that anybody writes, but in the source of a web page.
 Places htmlCodes(const TextLines &text) {
-    if (!matches(text, u"</[a-zA-Z]|/>").isEmpty())
+    if (std::any_of(text.lines.begin(), text.lines.end(), hasClosingTag))
         return {};
-    return matches(text, u"&(?:#\\d{1,7}|#[xX][0-9a-fA-F]{1,6}|[a-zA-Z]{2,8}\\d{0,2});");
+    return inLines(text, characterReferences);
 }
 
 /// Addresses in a text work as they are; one that was copied alone is to be read.
 Places addressCodes(const TextLines &text) {
     if (text.filled != 1 || trimWhiteSpace(text.lines.front()).contains(u' '))
         return {};
-    return atLeast(2, matches(text, u"%[0-9a-fA-F]{2}"));
+    return atLeast(2, inLines(text, percentCodes));
 }
 
 Places allCapitals(const TextLines &text) {
@@ -160,14 +158,16 @@ Places allCapitals(const TextLines &text) {
 }
 
 Places mixedLineEnds(const TextLines &text) {
-    return matches(text, u"[\\r\\n]");
+    return anywhere(text, u"\r\n");
 }
 
 Places doubleBlanks(const TextLines &text) {
     if (text.isListing)
         return {};
-    const Places places = matches(text, u"(?<=[^ \\t]) {2}(?=[^ \\t])");
-    const bool columns = matches(text, u"(?<=[^ \\t]) {3,}(?=[^ \\t])").size() > places.size();
+    Places places = inLines(text, innerBlanks);
+    const qsizetype all = places.size();
+    places.removeIf([](const LinePart &place) { return place.length > 2; });
+    const bool columns = all > 2 * places.size();
     return columns ? Places() : atLeast(2, places);
 }
 
@@ -186,21 +186,22 @@ Places blankLines(const TextLines &text) {
 
 Places listNumbers(const TextLines &text) {
     constexpr qsizetype least = 3;
-    return countedMarks(text, u"^[ \\t]*(?<mark>\\d{1,3}[.)])(?=[ \\t])", least);
+    constexpr qsizetype mostDigits = 3;
+    return countedMarks(text, mostDigits, u".)", least);
 }
 
 /// Those that another program has written: a minus sign or an asterisk may be the user's own.
 Places bullets(const TextLines &text) {
     constexpr qsizetype least = 3;
-    return atLeast(least, matches(text, u"^[ \\t]*(?<mark>[\u2022\u00B7])(?=[ \\t])"));
+    return atLeast(least, inLines(text, [](QStringView line) { return leadingSign(line, u"\u2022\u00B7"); }));
 }
 
 Places trailingBlanks(const TextLines &text) {
-    return atLeast(2, matches(text, u"(?<=[^ \\t\u00A0])[ \\t\u00A0]+$"));
+    return atLeast(2, inLines(text, blanksAtEnd));
 }
 
 Places curlyQuotes(const TextLines &text) {
-    return atLeast(2, matches(text, u"[\u2018\u2019\u201A\u201C\u201D\u201E]"));
+    return atLeast(2, anywhere(text, u"\u2018\u2019\u201A\u201C\u201D\u201E"));
 }
 
 } // namespace tolvo

@@ -70,15 +70,40 @@ void FoldingRow::setGeometry(const QRect &area) {
         place.item->setGeometry(QStyle::visualRect(direction, area, place.area.translated(area.topLeft())));
 }
 
+class FoldingColumn::Column final : public QVBoxLayout {
+  public:
+    explicit Column(FoldingColumn &owner) : QVBoxLayout(&owner), m_owner(owner) {}
+    void invalidate() override {
+        m_owner.m_least.reset();
+        QVBoxLayout::invalidate();
+    }
+
+  private:
+    FoldingColumn &m_owner;
+};
+
+FoldingColumn::FoldingColumn(const QWidget &neighbour) : m_neighbour(neighbour) {
+    new Column(*this);
+}
+
 QSize FoldingColumn::minimumSizeHint() const {
+    const Surroundings around{.width = width(),
+                              .neighbour = m_neighbour.minimumSizeHint().width(),
+                              .room = roomOnScreen(*this).width()};
+    if (!m_least || m_least->first != around)
+        m_least.emplace(around, leastSize(around));
+    return m_least->second;
+}
+
+QSize FoldingColumn::leastSize(const Surroundings &around) const {
     QSize least = QWidget::minimumSizeHint();
     int unfolded = least.width();
     for (const FoldingRow *row : findChildren<FoldingRow *>())
         unfolded = std::max(unfolded, row->unfoldedWidth());
     const int margins = 4 * Grid(*this).margin();
-    if (m_neighbour.minimumSizeHint().width() + unfolded + margins <= roomOnScreen(*this).width())
+    if (around.neighbour + unfolded + margins <= around.room)
         least.setWidth(unfolded);
-    const int here = std::max(width(), least.width());
+    const int here = std::max(around.width, least.width());
     return {least.width(), std::max(least.height(), layout()->totalMinimumHeightForWidth(here))};
 }
 

@@ -3,6 +3,8 @@
 
 #include <QHBoxLayout>
 #include <QWidget>
+#include <optional>
+#include <utility>
 
 namespace tolvo {
 
@@ -33,19 +35,31 @@ class FoldingRow final : public QHBoxLayout {
 };
 
 /// Holds folding rows, and is never lower than they are at its width: what holds it need not ask for that.
-/// Where the screen has room for them beside the neighbour, rows don't fold.
+/// Where the screen has room for them beside the neighbour, rows don't fold. Its layout is a column.
 class FoldingColumn final : public QWidget {
     Q_OBJECT
 
   public:
-    explicit FoldingColumn(const QWidget &neighbour) : m_neighbour(neighbour) {}
+    explicit FoldingColumn(const QWidget &neighbour);
     [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void resizeEvent(QResizeEvent *event) override;
 
   private:
+    class Column;
+    /// What the least size depends on besides the contents.
+    struct Surroundings {
+        int width;
+        int neighbour;
+        int room;
+        bool operator==(const Surroundings &) const = default;
+    };
+    [[nodiscard]] QSize leastSize(const Surroundings &around) const;
+
     const QWidget &m_neighbour;
+    /// Asked for some dozen times while a window is laid out; goes when the contents change.
+    mutable std::optional<std::pair<Surroundings, QSize>> m_least;
 };
 
 } // namespace tolvo

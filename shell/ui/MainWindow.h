@@ -110,7 +110,6 @@ class MainWindow : public QWidget, public SessionView {
                          std::function<void()> clicked);
     void keepSmallestSize();
     void arrangeTabOrder();
-    void oneStop(const QStringList &names);
     void offerUndoInTextBoxes();
     void connectAltLetters();
     struct OwnKey;

@@ -20,6 +20,7 @@
 #include <QAccessibleWidget>
 #include <QAction>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -64,7 +65,7 @@ MainWindow::MainWindow(EscapeWatch &escape)
     m_powerRow = powerRow();
     m_buttonRow = buttonRow();
     auto *rightSide = new FoldingColumn(*m_toolFinder);
-    auto *right = new QVBoxLayout(rightSide);
+    auto *right = static_cast<QVBoxLayout *>(rightSide->layout());
     right->setContentsMargins(0, 0, 0, 0);
     right->setSpacing(grid.gap());
     right->addWidget(m_topBar);
@@ -204,10 +205,13 @@ QWidget *MainWindow::buttonRow() {
 }
 
 void MainWindow::arrangeTabOrder() {
+    QHash<QString, QWidget *> byName;
+    for (QWidget *control : findChildren<QWidget *>())
+        byName.insert(control->objectName(), control);
     QWidget *before = m_txtTextWW;
     setTabOrder(m_txtText1, m_txtTextWW);
-    const auto follow = [this, &before](const QString &name) {
-        auto *next = findChild<QWidget *>(name);
+    const auto follow = [&byName, &before](const QString &name) {
+        QWidget *next = byName.value(name);
         setTabOrder(before, next);
         before = next;
     };
@@ -230,18 +234,17 @@ void MainWindow::arrangeTabOrder() {
             names += name.arg(i);
         return names;
     };
+    // Controls that are one stop of the Tab key.
+    const auto oneStop = [this, &byName](const QStringList &names) {
+        QList<QWidget *> members;
+        for (const QString &name : names)
+            members += byName.value(name);
+        new RovingFocus(members, this);
+    };
     oneStop(numbered(QStringLiteral("imgFavourites_%1"), static_cast<int>(favourites.size())));
     oneStop({QStringLiteral("imgWordwrap"), QStringLiteral("imgOptions"), QStringLiteral("imgHelp"),
              QStringLiteral("imgAbout")});
     oneStop(numbered(QStringLiteral("imgPower_%1"), CPowerButtonCollection::buttonCount));
-}
-
-/// Makes controls one stop of the Tab key.
-void MainWindow::oneStop(const QStringList &names) {
-    QList<QWidget *> members;
-    for (const QString &name : names)
-        members += findChild<QWidget *>(name);
-    new RovingFocus(members, this);
 }
 
 } // namespace tolvo
