@@ -16,12 +16,15 @@ namespace {
 
 using Collator = std::unique_ptr<UCollator, decltype(&ucol_close)>;
 
-Collator naturalCollator() {
+Collator collatorFor(const Collation &collation) {
     UErrorCode error = U_ZERO_ERROR;
-    Collator collator(ucol_open("", &error), &ucol_close);
+    Collator collator(ucol_open(collation.language.toLatin1().constData(), &error), &ucol_close);
     if (U_FAILURE(error) || collator == nullptr)
         throw std::bad_alloc();
-    ucol_setAttribute(collator.get(), UCOL_NUMERIC_COLLATION, UCOL_ON, &error);
+    if (collation.numbersByValue)
+        ucol_setAttribute(collator.get(), UCOL_NUMERIC_COLLATION, UCOL_ON, &error);
+    if (collation.ignoresCase)
+        ucol_setStrength(collator.get(), UCOL_SECONDARY);
     return collator;
 }
 
@@ -50,11 +53,27 @@ bool isWide(char32_t character) {
 
 } // namespace
 
-QList<QStringView> sortedByCollation(const QList<QStringView> &texts) {
-    const Collator collator = naturalCollator();
+QList<QByteArray> collationKeys(const QList<QStringView> &texts, const Collation &collation) {
+    const Collator collator = collatorFor(collation);
     QList<QByteArray> keys;
+    keys.reserve(texts.size());
     for (const QStringView text : texts)
         keys += sortKey(*collator, text);
+    return keys;
+}
+
+QStringList collationLanguages() {
+    QStringList languages;
+    for (std::int32_t i = 0; i < ucol_countAvailable(); ++i) {
+        const QString locale = QString::fromLatin1(ucol_getAvailable(i));
+        if (!locale.contains(u'_'))
+            languages += locale;
+    }
+    return languages;
+}
+
+QList<QStringView> sortedByCollation(const QList<QStringView> &texts) {
+    const QList<QByteArray> keys = collationKeys(texts, {.language = {}, .numbersByValue = true});
     QList<qsizetype> order(keys.size());
     std::iota(order.begin(), order.end(), qsizetype{0});
     std::stable_sort(order.begin(), order.end(),

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "search/CSearch.h"
 
+#include "base/escaped_text.h"
 #include "base/numbers.h"
 #include "base/strings.h"
 #include "platform/report_error.h"
-#include "search/escaped_text.h"
 #include "search/result_lines.h"
 
 namespace tolvo {

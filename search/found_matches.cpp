@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "search/found_matches.h"
 
+#include "base/escaped_text.h"
 #include "base/failure.h"
 #include "platform/line_ends.h"
-#include "search/escaped_text.h"
 #include "search/expression_search.h"
 #include "search/literal_pattern.h"
 #include "text/cTextMethods.h"

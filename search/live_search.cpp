@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "search/live_search.h"
 
+#include "base/escaped_text.h"
 #include "base/numbers.h"
-#include "search/escaped_text.h"
 #include "text/cTextMethods.h"
 #include "text/silent_text_host.h"
 

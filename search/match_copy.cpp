@@ -2,9 +2,9 @@
 #include "search/match_copy.h"
 
 #include "base/CParams.h"
+#include "base/escaped_text.h"
 #include "platform/line_ends.h"
 #include "preferences/settings_keys.h"
-#include "search/escaped_text.h"
 #include "search/expression_search.h"
 #include "search/literal_pattern.h"
 #include "search/replacement_template.h"

@@ -3,7 +3,7 @@
 // for their names alone: the program itself makes requests.
 #include "search/CSearch.h"
 
-#include "search/escaped_text.h"
+#include "base/escaped_text.h"
 
 namespace tolvo {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/search_tools.h"
 
+#include "base/escaped_text.h"
 #include "base/numbers.h"
 #include "platform/clipboard.h"
 #include "powerbuttons/CAction.h"
 #include "search/CSearch.h"
-#include "search/escaped_text.h"
 #include "shell/session_windows.h"
 #include "shell/tool_call.h"
 

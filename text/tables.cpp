@@ -105,6 +105,30 @@ qsizetype agreement(const QList<QStringView> &lines, const Split &split) {
     return most;
 }
 
+constexpr std::array<Split, 5> splits{{{u"\t", cellsByTabs},
+                                       {u"|", cellsByBars},
+                                       {u";", cellsBySemicolons},
+                                       {u",", cellsByCommas},
+                                       {u"  ", cellsByBlanks}}};
+
+/// The one that parts most lines into the same number of cells.
+const Split &bestSplit(const QList<QStringView> &lines) {
+    const Split *best = splits.data();
+    qsizetype mostAgreement = 0;
+    for (const Split &split : splits) {
+        const qsizetype rows = agreement(lines, split);
+        if (rows > mostAgreement) {
+            mostAgreement = rows;
+            best = &split;
+        }
+    }
+    return *best;
+}
+
+QStringList cellsOf(QStringView line, const Split &split) {
+    return trimWhiteSpace(line).isEmpty() ? QStringList() : split.cells(line);
+}
+
 bool isLineUnderHead(const QStringList &cells) {
     static const QRegularExpression dashes(QStringLiteral("^:?-{3,}:?$"));
     return std::all_of(cells.begin(), cells.end(),
@@ -162,27 +186,23 @@ QString withoutTabs(const QString &cell) {
 
 Table readTable(QStringView text) {
     const QList<QStringView> lines = splitLines(text);
-    const std::array<Split, 5> splits{{{u"\t", cellsByTabs},
-                                       {u"|", cellsByBars},
-                                       {u";", cellsBySemicolons},
-                                       {u",", cellsByCommas},
-                                       {u"  ", cellsByBlanks}}};
-    const Split *best = splits.data();
-    qsizetype mostAgreement = 0;
-    for (const Split &split : splits) {
-        const qsizetype rows = agreement(lines, split);
-        if (rows > mostAgreement) {
-            mostAgreement = rows;
-            best = &split;
-        }
-    }
+    const Split &split = bestSplit(lines);
     Table table;
     for (const QStringView line : lines) {
-        const QStringList cells = trimWhiteSpace(line).isEmpty() ? QStringList() : best->cells(line);
-        if (cells.isEmpty() || table.size() != 1 || best->cells != cellsByBars || !isLineUnderHead(cells))
+        const QStringList cells = cellsOf(line, split);
+        if (cells.isEmpty() || table.size() != 1 || split.cells != cellsByBars || !isLineUnderHead(cells))
             table += cells;
     }
     return table;
+}
+
+QStringList cellsOfColumn(QStringView text, int column) {
+    const QList<QStringView> lines = splitLines(text);
+    const Split &split = bestSplit(lines);
+    QStringList cells;
+    for (const QStringView line : lines)
+        cells += cellsOf(line, split).value(column - 1);
+    return cells;
 }
 
 QString alignedTable(QStringView text) {

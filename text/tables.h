@@ -17,6 +17,10 @@ using Table = QList<QStringList>;
 /// A quote that is not closed is an ordinary character.
 [[nodiscard]] Table readTable(QStringView text);
 
+/// For each line its cell in a column, which counts from 1; empty where a line has none.
+///   cellsOfColumn(u"a;b|c", 2) == {u"b", u""}
+[[nodiscard]] QStringList cellsOfColumn(QStringView text, int column);
+
 /// The table with its columns aligned by blanks, as wide as a fixed-width font shows them, two blanks between
 /// them; columns of numbers at the right.
 [[nodiscard]] QString alignedTable(QStringView text);

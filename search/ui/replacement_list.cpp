@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/ui/replacement_list.h"
 
-#include "search/escaped_text.h"
+#include "base/escaped_text.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "search/ui/search_list_edit.h"
 
+#include "base/escaped_text.h"
 #include "platform/line_ends.h"
-#include "search/escaped_text.h"
 #include "search/ui/history_delegate.h"
 
 #include <QLineEdit>

@@ -4,6 +4,9 @@
 #include "tests/support/print.h"
 #include "text/coding.h"
 #include "text/letters.h"
+#include "text/line_choice.h"
+#include "text/line_order.h"
+#include "text/line_parts.h"
 #include "text/line_sets.h"
 #include "text/tables.h"
 
@@ -26,11 +29,18 @@ class RandomText {
             text += units.at(below(static_cast<int>(units.size())));
         return text.replace(u'|', u"\r\n"_s);
     }
+    bool flag() { return below(2) == 1; }
     int below(int n) { return static_cast<int>(m_random() % static_cast<unsigned>(n)); }
 
   private:
     std::mt19937 m_random{20261123};
 };
+
+/// What Python sees otherwise of these cases.
+std::string seenOtherwise(const QJsonArray &cases) {
+    const QString script = qEnvironmentVariable("TOLVO_SOURCE") + "/tests/text/against_python.py";
+    return outputOf("python3", {script}, QJsonDocument(cases).toJson()).trimmed().toStdString();
+}
 
 TEST(AgainstPython, ToolsComeToTheSame) {
     if (!isInstalled("python3"))
@@ -67,8 +77,47 @@ TEST(AgainstPython, ToolsComeToTheSame) {
         if (readTable(csvTable(table)) != readTable(table))
             ADD_FAILURE() << shown(table);
     }
-    const QString script = qEnvironmentVariable("TOLVO_SOURCE") + "/tests/text/against_python.py";
-    EXPECT_EQ(outputOf("python3", {script}, QJsonDocument(cases).toJson()).trimmed(), "[]");
+    EXPECT_EQ(seenOtherwise(cases), "[]");
+}
+
+TEST(AgainstPython, LineToolsComeToTheSame) {
+    if (!isInstalled("python3"))
+        GTEST_SKIP() << "python3 is not installed";
+    const QStringList units = {"a", "A", "b",  "|", "|",      "|",  " ",  ",",
+                               "ß", "é", "中", "😀", "\uFF21", "10", "-9", "\t"};
+    RandomText random;
+    QJsonArray cases;
+    for (int i = 0; i < 4000; ++i) {
+        const QString text = random.of(units);
+        const auto add = [&](const char *tool, const QJsonArray &settings, const QString &result) {
+            cases.append(QJsonArray{tool, text, result, settings});
+        };
+        const bool a = random.flag();
+        const bool b = random.flag();
+        const bool c = random.flag();
+        const bool d = random.flag();
+        const int head = random.below(3);
+        const bool byNumber = random.flag();
+        add("sortedLines", {a, b, c, head, byNumber},
+            sortedLines(text, {.order = byNumber ? SortLinesSettings::Order::Number
+                                                 : SortLinesSettings::Order::Characters,
+                               .language = {},
+                               .head = head,
+                               .descending = a,
+                               .ignoreCase = b,
+                               .unique = c}));
+        add("duplicates", {a, b, c, d, byNumber, head == 0},
+            withoutDuplicates(text, {a, b, c, d, byNumber, head == 0}));
+        const int first = random.below(4) + 1;
+        add("everyLine", {a, head + 1, first}, everyLine(text, {a, head + 1, first}));
+        const int step = random.below(7) - 3;
+        const int width = random.below(4);
+        add("around", {head - 1, step, width, a},
+            withTextAround(text, {u"<{n} "_s, u"{n}>"_s, head - 1, step, width, a}));
+        add("parts", {a, b, c}, splitOrJoined(text, {a, u", "_s, b, c}));
+        add("reversed", {}, withWordsReversed(text));
+    }
+    EXPECT_EQ(seenOtherwise(cases), "[]");
 }
 
 } // namespace

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "search/escaped_text.h"
+#include "base/escaped_text.h"
 
 #include "base/failure.h"
 #include "base/numbers.h"
-#include "search/joined.h"
 
 #include <algorithm>
 
@@ -64,7 +63,8 @@ QString withHexEscapes(QStringView text, QStringView prefix, qsizetype digits) {
         const QStringView rest = text.sliced(at + prefix.size());
         QString hex = rest.first(std::min(digits, rest.size())).toString();
         if (!IsHex(hex))
-            throw Failure(failureNumber::badHexadecimalEscape, joined({u"Invalid hex in ", prefix, hex}));
+            throw Failure(failureNumber::badHexadecimalEscape,
+                          QStringLiteral("Invalid hex in %1%2").arg(prefix, hex));
         result += text.sliced(done, at - done);
         done = at + prefix.size() + hex.size();
         result += QChar(static_cast<char16_t>(HexToNumber(hex)));
