@@ -43,7 +43,7 @@ class Pipe : public ::testing::Test {
         const Result result = run(listOf(row[0]), listOf(row[1]).first().toUtf8());
         EXPECT_EQ(QString::fromUtf8(result.out), listOf(row[2]).first());
         EXPECT_EQ(result.code, row[3].toInt()) << result.err.toStdString();
-        EXPECT_TRUE(result.code == 0 || result.err.startsWith("tolvo-pipe: "));
+        EXPECT_TRUE(result.code < 2 || result.err.startsWith("tolvo-pipe: "));
     }
 
     void definesShout() const {

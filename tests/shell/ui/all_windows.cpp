@@ -184,7 +184,7 @@ void AllWindows::spellingWindows(const Act &act) {
     EXPECT_EQ(boxes.said(), QStringLiteral("Spelling and grammar check complete"));
     dlgDicQuickList languages(spelling, window());
     lookAt(languages, "language", act);
-    dlgHunspellLanguage locales(store, window());
+    dlgHunspellLanguage locales(spelling, window());
     lookAt(locales, "languages of Hunspell", act);
     dlgSpellLanguage dictionaries(spelling, window());
     lookAt(dictionaries, "languages of Word", act);
