@@ -33,6 +33,8 @@ class OptionsActions {
     virtual void importPrefs(const QString &file) = 0;
     /// Opens the language list of a spelling provider, 0 to 3.
     virtual void configureProvider(int provider) = 0;
+    /// Opens the list of the words that the user has added to the dictionaries.
+    virtual void editOwnWords() = 0;
 };
 
 class dlgPreferences : public QDialog {

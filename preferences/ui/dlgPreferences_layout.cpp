@@ -237,8 +237,11 @@ QWidget *dlgPreferences::spellingPage() {
         grid->addWidget(m_optSpellingProvider[at], i, 0);
         grid->addWidget(browse, i, 1);
     }
+    auto *ownWords = make<QPushButton>("cmdOwnWords", QStringLiteral("Your own &words..."));
+    connect(ownWords, &QPushButton::clicked, this, [this] { m_actions.editOwnWords(); });
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(box);
+    layout->addWidget(ownWords, 0, Qt::AlignLeft);
     layout->addWidget(note(QStringLiteral(
         "After the Deadline sends the text to a web service. The other providers leave it on this "
         "computer.")));

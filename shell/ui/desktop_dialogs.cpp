@@ -16,7 +16,9 @@
 #include "shell/ui/dialog_sizes.h"
 #include "shell/ui/dlgConfirmClose.h"
 #include "shell/ui/window_memory.h"
+#include "spelling/language_rows.h"
 #include "spelling/spelling_provider.h"
+#include "spelling/ui/UserDictionaryWindow.h"
 #include "spelling/ui/dlgDicQuickList.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
@@ -108,7 +110,9 @@ void DesktopDialogs::showOptions() {
 
 void DesktopDialogs::prepareOptions() {
     if (!m_preferences) {
-        m_options.emplace(m_services, *m_session, [this](int provider) { configureProvider(provider); });
+        m_options.emplace(
+            m_services, *m_session, [this](int provider) { configureProvider(provider); },
+            [this] { editOwnWords(); });
         m_preferences = std::make_unique<dlgPreferences>(*m_options, m_services.boxes, &m_parent);
     }
     const QString startDate = textOf(m_services.store, settingKeys.statistics.startDate);
@@ -122,6 +126,14 @@ void DesktopDialogs::configureProvider(int provider) {
         dlgHunspellLanguage(m_services.spelling, m_preferences.get()).exec();
     if (m_languageDialog)
         m_languageDialog->readLanguagesAnew();
+}
+
+/// Of the language of the latest check.
+void DesktopDialogs::editOwnWords() {
+    const SpellingServices &spelling = m_services.spelling;
+    const QString chosen = chosenLocale(spelling, LanguageList(spelling.store).storedLangID());
+    const QString locale = chosen.isEmpty() ? settingKeys.spelling.hunLocale.otherwise() : chosen;
+    UserDictionaryWindow(spelling, locale, m_preferences.get()).exec();
 }
 
 void DesktopDialogs::showAbout() {

@@ -51,6 +51,7 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     std::optional<QString> editLanguage(const QString &details);
     void prepareOptions();
     void configureProvider(int provider);
+    void editOwnWords();
     void keepSearchClear();
     void copyMatchesOfWindow(const MatchCopy &copy);
     void takeFocusBack();

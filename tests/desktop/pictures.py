@@ -158,6 +158,17 @@ def options(run, photographer):
         run.active("Options")
 
 
+    run.page("Spelling")
+    run.click("Your own words...")
+    run.active("Your Own Words")
+    for word in "Tolvo", "clipboards", "wordwrap":
+        type_text(word)
+        keys("Return")
+    photographer.take("own-words", "Your Own Words")
+    keys("Escape")
+    run.active("Options")
+
+
 def key_sheet(run, photographer):
     keys("ctrl+question")
     photographer.take("keys", "Keyboard shortcuts")

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "spelling_world.h"
 
+#include "spelling/UserDictionary.h"
 #include "spelling/user_dictionaries.h"
 #include "spelling/word_list.h"
 
@@ -53,8 +54,33 @@ TEST_F(UserDictionaries, LoseAndKeepWords) {
         failureNumber::fileNotFound, [&] { removeWords(path + u("x"), {u("a")}); }, path + u("x"));
 }
 
+TEST_F(UserDictionaries, AreEditedAsLists) {
+    UserDictionary words(services, u("de-at"));
+    EXPECT_EQ(words.words(), QStringList());
+    EXPECT_EQ(words.add({u("zebra"), u(" apfel "), u("zwei worte"), u(""), u("zebra")}), 2);
+    EXPECT_EQ(words.add({u("apfel"), u("Birne")}), 1);
+    EXPECT_EQ(words.words(), QStringList({u("apfel"), u("Birne"), u("zebra")}));
+    words.exportTo(path);
+    EXPECT_EQ(fileContents(path), "apfel\nBirne\nzebra\n");
+    words.remove({u("apfel"), u("zebra")});
+    EXPECT_EQ(words.words(), QStringList(u("Birne")));
+    EXPECT_EQ(UserDictionary::wordsOf(path), QStringList({u("apfel"), u("Birne"), u("zebra")}));
+    writeFile(path, "caf\xe9\r\n\r\ntwo words\ncaf\xc3\xa9");
+    EXPECT_EQ(UserDictionary::wordsOf(path), QStringList(u("caf\u00e9")));
+    const QString nowhere = folder.filePath(u("no/where"));
+    expectFailure(failureNumber::fileAccess, [&] { words.exportTo(nowhere); }, {});
+}
+
+TEST_F(UserDictionaries, AreOfferedForEachLanguage) {
+    writeFile(dictionaries() + u("/persdict_fr_ch.dat"), "mot\r\n");
+    QStringList offered;
+    for (const UserLanguage &language : userLanguages(services))
+        offered += language.locale;
+    EXPECT_EQ(offered.join(u' '), u("de-at en-gb fr-ch"));
+}
+
 TEST_F(UserDictionaries, TakeWordsOfSeveralRunsAtTheSameTime) {
-    constexpr int words = 100;
+    constexpr int words = 40;
     writeFile(path, "first"); // without a line end
     const auto run = [this](const char *name) {
         for (int i = 0; i < words; ++i) {

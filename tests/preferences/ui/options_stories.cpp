@@ -35,6 +35,7 @@ struct Actions : OptionsActions {
     void viewStatistics() override { done += QStringLiteral("view"); }
     void exportPrefs(const QString &, bool) override {}
     void importPrefs(const QString &) override {}
+    void editOwnWords() override { done += QStringLiteral("own words"); }
     void configureProvider(int provider) override { done += QStringLiteral("provider %1").arg(provider); }
 
     QList<ProgramOptions> applied;

@@ -14,6 +14,7 @@
 #include "preferences/ui/frmAbout.h"
 #include "shell/ui/GoToLine.h"
 #include "shell/ui/dlgConfirmClose.h"
+#include "spelling/ui/UserDictionaryWindow.h"
 #include "spelling/ui/dlgDicQuickList.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgReadDicsProgress.h"
@@ -186,6 +187,8 @@ void AllWindows::spellingWindows(const Act &act) {
     lookAt(languages, "language", act);
     dlgHunspellLanguage locales(spelling, window());
     lookAt(locales, "languages of Hunspell", act);
+    UserDictionaryWindow ownWords(spelling, QStringLiteral("en-gb"), window());
+    lookAt(ownWords, "own words", act);
     dlgSpellLanguage dictionaries(spelling, window());
     lookAt(dictionaries, "languages of Word", act);
     dlgReadDicsProgress progress(window());
