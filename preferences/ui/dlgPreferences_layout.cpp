@@ -241,10 +241,11 @@ QWidget *dlgPreferences::spellingPage() {
     connect(ownWords, &QPushButton::clicked, this, [this] { m_actions.editOwnWords(); });
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(box);
-    layout->addWidget(ownWords, 0, Qt::AlignLeft);
     layout->addWidget(note(QStringLiteral(
         "After the Deadline sends the text to a web service. The other providers leave it on this "
         "computer.")));
+    layout->addSpacing(fontMetrics().lineSpacing());
+    layout->addWidget(ownWords, 0, Qt::AlignLeft);
     layout->addStretch(1);
     return page;
 }

@@ -128,12 +128,17 @@ void UserDictionaryWindow::refresh(const QStringList &chosen) {
     wordTyped();
 }
 
-/// A word that is there already is shown instead of being added.
+/// The list follows what is typed; a word that is there already is chosen instead of being added.
 void UserDictionaryWindow::wordTyped() {
     const QString word = txtWord->text().trimmed();
-    const QList<QListWidgetItem *> same =
-        lstWords->findItems(word, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    const auto same = lstWords->findItems(word, Qt::MatchFixedString | Qt::MatchCaseSensitive);
     cmdAdd->setEnabled(UserDictionary::isWord(word) && same.isEmpty());
+    if (word.isEmpty())
+        return;
+    lstWords->clearSelection();
+    const auto begun = same.isEmpty() ? lstWords->findItems(word, Qt::MatchStartsWith) : same;
+    if (!begun.isEmpty())
+        lstWords->scrollToItem(begun.first(), QListWidget::PositionAtTop);
     if (!same.isEmpty())
         lstWords->setCurrentItem(same.first());
 }

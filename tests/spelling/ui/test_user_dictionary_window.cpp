@@ -45,6 +45,9 @@ TEST_F(OwnWords, AreAddedAndRemovedByKeys) {
         EXPECT_EQ(shown(window), u("abc kind new zqx"));
         EXPECT_EQ(said(window), u("4 words: added new"));
         EXPECT_EQ(field.text(), QString());
+        EXPECT_EQ(list.currentItem()->text(), u("new"));
+        QTest::keyClicks(&field, u("ki"));
+        EXPECT_TRUE(list.selectedItems().isEmpty()); // nothing to be removed by mistake
         for (const char *wrong : {"two words", "kind", " "}) {
             type(window, "txtWord", u(wrong));
             EXPECT_FALSE(add.isEnabled()) << wrong;
