@@ -4,6 +4,7 @@
 
 #include "base/strings.h"
 #include "platform/report_error.h"
+#include "spelling/reply_reports.h"
 #include "spelling/words.h"
 
 #include <QSet>
@@ -32,25 +33,31 @@ class ReplyWalk {
         : m_services(services), m_dictionary(dictionary), m_text(text) {}
 
     CSpellingErrors walk(const QDomElement &root) {
-        for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
-            if (node.nodeName() == QStringLiteral("message")) {
-                report(node.toElement().text(), failureNumber::serviceMessage);
-                break;
-            }
-            if (node.nodeName() != QStringLiteral("error")) {
-                // The message has no closing quote, on purpose.
-                report(QStringLiteral("Unexpected node result '") + node.nodeName(),
-                       failureNumber::unexpectedElement);
-                continue;
-            }
-            readError(node.toElement());
+        try {
+            readAll(root);
+        } catch (const Failure &) {
+            m_reports.show(m_services.boxes);
+            throw;
         }
+        m_reports.show(m_services.boxes);
         return m_errors;
     }
 
   private:
-    void report(const QString &text, int number) {
-        ReportError(m_services.boxes, QStringLiteral("CSpelling"), QStringLiteral("Spell"), text, number);
+    void readAll(const QDomElement &root) {
+        for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            if (node.nodeName() == QStringLiteral("message")) {
+                m_reports.show(m_services.boxes);
+                ReportError(m_services.boxes, QStringLiteral("CSpelling"), QStringLiteral("Spell"),
+                            node.toElement().text(), failureNumber::serviceMessage);
+                return;
+            }
+            if (node.nodeName() != QStringLiteral("error")) {
+                m_reports.unexpected(node.nodeName());
+                continue;
+            }
+            readError(node.toElement());
+        }
     }
 
     /// Runs a step. Once suggestions have been read, a failure in a step is ignored: what the step sets keeps
@@ -77,7 +84,7 @@ class ReplyWalk {
         attempt([&] { m_precontext = textOf(error, QStringLiteral("precontext")); });
         qsizetype start = -1;
         // If this fails, the error has no place.
-        attempt([&] { start = findThePlace(m_services.boxes, 1, m_text, m_phrase, m_precontext) - 1; });
+        attempt([&] { start = findThePlace(m_reports, 1, m_text, m_phrase, m_precontext) - 1; });
         // A phrase is always found at its first place. If an error is there already, this one has no place.
         if (start < 0 || m_places.contains(start))
             return;
@@ -116,6 +123,7 @@ class ReplyWalk {
     LocalDictionary &m_dictionary;
     const QString &m_text;
     CSpellingErrors m_errors;
+    ReplyReports m_reports;
     QSet<qsizetype> m_places; ///< the starts of m_errors
     bool m_quiet = false;
     QString m_phrase;

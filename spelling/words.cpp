@@ -5,8 +5,8 @@
 #include "base/code_page.h"
 #include "base/failure.h"
 #include "base/strings.h"
-#include "platform/report_error.h"
 #include "search/regular_expression.h"
+#include "spelling/reply_reports.h"
 
 namespace tolvo {
 
@@ -50,7 +50,7 @@ bool contextFits(QStringView before, const QString &precontext) {
     return before.endsWith(precontext);
 }
 
-qsizetype findThePlace(MessageBoxes &boxes, qsizetype /*start*/, QStringView text, const QString &word,
+qsizetype findThePlace(ReplyReports &reports, qsizetype /*start*/, QStringView text, const QString &word,
                        const QString &precontext) {
     const RegularExpression phrase(QStringLiteral("\\b") + word + QStringLiteral("\\b"), false);
     if (!phrase.isValid())
@@ -58,9 +58,7 @@ qsizetype findThePlace(MessageBoxes &boxes, qsizetype /*start*/, QStringView tex
                       QStringLiteral("CSpelling::findThePlace"));
     const auto match = phrase.firstMatch(text);
     if (!match) {
-        ReportError(boxes, QStringLiteral("CSpelling"), QStringLiteral("findThePlace"),
-                    QStringLiteral("Text '") + word + QStringLiteral("' cannot be found"),
-                    failureNumber::noAnswer);
+        reports.lost(word);
         return 0;
     }
     return contextFits(text.first(match->start), precontext) ? match->start + 1 : 0;

@@ -3,12 +3,12 @@
 // from 1.
 #pragma once
 
-#include "platform/message_box.h"
-
 #include <QString>
 #include <QStringView>
 
 namespace tolvo {
+
+class ReplyReports;
 
 /// The first word at or after `position`, which moves to the character after the word. Empty if no letter is
 /// left; `position` then moves past the end. Letters are those of Windows-1252. An apostrophe, and a hyphen
@@ -18,9 +18,9 @@ namespace tolvo {
 
 /// The position of a phrase that a web service reported with the word before it but without its offset: that
 /// of its first match in any case, between word boundaries. 0 if that match has another context, or if there
-/// is no match, which is reported. The phrase is used as a regular expression; an invalid one fails with
+/// is no match, which is noted as lost. The phrase is used as a regular expression; an invalid one fails with
 /// 5018. `start` has no effect: a phrase that is reported twice is found at its first place both times.
-[[nodiscard]] qsizetype findThePlace(MessageBoxes &boxes, qsizetype start, QStringView text,
+[[nodiscard]] qsizetype findThePlace(ReplyReports &reports, qsizetype start, QStringView text,
                                      const QString &word, const QString &precontext);
 
 /// Whether the text before a phrase fits the context that the service reported. An empty text fits any

@@ -77,6 +77,17 @@ TEST_F(AfterTheDeadline_, TakesWhatTheLocalDictionaryConfirms) {
          "5006 Unexpected node result 'odd (CSpelling::Spell)"},
         {"a fox", error("cat", "grammar", "a") + error("fox", "grammar", "a"), "fox 2-5 3",
          "5007 Text 'cat' cannot be found (CSpelling::findThePlace)"},
+        // However often, in one box of each kind.
+        {"a fox",
+         (error("cat", "grammar") + "<odd/>").repeated(5000) + error("fox", "grammar", "a") +
+             "<message>Too long</message>",
+         "fox 2-5 3",
+         "5006 Unexpected node result 'odd, and 4,999 more (CSpelling::Spell) / "
+         "5007 Text 'cat' cannot be found, nor 4,999 more (CSpelling::findThePlace) / "
+         "5005 Too long (CSpelling::Spell)"},
+        {"a fox", error("cat", "grammar") + "<error><string>fox</string></error>",
+         "(failure 91 The reply of After the Deadline holds an error without 'type')",
+         "5007 Text 'cat' cannot be found (CSpelling::findThePlace)"},
         {"a fox", "<error><string>fox</string></error>",
          "(failure 91 The reply of After the Deadline holds an error without 'type')"},
         {"zqx a fox", error("fox", "grammar", "a") + error("f(ox", "grammar", "a"),

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "spelling/reply_reports.h"
 #include "spelling/words.h"
 #include "spelling_world.h"
 
@@ -46,14 +47,17 @@ TEST_F(Places, OfAPhrase) {
         {"a t.h b", "t.h", "a", 3},
         {"a teh b", "(teh|b)", "a", 3}, // the phrase is a pattern as it stands
     };
+    ReplyReports reports;
     for (const auto &[text, phrase, context, place] : cases)
-        EXPECT_EQ(findThePlace(boxes, 5, u(text), u(phrase), u(context)), place) << text << " | " << phrase;
+        EXPECT_EQ(findThePlace(reports, 5, u(text), u(phrase), u(context)), place) << text << " | " << phrase;
+    reports.show(boxes);
     EXPECT_EQ(said(), QStringList());
 
-    EXPECT_EQ(findThePlace(boxes, 1, u("no such"), u("teh"), {}), 0);
+    EXPECT_EQ(findThePlace(reports, 1, u("no such"), u("teh"), {}), 0);
+    reports.show(boxes);
     EXPECT_EQ(said(), QStringList(u("5007 Text 'teh' cannot be found (CSpelling::findThePlace)")));
     expectFailure(failureNumber::invalidPattern,
-                  [&] { (void)findThePlace(boxes, 1, u("text"), u("te(h"), {}); });
+                  [&] { (void)findThePlace(reports, 1, u("text"), u("te(h"), {}); });
 }
 
 } // namespace tolvo::test
