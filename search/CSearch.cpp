@@ -7,6 +7,8 @@
 #include "platform/report_error.h"
 #include "search/result_lines.h"
 
+#include <QScopeGuard>
+
 namespace tolvo {
 
 CSearch::CSearch(SearchHost &host, MessageBoxes &boxes, const cTextMethods &textMethods)
@@ -17,12 +19,13 @@ namespace {
 
 /// A step of a PowerButton is bracketed by whoever runs it.
 template <class Replace>
-void asUndoStep(SearchHost &host, SearchedBy by, Replace replace) {
-    if (by == SearchedBy::Window)
-        host.pushUndo();
+void asUndoStep(SearchHost &host, SearchedBy by, SearchRequest request, bool all, Replace replace) {
+    request.replaceAll = all;
+    if (by == SearchedBy::PowerButton)
+        return replace();
+    host.beginReplacing(request);
+    const auto end = qScopeGuard([&host] { host.endReplacing(); });
     replace();
-    if (by == SearchedBy::Window)
-        host.pushUndo();
 }
 
 } // namespace
@@ -40,10 +43,10 @@ void CSearch::run(SearchVerb verb, const SearchRequest &request, SearchedBy by) 
         findAll(request);
         break;
     case SearchVerb::Replace:
-        asUndoStep(m_host, by, [&] { replaceOne(request, inOneStep); });
+        asUndoStep(m_host, by, request, false, [&] { replaceOne(request, inOneStep); });
         break;
     case SearchVerb::ReplaceAll:
-        asUndoStep(m_host, by, [&] { replaceAll(request, inOneStep); });
+        asUndoStep(m_host, by, request, true, [&] { replaceAll(request, inOneStep); });
         break;
     }
 }

@@ -48,9 +48,10 @@ class SearchHost {
     /// A search changed the direction that the next one takes (the option buttons of the search window).
     virtual void directionChanged(SearchDirection direction) = 0;
     [[nodiscard]] virtual SearchResults &results() = 0;
-    /// The text as it stands becomes a state of undo: called before and after each replacement that the user
-    /// asks for in the search window.
-    virtual void pushUndo() {}
+    /// Called before and after each replacement that the user asks for in the search window, which is a step
+    /// of undo.
+    virtual void beginReplacing(const SearchRequest &) {}
+    virtual void endReplacing() {}
     /// True if the user wants a long search to end; asked now and then.
     [[nodiscard]] virtual bool interrupted() { return false; }
 };

@@ -34,6 +34,7 @@ namespace tolvo {
 
 class cToolbox;
 struct ToolCall;
+struct ToolRow;
 struct WordOptions;
 
 /// Every procedure that an event may call is guarded: a failure inside it is shown as the error report, and
@@ -74,9 +75,10 @@ class frmMain : private SearchHost, private ProofingHost {
     [[nodiscard]] int warnings() const { return m_warnings; }
 
     /// The text as it stands becomes a state of oUndo.
-    void pushUndo() override { m_history.push(textState(txtCurrent())); }
+    void pushUndo() { m_history.push(textState(txtCurrent())); }
     /// Around a change of the text that is no state of its own: Ctrl-Z takes it back by itself.
     void noteText() { m_history.note(textState(txtCurrent())); }
+    [[nodiscard]] TextHistory &history() { return m_history; }
 
     // The session (session.cpp)
 
@@ -110,6 +112,13 @@ class frmMain : private SearchHost, private ProofingHost {
     /// The states of undo: back, and forward again.
     void cmdUndo_Click();
     void cmdRedo_Click();
+    /// To before the last run of a PowerButton, whatever has come after it.
+    void undoPowerButton();
+    /// To a place of the history: TextHistory::goTo().
+    void goInHistory(int place);
+    /// What undo can take back and redo can bring back.
+    [[nodiscard]] QList<TextHistory::Entry> historyBehind();
+    [[nodiscard]] QList<TextHistory::Entry> historyAhead();
     /// Takes back the last word that was typed, quick edit or tool (Ctrl-Z).
     void undoStep();
     /// Inverts bWordWrap.
@@ -182,6 +191,8 @@ class frmMain : private SearchHost, private ProofingHost {
 
   private:
     // SearchHost, ProofingHost
+    void beginReplacing(const SearchRequest &request) override;
+    void endReplacing() override;
     void warn(const QString &text, const QString &title) override;
     void directionChanged(SearchDirection direction) override;
     [[nodiscard]] SearchResults &results() override { return m_services.dialogs.searchResults(); }
@@ -195,7 +206,7 @@ class frmMain : private SearchHost, private ProofingHost {
     void keepingText(Action &&action);
     void beep();
     [[nodiscard]] CloseAnswer askAboutChanges();
-    void showOtherState(bool (TextHistory::*walk)(TextState &));
+    void showOtherState(const std::function<bool(TextState &)> &walk);
     void swapFonts();
     void sayTooLong(const QString &what, qsizetype length);
     void hideWindow();
@@ -218,6 +229,7 @@ class frmMain : private SearchHost, private ProofingHost {
     [[nodiscard]] QString toolName(const QString &token) const;
     [[nodiscard]] QString favouriteName(const QString &tag) const;
     void runWithSettings(const CAction &action);
+    void noteActionOf(const ToolRow &row, const ToolPtr &tool);
     void listenTo(TextBox &box);
 
     SessionServices m_services;
@@ -228,6 +240,7 @@ class frmMain : private SearchHost, private ProofingHost {
     ToolSettingsMemory m_toolSettings;
     QString m_status;
     CutNotice m_cuts;
+    std::optional<RunScope> m_replacing; ///< a replacement of the search window is under way
     std::optional<ToolChange> m_lastChange;
     QList<int> m_runningButtons; ///< indices of the PowerButtons that run, outermost first
     int m_warnings = 0;

@@ -111,6 +111,8 @@ constexpr std::array rows{
     character(History, u'Z', withoutShift, call<&frmMain::undoStep>, u"Undo step by step"),
     character(History, u'Z', withShift, call<&frmMain::cmdRedo_Click>, u"Redo"),
     character(History, u'Y', any, call<&frmMain::cmdRedo_Click>, u"Redo"),
+    formKey(History, keyCode::Z, alone(ShiftState::Ctrl | ShiftState::Alt), call<&frmMain::undoPowerButton>,
+            u"Undo the last PowerButton as a whole"),
     formKey(History, keyCode::F8, none, call<&frmMain::showTextBefore>,
             u"While held: show the text before the last tool"),
     character(History, u'R', any, repeat, u"Repeat the last tool or PowerButton"),

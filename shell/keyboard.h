@@ -28,6 +28,7 @@ inline constexpr int Digit8 = 56;
 inline constexpr int D = 68;
 inline constexpr int Q = 81;
 inline constexpr int W = 87;
+inline constexpr int Z = 90;
 inline constexpr int F1 = 112;
 inline constexpr int F3 = 114;
 inline constexpr int F7 = 118;

@@ -74,6 +74,8 @@ void frmMain::imgPower_Click(int index) {
 void frmMain::runButton(int index) {
     const std::shared_ptr<CPowerButton> button = m_services.oPowerButtons.Item(index + 1);
     const QString name = button ? button->Name : QString();
+    const RunScope run(
+        *this, {.name = QStringLiteral("PowerButton %1: ").arg(index + 1) + name, .powerButton = true});
     const bool toChange = button && isToChangeText(*button);
     const bool changed = showingChange(name, [&] { runPowerButton(index); });
     if (button && allSwitchedOff(*button))
@@ -221,6 +223,8 @@ void frmMain::runWithSettings(const CAction &action) {
         else
             runToolRow(*row, toolCall(&action));
     });
+    if (row->operation.window != SettingsWindow::PowerButton)
+        m_history.noteAction(std::make_shared<CAction>(action));
 }
 
 } // namespace tolvo

@@ -72,6 +72,7 @@ void frmMain::takeFiles(const QStringList &paths) {
             return;
         }
         pushUndo();
+        const RunScope run(*this, {.name = QStringLiteral("Text of a file")});
         const QString text = ClipboardLineEnds::comeIn(*file.text);
         if (tooLong(text))
             sayTooLong(QStringLiteral("The text of the file"), text.size());
@@ -98,6 +99,7 @@ void frmMain::cmdRefresh_Click() {
         if (!text)
             return;
         pushUndo();
+        const RunScope run(*this, {.name = QStringLiteral("Refresh")});
         takeText(*text, tooLong(*text));
         noteText();
         m_dirty = false;
@@ -181,21 +183,24 @@ void frmMain::hideWindow() {
 // Undo
 
 void frmMain::cmdUndo_Click() {
-    guarded(u"cmdUndo_Click", [this] { showOtherState(&TextHistory::undoState); });
+    guarded(u"cmdUndo_Click",
+            [this] { showOtherState([this](TextState &state) { return m_history.undoState(state); }); });
 }
 
 void frmMain::cmdRedo_Click() {
-    guarded(u"cmdRedo_Click", [this] { showOtherState(&TextHistory::redo); });
+    guarded(u"cmdRedo_Click",
+            [this] { showOtherState([this](TextState &state) { return m_history.redo(state); }); });
 }
 
 void frmMain::undoStep() {
-    guarded(u"undoStep", [this] { showOtherState(&TextHistory::undoStep); });
+    guarded(u"undoStep",
+            [this] { showOtherState([this](TextState &state) { return m_history.undoStep(state); }); });
 }
 
-void frmMain::showOtherState(bool (TextHistory::*walk)(TextState &)) {
+void frmMain::showOtherState(const std::function<bool(TextState &)> &walk) {
     setStatus({});
     TextState state = textState(txtCurrent());
-    if (!(m_history.*walk)(state))
+    if (!walk(state))
         return;
     restore(txtCurrent(), state);
     m_dirty = true; // also when the text is again the one that came from the clipboard

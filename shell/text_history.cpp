@@ -48,7 +48,10 @@ void TextHistory::record(const TextEdit &edit, const TextState &present) {
     m_steps.resize(m_done);
     m_ahead.clear();
     std::fill(m_places.begin() + m_undo->currentIndex() + 1, m_places.end(), offTheWay);
-    m_steps.append({edit, {m_present.selStart, m_present.selLength}, {present.selStart, present.selLength}});
+    m_steps.append(
+        {edit, {m_present.selStart, m_present.selLength}, {present.selStart, present.selLength}, m_running});
+    while (!m_copies.isEmpty() && m_copies.last() > m_done)
+        m_copies.removeLast();
     ++m_done;
     m_open = false;
 }
@@ -104,15 +107,7 @@ bool TextHistory::undoStep(TextState &state) {
     note(state);
     if (m_done == 0)
         return m_undo->Pull(state); // which says that this is the end
-    m_ahead.append(m_done);
-    const Step &step = m_steps.at(--m_done);
-    int index = m_undo->currentIndex();
-    while (m_places.at(index) > m_done)
-        --index;
-    m_undo->moveTo(index);
-    state = {withoutEdit(state.text, step.edit), step.before.start, step.before.length};
-    show(state);
-    return true;
+    return goBack(m_done - 1, state);
 }
 
 bool TextHistory::redo(TextState &state) {
@@ -125,17 +120,7 @@ bool TextHistory::redo(TextState &state) {
 
 /// To where the last undo began.
 bool TextHistory::goAhead(TextState &state) {
-    for (const int target = m_ahead.takeLast(); m_done < target; ++m_done) {
-        const Step &step = m_steps.at(m_done);
-        state = {withEdit(state.text, step.edit), step.after.start, step.after.length};
-    }
-    int index = m_undo->currentIndex();
-    while (index + 1 < m_places.size() && m_places.at(index + 1) != offTheWay &&
-           m_places.at(index + 1) <= m_done)
-        ++index;
-    m_undo->moveTo(index);
-    if (m_places.at(index) == m_done)
-        state = m_undo->current();
+    walkAhead(m_ahead.takeLast(), state);
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/text_box.h"
 #include "shell/cUndo.h"
+#include "shell/history_run.h"
 #include "shell/text_edit.h"
 
 #include <QList>
@@ -40,6 +41,35 @@ class TextHistory {
     /// Where the latest undo began that has not been retraced (cUndo::Redo).
     bool redo(TextState &state);
 
+    // Runs (history_walks.cpp)
+
+    /// From here to endRun() every change is the doing of `run`.
+    void beginRun(const TextState &present, const HistoryRun &run);
+    void endRun(const TextState &present);
+    [[nodiscard]] bool isRunning() const { return m_running != byHand; }
+    /// Adds a tool to the run; nothing outside of one.
+    void noteAction(std::shared_ptr<CAction> action);
+    /// The user has copied from the text.
+    void noteCopy(const TextState &present);
+
+    /// One line of a menu: a run, or what was typed at a time.
+    struct Entry {
+        QString name;
+        int place; ///< for goTo()
+    };
+    /// What can be taken back, the latest first, and what can be brought back, the next first.
+    [[nodiscard]] QList<Entry> behind() const;
+    [[nodiscard]] QList<Entry> ahead() const;
+    /// To before an entry of behind(), or to after one of ahead(), as one step.
+    bool goTo(int place, TextState &state);
+    /// Whether a run of a PowerButton can be taken back.
+    [[nodiscard]] bool hasPowerButton() const { return lastPowerButton() >= 0; }
+    /// To before the latest run of a PowerButton whose changes are in the text.
+    bool undoPowerButton(TextState &state);
+    /// The tools that made the text what it is since the user copied from it, or since the beginning. If none
+    /// has run since then, those before the copy, from the copy before that.
+    [[nodiscard]] QList<std::shared_ptr<CAction>> latestActions() const;
+
   private:
     struct Selection {
         int start = 0;
@@ -49,7 +79,9 @@ class TextHistory {
         TextEdit edit;
         Selection before;
         Selection after;
+        int run = byHand; ///< which of the runs has made it
     };
+    static constexpr int byHand = -1;
     static constexpr int offTheWay = -1; ///< place of a state that no step leads to
 
     void record(const TextEdit &edit, const TextState &present);
@@ -57,7 +89,11 @@ class TextHistory {
     [[nodiscard]] bool liesBetweenStates(const TextState &present) const;
     void insertState(const TextState &present);
     void show(TextState &state);
+    bool goBack(int place, TextState &state);
     bool goAhead(TextState &state);
+    void walkAhead(int place, TextState &state);
+    [[nodiscard]] int firstOfRun(int step) const;
+    [[nodiscard]] int lastPowerButton() const;
     bool redoLostState(TextState &state);
 
     cUndo *m_undo;
@@ -67,8 +103,11 @@ class TextHistory {
     QList<int> m_ahead;  ///< how many there were before each undo that Redo can retrace, the latest one last
     QList<int> m_places; ///< of each state of the buffer: after how many steps it stands
     TextState m_present; ///< text and selection as last seen
-    bool m_open = false; ///< the last step is typing that may go on
-    QDateTime m_typed;   ///< when the user edited last
+    QList<HistoryRun> m_runs;
+    int m_running = byHand; ///< of the runs, the present one
+    QList<int> m_copies;    ///< after how many steps the user has copied, in rising order
+    bool m_open = false;    ///< the last step is typing that may go on
+    QDateTime m_typed;      ///< when the user edited last
 };
 
 } // namespace tolvo

@@ -152,6 +152,7 @@ ToolCall frmMain::toolCall(const CAction *action) {
 
 void frmMain::ToolDespatcher(const QString &token) {
     guarded(u"ToolDespatcher", [&] {
+        const RunScope run(*this, {.name = toolName(token)});
         showingChange(toolName(token), [&] { runTool(token); });
         if (!sLastTool.isEmpty())
             noteUse(m_services.store, token);
@@ -166,6 +167,7 @@ void frmMain::runTool(const QString &token) {
     const ToolRow *row = toolRow(token);
     if (row && !row->operation.powerButtonOnly) {
         keepingText([&] { runToolRow(*row, toolCall()); });
+        noteActionOf(*row, m_services.oTools.tool(token));
     } else {
         say(QStringLiteral("This tool is not implemented yet"));
         sLastTool.clear();
@@ -209,6 +211,7 @@ void frmMain::runFavourite(const QString &tag) {
 
 void frmMain::imgFavourites_Click(const QString &tag) {
     guarded(u"imgFavourites_Click", [&] {
+        const RunScope run(*this, {.name = favouriteName(tag)});
         showingChange(favouriteName(tag), [&] { runFavourite(tag); });
         noteUse(m_services.store, favouriteId(tag));
     });

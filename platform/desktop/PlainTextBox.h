@@ -82,6 +82,9 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     /// back.
     std::function<void(int steps)> onZoom;
 
+    /// Called when text is copied, cut or dragged.
+    std::function<void()> onCopied;
+
     /// Reads what is pasted: the clipboard's text, or with `selection` that of the middle mouse button, with
     /// CR LF line ends; nothing if its owner doesn't answer. If this is not set, the toolkit reads and waits
     /// as long as the owner takes.

@@ -177,6 +177,8 @@ void PlainTextBox::contextMenuEvent(QContextMenuEvent *event) {
 }
 
 QMimeData *PlainTextBox::createMimeDataFromSelection() const {
+    if (onCopied)
+        onCopied();
     auto *mime = new QMimeData;
     mime->setText(m_lineEnds ? m_lineEnds->goOut(SelText()) : ClipboardLineEnds().goOut(SelText()));
     return mime;

@@ -3,6 +3,7 @@
 
 #include "shell/cToolbox.h"
 #include "shell/frmMain.h"
+#include "shell/ui/history_menus.h"
 #include "shell/ui/names_under_icons.h"
 #include "shell/ui/text_view.h"
 #include "shell/ui/window_size.h"
@@ -26,8 +27,11 @@ void MainWindow::attach(frmMain &session, cToolbox &toolbox, const ClipboardLine
     };
     connectAltLetters();
     watchButtons();
-    for (PlainTextBox *box : {m_txtText1, m_txtTextWW})
+    for (PlainTextBox *box : {m_txtText1, m_txtTextWW}) {
         box->onFilesDropped = [this](const QStringList &paths) { m_session->takeFiles(paths); };
+        box->onCopied = [this] { m_session->history().noteCopy(textState(m_session->txtCurrent())); };
+    }
+    new HistoryMenus(session, *m_undoArrow, *m_redoArrow, this);
     m_panel->onClick = [this](int row, bool right) {
         m_session->bRightButton = right;
         m_session->lblToolbox_Click(*m_toolbox, row);

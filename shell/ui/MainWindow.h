@@ -30,6 +30,7 @@ namespace tolvo {
 class ChangeView;
 class ClipboardLineEnds;
 class EscapeWatch;
+class HistoryArrow;
 class ImageButton;
 class NamesUnderIcons;
 class StatusBar;
@@ -152,6 +153,8 @@ class MainWindow : public QWidget, public SessionView {
     ImageButton *m_cmdMore = nullptr;
     QPushButton *m_cmdUndo = nullptr;
     QPushButton *m_cmdRedo = nullptr;
+    HistoryArrow *m_undoArrow = nullptr;
+    HistoryArrow *m_redoArrow = nullptr;
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
 };

@@ -8,6 +8,7 @@
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/PanelSplitter.h"
 #include "shell/ui/change_view.h"
+#include "shell/ui/history_menus.h"
 #include "shell/ui/status_bar.h"
 #include "shell/ui/window_size.h"
 #include "shell/window_place.h"
@@ -48,6 +49,17 @@ QHBoxLayout *row(QWidget *parent) {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Grid(*parent).gap());
     return layout;
+}
+
+/// Two controls that act as one.
+QWidget *sideBySide(QWidget *left, QWidget *right) {
+    auto *pair = new QWidget;
+    auto *layout = new QHBoxLayout(pair);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(left);
+    layout->addWidget(right);
+    return pair;
 }
 
 } // namespace
@@ -151,7 +163,7 @@ QWidget *MainWindow::powerRow() {
     layout->addWidget(m_powerButtons);
     m_cmdMore = new ImageButton(QStringLiteral("more"), QStringLiteral("More for PowerButtons"));
     m_cmdMore->setObjectName(QStringLiteral("cmdMorePowerButtons"));
-    m_cmdMore->setToolTip(QStringLiteral("More: share PowerButtons, load those of others"));
+    m_cmdMore->setToolTip(QStringLiteral("More: share and load PowerButtons, make one of what you just did"));
     m_cmdMore->setPopupMode(QToolButton::InstantPopup);
     layout->addWidget(m_cmdMore);
     layout->addStretch(1);
@@ -164,8 +176,10 @@ QWidget *MainWindow::powerRow() {
                [this] { m_session->cmdRedo_Click(); });
     m_cmdUndo->setIcon(themedIcon(QStringLiteral("undo"), QPalette::Button));
     m_cmdRedo->setIcon(themedIcon(QStringLiteral("redo"), QPalette::Button));
-    layout->addWidget(m_cmdUndo);
-    layout->addWidget(m_cmdRedo);
+    m_undoArrow = new HistoryArrow(*m_cmdUndo, "cmdUndoList", QStringLiteral("Choose how far to undo"));
+    m_redoArrow = new HistoryArrow(*m_cmdRedo, "cmdRedoList", QStringLiteral("Choose how far to redo"));
+    layout->addWidget(sideBySide(m_cmdUndo, m_undoArrow));
+    layout->addWidget(sideBySide(m_cmdRedo, m_redoArrow));
     return bar;
 }
 
@@ -215,7 +229,8 @@ void MainWindow::arrangeTabOrder() {
         setTabOrder(before, next);
         before = next;
     };
-    for (const char *name : {"cmdClose", "cmdCancel", "cmdRefresh", "cmdUndo", "cmdRedo"})
+    for (const char *name :
+         {"cmdClose", "cmdCancel", "cmdRefresh", "cmdUndo", "cmdUndoList", "cmdRedo", "cmdRedoList"})
         follow(QLatin1StringView(name));
     for (int i = 0; i < CPowerButtonCollection::buttonCount; ++i)
         follow(QStringLiteral("imgPower_%1").arg(i));

@@ -44,7 +44,7 @@ void MainWindow::showEmptyTextHint(const QString &hint) {
 
 void MainWindow::undoRedoChanged(bool undoEnabled, bool redoEnabled) {
     m_cmdUndo->setEnabled(undoEnabled);
-    if (m_cmdRedo->hasFocus() && !redoEnabled)
+    if ((m_cmdRedo->hasFocus() || m_redoArrow->hasFocus()) && !redoEnabled)
         m_cmdUndo->setFocus(); // disabled, it would leave the focus to whatever comes next
     m_cmdRedo->setEnabled(redoEnabled);
     m_undoAction->setEnabled(undoEnabled);

@@ -193,6 +193,10 @@ void DesktopDialogs::copyMatchesOfWindow(const MatchCopy &copy) {
     m_session->guarded(u"copyMatches", [&] {
         if (copy.inPlace)
             m_session->pushUndo();
+        const RunScope run(*m_session, {.name = QStringLiteral("Copy matches")});
+        m_session->history().noteAction(
+            std::make_shared<CAction>(m_session->services().oTools.tool(QStringLiteral("edCPM")),
+                                      SettingsFrom::Custom, settingsString(copy)));
         copyMatches(m_session->toolCall(), copy);
         if (copy.inPlace)
             m_session->pushUndo();

@@ -88,6 +88,12 @@ int character(const QKeyEvent &event, int meaning) {
     return event.text().isEmpty() ? -1 : event.text().front().unicode();
 }
 
+/// Windows has AltGr as Ctrl and Alt together: a key that types with both held is no command.
+bool typesWithAltGr(const QKeyEvent &event) {
+    return event.modifiers().testFlags(Qt::ControlModifier | Qt::AltModifier) && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
+
 } // namespace
 
 int shiftState(Qt::KeyboardModifiers modifiers) {
@@ -97,8 +103,10 @@ int shiftState(Qt::KeyboardModifiers modifiers) {
 }
 
 KeyStroke keyStroke(const QKeyEvent &event) {
-    const int meant = meaning(event);
     Qt::KeyboardModifiers held = event.modifiers();
+    if (typesWithAltGr(event))
+        return {0, shiftState(held), character(event, 0)};
+    const int meant = meaning(event);
     // Shift belongs to this sign: many layouts need it there.
     if (meant == '/' && !held.testFlag(Qt::KeypadModifier))
         held.setFlag(Qt::ShiftModifier, false);

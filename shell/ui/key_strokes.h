@@ -18,7 +18,8 @@ struct KeyStroke {
 int shiftState(Qt::KeyboardModifiers modifiers);
 
 /// What a key press means under the user's layout. A digit of the upper row is known by its place too, unless
-/// the layout gives a sign there that is a command.
+/// the layout gives a sign there that is a command. A key that types something with Ctrl and Alt held has no
+/// code: that is AltGr, as Windows has it.
 KeyStroke keyStroke(const QKeyEvent &event);
 
 } // namespace tolvo

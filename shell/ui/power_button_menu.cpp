@@ -9,6 +9,7 @@
 #include "shell/button_exchange.h"
 #include "shell/example_loading.h"
 #include "shell/frmMain.h"
+#include "shell/record_button.h"
 #include "shell/ui/MainWindow.h"
 
 #include <QApplication>
@@ -51,6 +52,10 @@ void PowerButtonMenu::fill() {
     m_menu->addAction(QStringLiteral("&Load from File..."), this, &PowerButtonMenu::chooseFile);
     m_menu->addAction(QStringLiteral("Load from &Clipboard..."), this, &PowerButtonMenu::loadFromClipboard);
     addReadyMade();
+    m_menu->addSeparator();
+    auto *record = m_menu->addAction(QStringLiteral("&Make a PowerButton of What I Just Did"), this,
+                                     [this] { recordPowerButton(m_session); });
+    record->setEnabled(!m_session.history().latestActions().isEmpty());
 }
 
 void PowerButtonMenu::addReadyMade() {

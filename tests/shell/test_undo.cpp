@@ -63,6 +63,13 @@ struct Told {
         push();
         undo(target);
     }
+    void goTo(int place) {
+        if (place < at)
+            return undo(place);
+        while (!ahead.isEmpty() && ahead.last() <= place)
+            ahead.removeLast();
+        at = place;
+    }
     void redo(const std::function<bool()> &mayDiscard) {
         if (!ahead.isEmpty()) {
             at = ahead.takeLast();
@@ -85,7 +92,7 @@ class Wanderer : public User {
     int upTo(int last) { return std::uniform_int_distribution<int>(0, last)(m_random); }
 
     void doesSomething() {
-        const int what = upTo(19);
+        const int what = upTo(21);
         if (upTo(2) == 0)
             select(session.txtCurrent(), upTo(12), upTo(3) == 0 ? upTo(8) : 0);
         if (what < 6)
@@ -98,8 +105,10 @@ class Wanderer : public User {
             presses('Z'), told.undo(told.at - 1);
         else if (what < 17)
             session.cmdUndo_Click(), told.undoState();
-        else
+        else if (what < 20)
             redoes();
+        else
+            goesToEntry();
         EXPECT_EQ(text(), told.texts[told.at]);
         EXPECT_TRUE(canRedo || (told.ahead.isEmpty() && told.lost.isEmpty()));
     }
@@ -136,6 +145,14 @@ class Wanderer : public User {
         told.push();
         told.change(text());
         told.push();
+    }
+    void goesToEntry() {
+        const auto entries = upTo(1) ? session.historyBehind() : session.historyAhead();
+        if (entries.isEmpty())
+            return;
+        const int place = entries[upTo(static_cast<int>(entries.size()) - 1)].place;
+        session.goInHistory(place);
+        told.goTo(place);
     }
     void redoes() {
         const BoxAnswer answer = upTo(1) ? BoxAnswer::Yes : BoxAnswer::No;
