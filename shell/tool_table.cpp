@@ -2,6 +2,7 @@
 #include "shell/tool_table.h"
 
 #include "platform/text_box.h"
+#include "shell/line_operations.h"
 #include "shell/moving_lines.h"
 #include "shell/search_tools.h"
 #include "shell/selection_tools.h"
@@ -11,6 +12,8 @@
 #include "text/coding.h"
 #include "text/identifiers.h"
 #include "text/letters.h"
+#include "text/line_order.h"
+#include "text/line_parts.h"
 #include "text/line_sets.h"
 #include "text/tables.h"
 
@@ -48,6 +51,13 @@ constexpr ToolOperation decoding() {
 
 template <auto operation>
 struct Asked;
+template <class Settings, QString (*operation)(QStringView, const Settings &)>
+struct Asked<operation> {
+    static std::optional<QString> run(const ToolInput &in) {
+        return operation(in.text, std::get<Settings>(*in.settings));
+    }
+    static ToolSettings settings() { return Settings(); }
+};
 template <class Settings, QString (*operation)(const ToolInput &, const Settings &)>
 struct Asked<operation> {
     static std::optional<QString> run(const ToolInput &in) {
@@ -206,6 +216,14 @@ constexpr ToolRow table[] = {
     {u"tbCSV",  pure<csvTable>(),                       lines_N,  says(u"Columns parted by commas")},
     {u"tbTAB",  pure<tabTable>(),                       lines_N,  says(u"Columns parted by tabs")},
     {u"tbTRA",  pure<transposedTable>(),                lines_N,  says(u"Rows and columns swapped")},
+
+    {u"lnSRT",  asked<sortedLines>(),                   lines_N,  says(u"Lines sorted")},
+    {u"lnUNI",  asked<removeDuplicates>(),              lines_N},
+    {u"lnPAT",  asked<choosePatternLines>(),            lines_N},
+    {u"lnNTH",  asked<chooseEveryLine>(),               lines_N},
+    {u"lnAFF",  asked<withTextAround>(),                lines_N,  says(u"Texts put around lines")},
+    {u"lnSEP",  asked<splitOrJoined>(),                 lines_N,  says(u"Lines split or joined")},
+    {u"lnREW",  pure<withWordsReversed>(),              lines_N,  says(u"Words reversed")},
 
     {u"cdHTE",  pure<htmlEncoded>(),                    N,        says(u"Encoded")},
     {u"cdURE",  pure<urlEncoded>(),                     N,        says(u"Encoded")},

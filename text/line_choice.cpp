@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/line_choice.h"
 
+#include "base/case_folding.h"
 #include "text/line_list.h"
 
 #include <QHash>
@@ -59,7 +60,7 @@ class Alike {
         QString key = line.toString();
         if (m_settings.ignoreBlanks)
             key = key.simplified();
-        return m_settings.ignoreCase ? key.toCaseFolded() : key;
+        return m_settings.ignoreCase ? caseFolded(key) : key;
     }
     void moveHere(Entry &entry, const QString &key, QStringView line) {
         const int count = entry.count + 1;

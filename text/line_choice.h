@@ -9,6 +9,11 @@
 
 namespace tolvo {
 
+struct ChosenLines {
+    QString text;
+    QString trouble; ///< why they can't be chosen, in words; the text is whole then. Empty if they can.
+};
+
 /// Without lines that are alike but for one of them.
 ///   withoutDuplicates(u"b|a|B", {.ignoreCase = true}) == u"b|a"
 [[nodiscard]] QString withoutDuplicates(QStringView text, const DuplicateSettings &settings);

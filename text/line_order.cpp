@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/line_order.h"
 
+#include "base/case_folding.h"
 #include "base/collation.h"
 #include "base/numbers.h"
 #include "text/line_list.h"
@@ -56,7 +57,7 @@ QList<QByteArray> keysOf(const QList<QStringView> &texts, const SortLinesSetting
         if (settings.order == Order::Number)
             keys += keyOfNumber(text);
         else
-            keys += keyOfCodes(settings.ignoreCase ? text.toString().toCaseFolded() : text);
+            keys += keyOfCodes(settings.ignoreCase ? caseFolded(text) : text);
     }
     return keys;
 }

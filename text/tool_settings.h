@@ -5,6 +5,7 @@
 #pragma once
 
 #include "base/CParams.h"
+#include "text/line_settings.h"
 #include "text/numbering.h"
 #include "text/settings_fields.h"
 
@@ -129,8 +130,10 @@ struct LineNumberSettings {
 
 /// The settings of any tool. What is derived from the list of structs: the dialogs (text/ui/tool_dialogs.h),
 /// the memory of a run, and all functions below.
-using ToolSettings = std::variant<IndentSettings, WordWrapSettings, RemoveLinesSettings, BulletSettings,
-                                  NumberListSettings, LineNumberSettings>;
+using ToolSettings =
+    std::variant<IndentSettings, WordWrapSettings, RemoveLinesSettings, BulletSettings, NumberListSettings,
+                 LineNumberSettings, SortLinesSettings, DuplicateSettings, PatternLinesSettings,
+                 AroundLinesSettings, SeparatorSettings, EveryLineSettings>;
 
 /// Calls visit(Settings()) for each of the structs.
 template <class Visit>

@@ -44,7 +44,11 @@ TOOLS = [("Spaces & Layout", [("Indent...", "Indent"), ("Word wrap...", "Word Wr
                               ("Remove blank lines...", "Remove Lines")]),
          ("Lists & Numbers", [("Bullet list...", "Bullet List Style"), ("Numbered list...", "Number List Style"),
                               ("Line numbers...", "Line Numbering")]),
+         ("Sort & Move", [("Sort with options...", "Sort Lines"), ("Remove duplicates...", "Remove Duplicates"),
+                          ("Keep or drop lines...", "Keep or Drop Lines"), ("Every n-th line...", "Every n-th Line")]),
          ("Check", [("Statistics", "Statistics")])]
+# The same for tools that the panel doesn't show.
+FOUND_TOOLS = [("Before and after lines...", "Before and After Lines"), ("Split or join lines...", "Split or Join Lines")]
 
 
 class Photographer:
@@ -87,6 +91,12 @@ def finding(run, photographer):
     type_text("line br")
     photographer.take("main-find", "Tolvo ")
     keys("Escape")
+    for tool, title in FOUND_TOOLS:
+        keys("ctrl+p")
+        type_text(tool)
+        keys("Return")
+        photographer.take(title.lower().replace(" ", "-"), title)
+        photographer.leave()
 
 
 def spelling(run, photographer):

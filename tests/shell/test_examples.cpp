@@ -40,7 +40,7 @@ void plays(User &user, const QString &word) {
 
 TEST(Examples, comeOutAsTheFileSays) {
     forEachExample("/tests/shell/examples.txt", [](const QString &section, const QStringList &sides) {
-        User user(sides[section == "StoredSearches" ? 2 : section == "Tools" || section == "Keys" ? 1 : 0]);
+        User user(sides[section.startsWith("Stored") ? 2 : section == "Tools" || section == "Keys" ? 1 : 0]);
         if (section == "Tools") {
             const QString before = user.session.txtCurrent().Text();
             user.runs(sides[0]);
@@ -54,6 +54,10 @@ TEST(Examples, comeOutAsTheFileSays) {
             user.presses(sides[0].front().toLatin1());
             user.sees(sides[2]);
             EXPECT_EQ(user.boxes.said(), sides[3]);
+        } else if (section == "StoredSettings") {
+            user.session.PowerButtonDespatcher(*User::action(sides[0], SettingsFrom::Custom, sides[1]));
+            user.sees(sides[3], sides[4]);
+            EXPECT_EQ(user.boxes.said(), sides[5]);
         } else if (section == "StoredSearches") {
             user.session.PowerButtonDespatcher(*User::action(sides[0], SettingsFrom::Custom, sides[1]));
             const bool withSelection = sides[3].contains(u'«');

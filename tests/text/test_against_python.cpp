@@ -83,8 +83,8 @@ TEST(AgainstPython, ToolsComeToTheSame) {
 TEST(AgainstPython, LineToolsComeToTheSame) {
     if (!isInstalled("python3"))
         GTEST_SKIP() << "python3 is not installed";
-    const QStringList units = {"a", "A", "b",  "|", "|",      "|",  " ",  ",",
-                               "ß", "é", "中", "😀", "\uFF21", "10", "-9", "\t"};
+    const QStringList units = {"a",  "A", "b",  "|", "|",      "|",  " ",  ",", "ß",
+                               "SS", "é", "中", "😀", "\uFF21", "10", "-9", "\t"};
     RandomText random;
     QJsonArray cases;
     for (int i = 0; i < 4000; ++i) {

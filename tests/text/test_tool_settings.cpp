@@ -76,7 +76,18 @@ TEST(ToolSettings, haveTheirPlacesAndDefaults) {
                            u"NumList|Style=0 NumList|StartNumber=1 NumList|Renumber=0 NumList|FollowChar=0 "
                            "NumList|Tab=True NumList|PadChars=4"_s,
                            u"NumLines|Start=1 NumLines|Step=1 NumLines|Every=1 NumLines|IgnoreBlanks=True "
-                           "NumLines|Renumber=True NumLines|Pad=True NumLines|RangeRight=False"_s}));
+                           "NumLines|Renumber=True NumLines|Pad=True NumLines|RangeRight=False"_s,
+                           u"SortLines|Order=1 SortLines|Language= SortLines|Column=0 SortLines|Head=0 "
+                           "SortLines|Descending=0 SortLines|IgnoreCase=0 SortLines|Unique=0"_s,
+                           u"Duplicates|KeepLast=0 Duplicates|IgnoreCase=0 Duplicates|IgnoreBlanks=0 "
+                           "Duplicates|Neighbours=0 Duplicates|LeaveBlanks=0 Duplicates|Counts=0"_s,
+                           u"PatternLines|Drop=0 PatternLines|Pattern= PatternLines|Mode=1 "
+                           "PatternLines|MatchCase=0 PatternLines|WholeWords=0 PatternLines|SpecialChars=0"_s,
+                           u"AroundLines|Before={n}.  AroundLines|After= AroundLines|Start=1 "
+                           "AroundLines|Step=1 AroundLines|Width=0 AroundLines|SkipBlanks=1"_s,
+                           u"Separator|Join=0 Separator|Separator=,  Separator|Trim=1 "
+                           "Separator|LeaveOutEmpty=0"_s,
+                           u"EveryLine|Drop=0 EveryLine|Every=2 EveryLine|First=1"_s}));
 }
 
 TEST(ToolSettings, areWrittenAsSettingsStrings) {
@@ -85,6 +96,8 @@ TEST(ToolSettings, areWrittenAsSettingsStrings) {
     comesBackFromString(removeLines, "Single=1, Multiple=0");
     comesBackFromString(bullet, "Bullet==>, Tab=False, Spaces=3");
     comesBackFromString(numberList, "Style=5, Start=12, Renumber=1, FollowChar=3, Tab=False, Spaces=6");
+    comesBackFromString(SeparatorSettings{true, u", a, b,"_s, false, true},
+                        "Join=1, Separator=,\\x20a,\\x20b,, Trim=0, LeaveOutEmpty=1");
     comesBackFromString(lineNumbers, "Start=10, Step=5, Every=2, IgnoreBlanks=True, Renumber=False, "
                                      "Pad=False, RangeRight=True");
 }

@@ -4,11 +4,13 @@
 #pragma once
 
 #include "platform/font.h"
+#include "text/line_choice.h"
 #include "text/tool_settings.h"
 #include "text/ui/dialog_parts.h"
 
 #include <QComboBox>
 #include <QDialog>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -25,6 +27,8 @@ struct ToolDialogContext {
     QWidget *parent = nullptr;
     std::optional<Font> sampleFont = std::nullopt; ///< nothing: the dialog's own
     ToolPreview *preview = nullptr;                ///< null where there is no text to show it in
+    /// Looks for patterns in samples; without it they show as they are.
+    std::function<ChosenLines(const QString &, const PatternLinesSettings &)> choose = {};
 };
 
 class ToolDialog : public QDialog {

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "text/ui/preview_tick.h"
 
-#include "widgets/NumberBox.h"
+#include "text/ui/dialog_fields.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDialog>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <utility>
@@ -28,7 +26,8 @@ class PreviewTick : public QCheckBox {
         connect(&m_update, &QTimer::timeout, this, &PreviewTick::update);
         connect(this, &QCheckBox::toggled, this, [this](bool wanted) { m_preview.setWanted(wanted); });
         connect(&dialog, &QDialog::finished, this, &PreviewTick::end);
-        listenTo(dialog);
+        // One update for all that one event changes.
+        whenAnythingChanges(dialog, this, [this] { m_update.start(); });
         m_update.start();
     }
     ~PreviewTick() override { m_preview.end(); }
@@ -36,18 +35,6 @@ class PreviewTick : public QCheckBox {
     PreviewTick &operator=(const PreviewTick &) = delete;
 
   private:
-    /// One update for all that one event changes.
-    void listenTo(QDialog &dialog) {
-        const auto start = [this] { m_update.start(); };
-        for (auto *button : dialog.findChildren<QAbstractButton *>())
-            connect(button, &QAbstractButton::toggled, this, start);
-        for (auto *field : dialog.findChildren<QLineEdit *>())
-            connect(field, &QLineEdit::textChanged, this, start);
-        for (auto *number : dialog.findChildren<NumberBox *>())
-            connect(number, &NumberBox::changed, this, start);
-        for (auto *list : dialog.findChildren<QComboBox *>())
-            connect(list, &QComboBox::currentTextChanged, this, start);
-    }
     void update() {
         if (isChecked())
             m_preview.show(m_settings());

@@ -28,6 +28,27 @@ namespace tolvo {
 [[nodiscard]] SettingsDialogPtr<LineNumberSettings> makeToolDialog(const LineNumberSettings &settings,
                                                                    const ToolDialogContext &context);
 
+// The tools of lines
+
+/// dlgSortLines: by what the lines are sorted, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<SortLinesSettings> makeToolDialog(const SortLinesSettings &settings,
+                                                                  const ToolDialogContext &context);
+/// dlgDuplicates: which lines are alike, and which of them stays, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<DuplicateSettings> makeToolDialog(const DuplicateSettings &settings,
+                                                                  const ToolDialogContext &context);
+/// dlgPatternLines: which lines hold a pattern, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<PatternLinesSettings> makeToolDialog(const PatternLinesSettings &settings,
+                                                                     const ToolDialogContext &context);
+/// dlgAroundLines: what is put around lines, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<AroundLinesSettings> makeToolDialog(const AroundLinesSettings &settings,
+                                                                    const ToolDialogContext &context);
+/// dlgSeparator: what parts or joins lines, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<SeparatorSettings> makeToolDialog(const SeparatorSettings &settings,
+                                                                  const ToolDialogContext &context);
+/// dlgEveryLine: which lines are counted out, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<EveryLineSettings> makeToolDialog(const EveryLineSettings &settings,
+                                                                  const ToolDialogContext &context);
+
 /// Shows the dialog of the settings modally. False if the user cancelled; otherwise they are the user's.
 [[nodiscard]] bool askInToolDialog(ToolSettings &settings, const ToolDialogContext &context);
 

@@ -141,16 +141,10 @@ void AllWindows::toolDialogs(const Act &act) {
     test::KeptWords said;
     const cTextMethods engine(said, [](const QString &) { return false; });
     const ToolDialogContext context{engine, boxes, window()};
-    const auto look = [&](const auto &settings) {
+    forEachToolSettings([&](const auto &settings) {
         const auto dialog = makeToolDialog(settings, context);
         lookAt(*dialog, dialog->windowTitle().toStdString(), act);
-    };
-    look(IndentSettings{});
-    look(WordWrapSettings{});
-    look(RemoveLinesSettings{});
-    look(BulletSettings{});
-    look(NumberListSettings{});
-    look(LineNumberSettings{});
+    });
 }
 
 void AllWindows::editors(const Act &act) {

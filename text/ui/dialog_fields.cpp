@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "text/ui/dialog_fields.h"
+
+#include "widgets/NumberBox.h"
+
+#include <QComboBox>
+
+namespace tolvo {
+
+QCheckBox *makeCheck(const QString &name, const QString &caption, QWidget *parent) {
+    auto *check = new QCheckBox(caption, parent);
+    check->setObjectName(name);
+    return check;
+}
+
+QLineEdit *makeLine(const QString &name, QWidget *parent) {
+    auto *line = new QLineEdit(parent);
+    line->setObjectName(name);
+    return line;
+}
+
+void whenAnythingChanges(const QWidget &dialog, const QObject *context, const std::function<void()> &then) {
+    for (auto *button : dialog.findChildren<QAbstractButton *>())
+        QObject::connect(button, &QAbstractButton::toggled, context, then);
+    for (auto *field : dialog.findChildren<QLineEdit *>())
+        QObject::connect(field, &QLineEdit::textChanged, context, then);
+    for (auto *number : dialog.findChildren<NumberBox *>())
+        QObject::connect(number, &NumberBox::changed, context, then);
+    for (auto *list : dialog.findChildren<QComboBox *>())
+        QObject::connect(list, &QComboBox::currentTextChanged, context, then);
+}
+
+} // namespace tolvo
