@@ -42,7 +42,7 @@ dlgAroundLines::dlgAroundLines(const AroundLinesSettings &settings, const ToolDi
       m_width(new NumberBox(QStringLiteral("txtWidth"), QStringLiteral("Digits"),
                             {0, AroundLinesSettings::widest}, this)),
       m_skipBlanks(makeCheck(QStringLiteral("chkSkipBlanks"), QStringLiteral("&Not on blank lines"), this)),
-      m_sample(makeSample(4)) {
+      m_sample(makeSample(5)) {
     arrange();
     setSettings(settings);
     whenAnythingChanges(*this, this, [this] { refresh(); });

@@ -48,7 +48,7 @@ dlgPatternLines::dlgPatternLines(const PatternLinesSettings &settings, const Too
       m_wholeWords(makeCheck(QStringLiteral("chkWholeWords"), QStringLiteral("Whole words &only"), this)),
       m_specialChars(makeCheck(QStringLiteral("chkSpecialChars"),
                                QStringLiteral("&Special characters (\\t, \\xHH)"), this)),
-      m_sample(makeSample(5)), m_trouble(new QLabel(this)) {
+      m_sample(makeSample(6)), m_trouble(new QLabel(this)) {
     m_mode->setObjectName(QStringLiteral("cmbMode"));
     m_mode->addItems(
         {QStringLiteral("Simple text"), QStringLiteral("Wildcards"), QStringLiteral("Regular expression")});

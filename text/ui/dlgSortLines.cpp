@@ -58,14 +58,13 @@ dlgSortLines::dlgSortLines(const SortLinesSettings &settings, const ToolDialogCo
       m_head(new NumberBox(QStringLiteral("txtHead"), QStringLiteral("Leave lines on top"), {}, this)),
       m_descending(makeCheck(QStringLiteral("chkDescending"), QStringLiteral("&Descending"), this)),
       m_ignoreCase(makeCheck(QStringLiteral("chkIgnoreCase"), QStringLiteral("Ignore &case"), this)),
-      m_unique(
-          makeCheck(QStringLiteral("chkUnique"), QStringLiteral("&One of those with the same place"), this)),
-      m_sample(makeSample(5)) {
+      m_unique(makeCheck(QStringLiteral("chkUnique"), QStringLiteral("&One of lines that sort alike"), this)),
+      m_sample(makeSample(6)) {
     m_order->setObjectName(QStringLiteral("cmbOrder"));
-    m_order->addItems({QStringLiteral("As in a dictionary: a10, a2, B"),
-                       QStringLiteral("The same, numbers by value: a2, a10, B"),
-                       QStringLiteral("By the number at the beginning: 9 b, 10 a"),
-                       QStringLiteral("By character codes: B, a10, a2")});
+    m_order->addItems({QStringLiteral("Dictionary: a10, a2, B"),
+                       QStringLiteral("Dictionary, numbers by value: a2, a10, B"),
+                       QStringLiteral("Number at the beginning: 9 b, 10 a"),
+                       QStringLiteral("Character codes: B, a10, a2")});
     arrange();
     setSettings(settings);
     whenAnythingChanges(*this, this, [this] { refresh(); });

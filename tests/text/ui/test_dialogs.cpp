@@ -186,6 +186,68 @@ TEST_F(Dialogs, wordWrapStaysOpenForWidthsOutOfRange) {
     EXPECT_EQ(dialog->settings(), (WordWrapSettings{255, true, true, false}));
 }
 
+TEST_F(Dialogs, toolsOfLinesShowWhatTheyWillDo) {
+    const auto sort = made(SortLinesSettings{});
+    User sorting(*sort);
+    EXPECT_TRUE(sorting.sample().startsWith(u"Apple, 9, Öland|apple, 9, Ystad|fig 2"_s))
+        << "numbers by value";
+    auto &languages = sorting.control<QComboBox>("cmbLanguage");
+    languages.setCurrentIndex(languages.findText(u"Swedish"_s));
+    sorting.types("txtColumn", u"3"_s);
+    EXPECT_TRUE(sorting.sample().contains(u"Ystad|fig 2, 100, Åre|Apple, 9, Öland"_s)) << "å and ö after z";
+    sorting.control<QComboBox>("cmbOrder").setCurrentIndex(2);
+    EXPECT_FALSE(sorting.enabled("cmbLanguage") || sorting.enabled("chkIgnoreCase"));
+    EXPECT_EQ(sort->settings().language, u"sv");
+
+    const auto alike = made(DuplicateSettings{});
+    User removing(*alike);
+    for (const Qt::Key key : {Qt::Key_C, Qt::Key_S, Qt::Key_H})
+        removing.presses(key, Qt::AltModifier);
+    EXPECT_EQ(removing.sample(), u"4\ttea|3\tmilk|2\t");
+
+    const auto around = made(AroundLinesSettings{});
+    User adding(*around);
+    adding.types("txtStart", u"-1"_s);
+    adding.types("txtAfter", u";"_s);
+    EXPECT_EQ(adding.sample(), u"-1. First line;|0. Second line;||1. Third line;");
+
+    const auto separator = made(SeparatorSettings{});
+    User joining(*separator);
+    EXPECT_EQ(joining.sample(), u"tea|milk||sugar");
+    joining.presses(Qt::Key_J, Qt::AltModifier);
+    joining.presses(Qt::Key_E, Qt::AltModifier);
+    EXPECT_EQ(joining.sample(), u"tea, milk, sugar");
+
+    const auto every = made(EveryLineSettings{});
+    User counting(*every);
+    counting.types("txtEvery", u"3"_s);
+    counting.presses(Qt::Key_D, Qt::AltModifier);
+    EXPECT_EQ(counting.sample(), u"Line 2|Line 3|Line 5|Line 6");
+}
+
+TEST_F(Dialogs, patternsThatCantBeLookedForAreRefused) {
+    ToolDialogContext context{engine, boxes};
+    context.choose = [](const QString &text, const PatternLinesSettings &settings) {
+        const bool bad =
+            settings.pattern == u"(" && settings.mode == PatternLinesSettings::Mode::RegularExpression;
+        return ChosenLines{settings.pattern + text.first(3), bad ? u"not closed"_s : QString()};
+    };
+    const auto dialog = makeToolDialog(PatternLinesSettings{}, context);
+    User user(*dialog);
+    user.types("txtPattern", u"("_s);
+    EXPECT_EQ(user.sample(), u"(Tea");
+    user.control<QComboBox>("cmbMode").setCurrentIndex(2);
+    EXPECT_EQ(user.control<QLabel>("lblTrouble").text(), u"not closed");
+    EXPECT_FALSE(user.enabled("chkWholeWords") || user.enabled("chkSpecialChars"));
+    user.clicks("OKButton");
+    EXPECT_EQ(boxes.said(), u"not closed");
+    EXPECT_TRUE(dialog->isVisible());
+    user.types("txtPattern", u"x"_s);
+    EXPECT_FALSE(user.control<QLabel>("lblTrouble").isVisible());
+    user.clicks("OKButton");
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+}
+
 TEST_F(Dialogs, settingsStringsAreEditedForActions) {
     const auto edit = [](auto &dialog, const char *details, const char *button) {
         QTimer::singleShot(0, &dialog, [&dialog, button] { User(dialog).clicks(button); });
