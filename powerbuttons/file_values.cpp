@@ -49,7 +49,7 @@ QString escaped(const QString &text, qsizetype at) {
         break;
     }
     return fitsIntoLine(text, at) ? text.mid(at, 1)
-                                  : QStringLiteral("\\u{%1}").arg(text[at].unicode(), 0, 16);
+                                  : QStringLiteral("\\u{%1}").arg(uint(text[at].unicode()), 0, 16);
 }
 
 /// Reads the rest of an escape, and leaves `at` at its last character.

@@ -14,6 +14,8 @@ QList<ThirdParty> thirdParties() {
          u"https://hunspell.github.io"_s},
         {u"ICU"_s, QStringLiteral(U_ICU_VERSION), u"Unicode-3.0"_s, u"Order, names and forms of characters"_s,
          u"https://icu.unicode.org"_s},
+        {u"minizip"_s, QStringLiteral(TOLVO_MINIZIP_VERSION), u"Zlib"_s, u"Packages of dictionaries"_s,
+         u"https://zlib.net"_s},
         {u"PCRE2"_s, QStringLiteral(TOLVO_PCRE2_VERSION), u"BSD-3-Clause"_s, u"Regular expressions"_s,
          u"https://www.pcre.org"_s},
         {u"Qt"_s, QString::fromLatin1(qVersion()), u"LGPL-3.0-only"_s, u"Windows, clipboard, network"_s,
