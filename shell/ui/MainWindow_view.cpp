@@ -6,6 +6,7 @@
 #include "shell/frmMain.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/change_view.h"
+#include "shell/ui/history_menus.h"
 #include "shell/ui/status_bar.h"
 #include "shell/ui/text_view.h"
 

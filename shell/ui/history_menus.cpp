@@ -47,7 +47,7 @@ QSize HistoryArrow::sizeHint() const {
 }
 
 QSize HistoryArrow::minimumSizeHint() const {
-    return {3 * Grid(*this).smallGap(), Grid(*this).target()};
+    return {2 * Grid(*this).smallGap() + 2, Grid(*this).target()};
 }
 
 bool HistoryArrow::eventFilter(QObject *watched, QEvent *event) {

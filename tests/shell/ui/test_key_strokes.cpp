@@ -72,4 +72,25 @@ TEST(KeyStrokes, areFoundByMeaning) {
     });
 }
 
+/// As Windows reports AltGr: Ctrl and Alt together.
+TEST(KeyStrokes, withCtrlAndAltAreCommandsUnlessTheyType) {
+    const struct {
+        const char *layout;
+        int key;
+        const char *text;
+        KeyStroke expected;
+    } rows[] = {
+        {"us", Qt::Key_Z, "", {'Z', Ctrl | Alt, -1}},   {"us", Qt::Key_Z, "\x1a", {'Z', Ctrl | Alt, -1}},
+        {"pl", Qt::Key_Z, "ż", {0, Ctrl | Alt, 0x17C}}, {"pl", 0x17B, "ż", {0, Ctrl | Alt, 0x17C}},
+        {"de", Qt::Key_Q, "@", {0, Ctrl | Alt, '@'}},
+    };
+    for (const auto &[layout, key, text, expected] : rows) {
+        const KeyStroke found =
+            keyStroke(QKeyEvent(QEvent::KeyPress, key, ctrl | alt, QString::fromUtf8(text)));
+        EXPECT_EQ(found.code, expected.code) << layout << text;
+        EXPECT_EQ(found.shiftState, expected.shiftState) << layout << text;
+        EXPECT_EQ(found.character, expected.character) << layout << text;
+    }
+}
+
 } // namespace
