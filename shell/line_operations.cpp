@@ -90,10 +90,13 @@ QString choosePatternLines(const ToolInput &in, const PatternLinesSettings &sett
         in.context.host.setStatus(QStringLiteral("No pattern: the text stays as it is"));
         return in.text;
     }
-    const ChosenLines chosen = patternLines(in.text, settings, in.context.engine);
-    if (!chosen.trouble.isEmpty())
-        in.context.host.warn(chosen.trouble, {});
-    return withoutLines(in, chosen.text);
+    const ChosenLines chosen =
+        patternLines(in.text, settings, in.context.engine, MatchBudget({}, in.context.patience));
+    if (chosen.trouble.isEmpty())
+        return withoutLines(in, chosen.text);
+    in.context.host.warn(chosen.trouble, {});
+    in.context.host.setStatus(QStringLiteral("The text stays as it is"));
+    return in.text;
 }
 
 ChosenLines patternLines(const QString &text, const PatternLinesSettings &settings,

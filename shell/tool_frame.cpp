@@ -128,7 +128,8 @@ std::optional<TextState> textAfterTool(const ToolRow &row, const ToolSettings &s
     MemoryTextBox box(present.capacity());
     restore(box, textState(present));
     SilentTextHost host;
-    const ToolContext context{engine, box, host};
+    constexpr std::chrono::milliseconds patience{100}; // somebody is typing
+    const ToolContext context{engine, box, host, patience};
     const ToolInput input = toolInput(context, row, &settings);
     const std::optional<QString> result = row.operation.run(input);
     if (!result)

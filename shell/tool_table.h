@@ -3,6 +3,7 @@
 // row here, one function that does it, one line in data/Tools.dat and its place in the manual.
 #pragma once
 
+#include "search/match_budget.h"
 #include "text/tool_settings.h"
 
 #include <QString>
@@ -22,6 +23,8 @@ struct ToolContext {
     const cTextMethods &engine;
     TextBox &box;   ///< the text in use
     TextHost &host; ///< hears statuses and warnings
+    /// How long it may look for matches of a pattern.
+    MatchBudget::Clock::duration patience = MatchBudget::usualTime;
 };
 
 /// What a text operation sees: the selection, or the whole text if there is none.
