@@ -143,6 +143,7 @@ struct ViewKeys {
     Setting<forms::Bounded<50, 400, 100>> zoom{section, u"Zoom", 100}; // percent of the font's size
     Setting<forms::Check> marks{section, u"Marks", false};             // for blanks and line ends
     Setting<forms::Check> matches{section, u"Matches", true};          // of the search that is being written
+    Setting<forms::Check> searchBelow{section, u"SearchBelow", false}; // the text; on Wayland in any case
     Setting<forms::Bounded<0, 2, 0>> iconNames{section, u"IconNames", 0}; // see shell/ui/names_under_icons.h
 };
 

@@ -4,6 +4,7 @@
 #include "base/application.h"
 #include "platform/report_error.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QShowEvent>
@@ -82,6 +83,10 @@ void frmSearch::showCopyMatches() {
 
 void frmSearch::showRole(SearchRole role) {
     useRole(role);
+    showAgain();
+}
+
+void frmSearch::showAgain() {
     show();
     raise();
     activateWindow();
@@ -152,14 +157,15 @@ void frmSearch::run(const std::function<void()> &command) {
         m_controls.cmbReplaceText->show(m_form.recentReplaces, m_form.request.replace);
         m_controls.cmbSearchText->show(m_form.recentFinds, m_form.request.find);
     }
-    const bool wasActive = isActiveWindow();
+    const bool wasActive = isActiveWindow() && (isWindow() || isAncestorOf(QApplication::focusWidget()));
     command();
     if (onSearched)
         onSearched();
     // Under the list of results the window manager may have chosen another window.
     if (wasActive)
         activateWindow();
-    resumeList();
+    if (wasActive || isWindow())
+        resumeList();
 }
 
 void frmSearch::cmdSearch_Click() {

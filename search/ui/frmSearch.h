@@ -33,6 +33,8 @@ class frmSearch final : public QDialog, public SearchWindow {
     void showCopyMatches() override;
     void cmdSearch_Click() override;
 
+    /// As it is, with the focus in the search text.
+    void showAgain();
     /// From here on the window shows in a text what it finds, while it is shown.
     void watch(const WatchedText &text);
     void setDirection(SearchDirection direction);

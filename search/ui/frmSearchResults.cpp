@@ -153,7 +153,7 @@ void SearchResultsWindow::show() {
         if (onHit)
             onHit(window);
     };
-    if (window.exec() != QDialog::Accepted)
+    if (run(window) != QDialog::Accepted)
         return;
     // The search window takes the focus back first.
     QTimer::singleShot(0, &m_later, [this] {

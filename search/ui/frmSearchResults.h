@@ -60,6 +60,8 @@ class SearchResultsWindow final : public SearchResults {
     void setCaption(const QString &caption) override { m_caption = caption; }
     void show() override;
 
+    /// Shows the list until it is over, as a modal window if nothing else is said, and gives its result.
+    std::function<int(QDialog &)> run = [](QDialog &list) { return list.exec(); };
     std::function<void(QWidget &)> onShow; ///< places the list
     std::function<void(QWidget &)> onHit;  ///< a hit has been selected; the list may lie over it
 

@@ -130,6 +130,10 @@ void frmSearch::applyLiveRules() {
 
 /// To be called before what is shown changes: that may enlarge the window by itself.
 void frmSearch::noteSizeOfUser() {
+    if (!isWindow()) {
+        m_givenSize = {}; // what holds it decides
+        return;
+    }
     if (m_givenSize.isValid())
         m_added = (m_added + size() - m_givenSize).expandedTo({0, 0});
     m_givenSize = size();
@@ -138,6 +142,11 @@ void frmSearch::noteSizeOfUser() {
 /// As large as what is shown needs, and larger by what the user has added.
 void frmSearch::fitSize() {
     activateLayout(*this);
+    if (!isWindow()) {
+        m_fittedSize = {};
+        updateGeometry();
+        return;
+    }
     if (const QSize needed = sizeHint(); needed != m_fittedSize) {
         m_fittedSize = needed;
         resize(needed + m_added);

@@ -76,7 +76,8 @@ void MainWindow::closeEvent(QCloseEvent *event) {
 
 bool MainWindow::event(QEvent *event) {
     if (event->type() == QEvent::WindowActivate) {
-        shownTextBox().setFocus();
+        if (!isFocusInDock())
+            shownTextBox().setFocus();
         if (onActivated)
             onActivated();
     }

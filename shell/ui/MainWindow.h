@@ -28,6 +28,7 @@ class QToolButton;
 namespace tolvo {
 
 class ChangeView;
+class DockArea;
 class ClipboardLineEnds;
 class EscapeWatch;
 class HistoryArrow;
@@ -64,6 +65,7 @@ class MainWindow : public QWidget, public SessionView {
     void putOverPowerButtons(QWidget &strip);
     /// What the button beside the PowerButtons opens.
     void setPowerButtonMenu(QMenu &menu);
+    void putUnderText(DockArea &area);
     /// For work beside the keys, here and in the dialogs.
     [[nodiscard]] BackgroundWorker &worker() { return m_worker; }
 
@@ -121,6 +123,7 @@ class MainWindow : public QWidget, public SessionView {
     void watchButtons();
     QList<WindowPart> parts();
     static void putBefore(QWidget &strip, QWidget &part);
+    [[nodiscard]] bool isFocusInDock() const;
     void nextPart();
     void partBefore();
     void showKeySheet();
@@ -136,6 +139,7 @@ class MainWindow : public QWidget, public SessionView {
     QSplitter *m_splitter = nullptr;
     QPointer<QWidget> m_overText; ///< the line of hints that stands there, if any
     QPointer<QWidget> m_overPowerButtons;
+    QList<QPointer<DockArea>> m_underText;
     QWidget *m_topBar = nullptr;
     NamesUnderIcons *m_iconNames = nullptr;
     QWidget *m_textArea = nullptr;

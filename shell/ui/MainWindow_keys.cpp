@@ -162,6 +162,9 @@ void MainWindow::watchButtons() {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent *event) {
+    // A window that lives in this one has keys of its own; it can be left.
+    if (isFocusInDock() && event->key() != Qt::Key_F6)
+        return event->accept();
     // Keys that the control with the focus has no use for; the text box's own have been asked for already.
     if (m_session && !m_session->bSessionOver && keyPressed(*event, false))
         return;

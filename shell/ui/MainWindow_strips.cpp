@@ -2,8 +2,10 @@
 // Lines of hints that come and go between the parts of the main window.
 #include "shell/ui/ImageButton.h"
 #include "shell/ui/MainWindow.h"
+#include "shell/ui/dock_area.h"
 
 #include <QBoxLayout>
+#include <algorithm>
 
 namespace tolvo {
 
@@ -21,6 +23,17 @@ void MainWindow::setPowerButtonMenu(QMenu &menu) {
     m_cmdMore->setMenu(&menu);
 }
 
+void MainWindow::putUnderText(DockArea &area) {
+    m_underText += &area;
+    auto *column = qobject_cast<QBoxLayout *>(m_textArea->parentWidget()->layout());
+    column->insertWidget(column->indexOf(m_textArea) + 1, &area);
+}
+
+bool MainWindow::isFocusInDock() const {
+    return std::any_of(m_underText.begin(), m_underText.end(),
+                       [](const auto &area) { return area && area->hasFocusInside(); });
+}
+
 void MainWindow::putBefore(QWidget &strip, QWidget &part) {
     auto *column = qobject_cast<QBoxLayout *>(part.parentWidget()->layout());
     column->insertWidget(column->indexOf(&part), &strip);
@@ -31,6 +44,10 @@ QList<WindowPart> MainWindow::parts() {
         return WindowPart{area, [within] { return firstStop(within); }};
     };
     QList<WindowPart> all{{m_textArea, [this] { return &shownTextBox(); }}};
+    for (const QPointer<DockArea> &area : std::as_const(m_underText)) {
+        if (area && area->isVisible())
+            all += part(area, area);
+    }
     if (m_overText)
         all += part(m_overText, m_overText);
     all += part(m_topBar, m_topBar);

@@ -14,9 +14,8 @@ namespace {
 
 constexpr QSize frameToCome{8, 36}; ///< about what a window manager adds, which is not known yet
 
-/// Wayland alone places its windows itself, and says nothing of where they are.
-bool canPlaceWindows() {
-    return !QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"));
+bool mayPlace(const QWidget &window) {
+    return window.isWindow() && canPlaceWindows();
 }
 
 QRect onDesktop(const QWidget &widget, const QRect &area) {
@@ -46,8 +45,12 @@ QRect startOfSelection(PlainTextBox &text) {
 
 } // namespace
 
+bool canPlaceWindows() {
+    return !QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"));
+}
+
 void placeBesideText(QWidget &window, MainWindow &main) {
-    if (!canPlaceWindows())
+    if (!mayPlace(window))
         return;
     PlainTextBox &text = main.shownTextBox();
     const TextPlace place{.main = main.frameGeometry(),
@@ -60,13 +63,13 @@ void placeBesideText(QWidget &window, MainWindow &main) {
 void moveOntoScreen(QWidget &window) {
     const QRect area = window.frameGeometry();
     const QPoint corner = cornerOnScreen(area, window.screen()->availableGeometry());
-    if (canPlaceWindows() && window.isVisible() && corner != area.topLeft())
+    if (mayPlace(window) && window.isVisible() && corner != area.topLeft())
         window.move(corner);
 }
 
 void moveOffSelection(QWidget &window, MainWindow &main) {
     PlainTextBox &text = main.shownTextBox();
-    if (!canPlaceWindows() || !window.isVisible() || !text.textCursor().hasSelection())
+    if (!mayPlace(window) || !window.isVisible() || !text.textCursor().hasSelection())
         return;
     const auto corner =
         cornerAside(window.frameGeometry(), startOfSelection(text), window.screen()->availableGeometry());

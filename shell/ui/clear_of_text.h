@@ -8,6 +8,9 @@ namespace tolvo {
 
 class MainWindow;
 
+/// Wayland alone places its windows itself, and says nothing of where they are.
+[[nodiscard]] bool canPlaceWindows();
+
 /// Places a window that is about to be shown beside the text.
 void placeBesideText(QWidget &window, MainWindow &main);
 

@@ -32,10 +32,11 @@
 namespace tolvo {
 
 DesktopDialogs::DesktopDialogs(const RunServices &services, MainWindow &parent)
-    : m_services(services), m_parent(parent) {
+    : m_services(services), m_parent(parent), m_docking(parent, services.store) {
     m_results = std::make_unique<SearchResultsWindow>(
         [this] { return toQFont(m_session->currentFont()); },
         [this]() -> TextBox & { return m_session->txtCurrent(); }, &m_parent);
+    m_results->run = [this](QDialog &list) { return m_docking.run(list); };
     m_results->onShow = [this](QWidget &list) { placeBesideText(list, m_parent); };
     m_results->onHit = [this](QWidget &list) {
         moveOffSelection(list, m_parent);
@@ -171,6 +172,7 @@ frmSearch &DesktopDialogs::searchWindow() {
         m_search->onCopyMatches = [this](const MatchCopy &copy) { copyMatchesOfWindow(copy); };
         m_searchIsPlaced = bringBackCorner(*m_search, m_services.store, settingKeys.windows.search);
         keepSearchClear();
+        m_docking.add(*m_search);
     }
     return *m_search;
 }

@@ -5,6 +5,7 @@
 #include "search/ui/frmSearch.h"
 #include "shell/modMain.h"
 #include "shell/ui/desktop_options.h"
+#include "shell/ui/search_docking.h"
 
 #include <memory>
 #include <optional>
@@ -68,6 +69,7 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     std::unique_ptr<dlgDicQuickList> m_languageDialog;
     std::unique_ptr<SearchResultsWindow> m_results;
     std::unique_ptr<frmSearch> m_search;
+    SearchDocking m_docking;
     bool m_searchIsPlaced = false; ///< by the user, or beside the text
 };
 

@@ -53,7 +53,10 @@ std::optional<QString> DesktopDialogs::getSettings(const QString &token, const Q
 
 std::optional<QString> DesktopDialogs::editSearch(const QString &details, SearchRole role) {
     QString settings = details;
-    return searchWindow().getSettings(settings, role) ? std::optional(settings) : std::nullopt;
+    bool confirmed = false;
+    frmSearch &search = searchWindow();
+    m_docking.asWindow(search, [&] { confirmed = search.getSettings(settings, role); });
+    return confirmed ? std::optional(settings) : std::nullopt;
 }
 
 std::optional<QString> DesktopDialogs::editLanguage(const QString &details) {

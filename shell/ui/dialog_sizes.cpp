@@ -40,7 +40,7 @@ bool DialogSizes::eventFilter(QObject *watched, QEvent *event) {
     if ((event->type() != QEvent::Show && event->type() != QEvent::Hide) || event->spontaneous())
         return false;
     auto *dialog = qobject_cast<QDialog *>(watched);
-    if (dialog != nullptr && isResizable(*dialog) && !m_session.bSessionOver)
+    if (dialog != nullptr && dialog->isWindow() && isResizable(*dialog) && !m_session.bSessionOver)
         event->type() == QEvent::Show ? comes(*dialog) : goes(*dialog);
     return false;
 }

@@ -252,7 +252,9 @@ class Tolvo:
         return self.focused_node().get_name()
 
     def focused_node(self):
-        return self._named(lambda n: n.get_state_set().contains(Atspi.StateType.FOCUSED))
+        # A tab says so of itself as long as it is the current one.
+        return self._named(lambda n: n.get_state_set().contains(Atspi.StateType.FOCUSED) and
+                           n.get_role() != Atspi.Role.PAGE_TAB)
 
     def tool_by_keys(self, group, name):
         """From the text to a tool of the panel and into it, with keys alone."""

@@ -5,7 +5,7 @@ import os
 import subprocess
 
 from command_stories import Notifications
-from desk import PROGRAMS, Settings, wait_for
+from desk import PROGRAMS, Settings, Tolvo, wait_for
 
 
 def pasted():
@@ -14,6 +14,33 @@ def pasted():
 
 def pasted_becomes(text):
     wait_for(lambda: pasted() == text, lambda: f"{text!r} on the clipboard, there is {pasted()!r}")
+
+
+def press(*strokes):
+    """Keys in one go, as "two" and "alt+n": the keyboard, and with it the focus, is there only meanwhile."""
+    arguments = ["-s", "500"]
+    for stroke in strokes:
+        held, _, key = stroke.rpartition("+")
+        arguments += ["-M", held, key, "-m", held, "-s", "400"] if held else ["-s", "400", stroke, "-s", "400"]
+    subprocess.run(["wtype", *arguments], timeout=20, check=True)
+
+
+def search_below_the_text(settings):
+    """Nobody can place windows here: the search and its results live in the main window."""
+    settings.write("Tolvo", "Preferences", "Show Tips at Startup", "0")
+    subprocess.run(["wl-copy", "one two three two"], timeout=5, check=True)
+    run = Tolvo(settings, wait=False)
+    run.text_becomes("one two three two")
+    press("ctrl+f", "two", "alt+f", "alt+n")
+    run.picture_becomes("one «two» three two")
+    assert len(run.windows()) == 1 and run.shows("Find Next"), run.titles()
+    press("alt+a")
+    run.find("Search results")
+    assert len(run.windows()) == 1 and not run.shows("Find Next"), run.titles()
+    subprocess.run(["wtype", "-s", "400", "-k", "Down", "-k", "Down", "-k", "Return"], timeout=5, check=True)
+    run.picture_becomes("one two three «two»")
+    press("alt+q")
+    run.ends()
 
 
 def main():
@@ -32,6 +59,7 @@ def main():
     pasted_becomes("Sway words")
     subprocess.run(["wl-copy", "over"], timeout=5, check=True)
     wait_for(lambda: not settings.programs("tolvo"), "the keeper to end")
+    search_below_the_text(settings)
     settings.close()
 
 

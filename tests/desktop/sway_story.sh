@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # A command without a window under a Wayland compositor that leaves a clipboard with its owner, so that Undo has something to
-# do. The compositor shows nothing and refuses root.
+# do; then a search in the main window. The compositor shows nothing and refuses root.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 for program in sway wtype wl-copy wl-paste dbus-run-session; do
@@ -25,5 +25,5 @@ echo 'xwayland disable' >config
 WLR_BACKENDS=headless WLR_RENDERER=pixman WLR_LIBINPUT_NO_DEVICES=1 timeout 100 sway --config config >sway.log 2>&1 &
 trap 'kill $(jobs -p) 2>/dev/null' EXIT
 for _ in $(seq 100); do [ -S wayland-1 ] && break; sleep 0.1; done
-export WAYLAND_DISPLAY=wayland-1 QT_QPA_PLATFORM=wayland
+export WAYLAND_DISPLAY=wayland-1 QT_QPA_PLATFORM=wayland QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 /usr/bin/python3 "$here/sway_story.py" || { cat sway.log; exit 1; }

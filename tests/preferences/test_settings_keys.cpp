@@ -29,6 +29,9 @@ auto membersOf(const Struct &all) {
     } else if constexpr (count == 4) {
         const auto &[a, b, c, d] = all;
         return std::tie(a, b, c, d);
+    } else if constexpr (count == 5) {
+        const auto &[a, b, c, d, e] = all;
+        return std::tie(a, b, c, d, e);
     } else if constexpr (count == 6) {
         const auto &[a, b, c, d, e, f] = all;
         return std::tie(a, b, c, d, e, f);
