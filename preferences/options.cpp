@@ -33,6 +33,13 @@ constexpr std::tuple dialogFields{Field{&ProgramOptions::useProportional, prefer
 constexpr std::tuple wordFields{Field{&WordOptions::extensions, preferences.userExtensions},
                                 Field{&WordOptions::fullDomainList, preferences.fullDomainList}};
 
+constexpr std::tuple typedTextFields{
+    Field{&TypedTextOptions::skipDigits, settingKeys.typedText.skipDigits},
+    Field{&TypedTextOptions::skipCapitals, settingKeys.typedText.skipCapitals},
+    Field{&TypedTextOptions::skipAddresses, settingKeys.typedText.skipAddresses},
+    Field{&TypedTextOptions::skipFileNames, settingKeys.typedText.skipFileNames},
+    Field{&TypedTextOptions::curlyApostrophe, settingKeys.typedText.curlyApostrophe}};
+
 void forEach(const auto &fields, auto visit) {
     std::apply([&visit](const auto &...field) { (visit(field), ...); }, fields);
 }
@@ -67,9 +74,17 @@ WordOptions loadWordOptions(const SettingsStore &store) {
     return options;
 }
 
+TypedTextOptions loadTypedTextOptions(const SettingsStore &store) {
+    TypedTextOptions options;
+    forEach(typedTextFields,
+            [&](const auto &field) { options.*field.member = getOrDefault(store, field.key); });
+    return options;
+}
+
 ProgramOptions loadOptions(const SettingsStore &store, const Font &ownFont) {
     ProgramOptions options;
     static_cast<WordOptions &>(options) = loadWordOptions(store);
+    static_cast<TypedTextOptions &>(options) = loadTypedTextOptions(store);
     options.fonts = {loadFont(store, preferences.proportional, ownFont),
                      loadFont(store, preferences.fixed, defaultFont(preferences.fixed))};
     options.wordWrap = get(store, preferences.wordWrap);
@@ -84,6 +99,7 @@ void saveOptions(SettingsStore &store, const ProgramOptions &options) {
     const auto save = [&](const auto &field) { set(store, field.key, options.*field.member); };
     forEach(dialogFields, save);
     forEach(wordFields, save);
+    forEach(typedTextFields, save);
     all.commit();
 }
 

@@ -21,7 +21,19 @@ struct WordOptions {
     bool operator==(const WordOptions &) const = default;
 };
 
-struct ProgramOptions : WordOptions {
+/// What a spelling check makes of the way words are typed.
+struct TypedTextOptions {
+    bool skipDigits = settingKeys.typedText.skipDigits.otherwise();
+    bool skipCapitals = settingKeys.typedText.skipCapitals.otherwise();
+    bool skipAddresses = settingKeys.typedText.skipAddresses.otherwise(); ///< of the web and of mail
+    bool skipFileNames = settingKeys.typedText.skipFileNames.otherwise();
+    /// In British English too; elsewhere it always is one.
+    bool curlyApostrophe = settingKeys.typedText.curlyApostrophe.otherwise();
+
+    bool operator==(const TypedTextOptions &) const = default;
+};
+
+struct ProgramOptions : WordOptions, TypedTextOptions {
     std::array<Font, 2> fonts; ///< 0 proportional, 1 fixed
     bool useProportional = settingKeys.preferences.useProportional.otherwise();
     bool wordWrap = settingKeys.preferences.wordWrap.otherwise();
@@ -42,6 +54,9 @@ struct ProgramOptions : WordOptions {
 [[nodiscard]] ProgramOptions loadOptions(const SettingsStore &store, const Font &ownFont = {});
 /// The part of them that the text engine needs.
 [[nodiscard]] WordOptions loadWordOptions(const SettingsStore &store);
+
+/// The part that a spelling check needs. What can't be read is the default.
+[[nodiscard]] TypedTextOptions loadTypedTextOptions(const SettingsStore &store);
 
 /// Writes everything but word wrap, whose toggle writes itself.
 void saveOptions(SettingsStore &store, const ProgramOptions &options);

@@ -162,6 +162,17 @@ struct PreviewKeys {
     Setting<forms::Check> inText{{u"Preview"}, u"InText", false}; // of the main window
 };
 
+/// What a spelling check makes of the way words are typed.
+struct TypedTextKeys {
+    static constexpr Section section{u"TypedText"};
+
+    Setting<forms::Check> skipDigits{section, u"SkipDigits", false};
+    Setting<forms::Check> skipCapitals{section, u"SkipCapitals", false};
+    Setting<forms::Check> skipAddresses{section, u"SkipAddresses", false};
+    Setting<forms::Check> skipFileNames{section, u"SkipFileNames", false};
+    Setting<forms::Check> curlyApostrophe{section, u"CurlyApostrophe", false}; // in the default language too
+};
+
 /// The statistics tree. All counters but those of the totals begin anew with each period.
 struct StatisticsKeys {
     static constexpr Section usage{u"Usage", SettingsTree::Statistics};
@@ -188,6 +199,7 @@ struct Keys {
     ViewKeys view;
     HintKeys hints;
     PreviewKeys preview;
+    TypedTextKeys typedText;
 };
 
 inline constexpr Keys settingKeys{};

@@ -3,12 +3,14 @@
 
 #include <QFile>
 #include <QStringList>
+#include <algorithm>
 #include <hunspell.hxx>
 #include <mutex>
 #include <optional>
 
 #include "spelling/dictionary_check.h"
 #include "spelling/dictionary_encoding.h"
+#include "spelling/word_forms.h"
 
 namespace tolvo {
 
@@ -82,10 +84,26 @@ bool HunspellEngine::Spell(QStringView word) {
     const auto known = m_known.constFind(text);
     if (known != m_known.cend())
         return *known;
-    const auto bytes = m_library->encoding.encode(text);
-    const bool good = bytes && m_library->hunspell.spell(*bytes);
+    const QStringList others = otherForms(text);
+    const bool good = knows(text) || std::any_of(others.cbegin(), others.cend(),
+                                                 [this](const QString &form) { return knows(form); });
     m_known.insert(text, good);
     return good;
+}
+
+bool HunspellEngine::knows(const QString &word) {
+    const auto bytes = m_library->encoding.encode(word);
+    return bytes && m_library->hunspell.spell(*bytes);
+}
+
+QString HunspellEngine::wordCharacters() const {
+    return m_library ? m_library->encoding.decode(m_library->hunspell.get_wordchars_cpp()) : QString();
+}
+
+QString HunspellEngine::converted(const QString &text) const {
+    std::string after;
+    const auto bytes = m_library ? m_library->encoding.encode(text) : std::nullopt;
+    return bytes && m_library->hunspell.input_conv(*bytes, after) ? m_library->encoding.decode(after) : text;
 }
 
 QString HunspellEngine::suggest(const QString &word) {
@@ -94,12 +112,12 @@ QString HunspellEngine::suggest(const QString &word) {
     const auto kept = m_suggested.constFind(word);
     if (kept != m_suggested.cend())
         return *kept;
-    const auto bytes = m_library->encoding.encode(word);
+    const auto bytes = m_library->encoding.encode(plainForm(word));
     if (!bytes)
         return {};
     QStringList suggestions;
     for (const std::string &suggestion : m_library->hunspell.suggest(*bytes))
-        suggestions += m_library->encoding.decode(suggestion);
+        suggestions += withApostropheOf(word, m_library->encoding.decode(suggestion));
     return *m_suggested.insert(word, suggestions.join(u'|'));
 }
 

@@ -36,19 +36,27 @@ class HunspellEngine {
     /// the dictionary's encoding can't hold.
     void Add(const QString &word);
 
-    /// True if the word is spelled correctly. The empty word is, and so is every word while no dictionary is
-    /// loaded. Answers are kept, so that a word is looked up once.
+    /// True if the word is spelled correctly, in one of its forms (word_forms.h). The empty word is, and so
+    /// is every word while no dictionary is loaded. Answers are kept, so that a word is looked up once.
     [[nodiscard]] bool Spell(QStringView word);
 
-    /// The suggestions, best first, joined with "|"; empty if there are none. Kept, as finding them takes
-    /// tens of milliseconds. Words that were added since are not among them.
+    /// The suggestions, best first, joined with "|"; empty if there are none. Their apostrophes are those of
+    /// the word. Kept, as finding them takes tens of milliseconds. Words that were added since are not among
+    /// them.
     [[nodiscard]] QString suggest(const QString &word);
     [[nodiscard]] bool hasSuggestions(const QString &word) const { return m_suggested.contains(word); }
     /// Keeps what another engine suggests for a word.
     void keepSuggestions(const QString &word, const QString &joined) { m_suggested.insert(word, joined); }
 
+    /// The characters that the dictionary has in words besides letters (WORDCHARS).
+    [[nodiscard]] QString wordCharacters() const;
+    /// What the dictionary makes of a text before it looks it up (ICONV).
+    [[nodiscard]] QString converted(const QString &text) const;
+
   private:
     class Library;
+    [[nodiscard]] bool knows(const QString &word);
+
     std::unique_ptr<Library> m_library;
     EngineRecipe m_recipe;
     QHash<QString, bool> m_known;

@@ -3,8 +3,8 @@
 
 #include "platform/report_error.h"
 #include "spelling/dictionaries.h"
+#include "spelling/found_languages.h"
 #include "spelling/user_dictionaries.h"
-#include "spelling/words.h"
 
 namespace tolvo {
 
@@ -18,20 +18,30 @@ void LocalDictionary::initHunspell(const SpellingServices &services, const QStri
                     failureNumber::hunspellNotInitialised);
         return;
     }
+    const bool curlyToo = loadTypedTextOptions(services.store).curlyApostrophe;
+    m_words = WordFinder(wordRulesOf(localeOfFile(locale), curlyToo), m_engine->wordCharacters(),
+                         [engine = m_engine](const QString &text) { return engine->converted(text); });
     for (const QString &word : readUserDictionary(services, locale))
         m_engine->Add(word);
 }
 
+bool LocalDictionary::isGood(QStringView text, const FoundWord &word) {
+    return m_engine->Spell(text.sliced(word.start, word.length)) ||
+           m_engine->Spell(text.sliced(word.outerStart, word.outerLength)) ||
+           m_skipped.skips(text, word.start, word.length);
+}
+
 CSpellingErrors LocalDictionary::checkHunspell(const QString &text) {
     CSpellingErrors errors;
-    qsizetype position = 1;
-    while (position < text.size()) {
-        const QStringView word = getNextWord(text, position, false);
-        if (m_engine->Spell(word))
+    if (text.size() == 1)
+        return errors;
+    qsizetype end = 0;
+    for (FoundWord word = m_words.next(text, 0); word.length > 0; word = m_words.next(text, end)) {
+        end = word.start + word.length;
+        if (isGood(text, word))
             continue;
-        const QString wrong = word.toString();
-        CSpellingError &error =
-            errors.Add(wrong, position - word.size() - 1, position - 1, spellingErrorType::notInDictionary);
+        const QString wrong = text.mid(word.start, word.length);
+        CSpellingError &error = errors.Add(wrong, word.start, end, spellingErrorType::notInDictionary);
         error.setSpellingSuggestions(hunspellSuggest(wrong));
     }
     return errors;

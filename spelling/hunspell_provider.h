@@ -3,9 +3,11 @@
 #pragma once
 
 #include "spelling/hunspell_engine.h"
+#include "spelling/skipped_words.h"
 #include "spelling/spelling_errors.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/spelling_services.h"
+#include "spelling/word_finder.h"
 
 #include <memory>
 
@@ -29,6 +31,9 @@ class LocalDictionary {
 
     [[nodiscard]] const std::shared_ptr<HunspellEngine> &engine() const { return m_engine; }
 
+    /// Words that are not checked from now on.
+    void skip(SkippedWords skipped) { m_skipped = std::move(skipped); }
+
     /// The words of a text that the dictionary doesn't know, each as an error. A text of one character has
     /// none.
     [[nodiscard]] CSpellingErrors checkHunspell(const QString &text);
@@ -37,9 +42,13 @@ class LocalDictionary {
     [[nodiscard]] std::shared_ptr<CSpellingSuggestions> hunspellSuggest(const QString &word);
 
   private:
+    [[nodiscard]] bool isGood(QStringView text, const FoundWord &word);
+
     // Shared with the suggestion lists, which use it later.
     std::shared_ptr<HunspellEngine> m_engine = std::make_shared<HunspellEngine>();
     QString m_locale;
+    WordFinder m_words;
+    SkippedWords m_skipped;
 };
 
 /// Provider 1.

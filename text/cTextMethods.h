@@ -38,6 +38,8 @@ class cTextMethods {
     void setTopLevelDomains(const QString &list);
     /// The list of top level domains in use.
     [[nodiscard]] const QString &topLevelDomains() const { return sTLD; }
+    /// What recognises addresses and file names, by that list and the known extensions.
+    [[nodiscard]] const AddressRules &addressRules() const { return m_addresses; }
 
     // Primitives (primitives.cpp)
 

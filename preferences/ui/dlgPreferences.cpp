@@ -7,6 +7,7 @@
 #include "platform/desktop/enter_key.h"
 #include "platform/message_box.h"
 #include "platform/special_folders.h"
+#include "preferences/ui/TypedTextBox.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
@@ -54,6 +55,7 @@ void dlgPreferences::init(const ProgramOptions &options, const QString &lastChec
     m_chkUpdates->setChecked(options.checkUpdates);
     m_chkUsageStats->setChecked(options.allowStats);
     m_labLastCheck->setText(lastCheck);
+    m_typedText->showOptions(options);
     for (std::size_t i = 0; i < m_optSpellingProvider.size(); ++i) {
         // Without this a number outside the list would leave the option of the time before ticked.
         m_optSpellingProvider[i]->setAutoExclusive(false);
@@ -75,6 +77,7 @@ ProgramOptions dlgPreferences::options() const {
     options.sounds = m_chkSounds->isChecked();
     options.checkUpdates = m_chkUpdates->isChecked();
     options.allowStats = m_chkUsageStats->isChecked();
+    static_cast<TypedTextOptions &>(options) = m_typedText->options();
     for (std::size_t i = 0; i < m_optSpellingProvider.size(); ++i) {
         if (m_optSpellingProvider[i]->isChecked())
             options.provider = static_cast<int>(i);

@@ -18,6 +18,7 @@ class QTabWidget;
 namespace tolvo {
 
 class MessageBoxes;
+class TypedTextBox;
 
 /// What the dialog asks to be done. Failures are reported by who does it.
 class OptionsActions {
@@ -91,6 +92,7 @@ class dlgPreferences : public QDialog {
     QCheckBox *m_chkUsageStats = nullptr;
     QLabel *m_labLastCheck = nullptr;
     std::array<QRadioButton *, 4> m_optSpellingProvider{};
+    TypedTextBox *m_typedText = nullptr;
 };
 
 } // namespace tolvo

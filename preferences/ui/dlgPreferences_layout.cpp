@@ -3,6 +3,7 @@
 #include "preferences/ui/dlgPreferences.h"
 
 #include "platform/message_box.h"
+#include "preferences/ui/TypedTextBox.h"
 #include "widgets/themed_icon.h"
 
 #include <QButtonGroup>
@@ -244,6 +245,8 @@ QWidget *dlgPreferences::spellingPage() {
     layout->addWidget(note(QStringLiteral(
         "After the Deadline sends the text to a web service. The other providers leave it on this "
         "computer.")));
+    m_typedText = new TypedTextBox;
+    layout->addWidget(m_typedText);
     layout->addSpacing(fontMetrics().lineSpacing());
     layout->addWidget(ownWords, 0, Qt::AlignLeft);
     layout->addStretch(1);

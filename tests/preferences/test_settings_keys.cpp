@@ -50,10 +50,13 @@ auto membersOf(const Struct &all) {
     } else if constexpr (count == 12) {
         const auto &[a, b, c, d, e, f, g, h, i, j, k, l] = all;
         return std::tie(a, b, c, d, e, f, g, h, i, j, k, l);
-    } else {
-        static_assert(count == 13, "a struct of another size needs a line of its own");
+    } else if constexpr (count == 13) {
         const auto &[a, b, c, d, e, f, g, h, i, j, k, l, m] = all;
         return std::tie(a, b, c, d, e, f, g, h, i, j, k, l, m);
+    } else {
+        static_assert(count == 14, "a struct of another size needs a line of its own");
+        const auto &[a, b, c, d, e, f, g, h, i, j, k, l, m, n] = all;
+        return std::tie(a, b, c, d, e, f, g, h, i, j, k, l, m, n);
     }
 }
 

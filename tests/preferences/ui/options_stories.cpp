@@ -162,6 +162,10 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     open();
     control<QCheckBox>("chkSounds").setChecked(false);
     control<QCheckBox>("chkTroubles").setChecked(false);
+    for (const char *name : {"chkSkipDigits", "chkSkipAddresses", "chkCurlyApostrophe"}) {
+        EXPECT_FALSE(control<QCheckBox>(name).isChecked()) << name;
+        control<QCheckBox>(name).setChecked(true);
+    }
     control<QRadioButton>("optTLDs_0").setChecked(true);
     control<QRadioButton>("optSpellingProvider_2").setChecked(true);
     control<QRadioButton>("optProp_1").setChecked(true);
@@ -172,6 +176,8 @@ TEST_F(OptionsStory, whatIsAppliedComesBackWithTheNextOpening) {
     saveOptions(store, actions.applied[0]);
     EXPECT_EQ(textOf(store, settingKeys.preferences.sounds), QStringLiteral("0"));
     EXPECT_EQ(textOf(store, settingKeys.hints.troubles), QStringLiteral("0"));
+    EXPECT_EQ(textOf(store, settingKeys.typedText.skipAddresses), QStringLiteral("1"));
+    EXPECT_EQ(textOf(store, settingKeys.typedText.skipCapitals), QStringLiteral("0"));
     EXPECT_EQ(store.GetSetting(QStringLiteral("Tolvo"), QStringLiteral("Preferences\\UserFileExtensions"),
                                QStringLiteral("{")),
               QStringLiteral("extaz"));
