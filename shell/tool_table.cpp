@@ -11,11 +11,14 @@
 #include "text/cTextMethods.h"
 #include "text/coding.h"
 #include "text/identifiers.h"
+#include "text/language_case.h"
 #include "text/letters.h"
 #include "text/line_order.h"
 #include "text/line_parts.h"
 #include "text/line_sets.h"
+#include "text/reflow.h"
 #include "text/tables.h"
+#include "text/typography.h"
 
 namespace tolvo {
 
@@ -72,6 +75,19 @@ constexpr ToolOperation asked() {
     return {.run = &Asked<operation>::run,
             .settings = &Asked<operation>::settings,
             .window = SettingsWindow::Dialog};
+}
+
+template <auto operation>
+struct Set;
+template <class Settings, QString (*operation)(QStringView, const Settings &)>
+struct Set<operation> {
+    static QString run(const ToolInput &in, const Settings &settings) { return operation(in.text, settings); }
+};
+
+/// The same for a function of the text alone.
+template <auto operation>
+constexpr ToolOperation set() {
+    return asked<&Set<operation>::run>();
 }
 
 /// An edit of the text in use, without an operation of the text engine.
@@ -242,6 +258,13 @@ constexpr ToolRow table[] = {
     {u"idSNA",  pure<snakeCase>(),                      N,        says(u"snake_case")},
     {u"idKEB",  pure<kebabCase>(),                      N,        says(u"kebab-case")},
     {u"idCON",  pure<constantCase>(),                   N,        says(u"CONSTANT_CASE")},
+
+    {u"tyTYP",  set<typographic>(),                     N,        says(u"Typography set")},
+    {u"tyASC",  pure<straightSigns>(),                  N,        says(u"Signs made plain")},
+    {u"ccLAN",  set<caseByLanguage>(),                  N,        length(u" characters: case by language")},
+    {u"paWRP",  set<wrappedParagraphs>(),               lines_N,  says(u"Paragraphs wrapped")},
+    {u"paUNW",  pure<unwrappedParagraphs>(),            lines_N,  says(u"Paragraphs unwrapped")},
+    {u"paPDF",  pure<joinedPdfLines>(),                 lines_N,  says(u"Lines joined")},
 
     {u"pbPBT",  nestedPowerButton(),                    own},
     {u"pbCLR",  onText<clearSelection>(),               own},

@@ -8,6 +8,7 @@
 #include "text/line_settings.h"
 #include "text/numbering.h"
 #include "text/settings_fields.h"
+#include "text/writing_settings.h"
 
 #include <QString>
 #include <QStringList>
@@ -130,10 +131,13 @@ struct LineNumberSettings {
 
 /// The settings of any tool. What is derived from the list of structs: the dialogs (text/ui/tool_dialogs.h),
 /// the memory of a run, and all functions below.
-using ToolSettings =
-    std::variant<IndentSettings, WordWrapSettings, RemoveLinesSettings, BulletSettings, NumberListSettings,
-                 LineNumberSettings, SortLinesSettings, DuplicateSettings, PatternLinesSettings,
-                 AroundLinesSettings, SeparatorSettings, EveryLineSettings>;
+using ToolSettings = std::variant<IndentSettings, WordWrapSettings, RemoveLinesSettings, BulletSettings,
+                                  NumberListSettings, LineNumberSettings,
+                                  // text/line_settings.h
+                                  SortLinesSettings, DuplicateSettings, PatternLinesSettings,
+                                  AroundLinesSettings, SeparatorSettings, EveryLineSettings,
+                                  // text/writing_settings.h
+                                  TypographySettings, LanguageCaseSettings, ParagraphWrapSettings>;
 
 /// Calls visit(Settings()) for each of the structs.
 template <class Visit>

@@ -87,7 +87,10 @@ TEST(ToolSettings, haveTheirPlacesAndDefaults) {
                            "AroundLines|Step=1 AroundLines|Width=0 AroundLines|SkipBlanks=1"_s,
                            u"Separator|Join=0 Separator|Separator=,  Separator|Trim=1 "
                            "Separator|LeaveOutEmpty=0"_s,
-                           u"EveryLine|Drop=0 EveryLine|Every=2 EveryLine|First=1"_s}));
+                           u"EveryLine|Drop=0 EveryLine|Every=2 EveryLine|First=1"_s,
+                           u"Typography|Language=British Typography|Blanks=1"_s,
+                           u"LanguageCase|Language=Any LanguageCase|Kind=Upper"_s,
+                           u"ParagraphWrap|Width=72 ParagraphWrap|Fill=0"_s}));
 }
 
 TEST(ToolSettings, areWrittenAsSettingsStrings) {

@@ -49,6 +49,18 @@ namespace tolvo {
 [[nodiscard]] SettingsDialogPtr<EveryLineSettings> makeToolDialog(const EveryLineSettings &settings,
                                                                   const ToolDialogContext &context);
 
+// Those of dlgWriting.cpp, each with a sample
+
+/// dlgTypography: the language whose rules count.
+[[nodiscard]] SettingsDialogPtr<TypographySettings> makeToolDialog(const TypographySettings &settings,
+                                                                   const ToolDialogContext &context);
+/// dlgLanguageCase: the language, and which capitals.
+[[nodiscard]] SettingsDialogPtr<LanguageCaseSettings> makeToolDialog(const LanguageCaseSettings &settings,
+                                                                     const ToolDialogContext &context);
+/// dlgParagraphWrap: how wide lines may be.
+[[nodiscard]] SettingsDialogPtr<ParagraphWrapSettings> makeToolDialog(const ParagraphWrapSettings &settings,
+                                                                      const ToolDialogContext &context);
+
 /// Shows the dialog of the settings modally. False if the user cancelled; otherwise they are the user's.
 [[nodiscard]] bool askInToolDialog(ToolSettings &settings, const ToolDialogContext &context);
 
