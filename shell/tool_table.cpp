@@ -2,6 +2,7 @@
 #include "shell/tool_table.h"
 
 #include "platform/text_box.h"
+#include "shell/finding_tools.h"
 #include "shell/line_operations.h"
 #include "shell/moving_lines.h"
 #include "shell/search_tools.h"
@@ -16,6 +17,7 @@
 #include "text/line_order.h"
 #include "text/line_parts.h"
 #include "text/line_sets.h"
+#include "text/notation.h"
 #include "text/reflow.h"
 #include "text/tables.h"
 #include "text/typography.h"
@@ -265,6 +267,23 @@ constexpr ToolRow table[] = {
     {u"paWRP",  set<wrappedParagraphs>(),               lines_N,  says(u"Paragraphs wrapped")},
     {u"paUNW",  pure<unwrappedParagraphs>(),            lines_N,  says(u"Paragraphs unwrapped")},
     {u"paPDF",  pure<joinedPdfLines>(),                 lines_N,  says(u"Lines joined")},
+
+    {u"cdHNE",  pure<htmlNamed>(),                      N,        says(u"Encoded")},
+    {u"cdHND",  decoding<htmlReferencesDecoded>(),      N},
+    {u"cdQPE",  pure<quotedPrintableEncoded>(),         N,        says(u"Encoded")},
+    {u"cdQPD",  decoding<quotedPrintableDecoded>(),     N},
+    {u"cdCSE",  pure<cEscaped>(),                       N,        says(u"Escaped")},
+    {u"cdCSD",  decoding<cUnescaped>(),                 N},
+    {u"cdSHE",  pure<shellQuoted>(),                    N,        says(u"Quoted")},
+    {u"cdSHD",  decoding<shellUnquoted>(),              N},
+    {u"cdXME",  pure<xmlEscaped>(),                     N,        says(u"Escaped")},
+    {u"cdXMD",  decoding<xmlUnescaped>(),               N},
+    {u"cdCVE",  pure<csvQuoted>(),                      lines_N,  says(u"Quoted")},
+    {u"cdCVD",  decoding<csvUnquoted>(),                lines_N},
+    {u"exWEB",  text<foundWebAddresses>(),              N},
+    {u"exMAI",  text<foundMailAddresses>(),             N},
+    {u"exNUM",  text<foundNumbers>(),                   N},
+    {u"exDAT",  text<foundDates>(),                     N},
 
     {u"pbPBT",  nestedPowerButton(),                    own},
     {u"pbCLR",  onText<clearSelection>(),               own},

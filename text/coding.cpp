@@ -2,58 +2,13 @@
 #include "text/coding.h"
 
 #include "platform/line_ends.h"
+#include "text/code_parts.h"
 #include "text/lines.h"
 
 #include <QByteArray>
-#include <QStringDecoder>
-#include <array>
 #include <optional>
 
 namespace tolvo {
-
-namespace {
-
-constexpr int hexadecimal = 16;
-
-void note(DecodedText &decoded, qsizetype at) {
-    if (decoded.bad++ == 0)
-        decoded.badAt = at;
-}
-
-/// The text of valid UTF-8; nothing for other bytes.
-std::optional<QString> fromUtf8(const QByteArray &bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-    QString text = decoder.decode(bytes);
-    if (decoder.hasError())
-        return {};
-    return text;
-}
-
-std::optional<uint> hexNumber(QStringView digits) {
-    const auto isHex = [](QChar c) {
-        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
-    };
-    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isHex))
-        return {};
-    return digits.toUInt(nullptr, hexadecimal);
-}
-
-void addHex(QString &result, uint number, int width, QStringView digits = u"0123456789abcdef") {
-    constexpr int bitsOfADigit = 4;
-    for (int place = width - 1; place >= 0; --place)
-        result += digits[(number >> (place * bitsOfADigit)) & 0xFU];
-}
-
-/// How many bytes a UTF-8 sequence has by its first; 0 for a byte that begins none.
-qsizetype sequenceLength(uchar first) {
-    if (first < 0x80)
-        return 1;
-    if (first < 0xC2 || first > 0xF4)
-        return 0;
-    return first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-}
-
-} // namespace
 
 QString htmlEncoded(QStringView text) {
     QString result;
@@ -125,7 +80,7 @@ DecodedText urlDecoded(QStringView text) {
             decoded.text += *character;
             i += 3 * length;
         } else {
-            note(decoded, i);
+            noteBadCode(decoded, i);
             decoded.text += text.sliced(i, 3);
             i += 3;
         }
@@ -209,9 +164,7 @@ std::optional<Escape> codeEscape(QStringView text, qsizetype prefix, qsizetype d
         digits > 0 && text.size() >= prefix + digits ? hexNumber(text.sliced(prefix, digits)) : std::nullopt;
     if (!code || *code > QChar::LastValidCodePoint)
         return {};
-    return Escape{*code > 0xFFFF ? QString::fromUcs4(std::array{static_cast<char32_t>(*code)}.data(), 1)
-                                 : QString(QChar(static_cast<char16_t>(*code))),
-                  prefix + digits};
+    return Escape{characterOf(*code), prefix + digits};
 }
 
 std::optional<Escape> escapeAt(QStringView text) {
@@ -248,7 +201,7 @@ DecodedText unescapedString(QStringView text) {
             decoded.text += escape->stands;
             i += escape->length;
         } else {
-            note(decoded, i);
+            noteBadCode(decoded, i);
             decoded.text += text[i];
         }
     }

@@ -1,6 +1,6 @@
 # Reads cases as JSON, a list of [tool, text, result] or [tool, text, result, settings], lines ending in CR LF, and prints those
 # that Python's own libraries see otherwise, with what they make of the text.
-import base64, csv, html, io, json, re, sys, unicodedata, urllib.parse
+import base64, csv, html, io, json, quopri, re, shlex, sys, unicodedata, urllib.parse
 from collections import Counter
 
 lf = lambda text: text.replace("\r\n", "\n")
@@ -90,6 +90,9 @@ expected = {
     "base64Decoded": lambda t: base64.b64decode(t).decode().replace("\n", "\r\n"),
     "jsonEscaped": lambda t: json.dumps(lf(t), ensure_ascii=False)[1:-1],
     "unescapedString": lambda t: json.loads('"' + t + '"').replace("\n", "\r\n"),
+    "htmlReferencesDecoded": html.unescape,
+    "quotedPrintableDecoded": lambda t: quopri.decodestring(lf(t).encode()).decode().replace("\n", "\r\n"),
+    "shellUnquoted": lambda t: shlex.split(t)[0],
     "unicodeEscaped": lambda t: "".join(c if c < "\x80" else json.dumps(c)[1:-1] for c in t),
     "composed": lambda t: unicodedata.normalize("NFC", t),
     "withoutDuplicates": lambda t: "\r\n".join(dict.fromkeys(t.split("\r\n"))),

@@ -3,11 +3,13 @@
 #include "tests/support/commands.h"
 #include "tests/support/print.h"
 #include "text/coding.h"
+#include "text/html_names.h"
 #include "text/letters.h"
 #include "text/line_choice.h"
 #include "text/line_order.h"
 #include "text/line_parts.h"
 #include "text/line_sets.h"
+#include "text/notation.h"
 #include "text/tables.h"
 
 #include <QJsonArray>
@@ -65,6 +67,11 @@ TEST(AgainstPython, ToolsComeToTheSame) {
         const QString escaped = unicodeEscaped(jsonEscaped(text));
         add("unescapedString", escaped, unescapedString(escaped).text);
         add("unicodeEscaped", text, unicodeEscaped(text));
+        add("htmlReferencesDecoded", htmlNamed(text), htmlReferencesDecoded(htmlNamed(text)).text);
+        const QString mail = quotedPrintableEncoded(text + text + text);
+        add("quotedPrintableDecoded", mail, quotedPrintableDecoded(mail).text);
+        const QString word = shellQuoted(text);
+        add("shellUnquoted", word, shellUnquoted(word).text);
         add("composed", text, composed(text));
         const QString list = random.of(lines);
         add("withoutDuplicates", list, withoutDuplicates(list));
@@ -76,6 +83,12 @@ TEST(AgainstPython, ToolsComeToTheSame) {
         add("csvTable", table, csvTable(table));
         if (readTable(csvTable(table)) != readTable(table))
             ADD_FAILURE() << shown(table);
+    }
+    for (const QByteArray &entry : htmlNameTable().toByteArray().split(',')) {
+        const QString name =
+            u'&' + QString::fromLatin1(entry.trimmed().split(' ').first()).remove(u'*').remove(u'!');
+        for (const QString &text : {QString(name + u';'), QString(name + u'x'), name})
+            add("htmlReferencesDecoded", text, htmlReferencesDecoded(text).text);
     }
     EXPECT_EQ(seenOtherwise(cases), "[]");
 }
