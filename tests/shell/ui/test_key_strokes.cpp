@@ -85,8 +85,8 @@ TEST(KeyStrokes, withCtrlAndAltAreCommandsUnlessTheyType) {
         {"de", Qt::Key_Q, "@", {0, Ctrl | Alt, '@'}},
     };
     for (const auto &[layout, key, text, expected] : rows) {
-        const KeyStroke found =
-            keyStroke(QKeyEvent(QEvent::KeyPress, key, ctrl | alt, QString::fromUtf8(text)));
+        const KeyStroke found = keyStroke(
+            QKeyEvent(QEvent::KeyPress, key, Qt::ControlModifier | Qt::AltModifier, QString::fromUtf8(text)));
         EXPECT_EQ(found.code, expected.code) << layout << text;
         EXPECT_EQ(found.shiftState, expected.shiftState) << layout << text;
         EXPECT_EQ(found.character, expected.character) << layout << text;
