@@ -238,7 +238,7 @@ QWidget *dlgPreferences::spellingPage() {
         grid->addWidget(m_optSpellingProvider[at], i, 0);
         grid->addWidget(browse, i, 1);
     }
-    auto *ownWords = make<QPushButton>("cmdOwnWords", QStringLiteral("Your own &words..."));
+    auto *ownWords = make<QPushButton>("cmdOwnWords", QStringLiteral("&Your own words..."));
     connect(ownWords, &QPushButton::clicked, this, [this] { m_actions.editOwnWords(); });
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(box);

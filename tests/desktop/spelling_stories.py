@@ -69,7 +69,7 @@ class SpellingStories(Story):
         run.click("Options")
         run.active("Options")
         run.page("Spelling")
-        keys("alt+w")
+        keys("alt+y")
         run.active("Your Own Words")
         type_text("storyzqx")
         keys("Return")
