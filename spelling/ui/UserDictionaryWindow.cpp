@@ -128,11 +128,11 @@ void UserDictionaryWindow::refresh(const QStringList &chosen) {
     wordTyped();
 }
 
-/// The list follows what is typed; a word that is there already is chosen instead of being added.
+/// The list follows what is typed.
 void UserDictionaryWindow::wordTyped() {
     const QString word = txtWord->text().trimmed();
     const auto same = lstWords->findItems(word, Qt::MatchFixedString | Qt::MatchCaseSensitive);
-    cmdAdd->setEnabled(UserDictionary::isWord(word) && same.isEmpty());
+    cmdAdd->setEnabled(UserDictionary::isWord(word));
     if (word.isEmpty())
         return;
     lstWords->clearSelection();
@@ -150,11 +150,12 @@ void UserDictionaryWindow::say(const QString &what) {
 
 void UserDictionaryWindow::add() {
     const QString word = txtWord->text().trimmed();
-    if (!attempt(QStringLiteral("add"), [&] { dictionary().add({word}); }))
+    qsizetype added = 0;
+    if (!attempt(QStringLiteral("add"), [&] { added = dictionary().add({word}); }))
         return;
     txtWord->clear();
     refresh({word});
-    say(QStringLiteral("added %1").arg(word));
+    say((added > 0 ? QStringLiteral("added %1") : QStringLiteral("%1 is there already")).arg(word));
     txtWord->setFocus();
 }
 

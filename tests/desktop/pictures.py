@@ -175,6 +175,9 @@ def options(run, photographer):
         type_text(word)
         keys("Return")
     photographer.take("own-words", "Your Own Words")
+    for word in "Tolvo", "clipboards", "wordwrap":
+        type_text(word)
+        keys("alt+r")
     keys("Escape")
     run.active("Options")
 
