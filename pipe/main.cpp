@@ -18,6 +18,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <optional>
 
 namespace tolvo {
 
@@ -103,21 +104,25 @@ void listLines(const QStringList &lines) {
         writeStandardOutput(line + u'\n');
 }
 
-int listWords(const PipeArguments &arguments) {
-    SettingsStore store(SettingsStore::defaultPath());
-    const SpellRequest request{.store = store,
-                               .dataFolder = programFolders().data,
-                               .locale = arguments.locale,
-                               .json = arguments.json};
-    const bool found = listMisspellings(request, readStandardInput(),
-                                        [](const QString &line) { writeStandardOutput(line + u'\n'); });
+int listWords(const HeadlessWorld &world, const PipeArguments &arguments) {
+    const bool found =
+        listMisspellings(world, {.locale = arguments.locale, .json = arguments.json}, readStandardInput(),
+                         [](const QString &line) { writeStandardOutput(line + u'\n'); });
     return found ? exitCode::warned : exitCode::done;
 }
 
-int listDictionaries() {
-    SettingsStore store(SettingsStore::defaultPath());
-    listLines(dictionaryList(store, programFolders().data));
-    return exitCode::done;
+/// What a mode lists that takes no text; nothing for any other mode.
+std::optional<QStringList> listOf(const HeadlessWorld &world, const PipeArguments &arguments) {
+    switch (arguments.mode) {
+    case PipeArguments::Mode::Complete:
+        return completions(world, arguments.begun);
+    case PipeArguments::Mode::ListButtons:
+        return buttonList(world);
+    case PipeArguments::Mode::ListDictionaries:
+        return dictionaryList(world);
+    default:
+        return std::nullopt;
+    }
 }
 
 int runWithCatalogue(const PipeArguments &arguments) {
@@ -131,15 +136,20 @@ int runWithCatalogue(const PipeArguments &arguments) {
     SettingsStore store(SettingsStore::defaultPath());
     const HeadlessWorld world{
         .store = store, .catalogue = catalogue, .extensions = extensions, .dataFolder = folder};
-    if (arguments.mode == PipeArguments::Mode::Complete ||
-        arguments.mode == PipeArguments::Mode::ListButtons) {
-        const bool completes = arguments.mode == PipeArguments::Mode::Complete;
-        listLines(completes ? completions(world, arguments.begun) : buttonList(world));
+    if (const auto lines = listOf(world, arguments)) {
+        listLines(*lines);
         return exitCode::done;
     }
     if (const QString trouble = store.takeTrouble(); !trouble.isEmpty())
         complain(trouble);
-    return arguments.mode == PipeArguments::Mode::Batch ? runBatch(world) : runSteps(world, arguments);
+    switch (arguments.mode) {
+    case PipeArguments::Mode::Spell:
+        return listWords(world, arguments);
+    case PipeArguments::Mode::Batch:
+        return runBatch(world);
+    default:
+        return runSteps(world, arguments);
+    }
 }
 
 int run(const QStringList &commandLine) {
@@ -153,10 +163,6 @@ int run(const QStringList &commandLine) {
     case PipeArguments::Mode::Version:
         writeStandardOutput(versionText(QStringLiteral("tolvo-pipe")));
         return exitCode::done;
-    case PipeArguments::Mode::Spell:
-        return listWords(arguments);
-    case PipeArguments::Mode::ListDictionaries:
-        return listDictionaries();
     default:
         return runWithCatalogue(arguments);
     }

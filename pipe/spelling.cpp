@@ -5,7 +5,6 @@
 #include "pipe/text.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "shell/headless/HeadlessSession.h"
-#include "shell/headless/steps.h"
 #include "spelling/found_languages.h"
 #include "spelling/hunspell_provider.h"
 
@@ -15,14 +14,14 @@ namespace tolvo {
 
 namespace {
 
-/// What the spelling check needs of a world without windows.
+/// What the spelling check needs, without windows.
 struct SpellingWorld {
-    SpellingWorld(SettingsStore &store, const QString &dataFolder)
-        : services{.store = store,
+    explicit SpellingWorld(const HeadlessWorld &world)
+        : services{.store = world.store,
                    .boxes = boxes,
                    .http = network,
                    .word = word,
-                   .dataFolder = dataFolder,
+                   .dataFolder = world.dataFolder,
                    .userFolder = SpellingServices::defaultUserFolder(),
                    .atdEndpoint = {}} {}
     ConsoleBoxes boxes;
@@ -91,10 +90,14 @@ LocalDictionary dictionaryOf(const SpellingServices &services, const QString &lo
 
 } // namespace
 
-bool listMisspellings(const SpellRequest &request, const QString &text,
+bool listMisspellings(const HeadlessWorld &world, const SpellRequest &request, const QString &text,
                       const std::function<void(const QString &)> &writeLine) {
-    SpellingWorld world(request.store, request.dataFolder);
-    LocalDictionary dictionary = dictionaryOf(world.services, request.locale);
+    SpellingWorld spelling(world);
+    LocalDictionary dictionary = dictionaryOf(spelling.services, request.locale);
+    HeadlessWindows windows;
+    const HeadlessSession session(world.store, world.catalogue, world.extensions, spelling.boxes, windows,
+                                  world.dataFolder);
+    dictionary.skip(skippedWords(world.store, session.session.oTextMethods));
     const QString checked = text.startsWith(QChar::ByteOrderMark) ? text.sliced(1) : text;
     const CSpellingErrors errors = dictionary.checkHunspell(checked);
     TextPosition at(checked);
@@ -107,10 +110,10 @@ bool listMisspellings(const SpellRequest &request, const QString &text,
     return errors.Count() > 0;
 }
 
-QStringList dictionaryList(SettingsStore &store, const QString &dataFolder) {
-    const SpellingWorld world(store, dataFolder);
+QStringList dictionaryList(const HeadlessWorld &world) {
+    const SpellingWorld spelling(world);
     QStringList list;
-    for (const FoundLanguage &language : foundLanguages(world.services))
+    for (const FoundLanguage &language : foundLanguages(spelling.services))
         list += QFileInfo(language.files.dic).completeBaseName() + u'\t' + language.name;
     return list;
 }

@@ -6,7 +6,6 @@
 #include "spelling/ginger.h"
 #include "spelling/locales.h"
 #include "spelling/word_provider.h"
-#include "text/cTextMethods.h"
 
 namespace tolvo {
 
@@ -57,8 +56,7 @@ void CSpelling::init(int providerType, int &LangID, QString &localeName) {
 void CSpelling::initLocal(QString &localeName) {
     m_dictionary = std::make_unique<LocalDictionary>();
     m_dictionary->initHunspell(m_services, localeName);
-    m_dictionary->skip(SkippedWords(loadTypedTextOptions(m_services.store), m_textMethods.addressRules(),
-                                    m_textMethods.topLevelDomains()));
+    m_dictionary->skip(skippedWords(m_services.store, m_textMethods));
 }
 
 QString CSpelling::langFromID(int LangID) const {

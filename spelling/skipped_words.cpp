@@ -2,6 +2,7 @@
 #include "spelling/skipped_words.h"
 
 #include "base/paths.h"
+#include "text/cTextMethods.h"
 
 #include <algorithm>
 
@@ -64,6 +65,10 @@ bool SkippedWords::isAddress(QStringView run) const {
     const qsizetype slash = run.indexOf(u'/');
     const QStringView host = slash < 0 ? run : run.first(slash);
     return host.contains(u'.') && m_domains.holds(fnExtension(host));
+}
+
+SkippedWords skippedWords(const SettingsStore &store, const cTextMethods &textMethods) {
+    return {loadTypedTextOptions(store), textMethods.addressRules(), textMethods.topLevelDomains()};
 }
 
 } // namespace tolvo

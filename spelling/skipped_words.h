@@ -10,6 +10,9 @@
 
 namespace tolvo {
 
+class SettingsStore;
+class cTextMethods;
+
 class SkippedWords {
   public:
     /// Skips nothing.
@@ -28,5 +31,8 @@ class SkippedWords {
     std::optional<AddressRules> m_addresses;
     WordList m_domains;
 };
+
+/// What the options of a user leave out.
+[[nodiscard]] SkippedWords skippedWords(const SettingsStore &store, const cTextMethods &textMethods);
 
 } // namespace tolvo

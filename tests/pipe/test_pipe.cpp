@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // tolvo-pipe as the shell runs it, and beside a session with the same Actions.
 #include "powerbuttons/CPowerButtonMethods.h"
+#include "preferences/settings_keys.h"
 #include "tests/support/User.h"
 #include "tests/support/examples.h"
 
@@ -134,6 +135,12 @@ TEST_F(Pipe, listsMisspelledWords) {
             runs(row);
     });
     EXPECT_EQ(run({"--spell", "xx_YY"}, "the \xff").code, 2);
+    EXPECT_EQ(run({"--spell", "xx_YY"}, "cta12").out, "1:1: cta: cat\n");
+    {
+        SettingsStore store(storePath);
+        set(store, settingKeys.typedText.skipDigits, true);
+    }
+    EXPECT_EQ(run({"--spell", "xx_YY"}, "cta12").out, "");
     EXPECT_TRUE(run({"--list-dictionaries"}).out.contains("xx_YY\t"));
     qunsetenv("DICPATH");
 }
