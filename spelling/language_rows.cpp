@@ -39,18 +39,18 @@ QList<LanguageRow> hunspellRows(const SpellingServices &services) {
     const Locales locales(Locales::pathIn(services.dataFolder));
     QList<LanguageRow> rows;
     for (const CSpellLanguage &language : LanguageList(services.store).hunspellList(locales))
-        rows += {language, noDictionary(), false};
+        rows += LanguageRow{language, noDictionary(), {}};
     for (const FoundLanguage &found : foundLanguages(services)) {
         const int number = numberOf(found.locale, locales);
         const qsizetype listed = placeOf(rows, found.locale);
         if (listed < 0) {
             rows += {CSpellLanguage::Constructor_Hun(found.locale, found.locale, found.name, number),
-                     found.place(), true};
+                     found.place(), found.files};
             continue;
         }
         rows[listed].language.ID = number;
         rows[listed].place = found.place();
-        rows[listed].hasDictionary = true;
+        rows[listed].files = found.files;
     }
     return rows;
 }
@@ -61,7 +61,7 @@ QList<LanguageRow> languageRows(const SpellingServices &services, int providerTy
     QList<LanguageRow> rows;
     if (providerType == providerType::word) {
         for (const CSpellLanguage &language : LanguageList(services.store).wordQuickLanguages())
-            rows += {language, {}, false};
+            rows += LanguageRow{language, {}, {}};
         return rows;
     }
     const QList<LanguageRow> all = hunspellRows(services);
@@ -139,7 +139,7 @@ int firstRow(const QList<LanguageRow> &rows, const SpellingServices &services, i
         qsizetype row = -1;
         if (!isSet(services.store, keys.hunLocale))
             row = placeOf(rows, services.desktopLocale);
-        if (row < 0 || !rows[row].hasDictionary)
+        if (row < 0 || rows[row].files.dic.isEmpty())
             row = placeOf(rows, get(services.store, keys.hunLocale));
         if (row >= 0)
             return static_cast<int>(row);

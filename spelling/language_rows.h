@@ -14,8 +14,8 @@ namespace tolvo {
 /// A row to choose a language by.
 struct LanguageRow {
     CSpellLanguage language;
-    QString place; ///< of its dictionary, in words; empty for a language of Word
-    bool hasDictionary = false;
+    QString place;         ///< of its dictionary, in words; empty for a language of Word
+    DictionaryFiles files; ///< empty if there is no dictionary
 };
 
 /// The rows of a provider's quick list. For Word those of LanguageList. For any other the entries of

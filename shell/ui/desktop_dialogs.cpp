@@ -71,6 +71,7 @@ SearchResults &DesktopDialogs::searchResults() {
 dlgDicQuickList &DesktopDialogs::languageForm() {
     if (!m_languageDialog) {
         m_languageDialog = std::make_unique<dlgDicQuickList>(m_services.spelling, &m_parent);
+        m_languageDialog->setText([this] { return m_session->txtCurrent().Text(); });
         m_languageDialog->setOptionsOpener([this] {
             prepareOptions();
             m_preferences->showSpellingPage();

@@ -5,11 +5,16 @@
 #include "base/conversions.h"
 #include "platform/desktop/enter_key.h"
 #include "platform/report_error.h"
+#include "preferences/settings_keys.h"
+#include "spelling/found_languages.h"
+#include "spelling/language_guess.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
 #include "widgets/LinkLabel.h"
+#include "widgets/announce.h"
 
+#include <QAbstractItemView>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -18,15 +23,17 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
+#include <algorithm>
 
 namespace tolvo {
 
-dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *parent)
+dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *parent,
+                                 BackgroundWorker::Thread thread)
     : QDialog(parent), m_services(services), cmbQuickList(new QComboBox(this)), labPlace(new QLabel(this)),
-      labProvider(new QLabel(this)),
+      labGuess(new QLabel(this)), labProvider(new QLabel(this)),
       labChange(new LinkLabel(QStringLiteral("Change"), QStringLiteral("options"),
                               LinkLabel::Underline::Always, this)),
-      imgBrowse(new QToolButton(this)) {
+      imgBrowse(new QToolButton(this)), m_worker(thread) {
     setObjectName(QStringLiteral("dlgDicQuickList"));
     setWindowTitle(QStringLiteral("Select dictionary"));
     setModal(true);
@@ -35,6 +42,10 @@ dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *pare
     cmbQuickList->setMinimumContentsLength(30);
     labPlace->setObjectName(QStringLiteral("labPlace"));
     labPlace->setTextFormat(Qt::PlainText);
+    labGuess->setObjectName(QStringLiteral("labGuess"));
+    labGuess->setTextFormat(Qt::PlainText);
+    labGuess->setWordWrap(true);
+    labGuess->hide();
     labProvider->setObjectName(QStringLiteral("labProvider"));
     labChange->setObjectName(QStringLiteral("labChange"));
     labChange->hide();
@@ -69,6 +80,7 @@ void dlgDicQuickList::layOut() {
     choice->addWidget(cmbQuickList, 0, 1);
     choice->addWidget(imgBrowse, 0, 2);
     choice->addWidget(labPlace, 1, 1);
+    choice->addWidget(labGuess, 2, 1);
     choice->setColumnStretch(1, 1);
     auto *provider = new QHBoxLayout;
     provider->addWidget(labProvider);
@@ -135,6 +147,56 @@ void dlgDicQuickList::showPlace() {
     cmbQuickList->setAccessibleDescription(place);
 }
 
+/// Measures the text beside the keys.
+void dlgDicQuickList::guess(int LangID) {
+    const QString sample = m_text && m_provider != providerType::word ? sampleOf(m_text()) : QString();
+    if (sample.isEmpty())
+        return;
+    QList<GuessedLanguage> languages;
+    const auto add = [&](const LanguageRow &row) {
+        if (!row.files.dic.isEmpty())
+            languages += {localeOfFile(row.language.Locale), row.files};
+    };
+    // Of equals, the one that would be taken without a guess.
+    const int before = cmbQuickList->currentIndex();
+    add(m_rows.value(before));
+    for (const LanguageRow &row : std::as_const(m_rows))
+        add(row);
+    const bool select = LangID == settingKeys.spelling.langID.otherwise() &&
+                        !isSet(m_services.store, settingKeys.spelling.hunLocale);
+    m_guess.start(
+        [sample, languages](const Cancellation &cancellation) {
+            return guessLanguage(sample, languages, [&cancellation] { return cancellation.cancelled(); });
+        },
+        [this, before, select](const QString &locale) { putFirst(locale, before, select); });
+}
+
+/// A list that is open, or in which the user has chosen already, stays as it is.
+void dlgDicQuickList::putFirst(const QString &locale, int before, bool select) {
+    const auto isGuess = [&](const LanguageRow &row) { return localeOfFile(row.language.Locale) == locale; };
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), isGuess);
+    if (locale.isEmpty() || found == m_rows.end() || cmbQuickList->currentIndex() != before ||
+        cmbQuickList->view()->isVisible())
+        return;
+    const int row = static_cast<int>(found - m_rows.begin());
+    const LanguageRow guessed = *found;
+    m_rows.move(row, 0);
+    const QSignalBlocker quiet(cmbQuickList);
+    cmbQuickList->removeItem(row);
+    cmbQuickList->insertItem(0, guessed.language.row());
+    cmbQuickList->setItemData(0, guessed.place, Qt::ToolTipRole);
+    const bool isSelected = row == before;
+    cmbQuickList->setCurrentIndex(isSelected || select ? 0 : before + (row > before ? 1 : 0));
+    showPlace();
+    m_filled = m_filled && row == 0; // the next text may have another language
+    if (isSelected)
+        return;
+    labGuess->setText(QStringLiteral("The text looks like ") + guessed.language.Description +
+                      (select ? QString() : QStringLiteral(", the first of the list")));
+    labGuess->show();
+    announce(labGuess, labGuess->text());
+}
+
 int dlgDicQuickList::GetLangID(int LangID, bool save) {
     LanguageList lists(m_services.store);
     const int asked = LangID == languageCancelled ? lists.storedLangID() : LangID;
@@ -142,7 +204,12 @@ int dlgDicQuickList::GetLangID(int LangID, bool save) {
     FillSpelling();
     selectLanguage(asked);
     cmbQuickList->setFocus();
-    if (exec() != Accepted)
+    labGuess->hide();
+    if (save)
+        guess(asked);
+    const int answer = exec();
+    m_guess.cancel();
+    if (answer != Accepted)
         return languageCancelled;
     const int row = cmbQuickList->currentIndex();
     // A list without rows leaves the language as it is.

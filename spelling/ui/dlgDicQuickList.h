@@ -2,6 +2,7 @@
 // Asks for the language of a check.
 #pragma once
 
+#include "platform/background_job.h"
 #include "spelling/language_rows.h"
 #include "spelling/spelling_services.h"
 
@@ -17,7 +18,8 @@ namespace tolvo {
 
 class dlgDicQuickList : public QDialog {
   public:
-    explicit dlgDicQuickList(const SpellingServices &services, QWidget *parent = nullptr);
+    explicit dlgDicQuickList(const SpellingServices &services, QWidget *parent = nullptr,
+                             BackgroundWorker::Thread thread = BackgroundWorker::Thread::Own);
 
     /// The number of the language that the user chooses, or languageCancelled. `LangID` is selected at first;
     /// languageCancelled stands for the stored one. `save` stores the choice.
@@ -30,6 +32,8 @@ class dlgDicQuickList : public QDialog {
     /// Opens the Options; while there is nothing to open them, labChange is not shown.
     void setOptionsOpener(std::function<void()> opener);
 
+    /// What the text is whose language is asked for: its own language is put first, if that is clear.
+    void setText(std::function<QString()> text) { m_text = std::move(text); }
     /// To be called when languages have come or gone.
     void readLanguagesAnew() { m_filled = false; }
 
@@ -43,19 +47,25 @@ class dlgDicQuickList : public QDialog {
     void FillSpelling();
     void selectLanguage(int LangID);
     void showPlace();
+    void guess(int LangID);
+    void putFirst(const QString &locale, int before, bool select);
     void manageDictionaries();
 
     const SpellingServices &m_services;
     std::function<void()> m_openOptions;
+    std::function<QString()> m_text;
     int m_provider = -1;
     bool m_filled = false;
     QList<LanguageRow> m_rows; ///< of cmbQuickList
 
     QComboBox *cmbQuickList;
     QLabel *labPlace; ///< of the selected language's dictionary
+    QLabel *labGuess;
     QLabel *labProvider;
     QLabel *labChange;
     QToolButton *imgBrowse;
+    BackgroundWorker m_worker;
+    BackgroundJob m_guess{m_worker};
 };
 
 } // namespace tolvo

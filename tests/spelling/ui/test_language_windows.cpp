@@ -95,4 +95,38 @@ TEST_F(LanguageWindows, SayWhereTheDictionaryLies) {
     EXPECT_EQ(dialogList.GetLangID(-2, true), 3079);
 }
 
+TEST_F(LanguageWindows, PutTheLanguageOfTheTextFirst) {
+    QFile::copy(qEnvironmentVariable("TOLVO_SOURCE") + u("/data/Locales.txt"),
+                services.dataFolder + u("/Locales.txt"));
+    dictionary(u("de_AT"), "SET UTF-8\n", "6\nder\nHund\nist\nein\nTier\nhier\n");
+    dictionary(u("bg_BG"), "SET UTF-8\n", "1\nx\n");
+    dlgDicQuickList dialogList(services, nullptr, BackgroundWorker::Thread::None);
+    QString text = u("der Hund ist hier der Hund ist ein Tier");
+    dialogList.setText([&text] { return text; });
+    const auto shown = [&](int LangID, bool save = true) {
+        QString state;
+        withModal<QDialog>([&state](QDialog &window) {
+            auto &list = child<QComboBox>(window, "cmbQuickList");
+            auto &guess = child<QLabel>(window, "labGuess");
+            state = list.itemText(0) + u(" | ") + list.currentText() + u(" | ") +
+                    child<QLabel>(window, "labPlace").text() + u(" | ") +
+                    (guess.isVisible() ? guess.text() : QString());
+            click(window, "CancelButton");
+        });
+        (void)dialogList.GetLangID(LangID, save);
+        return state;
+    };
+    const QString german = u("Deutsch (Österreich) - de-at | ");
+    const QString english = u("English (GB) - en-gb | ");
+    const QString with = u("With Tolvo | ");
+    // Nothing has been chosen yet; then the language of the last time.
+    EXPECT_EQ(shown(-1), german + german + with + u("The text looks like Deutsch (Österreich)"));
+    EXPECT_EQ(shown(2057),
+              german + english + with + u("The text looks like Deutsch (Österreich), the first of the list"));
+    EXPECT_EQ(shown(3079), german + german + with);
+    EXPECT_EQ(shown(2057, false), english + english + with); // not for a check of this text
+    text = u("x");
+    EXPECT_EQ(shown(-1), english + english + with);
+}
+
 } // namespace tolvo::test
