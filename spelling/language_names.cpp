@@ -56,6 +56,13 @@ bool isKnownLanguage(const QString &locale) {
     return !nameOfLanguage(languageOf(locale), "en").isEmpty();
 }
 
+bool isOfMainTerritory(const QString &locale) {
+    std::array<char, ULOC_FULLNAME_CAPACITY> shortest{};
+    UErrorCode error = U_ZERO_ERROR;
+    uloc_minimizeSubtags(icuName(locale).constData(), shortest.data(), int(shortest.size()), &error);
+    return U_SUCCESS(error) && languageOf(locale) == QLatin1StringView(shortest.data());
+}
+
 QString territoryName(const QString &locale) {
     const QByteArray id = icuName(locale);
     std::array<char, ULOC_COUNTRY_CAPACITY> territory{};

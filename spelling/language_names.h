@@ -18,6 +18,10 @@ namespace tolvo {
 /// The language of a locale without its territory: languageOf("de-at") is "de".
 [[nodiscard]] QString languageOf(const QString &locale);
 
+/// Whether a locale has the territory that its language is first thought of with, or none: "de-de" and "de",
+/// not "de-at".
+[[nodiscard]] bool isOfMainTerritory(const QString &locale);
+
 /// The name of a locale's territory in the locale's language; empty if it has none: territoryName("de-at") is
 /// "Österreich".
 [[nodiscard]] QString territoryName(const QString &locale);

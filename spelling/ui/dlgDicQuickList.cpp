@@ -5,12 +5,13 @@
 #include "base/conversions.h"
 #include "platform/desktop/enter_key.h"
 #include "platform/report_error.h"
-#include "preferences/settings_keys.h"
 #include "spelling/found_languages.h"
 #include "spelling/language_guess.h"
+#include "spelling/language_names.h"
 #include "spelling/spelling_provider.h"
 #include "spelling/ui/dlgHunspellLanguage.h"
 #include "spelling/ui/dlgSpellLanguage.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/LinkLabel.h"
 #include "widgets/announce.h"
 
@@ -30,7 +31,8 @@ namespace tolvo {
 dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *parent,
                                  BackgroundWorker::Thread thread)
     : QDialog(parent), m_services(services), cmbQuickList(new QComboBox(this)), labPlace(new QLabel(this)),
-      labGuess(new QLabel(this)), labProvider(new QLabel(this)),
+      labGuess(new ElidedLabel(QStringLiteral("labGuess"), QStringLiteral("Language of the text"))),
+      labProvider(new QLabel(this)),
       labChange(new LinkLabel(QStringLiteral("Change"), QStringLiteral("options"),
                               LinkLabel::Underline::Always, this)),
       imgBrowse(new QToolButton(this)), m_worker(thread) {
@@ -42,10 +44,7 @@ dlgDicQuickList::dlgDicQuickList(const SpellingServices &services, QWidget *pare
     cmbQuickList->setMinimumContentsLength(30);
     labPlace->setObjectName(QStringLiteral("labPlace"));
     labPlace->setTextFormat(Qt::PlainText);
-    labGuess->setObjectName(QStringLiteral("labGuess"));
-    labGuess->setTextFormat(Qt::PlainText);
-    labGuess->setWordWrap(true);
-    labGuess->hide();
+    labGuess->setMinimumHeight(fontMetrics().lineSpacing()); // so that nothing moves when it speaks
     labProvider->setObjectName(QStringLiteral("labProvider"));
     labChange->setObjectName(QStringLiteral("labChange"));
     labChange->hide();
@@ -80,7 +79,7 @@ void dlgDicQuickList::layOut() {
     choice->addWidget(cmbQuickList, 0, 1);
     choice->addWidget(imgBrowse, 0, 2);
     choice->addWidget(labPlace, 1, 1);
-    choice->addWidget(labGuess, 2, 1);
+    choice->addWidget(labGuess, 2, 0, 1, 3);
     choice->setColumnStretch(1, 1);
     auto *provider = new QHBoxLayout;
     provider->addWidget(labProvider);
@@ -148,7 +147,7 @@ void dlgDicQuickList::showPlace() {
 }
 
 /// Measures the text beside the keys.
-void dlgDicQuickList::guess(int LangID) {
+void dlgDicQuickList::guess() {
     const QString sample = m_text && m_provider != providerType::word ? sampleOf(m_text()) : QString();
     if (sample.isEmpty())
         return;
@@ -160,19 +159,22 @@ void dlgDicQuickList::guess(int LangID) {
     // Of equals, the one that would be taken without a guess.
     const int before = cmbQuickList->currentIndex();
     add(m_rows.value(before));
-    for (const LanguageRow &row : std::as_const(m_rows))
-        add(row);
-    const bool select = LangID == settingKeys.spelling.langID.otherwise() &&
-                        !isSet(m_services.store, settingKeys.spelling.hunLocale);
+    for (const bool main : {true, false}) {
+        for (const LanguageRow &row : std::as_const(m_rows)) {
+            if (isOfMainTerritory(row.language.Locale) == main)
+                add(row);
+        }
+    }
     m_guess.start(
         [sample, languages](const Cancellation &cancellation) {
             return guessLanguage(sample, languages, [&cancellation] { return cancellation.cancelled(); });
         },
-        [this, before, select](const QString &locale) { putFirst(locale, before, select); });
+        [this, before](const QString &locale) { putFirst(locale, before); });
 }
 
-/// A list that is open, or in which the user has chosen already, stays as it is.
-void dlgDicQuickList::putFirst(const QString &locale, int before, bool select) {
+/// What is selected stays so: Enter must not take what has come a moment before. A list that is open, or in
+/// which the user has chosen already, stays as it is.
+void dlgDicQuickList::putFirst(const QString &locale, int before) {
     const auto isGuess = [&](const LanguageRow &row) { return localeOfFile(row.language.Locale) == locale; };
     const auto found = std::find_if(m_rows.begin(), m_rows.end(), isGuess);
     if (locale.isEmpty() || found == m_rows.end() || cmbQuickList->currentIndex() != before ||
@@ -186,14 +188,13 @@ void dlgDicQuickList::putFirst(const QString &locale, int before, bool select) {
     cmbQuickList->insertItem(0, guessed.language.row());
     cmbQuickList->setItemData(0, guessed.place, Qt::ToolTipRole);
     const bool isSelected = row == before;
-    cmbQuickList->setCurrentIndex(isSelected || select ? 0 : before + (row > before ? 1 : 0));
+    cmbQuickList->setCurrentIndex(isSelected ? 0 : before + (row > before ? 1 : 0));
     showPlace();
     m_filled = m_filled && row == 0; // the next text may have another language
     if (isSelected)
         return;
-    labGuess->setText(QStringLiteral("The text looks like ") + guessed.language.Description +
-                      (select ? QString() : QStringLiteral(", the first of the list")));
-    labGuess->show();
+    labGuess->showText(
+        QStringLiteral("The text looks like %1, the first of the list.").arg(guessed.language.Description));
     announce(labGuess, labGuess->text());
 }
 
@@ -204,9 +205,9 @@ int dlgDicQuickList::GetLangID(int LangID, bool save) {
     FillSpelling();
     selectLanguage(asked);
     cmbQuickList->setFocus();
-    labGuess->hide();
+    labGuess->showText({});
     if (save)
-        guess(asked);
+        guess();
     const int answer = exec();
     m_guess.cancel();
     if (answer != Accepted)

@@ -16,6 +16,8 @@ class QToolButton;
 
 namespace tolvo {
 
+class ElidedLabel;
+
 class dlgDicQuickList : public QDialog {
   public:
     explicit dlgDicQuickList(const SpellingServices &services, QWidget *parent = nullptr,
@@ -47,8 +49,8 @@ class dlgDicQuickList : public QDialog {
     void FillSpelling();
     void selectLanguage(int LangID);
     void showPlace();
-    void guess(int LangID);
-    void putFirst(const QString &locale, int before, bool select);
+    void guess();
+    void putFirst(const QString &locale, int before);
     void manageDictionaries();
 
     const SpellingServices &m_services;
@@ -60,7 +62,7 @@ class dlgDicQuickList : public QDialog {
 
     QComboBox *cmbQuickList;
     QLabel *labPlace; ///< of the selected language's dictionary
-    QLabel *labGuess;
+    ElidedLabel *labGuess;
     QLabel *labProvider;
     QLabel *labChange;
     QToolButton *imgBrowse;

@@ -61,8 +61,9 @@ void dlgHunspellLanguage::fill(const QString &selected) {
         const HunspellLanguage &language = row.language;
         if (language.locale == selected)
             current = lvwHunspellLangs->topLevelItemCount();
-        new QTreeWidgetItem(lvwHunspellLangs,
-                            {language.locale, language.language, language.territory, row.place});
+        auto *item = new QTreeWidgetItem(lvwHunspellLangs,
+                                         {language.locale, language.language, language.territory, row.place});
+        item->setSizeHint(3, {0, fontMetrics().lineSpacing() + 4}); // names have accents
     }
     for (int column = 0; column < lvwHunspellLangs->columnCount(); ++column)
         lvwHunspellLangs->resizeColumnToContents(column);

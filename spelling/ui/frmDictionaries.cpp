@@ -84,6 +84,7 @@ void frmDictionaries::addRow(const QString &name, const QString &place, const QS
                              const QString &path) {
     auto *row = new QTreeWidgetItem(lvwDictionaries, {name, state, place});
     row->setData(0, pathRole, path);
+    row->setSizeHint(2, {0, fontMetrics().lineSpacing() + 4}); // names have accents
 }
 
 void frmDictionaries::fill(const QStringList &folders) {

@@ -164,6 +164,11 @@ def options(run, photographer):
                                   ("Microsoft Word", "quick-list", "Select Languages for Quick List")):
         run.click("Configure " + provider)
         photographer.take(name, title)
+        if name == "language":
+            run.click("Add Language...")
+            photographer.take("add-language", "Add Language")
+            keys("Escape")
+            run.active(title)
         keys("Escape")
         run.active("Options")
 

@@ -26,6 +26,10 @@ TEST(LanguageNames, AreTheLanguagesOwn) {
         EXPECT_EQ(territoryName(u(locale)), u(territory));
     }
     EXPECT_TRUE(isKnownLanguage(u("de-de-frami")));
+    for (const char *locale : {"de", "de-de", "hu-hu", "sv-se"})
+        EXPECT_TRUE(isOfMainTerritory(u(locale))) << locale;
+    for (const char *locale : {"de-at", "es-mx", "sr-latn"})
+        EXPECT_FALSE(isOfMainTerritory(u(locale))) << locale;
     EXPECT_FALSE(isKnownLanguage(u("dictionary")));
 }
 
