@@ -35,7 +35,7 @@ bool takeSharedButtons(frmMain &session, const SharedButtons &shared, int number
         for (const auto &[place, button] : placed.places)
             services.oPBMethods.SavePBSettings(*button, place);
         session.refreshPowerButtons();
-        session.setStatus(QStringLiteral("PowerButton %1: %2").arg(number).arg(shared.main().Name));
+        session.setStatus(QStringLiteral("Loaded: ") + shared.main().Name);
         taken = true;
     });
     return taken;

@@ -45,17 +45,25 @@ PowerButtonMenu::PowerButtonMenu(frmMain &session, MainWindow &window, QString r
     window.setPowerButtonMenu(*m_menu);
 }
 
+/// What it runs may open a dialog, and so waits until the menu and its button are done.
+QAction *PowerButtonMenu::add(QMenu &menu, const QString &text, const std::function<void()> &run) {
+    QAction *action = menu.addAction(text);
+    connect(action, &QAction::triggered, this, run, Qt::QueuedConnection);
+    return action;
+}
+
 void PowerButtonMenu::fill() {
     m_menu->clear();
-    auto *share = m_menu->addAction(QStringLiteral("&Share..."), this, &PowerButtonMenu::share);
-    share->setEnabled(anyPowerButtonDefined(m_session.services().oPowerButtons));
-    m_menu->addAction(QStringLiteral("&Load from File..."), this, &PowerButtonMenu::chooseFile);
-    m_menu->addAction(QStringLiteral("Load from &Clipboard..."), this, &PowerButtonMenu::loadFromClipboard);
+    add(*m_menu, QStringLiteral("&Share..."), [this] {
+        share();
+    })->setEnabled(anyPowerButtonDefined(m_session.services().oPowerButtons));
+    add(*m_menu, QStringLiteral("&Load from File..."), [this] { chooseFile(); });
+    add(*m_menu, QStringLiteral("Load from &Clipboard..."), [this] { loadFromClipboard(); });
     addReadyMade();
     m_menu->addSeparator();
-    auto *record = m_menu->addAction(QStringLiteral("&Make a PowerButton of What I Just Did"), this,
-                                     [this] { recordPowerButton(m_session); });
-    record->setEnabled(!m_session.history().latestActions().isEmpty());
+    add(*m_menu, QStringLiteral("&Make a PowerButton of What I Just Did"), [this] {
+        recordPowerButton(m_session);
+    })->setEnabled(!m_session.history().latestActions().isEmpty());
 }
 
 void PowerButtonMenu::addReadyMade() {
@@ -68,9 +76,9 @@ void PowerButtonMenu::addReadyMade() {
             continue;
         if (menu == nullptr)
             menu = m_menu->addMenu(QStringLiteral("&Ready-made"));
-        menu->addAction(toQIcon(shownIcon(shared.main(), 1)),
-                        QString(shared.main().Name).replace(QLatin1StringView("&"), QLatin1StringView("&&")),
-                        this, [this, path] { loadFile(path); });
+        const QString name =
+            QString(shared.main().Name).replace(QLatin1StringView("&"), QLatin1StringView("&&"));
+        add(*menu, name, [this, path] { loadFile(path); })->setIcon(toQIcon(shownIcon(shared.main(), 1)));
     }
 }
 
@@ -103,7 +111,7 @@ void PowerButtonMenu::saveFile(const QString &text, const QString &name) {
 
 void PowerButtonMenu::chooseFile() {
     const QString path =
-        QFileDialog::getOpenFileName(&m_window, QStringLiteral("Load a PowerButton"), {}, fileFilter());
+        QFileDialog::getOpenFileName(&m_window, QStringLiteral("Open PowerButton"), {}, fileFilter());
     if (!path.isEmpty())
         loadFile(path);
 }

@@ -5,7 +5,9 @@
 #include "powerbuttons/button_file.h"
 
 #include <QObject>
+#include <functional>
 
+class QAction;
 class QMenu;
 
 namespace tolvo {
@@ -25,6 +27,7 @@ class PowerButtonMenu : public QObject {
     void loadFile(const QString &path, int number = 0);
 
   private:
+    QAction *add(QMenu &menu, const QString &text, const std::function<void()> &run);
     void fill();
     void addReadyMade();
     void share();

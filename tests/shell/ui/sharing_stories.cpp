@@ -25,12 +25,16 @@ class SharingStory : public MainWindowStory {
         set(store, settingKeys.action.token, token, number, QStringLiteral("1"));
     }
     /// Chooses an entry of the menu "More"; entries of its own menus as well.
-    static void choose(const QString &entry) {
+    static void choose(const QString &entry, const std::function<void(QDialog &)> &act = {}) {
         auto *menu = window()->findChild<QMenu *>(QStringLiteral("mnuPowerButtons"));
         emit menu->aboutToShow();
         for (QAction *action : window()->findChildren<QAction *>()) {
-            if (action->text().remove(u'&') == entry)
-                return action->trigger();
+            if (action->text().remove(u'&') != entry)
+                continue;
+            action->trigger(); // the dialog comes once the menu is gone
+            if (act)
+                withModal<QDialog>(act);
+            return QCoreApplication::processEvents();
         }
         ADD_FAILURE() << "no entry " << entry.toStdString();
     }
@@ -46,15 +50,14 @@ TEST_F(SharingStory, throughTheClipboardIntoAnotherRow) {
     define(2, QStringLiteral("<b>Loud</b>"), QStringLiteral("ccUPP"));
     define(5, QStringLiteral("Low"), QStringLiteral("ccLOW"));
     run(QStringLiteral("Some Text"), [this] {
-        withModal<QDialog>([](QDialog &dialog) {
+        choose("Share...", [](QDialog &dialog) {
             EXPECT_EQ(child<QComboBox>(dialog, "cboShared").currentText(), "2: <b>Loud</b>");
             EXPECT_TRUE(shown(dialog, "txtShared").contains("step: ccUPP # UPPER CASE\n"));
             click(dialog, "cmdCopyShared");
         });
-        choose("Share...");
         store.DeleteSetting(QStringLiteral("Tolvo"), QStringLiteral("PowerButtons\\Button 2"));
 
-        withModal<QDialog>([](QDialog &dialog) {
+        choose("Load from Clipboard...", [](QDialog &dialog) {
             EXPECT_EQ(child<QLabel>(dialog, "labSharedName").text(), "<b>Loud</b>");
             EXPECT_EQ(child<QLabel>(dialog, "labSharedName").textFormat(), Qt::PlainText);
             EXPECT_EQ(shown(dialog, "txtSteps"), "1. UPPER CASE");
@@ -62,19 +65,17 @@ TEST_F(SharingStory, throughTheClipboardIntoAnotherRow) {
             EXPECT_FALSE(child<QLabel>(dialog, "labConsequence").isVisible());
             click(dialog, "cmdTake");
         });
-        choose("Load from Clipboard...");
         EXPECT_EQ(nameOf(1), "<b>Loud</b>");
         QTest::keyClick(text(), Qt::Key_F1, Qt::AltModifier);
         EXPECT_EQ(text()->toPlainText(), "SOME TEXT");
 
         for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
-            withModal<QDialog>([](QDialog &dialog) {
+            boxes.answers = {answer};
+            choose("Load from Clipboard...", [](QDialog &dialog) {
                 choosePlace(dialog, 5);
                 EXPECT_TRUE(child<QLabel>(dialog, "labConsequence").isVisible());
                 click(dialog, "cmdTake");
             });
-            boxes.answers = {answer};
-            choose("Load from Clipboard...");
             EXPECT_EQ(boxes.said(), "Replace PowerButton 5 'Low' with '<b>Loud</b>'?");
             EXPECT_EQ(nameOf(5), answer == BoxAnswer::Yes ? "<b>Loud</b>" : "Low");
         }
@@ -111,8 +112,7 @@ TEST_F(SharingStory, aFileIsDroppedOnItsPlace) {
         });
         EXPECT_TRUE(QTest::qWaitFor([this] { return nameOf(4) == "Title for the web"; }));
 
-        withModal<QDialog>([](QDialog &dialog) { click(dialog, "cmdTake"); });
-        choose("Table columns");
+        choose("Table columns", [](QDialog &dialog) { click(dialog, "cmdTake"); });
         EXPECT_EQ(nameOf(1), "Table columns");
         leave();
     });
