@@ -68,6 +68,28 @@ class Walk {
     StepTrouble m_trouble;
 };
 
+/// The settings of a search or a replacement as a user says them.
+QString searchWords(const CAction &action, bool replacing) {
+    const auto value = [&action](const char *key) { return action.Param(QLatin1StringView(key)); };
+    QString words = u'"' + value("Find") + u'"';
+    if (replacing)
+        words += QStringLiteral(" becomes \"") + value("Replace") + u'"' +
+                 (value("ReplaceAll") == QLatin1StringView("1") ? QStringLiteral(" everywhere")
+                                                                : QStringLiteral(" once"));
+    if (value("Mode") == QLatin1StringView("2"))
+        words += QStringLiteral(", with wildcards");
+    else if (value("Mode") == QLatin1StringView("3"))
+        words += QStringLiteral(", a regular expression");
+    return words;
+}
+
+QString settingsWords(const CAction &action) {
+    const QString &token = action.Tool()->Token();
+    const bool replacing = token == QLatin1StringView("edREP");
+    return replacing || token == QLatin1StringView("edSRC") ? searchWords(action, replacing)
+                                                            : action.Details();
+}
+
 /// What is to be said of a step besides its name.
 QString remark(const CAction &action) {
     if (action.switchedOff())
@@ -76,7 +98,7 @@ QString remark(const CAction &action) {
         return {};
     switch (action.DlgOption()) {
     case SettingsFrom::Custom:
-        return action.Details().isEmpty() ? QString() : QStringLiteral(" (%1)").arg(action.Details());
+        return action.Details().isEmpty() ? QString() : QStringLiteral(" (%1)").arg(settingsWords(action));
     case SettingsFrom::Current:
         return QStringLiteral(" (with the settings last used)");
     case SettingsFrom::Prompt:

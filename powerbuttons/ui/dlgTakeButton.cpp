@@ -46,6 +46,7 @@ dlgTakeButton::dlgTakeButton(const SharedButtons &shared, const CPowerButtonColl
     setObjectName(QStringLiteral("dlgTakeButton"));
     setWindowTitle(QStringLiteral("Load a PowerButton"));
     auto *steps = makeStepsView(QStringLiteral("txtSteps"), QStringLiteral("What it does"), this);
+    steps->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     steps->setPlainText(sharedStepLines(shared).join(u'\n'));
     m_place->setObjectName(QStringLiteral("cboPlace"));
     for (int number = 1; number <= CPowerButtonCollection::buttonCount; ++number)

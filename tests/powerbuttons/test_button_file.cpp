@@ -158,10 +158,13 @@ TEST_F(ButtonFiles, areRefusedByTheLine) {
 
 TEST_F(ButtonFiles, sayWhatTheyDo) {
     define(4, "inner", {action("ccUPP"), action("foIND", "Spaces=2", SettingsFrom::Custom)});
-    define(1, "outer", {runs(4), action("foWRP", {}, SettingsFrom::Current), action("foREM")});
+    define(1, "outer",
+           {runs(4), action("foWRP", {}, SettingsFrom::Current), action("foREM"),
+            action("edREP", "Mode=3, Find=a+, Replace=b, ReplaceAll=1", SettingsFrom::Custom)});
     EXPECT_EQ(sharedStepLines(gatherButtons(buttons, 1)).join("|"),
               "1. PowerButton: inner|   1.1. UPPER CASE|   1.2. Indent (Spaces=2)|"
-              "2. Word wrap (with the settings last used)|3. Remove blank lines (asks for its settings)");
+              "2. Word wrap (with the settings last used)|3. Remove blank lines (asks for its settings)|"
+              "4. Search & replace (\"a+\" becomes \"b\" everywhere, a regular expression)");
 }
 
 TEST_F(ButtonFiles, areNotMadeOfWhatRunsNowhereElse) {
