@@ -45,7 +45,7 @@ TOOLS = [("Spaces & Layout", [("Indent...", "Indent"), ("Word wrap...", "Word Wr
          ("Lists & Numbers", [("Bullet list...", "Bullet List Style"), ("Numbered list...", "Number List Style"),
                               ("Line numbers...", "Line Numbering")]),
          ("Sort & Move", [("Sort with options...", "Sort Lines"), ("Remove duplicates...", "Remove Duplicates"),
-                          ("Keep or drop lines...", "Keep or Drop Lines"), ("Every n-th line...", "Every n-th Line")]),
+                          ("Keep or drop lines...", "Keep or Drop Lines"), ("Every other line...", "Every Other Line")]),
          ("Check", [("Statistics", "Statistics")])]
 # The same for tools that the panel doesn't show.
 FOUND_TOOLS = [("Before and after lines...", "Before and After Lines"), ("Split or join lines...", "Split or Join Lines")]

@@ -47,7 +47,7 @@ dlgEveryLine::dlgEveryLine(const EveryLineSettings &settings, const ToolDialogCo
     grid->addWidget(m_sample, 5, 0, 1, 2);
     grid->setRowStretch(5, 1);
     grid->setColumnStretch(1, 1);
-    finishDialog(*this, QStringLiteral("dlgEveryLine"), QStringLiteral("Every n-th Line"), grid);
+    finishDialog(*this, QStringLiteral("dlgEveryLine"), QStringLiteral("Every Other Line"), grid);
     setSettings(settings);
     whenAnythingChanges(*this, this, [this] { refresh(); });
 }
