@@ -36,7 +36,6 @@ class dlgPatternLines : public SettingsDialog<PatternLinesSettings> {
     QCheckBox *m_wholeWords;
     QCheckBox *m_specialChars;
     SampleBox *m_sample;
-    QLabel *m_trouble;
 };
 
 dlgPatternLines::dlgPatternLines(const PatternLinesSettings &settings, const ToolDialogContext &context)
@@ -48,12 +47,10 @@ dlgPatternLines::dlgPatternLines(const PatternLinesSettings &settings, const Too
       m_wholeWords(makeCheck(QStringLiteral("chkWholeWords"), QStringLiteral("Whole words &only"), this)),
       m_specialChars(makeCheck(QStringLiteral("chkSpecialChars"),
                                QStringLiteral("&Special characters (\\t, \\xHH)"), this)),
-      m_sample(makeSample(6)), m_trouble(new QLabel(this)) {
+      m_sample(makeSample(6)) {
     m_mode->setObjectName(QStringLiteral("cmbMode"));
     m_mode->addItems(
         {QStringLiteral("Simple text"), QStringLiteral("Wildcards"), QStringLiteral("Regular expression")});
-    m_trouble->setObjectName(QStringLiteral("lblTrouble"));
-    m_trouble->setWordWrap(true);
     arrange();
     setSettings(settings);
     whenAnythingChanges(*this, this, [this] { refresh(); });
@@ -63,10 +60,9 @@ void dlgPatternLines::arrange() {
     auto *grid = new QGridLayout;
     grid->addWidget(labelFor(m_pattern, QStringLiteral("&Pattern:")), 0, 0);
     grid->addWidget(m_pattern, 0, 1);
-    grid->addWidget(m_trouble, 1, 1);
-    grid->addWidget(labelFor(m_mode, QStringLiteral("K&ind:")), 2, 0);
-    grid->addWidget(m_mode, 2, 1);
-    int row = 3;
+    grid->addWidget(labelFor(m_mode, QStringLiteral("K&ind:")), 1, 0);
+    grid->addWidget(m_mode, 1, 1);
+    int row = 2;
     for (QAbstractButton *button : {m_drop.button(false), m_drop.button(true)})
         grid->addWidget(button, row++, 1);
     for (QCheckBox *check : {m_matchCase, m_wholeWords, m_specialChars})
@@ -108,9 +104,8 @@ void dlgPatternLines::refresh() {
     m_wholeWords->setEnabled(!isExpression);
     m_specialChars->setEnabled(!isExpression);
     const ChosenLines lines = chosen();
-    m_sample->setSample(lines.text);
-    m_trouble->setText(lines.trouble);
-    m_trouble->setVisible(!lines.trouble.isEmpty());
+    m_sample->setSample(lines.trouble.isEmpty() ? lines.text : lines.trouble);
+    m_pattern->setAccessibleDescription(lines.trouble);
 }
 
 void dlgPatternLines::accept() {
