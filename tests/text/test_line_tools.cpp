@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+// The tools of lines by what has to hold for any text.
+#include "base/case_folding.h"
+#include "tests/support/print.h"
+#include "text/line_choice.h"
+#include "text/line_list.h"
+#include "text/line_order.h"
+#include "text/line_parts.h"
+#include "text/tables.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace tolvo::test {
+
+namespace {
+
+using Order = SortLinesSettings::Order;
+
+class LineTools : public ::testing::Test {
+  protected:
+    /// Up to 40 of these units, with line ends among them and at the end: an empty last line is a line then.
+    QString text() {
+        static const QStringList units = {
+            u"a"_s,      u"A"_s,  u"é"_s, u"e\u0301"_s,           u"z"_s,  u"10"_s, u"9"_s,
+            u"\u05D0"_s, u"中"_s, u"😀"_s, QString(QChar(0xD800)), u"\r"_s, u" "_s,  u"-"_s};
+        QString text;
+        for (int i = below(40); i > 0; --i)
+            text += below(3) == 0 ? u"\r\n"_s : units.at(below(static_cast<int>(units.size())));
+        return text + u"\r\n"_s;
+    }
+    int below(int n) { return static_cast<int>(m_random() % static_cast<unsigned>(n)); }
+
+  private:
+    std::mt19937 m_random{20261123};
+};
+
+QStringList linesOf(const QString &text) {
+    QStringList lines;
+    for (const QStringView line : LineList(text).lines)
+        lines += line.toString();
+    return lines;
+}
+
+QStringList inCodeOrder(const QString &text) {
+    QStringList lines = linesOf(text);
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+TEST_F(LineTools, sortEveryTextIntoAnOrderOfItsOwnLines) {
+    for (int i = 0; i < 2000; ++i) {
+        const QString given = text();
+        SortLinesSettings settings{.order = static_cast<Order>(i % 4),
+                                   .language = i % 8 > 3 ? u"sv"_s : QString()};
+        settings.ignoreCase = i % 3 == 0;
+        const QString sorted = sortedLines(given, settings);
+        SCOPED_TRACE(shown(given));
+        EXPECT_EQ(inCodeOrder(sorted), inCodeOrder(given)) << "the same lines";
+        EXPECT_EQ(sortedLines(sorted, settings), sorted) << "in an order that stays";
+        settings.unique = true;
+        const QString unique = sortedLines(given, settings);
+        settings.descending = true;
+        QStringList down = linesOf(sortedLines(given, settings));
+        std::reverse(down.begin(), down.end());
+        EXPECT_EQ(down, linesOf(unique)) << "of lines that sort alike the first stays, up and down";
+        settings.unique = false;
+        EXPECT_EQ(linesOf(sortedLines(sortedLines(given, settings), settings)),
+                  linesOf(sortedLines(given, settings)));
+    }
+}
+
+TEST_F(LineTools, leaveOutWhatTheirReverseKeeps) {
+    for (int i = 0; i < 500; ++i) {
+        const QString given = text();
+        SCOPED_TRACE(shown(given));
+        EveryLineSettings every{false, 1 + below(4), 1 + below(4)};
+        QStringList both = linesOf(everyLine(given, every));
+        every.drop = true;
+        both += linesOf(everyLine(given, every));
+        both.sort();
+        EXPECT_EQ(both, inCodeOrder(given));
+        EXPECT_EQ(withWordsReversed(withWordsReversed(given)), given);
+        const QString once = withoutDuplicates(given, {});
+        EXPECT_EQ(withoutDuplicates(once, {}), once);
+        const SeparatorSettings joining{true, u"; "_s, false, false};
+        const QString joined = splitOrJoined(given, joining);
+        EXPECT_EQ(splitOrJoined(joined, {false, u"; "_s, false, false}), given)
+            << "no line holds the separator";
+    }
+}
+
+TEST(Columns, areThoseOfTheTable) {
+    for (const QString &text :
+         {u"a,b\r\nc,\"d,e\"\r\n\r\nf"_s, u"a\tb\tc\r\n1\t2\t3"_s, u"a  b\r\nc  d"_s, u""_s}) {
+        const Table table = readTable(text);
+        for (int column = 1; column < 4; ++column) {
+            QStringList cells;
+            for (const QStringList &row : table)
+                cells += row.value(column - 1);
+            EXPECT_EQ(cellsOfColumn(text, column), cells) << shown(text);
+        }
+    }
+    EXPECT_EQ(cellsOfColumn(u"|a|b|\r\n|---|---|\r\n|1|2|", 2), (QStringList{u"b"_s, u"---"_s, u"2"_s}))
+        << "the line under a head is a line";
+}
+
+TEST(CaseFolding, isFull) {
+    const std::pair<QString, QString> rows[] = {{{}, {}},
+                                                {u"Straße ẞ"_s, u"strasse ss"_s},
+                                                {u"ΣΑΣ σας"_s, u"σασ σασ"_s},
+                                                {u"ﬃ"_s, u"ffi"_s},
+                                                {u"𐐀"_s, u"𐐨"_s},
+                                                {QString(QChar(0xD801)), QString(QChar(0xD801))}};
+    for (const auto &[text, folded] : rows)
+        EXPECT_EQ(caseFolded(text), folded);
+}
+
+} // namespace
+
+} // namespace tolvo::test
