@@ -8,6 +8,7 @@
 #include "shell/search_tools.h"
 #include "shell/selection_tools.h"
 #include "shell/spelling_tools.h"
+#include "shell/text_difference.h"
 #include "shell/text_operations.h"
 #include "text/cTextMethods.h"
 #include "text/coding.h"
@@ -18,6 +19,7 @@
 #include "text/line_parts.h"
 #include "text/line_sets.h"
 #include "text/notation.h"
+#include "text/page_text.h"
 #include "text/reflow.h"
 #include "text/tables.h"
 #include "text/typography.h"
@@ -284,6 +286,9 @@ constexpr ToolRow table[] = {
     {u"exMAI",  text<foundMailAddresses>(),             N},
     {u"exNUM",  text<foundNumbers>(),                   N},
     {u"exDAT",  text<foundDates>(),                     N},
+    {u"pgHTM",  pure<htmlAsText>(),                     N,        says(u"Page as plain text")},
+    {u"pgMKD",  pure<markdownAsText>(),                 N,        says(u"Markdown as plain text")},
+    {u"chDIF",  inSession(compareWithClipboard),        own},
 
     {u"pbPBT",  nestedPowerButton(),                    own},
     {u"pbCLR",  onText<clearSelection>(),               own},

@@ -5,6 +5,7 @@
 #include "text/finding.h"
 #include "text/language_case.h"
 #include "text/notation.h"
+#include "text/page_text.h"
 #include "text/reflow.h"
 #include "text/typography.h"
 
@@ -24,6 +25,8 @@ using Set = QString (*)(QStringView, int, int);
 const std::map<QString, Plain> plainTools = {{u"straightSigns"_s, straightSigns},
                                              {u"unwrappedParagraphs"_s, unwrappedParagraphs},
                                              {u"joinedPdfLines"_s, joinedPdfLines},
+                                             {u"htmlAsText"_s, htmlAsText},
+                                             {u"markdownAsText"_s, markdownAsText},
                                              {u"htmlNamed"_s, htmlNamed},
                                              {u"quotedPrintableEncoded"_s, quotedPrintableEncoded},
                                              {u"cEscaped"_s, cEscaped},
