@@ -19,20 +19,31 @@ struct FieldLook {
     NumberBox::Limits limits = {}; ///< of a number
 };
 
+/// How it shows its sample: in so many rows, whose lines end where they end or go on below.
+struct SampleLook {
+    int rows;
+    bool wraps = true;
+};
+
 /// `Settings` holds enumerations, flags and whole numbers.
 template <class Settings>
 class FieldDialog : public SettingsDialog<Settings> {
   public:
     using Sample = std::function<QString(const Settings &)>;
 
-    /// `looks` are those of the fields, in their order; `sample` gives what the sample shows, in `rows` rows.
-    FieldDialog(const QString &name, const QString &caption, const QList<FieldLook> &looks, int rows,
+    /// `looks` are those of the fields, in their order; `sample` gives what the sample shows.
+    FieldDialog(const QString &name, const QString &caption, const QList<FieldLook> &looks, SampleLook shown,
                 Sample sample, const Settings &settings, const ToolDialogContext &context)
         : SettingsDialog<Settings>(context), m_sampleOf(std::move(sample)), m_grid(new QGridLayout) {
         forEachField([&](const auto &field, qsizetype index) {
             addControl(settings.*field.member, field.stringKey.toString(), looks.at(index));
         });
-        m_sample = this->makeSample(rows);
+        m_sample = this->makeSample(shown.rows);
+        if (!shown.wraps) {
+            constexpr int charactersShown = 66;
+            m_sample->setLineWrapMode(QPlainTextEdit::NoWrap);
+            m_sample->setMinimumWidth(m_sample->fontMetrics().averageCharWidth() * charactersShown);
+        }
         const int row = m_grid->rowCount();
         m_grid->addWidget(labelFor(m_sample, QStringLiteral("Sample:")), row, 0, 1, 2);
         m_grid->addWidget(m_sample, row + 1, 0, 1, 2);
@@ -86,7 +97,8 @@ class FieldDialog : public SettingsDialog<Settings> {
             QObject::connect(list, &QComboBox::currentIndexChanged, this, [this] { refreshSample(); });
         }
         m_grid->addWidget(labelFor(m_controls.last(), look.caption), row, 0);
-        m_grid->addWidget(m_controls.last(), row, 1, Qt::AlignLeft);
+        m_grid->addWidget(m_controls.last(), row, 1,
+                          std::is_same_v<Value, int> ? Qt::AlignLeft : Qt::Alignment());
     }
 
     static void show(bool value, QWidget &control) { static_cast<QCheckBox &>(control).setChecked(value); }

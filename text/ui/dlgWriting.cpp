@@ -14,15 +14,15 @@ namespace {
 QString typographySample(TypographySettings::Language language) {
     switch (language) {
     case TypographySettings::Language::German:
-        return QStringLiteral("\"Er sagte 'nein'\" - z. B. 1990-1995, 5 km, 50 %...");
+        return QStringLiteral("\"Er sagte 'nein'\" - z. B. 5 km, 50 %...");
     case TypographySettings::Language::French:
-        return QStringLiteral("\"L'\u00E9t\u00E9 'dernier'\" - vraiment ? 10 000 km : voir p. 7...");
+        return QStringLiteral("\"L'\u00E9t\u00E9\" - 10 000 km ? Voir p. 7...");
     case TypographySettings::Language::Polish:
-        return QStringLiteral("\"Powiedzia\u0142 'nie'\" - i w lesie, 1990-1995, s. 7...");
+        return QStringLiteral("\"Mówi 'nie'\" - i w lesie, s. 7...");
     case TypographySettings::Language::Spanish:
-        return QStringLiteral("\"Dijo 'no'\" - \u00BFde 1990-1995? 50 %, p\u00E1g. 7...");
+        return QStringLiteral("\"Dijo 'no'\" - 1990-1995, 50 %...");
     default:
-        return QStringLiteral("\"He said 'don't'\" -- in 1990-1995, 5 km on p. 7, 6'2\"...");
+        return QStringLiteral("\"I don't\" -- 1990-1995, 5 km, 6'2\"...");
     }
 }
 
@@ -54,7 +54,7 @@ SettingsDialogPtr<TypographySettings> makeToolDialog(const TypographySettings &s
           QStringLiteral("French"), QStringLiteral("Polish"), QStringLiteral("Spanish")}},
         {QStringLiteral("&No-break blanks where a line must not end")}};
     return std::make_unique<FieldDialog<TypographySettings>>(
-        QStringLiteral("dlgTypography"), QStringLiteral("Typography"), looks, 3,
+        QStringLiteral("dlgTypography"), QStringLiteral("Typography"), looks, SampleLook{3},
         [](const TypographySettings &now) {
             const QString sample = typographySample(now.language);
             return sample + u'\n' + typographic(sample, now);
@@ -71,7 +71,7 @@ SettingsDialogPtr<LanguageCaseSettings> makeToolDialog(const LanguageCaseSetting
         {QStringLiteral("&Change to:"),
          {QStringLiteral("UPPER CASE"), QStringLiteral("lower case"), QStringLiteral("Title Case")}}};
     return std::make_unique<FieldDialog<LanguageCaseSettings>>(
-        QStringLiteral("dlgLanguageCase"), QStringLiteral("Case by Language"), looks, 3,
+        QStringLiteral("dlgLanguageCase"), QStringLiteral("Case by Language"), looks, SampleLook{3},
         [](const LanguageCaseSettings &now) {
             const QString sample = caseSample(now.language);
             return sample + u'\n' + caseByLanguage(sample, now);
@@ -86,7 +86,7 @@ SettingsDialogPtr<ParagraphWrapSettings> makeToolDialog(const ParagraphWrapSetti
                                      {ParagraphWrapSettings::narrowest, ParagraphWrapSettings::widest}},
                                     {QStringLiteral("&Fill paragraphs: join their lines first")}};
     return std::make_unique<FieldDialog<ParagraphWrapSettings>>(
-        QStringLiteral("dlgParagraphWrap"), QStringLiteral("Wrap Paragraphs"), looks, 9,
+        QStringLiteral("dlgParagraphWrap"), QStringLiteral("Wrap Paragraphs"), looks, SampleLook{8, false},
         [](const ParagraphWrapSettings &now) {
             return wrappedParagraphs(
                 QStringLiteral(

@@ -323,6 +323,27 @@ TEST_F(Dialogs, showAndGiveBackEveryField) {
     });
 }
 
+TEST_F(Dialogs, samplesFollowTheSettingsOfWriting) {
+    const auto signs = made(TypographySettings{});
+    User printer(*signs);
+    EXPECT_TRUE(printer.sample().endsWith(u"|“I don’t” – 1990–1995, 5 km, 6′2″…"));
+    printer.control<QComboBox>("cmbLanguage").setCurrentIndex(3);
+    EXPECT_TRUE(printer.sample().endsWith(u"« L’été » – 10\u202F000 km\u202F? Voir p. 7…"));
+    printer.presses(Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(printer.sample().endsWith(u"« L’été » – 10 000 km ? Voir p. 7…"));
+
+    const auto wrap = made(ParagraphWrapSettings{});
+    User writer(*wrap);
+    writer.types("txtWidth", u"3"_s);
+    EXPECT_EQ(wrap->settings().width, ParagraphWrapSettings::narrowest);
+    writer.types("txtWidth", u"40"_s);
+    EXPECT_TRUE(
+        writer.sample().startsWith(u"> An answer from a letter, quoted with|> its marks as they came,|> in"));
+    writer.clicks("chkFill");
+    EXPECT_TRUE(writer.sample().startsWith(
+        u"> An answer from a letter, quoted with|> its marks as they came, in lines that|"));
+}
+
 TEST_F(Dialogs, statisticsShowBothColumns) {
     frmStats form(boxes, engine.statistics(u"a b. c d?\r\n", u"a b."));
     User user(form);
