@@ -25,7 +25,7 @@ constexpr std::array<const char *, 12> months = {
     "november|nov|novembre|listopada|listopad|lis|noviembre",
     "december|dec|dezember|dez|décembre|déc|grudnia|grudzień|gru|diciembre|dic"};
 
-QRegularExpression datePattern() {
+QRegularExpression madeDatePattern() {
     QStringList names;
     for (const char *month : months)
         names += QString::fromUtf8(month);
@@ -40,6 +40,11 @@ QRegularExpression datePattern() {
                                   QStringLiteral("|") + monthFirst + QStringLiteral(")"),
                               QRegularExpression::CaseInsensitiveOption |
                                   QRegularExpression::UseUnicodePropertiesOption);
+}
+
+const QRegularExpression &datePattern() {
+    static const QRegularExpression pattern = madeDatePattern();
+    return pattern;
 }
 
 /// Whether figures name a day: year first, or day and month in either order.

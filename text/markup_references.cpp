@@ -127,8 +127,7 @@ DecodedText htmlReferencesDecoded(QStringView text) {
 }
 
 QString xmlEscaped(QStringView text) {
-    QString result = htmlEncoded(text);
-    return result.replace(QStringLiteral("&#x27;"), QStringLiteral("&apos;"));
+    return htmlEncoded(text).split(QStringLiteral("&#x27;")).join(QStringLiteral("&apos;"));
 }
 
 DecodedText xmlUnescaped(QStringView text) {

@@ -225,9 +225,15 @@ QString shellQuoted(QStringView text) {
     };
     if (!text.isEmpty() && std::all_of(text.begin(), text.end(), isPlain))
         return text.toString();
-    QString inside = text.toString();
-    inside.replace(u'\'', QStringLiteral("'\\''"));
-    return u'\'' + inside + u'\'';
+    QString result = QStringLiteral("'");
+    result.reserve(text.size() + text.size() / 8);
+    for (const QChar c : text) {
+        if (c == u'\'')
+            result += u"'\\''";
+        else
+            result += c;
+    }
+    return result + u'\'';
 }
 
 DecodedText shellUnquoted(QStringView text) {
@@ -243,8 +249,7 @@ QString csvQuoted(QStringView text) {
             result += line;
             return;
         }
-        QString inside = line.toString();
-        result += u'"' + inside.replace(u'"', QStringLiteral("\"\"")) + u'"';
+        result += u'"' + line.toString().split(u'"').join(QStringLiteral("\"\"")) + u'"';
     });
 }
 
@@ -257,8 +262,8 @@ DecodedText csvUnquoted(QStringView text) {
         const bool whole =
             length > 0 && (at + length == text.size() || text.sliced(at + length).startsWith(lineEnd));
         if (whole) {
-            QString inside = text.sliced(at + 1, length - 2).toString();
-            decoded.text += inside.replace(QStringLiteral("\"\""), QStringLiteral("\""));
+            const QString inside = text.sliced(at + 1, length - 2).toString();
+            decoded.text += inside.split(QStringLiteral("\"\"")).join(u'"');
             at += length;
         } else if (quoted) {
             noteBadCode(decoded, at);

@@ -259,11 +259,10 @@ QString typographic(QStringView text, const TypographySettings &settings) {
     QString set = Setter(straight, rules).set();
     if (settings.blanks)
         return withNoBreakBlanks(set, rules);
-    if (rules.outer.open.size() > 1) {
-        set.replace(rules.outer.open.toString(), QString(rules.outer.open[0]) + u' ');
-        set.replace(rules.outer.close.toString(), QString(u' ') + rules.outer.close[1]);
-    }
-    return set;
+    if (rules.outer.open.size() == 1)
+        return set;
+    set = set.split(rules.outer.open.toString()).join(QString(rules.outer.open[0]) + u' ');
+    return set.split(rules.outer.close.toString()).join(QString(u' ') + rules.outer.close[1]);
 }
 
 QString straightSigns(QStringView text) {
