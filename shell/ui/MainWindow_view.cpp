@@ -56,6 +56,9 @@ void MainWindow::showTextBox(bool wrapped) {
     // Show before hide: a window without any text box would give the focus to a button for a moment.
     (wrapped ? m_txtTextWW : m_txtText1)->show();
     (wrapped ? m_txtText1 : m_txtTextWW)->hide();
+    // All that holds them: the size that a start brings back may be the smallest with one of them.
+    for (QWidget *holder = m_textArea; holder != this; holder = holder->parentWidget())
+        holder->updateGeometry();
     m_imgWordwrap->setChecked(wrapped);
 }
 

@@ -122,6 +122,15 @@ TEST_F(MainWindowStory, remembersItsPlaceAndThePanelWhereTheyStillFit) {
         EXPECT_EQ(child<QSplitter>(*window(), "panelSplitter").sizes().front(), panel);
         leave();
     });
+    for (const bool wrapped : {false, true}) {
+        set(store, settingKeys.preferences.wordWrap, wrapped);
+        set(store, place, QStringLiteral("20,30,640,400"), presentScreen());
+        run({}, [&] {
+            EXPECT_EQ(window()->size(), QSize(640, 400)) << "no larger than it has to be";
+            leave();
+        });
+    }
+    set(store, settingKeys.preferences.wordWrap, false);
     for (const char *gone : {"5000,30,720,480", "20,30,9000,480", "nonsense"}) {
         set(store, place, QLatin1StringView(gone), presentScreen());
         run({}, [&] {
