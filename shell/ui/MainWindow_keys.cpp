@@ -136,7 +136,7 @@ void MainWindow::showKeySheet() {
     add(KeyGroup::Window, QStringLiteral("Arrows, Home, End"),
         QStringLiteral("Move among favourites, tools or PowerButtons"));
     add(KeyGroup::Window, QStringLiteral("Left, Right"),
-        QStringLiteral("Move the edge between the tools and the text, when it has the focus"));
+        QStringLiteral("Move the edge between the tools and the text, where F6 goes after the tools"));
     add(KeyGroup::Window, QStringLiteral("Menu"),
         QStringLiteral("Run a tool with its last settings, edit a PowerButton"));
     for (const auto *button : findChildren<QAbstractButton *>()) {

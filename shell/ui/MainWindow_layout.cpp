@@ -243,6 +243,7 @@ void MainWindow::arrangeTabOrder() {
         follow(QStringLiteral("imgFavourites_%1").arg(i));
     for (const char *name : {"imgWordwrap", "imgOptions", "imgHelp", "imgAbout", "cmdZoom", "cmdPlace"})
         follow(QLatin1StringView(name));
+    byName.value(QStringLiteral("panelEdge"))->setFocusPolicy(Qt::NoFocus); // F6 goes there, Tab goes on
     const auto numbered = [](const QString &name, int count) {
         QStringList names;
         for (int i = 0; i < count; ++i)

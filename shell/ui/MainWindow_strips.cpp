@@ -5,6 +5,7 @@
 #include "shell/ui/dock_area.h"
 
 #include <QBoxLayout>
+#include <QSplitter>
 #include <algorithm>
 
 namespace tolvo {
@@ -52,6 +53,8 @@ QList<WindowPart> MainWindow::parts() {
         all += part(m_overText, m_overText);
     all += part(m_topBar, m_topBar);
     all += part(m_toolFinder, m_panel);
+    QWidget *edge = m_splitter->handle(1);
+    all += {edge, [edge] { return edge; }};
     if (m_overPowerButtons)
         all += part(m_overPowerButtons, m_overPowerButtons);
     all += part(m_powerRow, m_powerButtons);

@@ -43,7 +43,8 @@ class WindowStories(Story):
         self.focus_becomes(run, "Trim trailing space and single space")
         keys("Left", "Escape")
         self.focus_becomes(run, "Text")
-        for part in "Bullet List", "Capitals", "PowerButton 1, not defined", "Copy and Close":
+        for part in ("Bullet List", "Capitals", "Width of the tools, Left and Right move it", "PowerButton 1, not defined",
+                     "Copy and Close"):
             keys("F6")
             self.focus_becomes(run, part)
         keys("shift+F6", "Right", "ctrl+u")

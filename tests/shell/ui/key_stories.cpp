@@ -67,6 +67,9 @@ TEST_F(KeyStory, moveTheEdgeOfThePanelAndAmongTheIconsBesideTheFavourites) {
         EXPECT_LT(panel(), first);
         press(Qt::Key_Tab);
         EXPECT_EQ(focused(), QStringLiteral("imgFavourites_0"));
+        press(Qt::Key_Tab, Qt::ShiftModifier);
+        EXPECT_EQ(focused(), QStringLiteral("lblToolbox_1")) << "the edge is no stop";
+        focus("imgFavourites_0");
         press(Qt::Key_Tab);
         EXPECT_EQ(focused(), QStringLiteral("imgWordwrap"));
         press(Qt::Key_Right);
@@ -134,12 +137,12 @@ TEST_F(KeyStory, f6WalksTheParts) {
     run({}, [] {
         focus("imgPower_5"); // the row remembers
         focus("txtText1");
-        for (const char *part :
-             {"imgFavourites_0", "lblToolbox_1", "firstSteps_0", "imgPower_5", "cmdClose", "txtText1"}) {
+        for (const char *part : {"imgFavourites_0", "lblToolbox_1", "panelEdge", "firstSteps_0", "imgPower_5",
+                                 "cmdClose", "txtText1"}) {
             press(Qt::Key_F6);
             EXPECT_EQ(focused(), QLatin1StringView(part));
         }
-        for (const char *part : {"cmdClose", "imgPower_5", "firstSteps_0", "lblToolbox_1"}) {
+        for (const char *part : {"cmdClose", "imgPower_5", "firstSteps_0", "panelEdge", "lblToolbox_1"}) {
             press(Qt::Key_F6, Qt::ShiftModifier);
             EXPECT_EQ(focused(), QLatin1StringView(part));
         }
