@@ -71,6 +71,8 @@ class PlainTextBox final : public QPlainTextEdit, public TextBox {
     /// Tints parts of the text until others are set in that layer; an empty one is a thin upright. They stand
     /// in the order of the text and do not move with it.
     void setTint(TintLayer layer, const QList<Stretch> &stretches);
+    /// Shows a layer in so much of its colours: 1 is all, 0 nothing.
+    void fadeTint(TintLayer layer, float share);
     [[nodiscard]] const QList<Stretch> &tint(TintLayer layer) const { return m_tint.of(layer); }
     /// What of the text is in sight, in whole lines as the box breaks them.
     [[nodiscard]] Stretch textInSight() const;

@@ -20,6 +20,12 @@ void PlainTextBox::setTint(TintLayer layer, const QList<Stretch> &stretches) {
         viewport()->update();
 }
 
+void PlainTextBox::fadeTint(TintLayer layer, float share) {
+    m_tint.setStrength(layer, share);
+    if (!m_tint.of(layer).isEmpty())
+        viewport()->update();
+}
+
 Stretch PlainTextBox::textInSight() const {
     const auto lineAt = [this](const QPoint &point) {
         const QTextCursor cursor = cursorForPosition(point);

@@ -39,6 +39,11 @@ Look lookOf(TintLayer layer, const QPalette &palette) {
     return {};
 }
 
+void fade(Look &look, float strength) {
+    for (QColor *colour : {&look.ground, &look.edge})
+        colour->setAlphaF(colour->alphaF() * strength);
+}
+
 /// Units of a block, from 0.
 struct Units {
     int from;
@@ -155,7 +160,8 @@ void TextTint::paint(QPainter &painter, Side side, const QTextBlock &block, cons
             return;
         LinePainter marks(painter, block, origin, line, unitsInSight(line, text, seen.left(), seen.right()));
         for (std::size_t layer = 0; layer < layers; ++layer) {
-            const Look look = lookOf(static_cast<TintLayer>(layer), palette);
+            Look look = lookOf(static_cast<TintLayer>(layer), palette);
+            fade(look, m_strengths[layer]);
             if (look.isFrame == (side == Side::OverText))
                 marks.paint(m_layers[layer], look, exposed, left);
         }

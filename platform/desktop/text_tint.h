@@ -39,6 +39,8 @@ class TextTint {
     bool set(TintLayer layer, const QList<Stretch> &stretches);
     [[nodiscard]] const QList<Stretch> &of(TintLayer layer) const { return m_layers[index(layer)]; }
     [[nodiscard]] bool isEmpty() const;
+    /// How much of a layer's colours shows: 1 all of it, 0 nothing.
+    void setStrength(TintLayer layer, float share) { m_strengths[index(layer)] = share; }
 
     enum class Side { BeneathText, OverText };
     /// Paints what lies in a part of a block; `origin` is where its layout begins. `left` counts down with
@@ -50,6 +52,7 @@ class TextTint {
     [[nodiscard]] static std::size_t index(TintLayer layer) { return static_cast<std::size_t>(layer); }
 
     std::array<QList<Stretch>, layers> m_layers;
+    std::array<float, layers> m_strengths{1, 1, 1, 1};
 };
 
 } // namespace tolvo

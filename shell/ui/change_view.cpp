@@ -3,6 +3,7 @@
 
 #include "shell/changed_places.h"
 #include "shell/tool_change.h"
+#include "widgets/motion.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -26,7 +27,7 @@ QList<Stretch> changedStretches(const QString &before, const QString &after) {
 ChangeView::ChangeView(std::array<PlainTextBox *, 2> boxes, QObject *parent)
     : QObject(parent), m_boxes(boxes) {
     m_tintEnds.setSingleShot(true);
-    connect(&m_tintEnds, &QTimer::timeout, this, &ChangeView::endPlaces);
+    connect(&m_tintEnds, &QTimer::timeout, this, &ChangeView::fadePlaces);
     for (PlainTextBox *box : m_boxes) {
         box->installEventFilter(this);
         box->viewport()->installEventFilter(this);
@@ -38,6 +39,8 @@ qsizetype ChangeView::showPlaces(const ToolChange &change) {
     PlainTextBox &box = *m_boxes.at(shown());
     const QList<Stretch> places = changedStretches(change.before.text, box.Text());
     box.setTint(TintLayer::Changes, places);
+    m_faded = 0;
+    box.fadeTint(TintLayer::Changes, 1);
     m_tintEnds.start(tintTime);
     return places.size();
 }
@@ -63,6 +66,16 @@ void ChangeView::endPlaces() {
     m_tintEnds.stop();
     for (PlainTextBox *box : m_boxes)
         box->setTint(TintLayer::Changes, {});
+}
+
+void ChangeView::fadePlaces() {
+    constexpr int steps = 4;
+    constexpr int timeOfStep = 70; // milliseconds
+    PlainTextBox &box = *m_boxes.at(shown());
+    if (++m_faded == steps || !wantsMotion(box))
+        return endPlaces();
+    box.fadeTint(TintLayer::Changes, 1 - static_cast<float>(m_faded) / steps);
+    m_tintEnds.start(timeOfStep);
 }
 
 TextOverlay &ChangeView::overlay() {

@@ -43,12 +43,14 @@ class ChangeView : public QObject {
   private:
     [[nodiscard]] std::size_t shown() const { return m_boxes[1]->isHidden() ? 0 : 1; }
     void endPlaces();
+    void fadePlaces();
     void endTextBefore();
     [[nodiscard]] bool endsTextBefore(const QEvent &event) const;
 
     std::array<PlainTextBox *, 2> m_boxes;
     std::array<TextOverlay *, 2> m_overlays{};
     QTimer m_tintEnds;
+    int m_faded = 0;     ///< steps
     bool m_held = false; ///< the key that shows the text before
 };
 

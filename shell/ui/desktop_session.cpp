@@ -9,9 +9,9 @@
 #include "shell/ui/power_button_menu.h"
 #include "shell/ui/trouble_watch.h"
 #include "shell/ui/window_memory.h"
+#include "widgets/motion.h"
 
 #include <QApplication>
-#include <QStyle>
 #include <QTimer>
 #include <utility>
 
@@ -21,11 +21,6 @@ namespace {
 
 constexpr int timeOfACommit = 200; // milliseconds, with a slow disk
 constexpr int timeOfPlacing = 300; // milliseconds
-
-/// False where the desktop asks for less motion, as far as the toolkit hears of it.
-bool wantsMotion(const QWidget &window) {
-    return window.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &window) > 0;
-}
 
 } // namespace
 

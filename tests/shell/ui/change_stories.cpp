@@ -134,6 +134,32 @@ class StillStyle : public QProxyStyle {
     }
 };
 
+TEST_F(ChangeStory, theTintFadesUnlessMotionIsNotWanted) {
+    run(u"the cat"_s, [] {
+        text()->setCursorWidth(0);
+        const QImage before = picture();
+        StillStyle still;
+        for (QStyle *style : {static_cast<QStyle *>(nullptr), static_cast<QStyle *>(&still)}) {
+            text()->setStyle(style);
+            titleCase();
+            const QImage tinted = picture();
+            const auto isOver = [] {
+                return static_cast<PlainTextBox *>(text())->tint(TintLayer::Changes).isEmpty();
+            };
+            bool faded = false;
+            EXPECT_TRUE(QTest::qWaitFor([&] {
+                faded = faded || (!isOver() && picture() != tinted);
+                return isOver();
+            }));
+            EXPECT_EQ(faded, style == nullptr);
+            QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier);
+            EXPECT_EQ(picture(), before);
+        }
+        text()->setStyle(nullptr);
+        close();
+    });
+}
+
 TEST_F(ChangeStory, thePanelOpensAtOnceWhereMotionIsNotWanted) {
     run(u"text"_s, [] {
         const auto waitsInBetween = [] {
