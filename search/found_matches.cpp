@@ -83,7 +83,8 @@ void findExpressions(FoundMatches &found, const QString &text, const SearchReque
     WidenedPlaces places(narrow);
     walkMatches(*expression, narrow, budget, [&](const RegularExpressionMatch &match) {
         if (match.length() == 0) {
-            ++found.empty;
+            if (found.empty++ < most)
+                found.emptyAt += places.of(match.start());
             return true;
         }
         found.more = found.places.size() == most;

@@ -20,6 +20,7 @@ struct FoundMatches {
 
     QList<Span> places;       ///< in the text as it was given, in order; simple search may let them overlap
     int empty = 0;            ///< matches without length, which are replaced but not listed
+    QList<qsizetype> emptyAt; ///< where they are, in order; `most` at most
     bool more = false;        ///< `most` are found, or the budget is spent
     QString trouble;          ///< why the request can't be carried out, in words; empty if it can
     qsizetype troubleAt = -1; ///< where in its find text, from 0; -1 if no place is to blame

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <limits>
 
 namespace tolvo {
 
@@ -28,6 +29,23 @@ constexpr int pauseInScrolling = 30;
 
 Stretch stretchOf(Span place) {
     return {static_cast<int>(place.start), static_cast<int>(place.length)};
+}
+
+/// All matches in the order of the text; one without length is a thin upright.
+QList<Stretch> stretchesOf(const FoundMatches &found) {
+    QList<Stretch> marks;
+    marks.reserve(found.places.size() + found.emptyAt.size());
+    auto empty = found.emptyAt.begin();
+    const auto addEmpty = [&](qsizetype end) {
+        for (; empty != found.emptyAt.end() && *empty < end; ++empty)
+            marks += {static_cast<int>(*empty), 0};
+    };
+    for (const Span place : found.places) {
+        addEmpty(place.start);
+        marks += stretchOf(place);
+    }
+    addEmpty(std::numeric_limits<qsizetype>::max());
+    return marks;
 }
 
 void startsOnce(QTimer &timer, int milliseconds) {
@@ -158,9 +176,7 @@ void LiveSearch::showMatches() {
         return;
     QList<Stretch> marks;
     if (m_controls.chkMarkMatches->isChecked()) {
-        marks.reserve(m_answer->found.places.size());
-        for (const Span place : m_answer->found.places)
-            marks += stretchOf(place);
+        marks = stretchesOf(m_answer->found);
     }
     m_text.shown().setTint(TintLayer::Matches, marks);
     showPlace();

@@ -121,6 +121,15 @@ TEST_F(LiveSearchWindow, MarksWhatItFindsForAsLongAsItIsShown) {
     becomes("");
 }
 
+TEST_F(LiveSearchWindow, MarksEmptyMatchesInTheirPlaces) {
+    open(false);
+    find<QTabBar>("TabStrip1").setCurrentIndex(2);
+    text.setText(QStringLiteral("ab\r\nb"));
+    look("b*");
+    becomes("2 matches below: From Start finds them");
+    EXPECT_EQ(marked(), "0+0 1+1 2+0 4+1 5+0/");
+}
+
 TEST_F(LiveSearchWindow, FollowsATextThatChangesUnderIt) {
     open(false);
     look("one");
