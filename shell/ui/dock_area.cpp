@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace tolvo {
@@ -97,6 +98,15 @@ QSize DockArea::sizeHint() const {
     const QSize title = layout()->itemAt(0)->sizeHint();
     const QSize page = m_page->layout()->sizeHint();
     return {std::max(title.width(), page.width()), title.height() + page.height()};
+}
+
+void DockArea::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    // After the window has been laid out anew.
+    QTimer::singleShot(0, this, [this] {
+        if (onShown)
+            onShown();
+    });
 }
 
 bool DockArea::eventFilter(QObject *watched, QEvent *event) {

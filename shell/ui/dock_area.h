@@ -33,7 +33,10 @@ class DockArea final : public QWidget {
     [[nodiscard]] bool hasFocusInside() const;
     [[nodiscard]] QSize sizeHint() const override;
 
+    std::function<void()> onShown; ///< the strip has taken its room
+
   protected:
+    void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:

@@ -75,6 +75,7 @@ int SearchDocking::run(QDialog &list) {
 DockArea &SearchDocking::area(QPointer<DockArea> &area, const char *name) {
     if (!area) {
         area = new DockArea(QLatin1StringView(name), [this] { m_main.shownTextBox().setFocus(); });
+        area->onShown = [this] { m_main.shownTextBox().ensureCursorVisible(); };
         m_main.putUnderText(*area);
     }
     return *area;

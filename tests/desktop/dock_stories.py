@@ -3,7 +3,7 @@
 
 import unittest
 
-from desk import Story, keys, type_text, wait_for
+from desk import Atspi, Story, keys, type_text, wait_for
 
 TEXT = "cat one, cat two\ncat three"
 
@@ -72,6 +72,21 @@ class DockStories(Story):
         keys("Down", "Return")
         self.focus_is(run, "Text")
         run.picture_becomes("«cat» one, cat two\ncat three")
+
+    def test_the_caret_stays_in_sight(self):
+        run = self.start("line\n" * 60)
+        keys("ctrl+Home", *["Down"] * 24)
+        caret = 24 * len("line\n")
+        keys("ctrl+f")
+        self.focus_is(run, "Search for")
+        text = run.text_node()
+
+        def in_sight():
+            box = text.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+            letter = text.get_text_iface().get_character_extents(caret, Atspi.CoordType.SCREEN)
+            return box.y <= letter.y and letter.y + letter.height <= box.y + box.height
+
+        wait_for(in_sight, "the caret's line in sight")
 
     def test_the_choice_is_in_the_context_menu(self):
         run = self.start(TEXT)
