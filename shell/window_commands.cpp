@@ -8,7 +8,7 @@
 namespace tolvo {
 
 std::span<const WindowCommand> windowCommands() {
-    static constexpr std::array<WindowCommand, 10> commands{{
+    static constexpr std::array<WindowCommand, 11> commands{{
         {u"imgWordwrap", u"Toggle word wrap", u"Break long lines on the screen only; the text stays as it is",
          u"Alt-W", u"", &frmMain::imgWordwrap_Click},
         {u"imgOptions", u"Options", u"Fonts, sounds, file extensions, spelling", u"Ctrl-O",
@@ -18,6 +18,9 @@ std::span<const WindowCommand> windowCommands() {
         {u"cmdUndo", u"Undo", u"Take back the last tool, or all that was typed after it", u"", u"",
          &frmMain::cmdUndo_Click},
         {u"cmdRedo", u"Redo", u"Bring back what Undo took", u"Ctrl-Y", u"", &frmMain::cmdRedo_Click},
+        {u"undoPowerButton", u"Undo the last PowerButton",
+         u"Take back all that it has done, and what came after it", u"Ctrl-Alt-Z", u"",
+         &frmMain::undoPowerButton},
         {u"FindAgain", u"Find again", u"Go on with the last search", u"F3", u"", &frmMain::FindAgain},
         {u"cmdRefresh", u"Refresh with current Clipboard",
          u"Replace the text by what is on the clipboard now; Undo brings it back", u"Alt-F", u"",
