@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace tolvo {
 
@@ -89,8 +90,9 @@ QString withWordsReversed(QStringView text) {
         for (qsizetype i = 0; i < words.size(); i += pieces.back().size())
             pieces += pieceAt(words, i);
         result += line.first(indent);
-        for (auto piece = pieces.crbegin(); piece != pieces.crend(); ++piece)
-            result += *piece;
+        std::reverse(pieces.begin(), pieces.end());
+        for (const QStringView piece : std::as_const(pieces))
+            result += piece;
         result += line.sliced(indent + words.size());
     });
 }
