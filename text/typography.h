@@ -2,7 +2,7 @@
 // Signs as printed texts have them: quotation marks, dashes, ellipses, primes and no-break blanks by the
 // rules of a language, and plain ones for program text. Sources: New Hart's Rules (British), The Chicago
 // Manual of Style (American), DIN 5008 (German), the Lexique of the Imprimerie nationale (French), Zasady
-// pisowni i interpunkcji polskiej (Polish), Ortografia de la lengua espanola (Spanish).
+// pisowni i interpunkcji polskiej (Polish), Ortografía de la lengua española (Spanish).
 #pragma once
 
 #include "text/writing_settings.h"
