@@ -31,7 +31,7 @@ class FindStories(Story):
 
     def test_by_other_words_and_with_last_settings(self):
         run = self.start_on(LINES)
-        self.find(run, "unwrap", "Join paragraphs")
+        self.find(run, "merge lines", "Join paragraphs")
         self.field_says(run, "1 of ")
         keys("Return")
         run.text_becomes("some more tea")
