@@ -4,6 +4,7 @@
 #include "text/html_names.h"
 #include "text/notation.h"
 
+#include <QStringList>
 #include <array>
 
 namespace tolvo {
