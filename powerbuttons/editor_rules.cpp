@@ -5,8 +5,6 @@
 #include "powerbuttons/circular_check.h"
 #include "powerbuttons/icon_geometry.h"
 
-#include <algorithm>
-
 namespace tolvo {
 
 namespace {
@@ -35,6 +33,7 @@ void EditorRules::init(int index) {
     }
     if (m_button->Count() == 0)
         m_button->Add(std::make_shared<CAction>());
+    m_undo.clear();
     moveTo(1);
 }
 
@@ -80,7 +79,10 @@ void EditorRules::chooseTool(const QString &token) {
                   FillTemplate(QStringLiteral("Replace '%0' with '%1' in Action %2?"),
                                {current().Tool()->Name(), tool->Name(), QString::number(m_position)})))
             return;
+        noteForUndo();
         current().setDetails({});
+    } else {
+        noteForUndo();
     }
     current().setTool(tool);
     if (runsPowerButton(current()))
@@ -88,6 +90,7 @@ void EditorRules::chooseTool(const QString &token) {
 }
 
 void EditorRules::chooseOption(SettingsFrom option) {
+    noteForUndo();
     m_option = option;
 }
 
@@ -97,6 +100,7 @@ void EditorRules::chooseSettings() {
     const auto settings = m_settings.getSettings(current().Tool()->Token(), current().Details());
     if (!settings)
         return;
+    noteForUndo();
     current().setDetails(*settings);
     m_option = SettingsFrom::Custom;
 }
@@ -148,16 +152,19 @@ bool EditorRules::mayAdd() {
 }
 
 void EditorRules::addBefore() {
+    noteForUndo();
     m_button->Add(std::make_shared<CAction>(), {}, m_position);
     moveTo(m_position);
 }
 
 void EditorRules::addAfter() {
+    noteForUndo();
     m_button->Add(std::make_shared<CAction>(), {}, {}, m_position);
     moveTo(m_position + 1);
 }
 
 void EditorRules::addAtEnd() {
+    noteForUndo();
     m_button->Add(std::make_shared<CAction>());
     moveTo(m_button->Count());
 }
@@ -166,11 +173,7 @@ void EditorRules::deleteAction() {
     if (current().Tool() && !asks(m_boxes, FillTemplate(QStringLiteral("Do you want to delete action '%0'?"),
                                                         {current().Tool()->Name()})))
         return;
-    if (m_button->Count() == 1)
-        m_button->Add(std::make_shared<CAction>(), 1);
-    else
-        m_button->Remove(m_position);
-    moveTo(std::min(m_position, m_button->Count()));
+    removeStep();
 }
 
 EditorRules::Saved EditorRules::save(const QString &name) {
@@ -203,6 +206,7 @@ bool EditorRules::destroy() {
 }
 
 void EditorRules::loadExample(const CPowerButton &example) {
+    noteForUndo();
     m_button->Clear();
     for (int position = 1; position <= example.Count(); ++position)
         m_button->Add(std::make_shared<CAction>(*example.Item(position)));

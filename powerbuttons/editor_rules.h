@@ -6,9 +6,11 @@
 #include "powerbuttons/CPowerButton.h"
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "powerbuttons/action_settings.h"
+#include "powerbuttons/step_undo.h"
 
 #include <QString>
 #include <memory>
+#include <optional>
 
 namespace tolvo {
 
@@ -67,6 +69,30 @@ class EditorRules {
     /// Asks, unless the Action is blank.
     void deleteAction();
 
+    // The list of the Actions (editor_steps.cpp). Positions count from 1; an unknown one changes nothing.
+
+    /// Makes an Action the current one; validates the one before first, false if that stays.
+    bool goTo(int position);
+    /// Moves an Action to another place among the others, where it is the current one. Leaving another one
+    /// for it validates that first; false if all stays.
+    bool moveStep(int from, int to);
+    /// Takes the current Action out without a question, as undo() brings it back.
+    void removeStep();
+    /// Switches an Action off, or on again; the current one stays current.
+    void switchOff(int position, bool off);
+    /// Keeps a copy of the current Action for pasteStep(), in this button or another one; false for a blank.
+    bool copyStep();
+    bool cutStep();
+    /// Puts the copy after the current Action, or in the place of a blank one, and makes it the current one.
+    bool pasteStep();
+    /// Puts a second one after the current Action.
+    bool duplicateStep();
+    /// Takes the latest change of Actions or icon back, or brings it back; false if there is none.
+    bool undo() { return walkUndo(&StepUndo::back); }
+    bool redo() { return walkUndo(&StepUndo::forward); }
+    /// Changes from here on are taken back by themselves. The window calls it before it sets the icon.
+    void noteForUndo() { m_undo.note(state()); }
+
     enum class Saved { Yes, NoAction, NoName };
     /// Validates, then stores the button under the name. NoName: the window puts the focus there.
     Saved save(const QString &name);
@@ -83,6 +109,12 @@ class EditorRules {
     void keep();
     bool validate();
     bool validateTarget();
+    [[nodiscard]] bool hasPosition(int position) const {
+        return position >= 1 && position <= m_button->Count();
+    }
+    [[nodiscard]] StepsState state() const;
+    bool walkUndo(bool (StepUndo::*walk)(StepsState &));
+    void putAfterCurrent(const CAction &action);
     void say(const QString &text) { m_boxes.show({text}); }
 
     CPowerButtonCollection &m_buttons;
@@ -95,6 +127,8 @@ class EditorRules {
     int m_number = 1;
     int m_position = 1;
     SettingsFrom m_option = SettingsFrom::Prompt; ///< on the form, not yet in the Action
+    StepUndo m_undo;
+    std::optional<CAction> m_copy; ///< what is pasted
 };
 
 /// What dlgChoosePB lets choose: a defined button other than the one that is being edited.

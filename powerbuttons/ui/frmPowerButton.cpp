@@ -27,6 +27,7 @@ frmPowerButton::frmPowerButton(CPowerButtonCollection &buttons, CPowerButtonMeth
     setObjectName(QStringLiteral("frmPowerButton"));
     makeTree(tools);
     makeHead();
+    m_stepsBox = makeSteps();
     makeAction();
     makeMenus(tools);
     arrange(makeFoot());
@@ -41,6 +42,7 @@ void frmPowerButton::init(int index) {
     if (m_tree->topLevelItemCount() > 0)
         m_tree->expandItem(m_tree->topLevelItem(0));
     m_tree->scrollToTop();
+    placeSteps();
     fill();
     m_name->setFocus();
 }
@@ -69,6 +71,7 @@ void frmPowerButton::fill() {
     m_delete->setVisible(form.deleteVisible);
     m_examples->setVisible(form.examplesVisible);
     m_icon->setIcon(toQIcon(shownIcon(m_rules.button(), m_rules.number())));
+    fillSteps();
     showToolInTree();
 }
 
@@ -103,8 +106,10 @@ std::optional<QString> frmPowerButton::getSettings(const QString &token, const Q
 void frmPowerButton::editIcon() {
     ButtonIcon icon = iconOf(m_rules.button());
     dlgEditIcon dialog(m_recentCharacters, this);
-    if (dialog.showDialog(icon))
+    if (dialog.showDialog(icon)) {
+        m_rules.noteForUndo();
         setIcon(m_rules.button(), icon);
+    }
     fill();
 }
 

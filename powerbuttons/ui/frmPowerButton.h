@@ -18,8 +18,12 @@ class QRadioButton;
 class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
+class QVBoxLayout;
 
 namespace tolvo {
+
+class StepList;
+enum class StepCommand;
 
 /// One object serves any number of editings: init(), exec(). All but the settings of an Action that runs
 /// another PowerButton are asked through `settings`.
@@ -46,9 +50,14 @@ class frmPowerButton : public QDialog, private ActionSettings {
     void makeMenus(const Catalogue &tools);
     QWidget *makeFoot();
     void arrange(QWidget *foot);
+    QWidget *makeSteps();
     QPushButton *makeButton(const char *name, const QString &caption);
 
     void fill();
+    void fillSteps();
+    void doWithStep(StepCommand command);
+    /// With large letters or on a small screen the steps stand below the tools.
+    void placeSteps();
     void showToolInTree();
     void choose(const QTreeWidgetItem *item);
     /// True for a key of the tree that chooses, or that goes on with the name that is being typed.
@@ -65,6 +74,10 @@ class frmPowerButton : public QDialog, private ActionSettings {
     QElapsedTimer m_sinceTyped; ///< since the last letter that was typed into the tree
 
     QTreeWidget *m_tree = nullptr;
+    StepList *m_steps = nullptr;
+    QWidget *m_stepsBox = nullptr;
+    QVBoxLayout *m_toolColumn = nullptr;
+    QVBoxLayout *m_stepColumn = nullptr;
     QWidget *m_head = nullptr;
     QLineEdit *m_name = nullptr;
     QToolButton *m_icon = nullptr;

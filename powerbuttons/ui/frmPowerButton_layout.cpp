@@ -5,6 +5,7 @@
 #include "powerbuttons/icon_geometry.h"
 #include "powerbuttons/ui/frmPowerButton.h"
 #include "powerbuttons/ui/icon_painter.h"
+#include "powerbuttons/ui/step_list.h"
 #include "widgets/themed_icon.h"
 
 #include <QGroupBox>
@@ -59,8 +60,8 @@ void frmPowerButton::makeTree(const Catalogue &tools) {
     m_tree->setObjectName(QStringLiteral("tvwTools"));
     m_tree->setAccessibleName(QStringLiteral("Tools"));
     m_tree->setHeaderHidden(true);
-    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
-    m_tree->setMinimumHeight(fontMetrics().height() * 18);
+    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
+    m_tree->setMinimumHeight(fontMetrics().height() * 9);
     QTreeWidgetItem *group = nullptr;
     for (const ToolPtr &tool : tools.tools()) {
         if (tool->Name() == unknownToolName)
@@ -139,7 +140,8 @@ void frmPowerButton::makeAction() {
     const auto option = [this](const char *name, const QString &caption, SettingsFrom value) {
         auto *button = new QRadioButton(caption, m_frame);
         button->setObjectName(QLatin1StringView(name));
-        connect(button, &QRadioButton::clicked, this, [this, value] { m_rules.chooseOption(value); });
+        connect(button, &QRadioButton::clicked, this,
+                [this, value] { m_rules.chooseOption(value), fillSteps(); });
         return button;
     };
     m_current = option("optCurrent", QStringLiteral("&Use current settings"), SettingsFrom::Current);
@@ -227,11 +229,12 @@ void frmPowerButton::arrange(QWidget *foot) {
     });
     connect(cancel, &QPushButton::clicked, this, &frmPowerButton::reject);
 
-    QList<QWidget *> order{m_tree,     m_name,   m_icon,   findChild<QWidget *>(QStringLiteral("imgTrash")),
-                           m_current,  m_prompt, m_custom, m_askSettings,
-                           m_left,     m_right,  m_add,    m_delete,
-                           m_examples, apply,    ok,       cancel,
-                           help};
+    QList<QWidget *> order{
+        m_tree,        m_name,     m_icon,   findChild<QWidget *>(QStringLiteral("imgTrash")),
+        m_steps,       m_current,  m_prompt, m_custom,
+        m_askSettings, m_left,     m_right,  m_add,
+        m_delete,      m_examples, apply,    ok,
+        cancel,        help};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 
@@ -239,10 +242,15 @@ void frmPowerButton::arrange(QWidget *foot) {
     right->addWidget(m_head);
     right->addWidget(m_frame, 1);
     right->addWidget(foot);
+    m_toolColumn = new QVBoxLayout;
+    m_toolColumn->setSpacing(12);
+    m_toolColumn->addWidget(m_tree, 3);
+    m_stepColumn = new QVBoxLayout;
     auto *columns = new QHBoxLayout;
     columns->setSpacing(12);
-    columns->addWidget(m_tree, 2);
-    columns->addLayout(right, 3);
+    columns->addLayout(m_toolColumn, 3);
+    columns->addLayout(m_stepColumn, 3);
+    columns->addLayout(right, 4);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(help);
     buttons->addWidget(m_examples);

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+// The list of the steps in the PowerButton editor.
+#include "powerbuttons/step_settings.h"
+#include "powerbuttons/ui/frmPowerButton.h"
+#include "powerbuttons/ui/step_list.h"
+#include "widgets/screen_fit.h"
+
+#include <QLabel>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace tolvo {
+
+QWidget *frmPowerButton::makeSteps() {
+    auto *box = new QWidget(this);
+    auto *label = new QLabel(QStringLiteral("S&teps:"), box);
+    m_steps = new StepList(box);
+    m_steps->setToolTip(QStringLiteral("A tick runs the step; drag or Ctrl-Up and Ctrl-Down move it"));
+    label->setBuddy(m_steps);
+    auto *layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(label);
+    layout->addWidget(m_steps, 1);
+    connect(m_steps, &StepList::chosen, this, [this](int position) { m_rules.goTo(position), fill(); });
+    connect(m_steps, &StepList::dragged, this,
+            [this](int from, int to) { m_rules.moveStep(from, to), fill(); });
+    connect(m_steps, &StepList::ticked, this,
+            [this](int position, bool off) { m_rules.switchOff(position, off), fill(); });
+    connect(m_steps, &StepList::asked, this, &frmPowerButton::doWithStep);
+    const auto walk = [this](QKeyCombination key, StepCommand command) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [this, command] { doWithStep(command); });
+    };
+    walk(Qt::CTRL | Qt::Key_Z, StepCommand::Undo);
+    walk(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, StepCommand::Redo);
+    walk(Qt::CTRL | Qt::Key_Y, StepCommand::Redo);
+    return box;
+}
+
+void frmPowerButton::placeSteps() {
+    m_stepColumn->removeWidget(m_stepsBox);
+    m_toolColumn->removeWidget(m_stepsBox);
+    m_stepColumn->addWidget(m_stepsBox);
+    activateLayout(*this);
+    if (sizeHint().width() <= roomOnScreen(*this).width())
+        return;
+    m_stepColumn->removeWidget(m_stepsBox);
+    m_toolColumn->addWidget(m_stepsBox, 2);
+}
+
+void frmPowerButton::doWithStep(StepCommand command) {
+    switch (command) {
+    case StepCommand::MoveUp:
+        m_rules.moveStep(m_rules.position(), m_rules.position() - 1);
+        break;
+    case StepCommand::MoveDown:
+        m_rules.moveStep(m_rules.position(), m_rules.position() + 1);
+        break;
+    case StepCommand::Remove:
+        m_rules.removeStep();
+        break;
+    case StepCommand::Duplicate:
+        m_rules.duplicateStep();
+        break;
+    case StepCommand::Copy:
+        m_rules.copyStep();
+        break;
+    case StepCommand::Cut:
+        m_rules.cutStep();
+        break;
+    case StepCommand::Paste:
+        m_rules.pasteStep();
+        break;
+    case StepCommand::Undo:
+        m_rules.undo();
+        break;
+    case StepCommand::Redo:
+        m_rules.redo();
+        break;
+    }
+    fill();
+}
+
+void frmPowerButton::fillSteps() {
+    const CPowerButton &button = m_rules.button();
+    QList<StepList::Step> steps;
+    for (int position = 1; position <= button.Count(); ++position) {
+        CAction action = *button.Item(position);
+        if (position == m_rules.position())
+            action.setDlgOption(m_rules.form().option);
+        steps.append({stepLine(position, action, m_buttons), action.switchedOff()});
+    }
+    m_steps->showSteps(steps, m_rules.position());
+}
+
+} // namespace tolvo
