@@ -22,6 +22,8 @@ class QVBoxLayout;
 
 namespace tolvo {
 
+class EffectView;
+class StepEffects;
 class StepList;
 enum class StepCommand;
 
@@ -35,6 +37,9 @@ class frmPowerButton : public QDialog, private ActionSettings {
 
     /// Begins with the button of an index from 0.
     void init(int index);
+    /// Shows the effect of the current step below the form. `effects` must outlive the window.
+    void showEffectsOf(StepEffects &effects);
+    void done(int result) override;
     /// Cancel and the close box: everything since the last save is taken back.
     void reject() override;
 
@@ -55,6 +60,7 @@ class frmPowerButton : public QDialog, private ActionSettings {
 
     void fill();
     void fillSteps();
+    void askForEffect();
     void doWithStep(StepCommand command);
     /// With large letters or on a small screen the steps stand below the tools.
     void placeSteps();
@@ -74,6 +80,8 @@ class frmPowerButton : public QDialog, private ActionSettings {
     QElapsedTimer m_sinceTyped; ///< since the last letter that was typed into the tree
 
     QTreeWidget *m_tree = nullptr;
+    StepEffects *m_effects = nullptr;
+    EffectView *m_effectView = nullptr;
     StepList *m_steps = nullptr;
     QWidget *m_stepsBox = nullptr;
     QVBoxLayout *m_toolColumn = nullptr;

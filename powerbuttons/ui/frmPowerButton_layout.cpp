@@ -249,7 +249,7 @@ void frmPowerButton::arrange(QWidget *foot) {
     auto *columns = new QHBoxLayout;
     columns->setSpacing(12);
     columns->addLayout(m_toolColumn, 3);
-    columns->addLayout(m_stepColumn, 3);
+    columns->addLayout(m_stepColumn, 4);
     columns->addLayout(right, 4);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(help);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The list of the steps in the PowerButton editor.
 #include "powerbuttons/step_settings.h"
+#include "powerbuttons/ui/effect_view.h"
 #include "powerbuttons/ui/frmPowerButton.h"
 #include "powerbuttons/ui/step_list.h"
 #include "widgets/screen_fit.h"
@@ -91,6 +92,38 @@ void frmPowerButton::fillSteps() {
         steps.append({stepLine(position, action, m_buttons), action.switchedOff()});
     }
     m_steps->showSteps(steps, m_rules.position());
+    askForEffect();
+}
+
+void frmPowerButton::showEffectsOf(StepEffects &effects) {
+    m_effects = &effects;
+    m_effectView = new EffectView(this);
+    auto &rows = static_cast<QVBoxLayout &>(*layout());
+    rows.insertWidget(1, m_effectView, 1);
+    QWidget *next = findChild<QWidget *>(QStringLiteral("cmdLoadExample"));
+    setTabOrder(m_delete, m_effectView->findChild<QWidget *>(QStringLiteral("txtBefore")));
+    setTabOrder(m_effectView->findChild<QWidget *>(QStringLiteral("txtBefore")),
+                m_effectView->findChild<QWidget *>(QStringLiteral("txtAfter")));
+    setTabOrder(m_effectView->findChild<QWidget *>(QStringLiteral("txtAfter")), next);
+}
+
+/// The button goes with the option that is chosen on the form, which its Action takes later.
+void frmPowerButton::askForEffect() {
+    if (m_effects == nullptr)
+        return;
+    CPowerButton button = m_rules.button();
+    const auto current = std::make_shared<CAction>(*button.Item(m_rules.position()));
+    current->setDlgOption(m_rules.form().option);
+    button.Add(current, m_rules.position());
+    m_effectView->wait();
+    m_effects->ask(button, m_rules.position(),
+                   [this](const StepEffect &effect) { m_effectView->showEffect(effect); });
+}
+
+void frmPowerButton::done(int result) {
+    if (m_effects != nullptr)
+        m_effects->cancel();
+    QDialog::done(result);
 }
 
 } // namespace tolvo

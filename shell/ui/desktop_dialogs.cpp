@@ -15,6 +15,7 @@
 #include "shell/ui/clear_of_text.h"
 #include "shell/ui/dialog_sizes.h"
 #include "shell/ui/dlgConfirmClose.h"
+#include "shell/ui/editor_effects.h"
 #include "shell/ui/window_memory.h"
 #include "spelling/language_rows.h"
 #include "spelling/spelling_provider.h"
@@ -157,6 +158,8 @@ void DesktopDialogs::editPowerButton(int index) {
         m_powerButtonEditor = std::make_unique<frmPowerButton>(
             session.oPowerButtons, session.oPBMethods, session.oTools, m_services.boxes,
             static_cast<ActionSettings &>(*this), &m_parent);
+        m_editorEffects = std::make_unique<EditorEffects>(*m_session, m_parent.worker());
+        m_powerButtonEditor->showEffectsOf(*m_editorEffects);
     }
     m_powerButtonEditor->init(index);
     m_powerButtonEditor->exec();

@@ -12,6 +12,7 @@
 
 namespace tolvo {
 
+class EditorEffects;
 class MainWindow;
 class SearchResultsWindow;
 class dlgDicQuickList;
@@ -64,6 +65,7 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     std::optional<DesktopOptions> m_options;
     // The dialogs; the main window is their parent, and they go before it.
     std::unique_ptr<dlgPreferences> m_preferences;
+    std::unique_ptr<EditorEffects> m_editorEffects;
     std::unique_ptr<frmPowerButton> m_powerButtonEditor;
     std::unique_ptr<dlgSpelling> m_spellingDialog;
     std::unique_ptr<dlgDicQuickList> m_languageDialog;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shell/powerbutton_effect.h"
 #include "shell/powerbutton_preview.h"
 #include "tests/support/User.h"
 
@@ -126,6 +127,29 @@ TEST(PowerButtonPreview, saysWhereTextIsLost) {
     EXPECT_EQ(results.at(1).after.text.size(), textLimit);
     EXPECT_TRUE(results.at(1).says.contains("truncated")) << results.at(1).says.toStdString();
     EXPECT_EQ(results.at(2).after.text.left(10), QString(9, ' ') + "a");
+}
+
+TEST(PowerButtonPreview, becomesWordsAndPlaces) {
+    User user("one two|«»");
+    auto off = User::action("ccUPP");
+    off->setSwitchedOff(true);
+    const QString replaceTwo = "Mode=1, Find=two, MatchCase=0, Direction=S, WholeWords=0, SpecialChars=0, "
+                               "Replace=twos, SmartReplace=0, ReplaceAll=1";
+    user.defines(1, {off, User::action("edREP", Custom, replaceTwo), User::action("ccLOW"),
+                     User::action("foIND"), User::action("ccUPP"), User::action("pbALL"),
+                     User::action("pbPBT", Custom, "PowerButton=1"), User::action("ccUPP")});
+    const auto effect = [&](int count) { return effectOf(previewOf(user, 1, count)); };
+    EXPECT_EQ(effect(1).says, "Switched off: nothing happens");
+    const StepEffect replaced = effect(2);
+    EXPECT_EQ(replaced.says, "1 place changed");
+    EXPECT_EQ(replaced.after, "one twos\r\n");
+    EXPECT_EQ(replaced.taken, QList<TextSpan>({{7, 0}}));
+    EXPECT_EQ(replaced.put, QList<TextSpan>({{7, 1}}));
+    EXPECT_EQ(effect(4).says, "Asks when run");
+    EXPECT_EQ(effect(5).says, "10 characters: upper case (without the steps that ask when run)");
+    EXPECT_EQ(effect(6).says, "Nothing changed (without the steps that ask when run)");
+    EXPECT_EQ(effect(6).selection, TextSpan({0, 10}));
+    EXPECT_EQ(effect(8).says, "Not reached: a step before it ends the run");
 }
 
 TEST(PowerButtonPreview, endsSoonOnceItIsCancelled) {

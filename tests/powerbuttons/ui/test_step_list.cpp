@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "platform/desktop/PlainTextBox.h"
+#include "powerbuttons/step_effects.h"
 #include "powerbuttons/ui/frmPowerButton.h"
 #include "powerbuttons/ui/step_list.h"
 #include "tests/powerbuttons/world.h"
@@ -9,6 +11,29 @@
 
 namespace tolvo {
 namespace {
+
+/// Answers when the test says so.
+class LateEffects final : public StepEffects {
+  public:
+    void ask(const CPowerButton &button, int position, const Deliver &deliver) override {
+        asked = QString("%1/%2").arg(actionsOfStep(button, position)).arg(button.Count());
+        m_deliver = deliver;
+    }
+    void cancel() override { m_deliver = nullptr; }
+    [[nodiscard]] bool isWaiting() const { return m_deliver != nullptr; }
+    void answer(const StepEffect &effect) { m_deliver(effect); }
+    QString asked;
+
+  private:
+    static QString actionsOfStep(const CPowerButton &button, int position) {
+        const auto step = button.Item(position);
+        return QString("%1 %2 %3")
+            .arg(position)
+            .arg(step->Tool() ? step->Tool()->Token() : "-")
+            .arg(static_cast<int>(step->DlgOption()));
+    }
+    Deliver m_deliver;
+};
 
 class StepListStory : public World {
   protected:
@@ -32,7 +57,8 @@ class StepListStory : public World {
         }
         return lines.join(' ');
     }
-    QString tool() { return child<QLabel>(form, "labTool").text(); }
+    QString label(const char *name) { return child<QLabel>(form, name).text(); }
+    QString tool() { return label("labTool"); }
     QPoint placeOf(int row) const { return list.visualItemRect(list.item(row)).center(); }
 
     frmPowerButton form{buttons, methods, tools, boxes, settings};
@@ -86,6 +112,33 @@ TEST_F(StepListStory, byMouse) {
     child<QAction>(form, "mnuAddAtEnd").trigger();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, placeOf(0));
     EXPECT_EQ(list.currentRow(), 3) << "the blank one stays until it has a tool";
+}
+
+TEST_F(StepListStory, theEffectOfTheStepStandsBelow) {
+    LateEffects effects;
+    form.showEffectsOf(effects);
+    form.init(0);
+    EXPECT_EQ(effects.asked, "1 ccUPP 0/3");
+    auto &before = child<PlainTextBox>(form, "txtBefore");
+    auto &after = child<PlainTextBox>(form, "txtAfter");
+    effects.answer({"one|", "ONE|", {{0, 3}}, {{0, 3}}, {0, 4}, "4 characters"});
+    EXPECT_EQ(before.Text(), "one|");
+    EXPECT_EQ(after.Text(), "ONE|");
+    EXPECT_EQ(after.SelLength(), 0) << "a selection hides the tint";
+    EXPECT_EQ(after.tint(TintLayer::Changes).size(), 1);
+    EXPECT_EQ(label("labEffect"), "4 characters");
+    key(Qt::Key_Down);
+    EXPECT_EQ(effects.asked, "2 foTRM 0/3");
+    QTest::qWait(400);
+    EXPECT_EQ(after.Text(), QString()) << "an old effect";
+    effects.answer({"one", "one", {}, {}, {1, 2}, "x"});
+    EXPECT_EQ(after.SelText(), "ne");
+    QTest::keyClick(&after, Qt::Key_A);
+    EXPECT_EQ(after.Text(), "one");
+    key(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(effects.asked, "3 foTRM 0/4");
+    form.reject();
+    EXPECT_FALSE(effects.isWaiting());
 }
 
 } // namespace

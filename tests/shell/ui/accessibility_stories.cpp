@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTabBar>
@@ -104,7 +105,8 @@ QSet<QWidget *> reached(QWidget &window) {
             }
             stop->setFocus(Qt::TabFocusReason);
         }
-        const bool typesTab = stop->inherits("QPlainTextEdit");
+        const auto *text = qobject_cast<const QPlainTextEdit *>(stop);
+        const bool typesTab = text != nullptr && !text->tabChangesFocus();
         QTest::keyClick(stop, Qt::Key_Tab, typesTab ? Qt::ControlModifier : Qt::NoModifier);
     }
     return seen;
