@@ -143,6 +143,21 @@ QSize needed(const QLayout &layout, QSize room) {
     return {least.width(), std::max(least.height(), layout.totalMinimumHeightForWidth(width))};
 }
 
+/// The size of the window with the height that its folded lines need, or wider where the room is too low for
+/// them.
+QSize sizeForFolds(const QWidget &window, QSize room) {
+    const QLayout &layout = *window.layout();
+    QSize size = window.size();
+    if (!layout.hasHeightForWidth())
+        return size;
+    const auto height = [&] {
+        return layout.totalMinimumHeightForWidth(std::min(size.width(), room.width()));
+    };
+    if (height() > room.height())
+        size.setWidth(room.width());
+    return size.expandedTo({0, height()});
+}
+
 /// Puts all that a window holds, but for its buttons, into an area that scrolls.
 void scrollContents(QWidget &window, QSize room) {
     QWidget *const focused = window.focusWidget();
@@ -216,8 +231,9 @@ void ScreenFit::fit(QWidget &window) const {
         scrollContents(window, room);
         window.resize(wanted.expandedTo(window.sizeHint()));
     }
-    if (window.width() > room.width() || window.height() > room.height())
-        window.resize(window.size().boundedTo(room));
+    const QSize fitted = sizeForFolds(window, room).boundedTo(room);
+    if (fitted != window.size())
+        window.resize(fitted);
 }
 
 } // namespace tolvo

@@ -5,6 +5,7 @@
 #include "powerbuttons/ui/dlgPickCharacter.h"
 #include "powerbuttons/ui/icon_painter.h"
 #include "powerbuttons/ui/icon_preview.h"
+#include "widgets/FoldingRow.h"
 #include "widgets/themed_icon.h"
 
 #include <QDialogButtonBox>
@@ -16,6 +17,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <cmath>
 
 namespace tolvo {
@@ -65,7 +67,7 @@ void dlgEditIcon::makeControls() {
     // A scroll bar inverts its keys, which is right only for one that stands upright.
     m_size->setInvertedControls(false);
     m_size->setFocusPolicy(Qt::StrongFocus);
-    m_size->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
+    m_size->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     m_fontLabel->setObjectName(QStringLiteral("labFont"));
     m_fontLabel->setTextFormat(Qt::PlainText);
     m_preview->setObjectName(QStringLiteral("picPreview"));
@@ -116,7 +118,10 @@ void dlgEditIcon::arrange() {
     connect(font, &QToolButton::clicked, this, &dlgEditIcon::setFont);
     connect(centreButton, &QPushButton::clicked, this, &dlgEditIcon::centre);
 
-    auto *form = new QFormLayout;
+    auto *fields = new QWidget(this);
+    auto *form = new QFormLayout(fields);
+    form->setContentsMargins({});
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->setVerticalSpacing(10);
     form->setHorizontalSpacing(12);
@@ -134,12 +139,13 @@ void dlgEditIcon::arrange() {
     connect(buttons, &QDialogButtonBox::accepted, this, &dlgEditIcon::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &dlgEditIcon::reject);
 
-    auto *layout = new QGridLayout(this);
-    layout->setHorizontalSpacing(16);
-    layout->addLayout(form, 0, 0);
-    layout->addWidget(frame, 0, 1, Qt::AlignTop);
-    layout->addWidget(buttons, 1, 0, 1, 2);
-    layout->setColumnStretch(0, 1);
+    auto *layout = new QVBoxLayout(this);
+    auto *row = new FoldingRow;
+    row->setSpacing(16);
+    row->addWidget(fields, 1);
+    row->addWidget(frame, 0, Qt::AlignTop);
+    layout->addLayout(row, 1);
+    layout->addWidget(buttons);
     setTabOrder(m_symbol, symbol);
     setTabOrder(symbol, font);
     setTabOrder(font, m_size);

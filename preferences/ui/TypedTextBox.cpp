@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/ui/TypedTextBox.h"
 
+#include "widgets/FoldingChoice.h"
+
 #include <QBoxLayout>
 #include <QCheckBox>
 
@@ -28,7 +30,7 @@ TypedTextBox::TypedTextBox(QWidget *parent) : QGroupBox(QStringLiteral("Check as
     setObjectName(QStringLiteral("fraTypedText"));
     auto *column = new QVBoxLayout(this);
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        m_boxes[i] = new QCheckBox(QString::fromUtf16(rows[i].caption), this);
+        m_boxes[i] = new FoldingChoice<QCheckBox>(QString::fromUtf16(rows[i].caption), this);
         m_boxes[i]->setObjectName(QLatin1StringView(rows[i].name));
         column->addWidget(m_boxes[i]);
     }

@@ -4,6 +4,7 @@
 
 #include "platform/message_box.h"
 #include "preferences/ui/TypedTextBox.h"
+#include "widgets/FoldingChoice.h"
 #include "widgets/themed_icon.h"
 
 #include <QButtonGroup>
@@ -96,7 +97,8 @@ QWidget *dlgPreferences::displayPage() {
     auto *fontBox = new QGroupBox(QStringLiteral("Font of the text"));
     for (int i = 0; i < 2; ++i) {
         const auto at = static_cast<std::size_t>(i);
-        m_optProp[at] = named(new QRadioButton(captions[at]), QStringLiteral("optProp_%1").arg(i));
+        m_optProp[at] =
+            named(new FoldingChoice<QRadioButton>(captions[at]), QStringLiteral("optProp_%1").arg(i));
         m_txtFont[at] = named(new QLineEdit, QStringLiteral("txtFont_%1").arg(i));
         m_txtFont[at]->setReadOnly(true);
         m_txtFont[at]->setAccessibleName(labels[at]);
@@ -114,7 +116,7 @@ QWidget *dlgPreferences::displayPage() {
     grid->setColumnStretch(1, 1);
     grid->setVerticalSpacing(8);
     fontBox->setLayout(grid);
-    m_chkWordwrap = make<QCheckBox>("chkWordwrap", QStringLiteral("Word wrap (display only)"));
+    m_chkWordwrap = make<FoldingChoice<QCheckBox>>("chkWordwrap", QStringLiteral("Word wrap (display only)"));
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(fontBox);
     layout->addWidget(m_chkWordwrap);
@@ -153,9 +155,9 @@ QWidget *dlgPreferences::extensionsPage() {
     grid->setRowStretch(3, 1);
 
     auto *domains = new QGroupBox(QStringLiteral("Internet addresses"));
-    m_optTLDs[0] =
-        make<QRadioButton>("optTLDs_0", QStringLiteral("Use full list of Internet Top Level Domains"));
-    m_optTLDs[1] = make<QRadioButton>(
+    m_optTLDs[0] = make<FoldingChoice<QRadioButton>>(
+        "optTLDs_0", QStringLiteral("Use full list of Internet Top Level Domains"));
+    m_optTLDs[1] = make<FoldingChoice<QRadioButton>>(
         "optTLDs_1", QStringLiteral("Use list of Internet TLDs excluding English words (recommended)"));
     auto *domainLayout = new QVBoxLayout(domains);
     domainLayout->addWidget(m_optTLDs[0]);
@@ -169,13 +171,16 @@ QWidget *dlgPreferences::extensionsPage() {
 
 QWidget *dlgPreferences::generalPage() {
     auto *page = new QWidget;
-    m_chkShowTips = make<QCheckBox>("chkShowTips", QStringLiteral("Show &Tips at startup"));
-    m_chkTroubles =
-        make<QCheckBox>("chkTroubles", QStringLiteral("&Point out what looks wrong with a fresh text"));
-    m_chkSounds = make<QCheckBox>("chkSounds", QStringLiteral("Enable &sounds"));
-    m_chkUpdates = make<QCheckBox>("chkUpdates", QStringLiteral("&Check weekly for product updates"));
-    m_chkUsageStats = make<QCheckBox>("chkUsageStats", QStringLiteral("&Upload usage statistics"));
+    m_chkShowTips = make<FoldingChoice<QCheckBox>>("chkShowTips", QStringLiteral("Show &Tips at startup"));
+    m_chkTroubles = make<FoldingChoice<QCheckBox>>(
+        "chkTroubles", QStringLiteral("&Point out what looks wrong with a fresh text"));
+    m_chkSounds = make<FoldingChoice<QCheckBox>>("chkSounds", QStringLiteral("Enable &sounds"));
+    m_chkUpdates =
+        make<FoldingChoice<QCheckBox>>("chkUpdates", QStringLiteral("&Check weekly for product updates"));
+    m_chkUsageStats =
+        make<FoldingChoice<QCheckBox>>("chkUsageStats", QStringLiteral("&Upload usage statistics"));
     m_labLastCheck = named(new QLabel, QStringLiteral("labLastCheck"));
+    m_labLastCheck->setWordWrap(true);
     const auto button = [this](const char *name, const QString &caption, auto action) {
         auto *result = make<QPushButton>(name, caption);
         connect(result, &QPushButton::clicked, this, action);
@@ -228,8 +233,8 @@ QWidget *dlgPreferences::spellingPage() {
     grid->setVerticalSpacing(8);
     for (int i = 0; i < 4; ++i) {
         const auto at = static_cast<std::size_t>(i);
-        m_optSpellingProvider[at] =
-            named(new QRadioButton(captions[at]), QStringLiteral("optSpellingProvider_%1").arg(i));
+        m_optSpellingProvider[at] = named(new FoldingChoice<QRadioButton>(captions[at]),
+                                          QStringLiteral("optSpellingProvider_%1").arg(i));
         auto *browse =
             imageButton(i == 0 ? QStringLiteral("imgBrowse") : QStringLiteral("imgBrowse_%1").arg(i),
                         QStringLiteral("options"), QStringLiteral("Configure"),

@@ -5,6 +5,8 @@
 
 #include "text/ui/ToolDialog.h"
 #include "widgets/NumberBox.h"
+#include "widgets/grid.h"
+#include "widgets/screen_fit.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -42,7 +44,9 @@ class FieldDialog : public SettingsDialog<Settings> {
         if (!shown.wraps) {
             constexpr int charactersShown = 66;
             m_sample->setLineWrapMode(QPlainTextEdit::NoWrap);
-            m_sample->setMinimumWidth(m_sample->fontMetrics().averageCharWidth() * charactersShown);
+            const int wanted = m_sample->fontMetrics().averageCharWidth() * charactersShown;
+            m_sample->setMinimumWidth(
+                std::min(wanted, roomOnScreen(*this).width() - 4 * Grid(*this).margin()));
         }
         const int row = m_grid->rowCount();
         m_grid->addWidget(labelFor(m_sample, QStringLiteral("Sample:")), row, 0, 1, 2);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/ui/dialog_fields.h"
 
+#include "widgets/FoldingChoice.h"
 #include "widgets/NumberBox.h"
 
 #include <QComboBox>
@@ -8,7 +9,7 @@
 namespace tolvo {
 
 QCheckBox *makeCheck(const QString &name, const QString &caption, QWidget *parent) {
-    auto *check = new QCheckBox(caption, parent);
+    auto *check = new FoldingChoice<QCheckBox>(caption, parent);
     check->setObjectName(name);
     return check;
 }

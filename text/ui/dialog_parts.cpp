@@ -2,6 +2,7 @@
 #include "text/ui/dialog_parts.h"
 
 #include "platform/desktop/font_conversion.h"
+#include "widgets/FoldingChoice.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -35,7 +36,7 @@ void SampleBox::fitRows() {
 QButtonGroup *makeOptions(const QString &name, const QStringList &captions, QWidget *parent) {
     auto *group = new QButtonGroup(parent);
     for (int i = 0; i < captions.size(); ++i) {
-        auto *button = new QRadioButton(captions.at(i), parent);
+        auto *button = new FoldingChoice<QRadioButton>(captions.at(i), parent);
         button->setObjectName(name + u'_' + QString::number(i));
         button->setChecked(i == 0);
         group->addButton(button, i);

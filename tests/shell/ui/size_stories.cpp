@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Every window fits on small screens and with large letters, and nothing in it is cut.
 #include "tests/shell/ui/all_windows.h"
+#include "widgets/dress_application.h"
 #include "widgets/screen_fit.h"
 
 #include <QCheckBox>
@@ -8,6 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 
 using namespace tolvo;
 
@@ -31,8 +33,17 @@ bool isWhole(const QWidget &widget) {
            qobject_cast<const QRadioButton *>(&widget);
 }
 
+/// Broad tables and panels, which are read a part at a time.
+bool mayScrollSideways(const std::string &window) {
+    constexpr std::array broad{"search",           "copying matches", "PowerButton editor",
+                               "character picker", "usage",           "Third-party software"};
+    return std::any_of(broad.begin(), broad.end(),
+                       [&window](const char *start) { return window.starts_with(start); });
+}
+
 class SizeStory : public AllWindows, public testing::WithParamInterface<Case> {
   protected:
+    static void SetUpTestSuite() { dressApplication(); }
     static void check(QWidget &window, QSize room, const std::string &where) {
         window.resize(window.size().boundedTo(room));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
@@ -50,6 +61,10 @@ class SizeStory : public AllWindows, public testing::WithParamInterface<Case> {
             }
             checkInside(*widget, window, where);
         }
+        const auto *area = window.findChild<QScrollArea *>(QStringLiteral("fittedArea"));
+        EXPECT_TRUE(area == nullptr || mayScrollSideways(where) ||
+                    area->horizontalScrollBar()->maximum() == 0)
+            << where << " scrolls sideways";
         checkFocus(window, where);
     }
     /// Inside the window, or in an area that scrolls.
