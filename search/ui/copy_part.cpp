@@ -13,7 +13,7 @@ CopyPart::CopyPart(QGridLayout &grid, int row, QWidget &parent)
     : labForm(new QLabel(QStringLiteral("Fo&rm:"), &parent)),
       cmbForm(new SearchListEdit(QStringLiteral("cmbForm"), &parent)), fraCopyTo(new QWidget(&parent)),
       optToClipboard(new QRadioButton(QStringLiteral("To the cl&ipboard"), fraCopyTo)),
-      optInPlace(new QRadioButton(QStringLiteral("In place of the te&xt"), fraCopyTo)) {
+      optInPlace(new QRadioButton(QStringLiteral("Replacin&g the text"), fraCopyTo)) {
     labForm->setObjectName(QStringLiteral("labForm"));
     fraCopyTo->setObjectName(QStringLiteral("fraCopyTo"));
     optToClipboard->setObjectName(QStringLiteral("optToClipboard"));

@@ -93,7 +93,7 @@ class SeekStories(Story):
         type_text("!=%")
         keys("alt+r")
         type_text("$2")
-        run.click("In place of the text")
+        run.click("Replacing the text")
         keys("Return")
         run.active("Edit PowerButton 1")
         run.click("Enter a name for your PowerButton:", role=FIELD)

@@ -37,7 +37,7 @@ TEST_F(SeekWindow, CopiesMatchesByKeys) {
     press(Qt::Key_Return);
     alt(Qt::Key_R);
     type("<$1>");
-    alt(Qt::Key_X);
+    alt(Qt::Key_G);
     EXPECT_TRUE(find<QComboBox>("cmbForm").hasFocus());
     alt(Qt::Key_Y);
     const QString request = QStringLiteral("Mode=3, Find=o(.)e, MatchCase=0, Direction=U, WholeWords=0, ");
