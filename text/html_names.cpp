@@ -4,9 +4,10 @@
 
 namespace tolvo {
 
-QByteArrayView htmlNameTable() {
-    return
-        R"(AElig* C6,AMP* 26,Aacute* C1,Abreve 102,Acirc* C2,Acy 410,Afr 1D504,Agrave* C0,Alpha! 391,Amacr 100,And 2A53,Aogon 104,
+namespace {
+
+constexpr QByteArrayView table =
+    R"(AElig* C6,AMP* 26,Aacute* C1,Abreve 102,Acirc* C2,Acy 410,Afr 1D504,Agrave* C0,Alpha! 391,Amacr 100,And 2A53,Aogon 104,
 Aopf 1D538,ApplyFunction 2061,Aring* C5,Ascr 1D49C,Assign 2254,Atilde* C3,Auml* C4,Backslash 2216,Barv 2AE7,
 Barwed 2306,Bcy 411,Because 2235,Bernoullis 212C,Beta! 392,Bfr 1D505,Bopf 1D539,Breve 2D8,Bscr 212C,Bumpeq 224E,
 CHcy 427,COPY* A9,Cacute 106,Cap 22D2,CapitalDifferentialD 2145,Cayleys 212D,Ccaron 10C,Ccedil* C7,Ccirc 108,
@@ -107,7 +108,7 @@ cacute 107,cap! 2229,capand 2A44,capbrcup 2A49,capcap 2A4B,capcup 2A47,capdot 2A
 ccaps 2A4D,ccaron 10D,ccedil* E7,ccirc 109,ccups 2A4C,ccupssm 2A50,cdot 10B,cedil* B8,cemptyv 29B2,cent* A2,
 centerdot B7,cfr 1D520,chcy 447,check 2713,checkmark 2713,chi! 3C7,cir 25CB,cirE 29C3,circ! 2C6,circeq 2257,
 )"
-        R"(circlearrowleft 21BA,circlearrowright 21BB,circledR AE,circledS 24C8,circledast 229B,circledcirc 229A,circleddash 229D,
+    R"(circlearrowleft 21BA,circlearrowright 21BB,circledR AE,circledS 24C8,circledast 229B,circledcirc 229A,circleddash 229D,
 cire 2257,cirfnint 2A10,cirmid 2AEF,cirscir 29C2,clubs! 2663,clubsuit 2663,colon 3A,colone 2254,coloneq 2254,comma 2C,
 commat 40,comp 2201,compfn 2218,complement 2201,complexes 2102,cong! 2245,congdot 2A6D,conint 222E,copf 1D554,
 coprod 2210,copy* A9,copysr 2117,crarr! 21B5,cross 2717,cscr 1D4B8,csub 2ACF,csube 2AD1,csup 2AD0,csupe 2AD2,
@@ -208,7 +209,7 @@ rightarrowtail 21A3,rightharpoondown 21C1,rightharpoonup 21C0,rightleftarrows 21
 rightrightarrows 21C9,rightsquigarrow 219D,rightthreetimes 22CC,ring 2DA,risingdotseq 2253,rlarr 21C4,rlhar 21CC,
 rlm! 200F,rmoust 23B1,rmoustache 23B1,rnmid 2AEE,roang 27ED,roarr 21FE,robrk 27E7,ropar 2986,ropf 1D563,roplus 2A2E,
 )"
-        R"(rotimes 2A35,rpar 29,rpargt 2994,rppolint 2A12,rrarr 21C9,rsaquo! 203A,rscr 1D4C7,rsh 21B1,rsqb 5D,rsquo! 2019,
+    R"(rotimes 2A35,rpar 29,rpargt 2994,rppolint 2A12,rrarr 21C9,rsaquo! 203A,rscr 1D4C7,rsh 21B1,rsqb 5D,rsquo! 2019,
 rsquor 2019,rthree 22CC,rtimes 22CA,rtri 25B9,rtrie 22B5,rtrif 25B8,rtriltri 29CE,ruluhar 2968,rx 211E,sacute 15B,
 sbquo! 201A,sc 227B,scE 2AB4,scap 2AB8,scaron! 161,sccue 227D,sce 2AB0,scedil 15F,scirc 15D,scnE 2AB6,scnap 2ABA,
 scnsim 22E9,scpolint 2A13,scsim 227F,scy 441,sdot! 22C5,sdotb 22A1,sdote 2A66,seArr 21D8,searhk 2925,searr 2198,
@@ -249,6 +250,11 @@ xotime 2A02,xrArr 27F9,xrarr 27F6,xscr 1D4CD,xsqcup 2A06,xuplus 2A04,xutri 25B3,
 yacy 44F,ycirc 177,ycy 44B,yen* A5,yfr 1D536,yicy 457,yopf 1D56A,yscr 1D4CE,yucy 44E,yuml* FF,zacute 17A,zcaron 17E,
 zcy 437,zdot 17C,zeetrf 2128,zeta! 3B6,zfr 1D537,zhcy 436,zigrarr 21DD,zopf 1D56B,zscr 1D4CF,zwj! 200D,zwnj! 200C,
 )";
+
+} // namespace
+
+QByteArrayView htmlNameTable() {
+    return table;
 }
 
 } // namespace tolvo

@@ -29,8 +29,7 @@ class PageWriter {
     }
 
     void add(QStringView text) {
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            const QChar c = text[i];
+        for (const QChar c : text) {
             const bool blank = c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
             if (m_preformatted && c == u'\n')
                 ++m_breaks;

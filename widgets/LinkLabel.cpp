@@ -12,7 +12,9 @@ namespace tolvo {
 LinkLabel::LinkLabel(const QString &words, const QString &address, Underline underline, QWidget *parent)
     : QLabel(parent), m_words(words), m_address(address), m_underline(underline) {
     setAccessibleName(words);
-    setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    // QLabel's own way by keys stops twice: at the label, then at the link in it.
+    setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QLabel::linkHovered, this, [this](const QString &over) {
         m_hovered = !over.isEmpty();
         write();
@@ -49,10 +51,6 @@ void LinkLabel::keyPressEvent(QKeyEvent *event) {
         emit linkActivated(m_address);
     else
         QLabel::keyPressEvent(event);
-}
-
-bool LinkLabel::focusNextPrevChild(bool next) {
-    return QFrame::focusNextPrevChild(next); // QLabel would stop a second time, at the link in its text
 }
 
 } // namespace tolvo

@@ -20,7 +20,6 @@ class LinkLabel final : public QLabel {
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    bool focusNextPrevChild(bool next) override;
 
   private:
     void write();
