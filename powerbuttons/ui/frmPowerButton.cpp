@@ -42,7 +42,7 @@ void frmPowerButton::init(int index) {
     if (m_tree->topLevelItemCount() > 0)
         m_tree->expandItem(m_tree->topLevelItem(0));
     m_tree->scrollToTop();
-    placeSteps();
+    fitToScreen();
     fill();
     m_name->setFocus();
 }

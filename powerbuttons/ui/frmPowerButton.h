@@ -8,7 +8,9 @@
 #include <QElapsedTimer>
 #include <QStringList>
 
+class QGridLayout;
 class QGroupBox;
+class QHBoxLayout;
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -63,7 +65,8 @@ class frmPowerButton : public QDialog, private ActionSettings {
     void askForEffect();
     void doWithStep(StepCommand command);
     /// With large letters or on a small screen the steps stand below the tools.
-    void placeSteps();
+    void fitToScreen();
+    void arrangeFor(bool narrow);
     void showToolInTree();
     void choose(const QTreeWidgetItem *item);
     /// True for a key of the tree that chooses, or that goes on with the name that is being typed.
@@ -84,8 +87,9 @@ class frmPowerButton : public QDialog, private ActionSettings {
     EffectView *m_effectView = nullptr;
     StepList *m_steps = nullptr;
     QWidget *m_stepsBox = nullptr;
+    QHBoxLayout *m_columns = nullptr;
     QVBoxLayout *m_toolColumn = nullptr;
-    QVBoxLayout *m_stepColumn = nullptr;
+    QGridLayout *m_foot = nullptr;
     QWidget *m_head = nullptr;
     QLineEdit *m_name = nullptr;
     QToolButton *m_icon = nullptr;

@@ -8,6 +8,7 @@
 #include "powerbuttons/ui/step_list.h"
 #include "widgets/themed_icon.h"
 
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -60,7 +61,6 @@ void frmPowerButton::makeTree(const Catalogue &tools) {
     m_tree->setObjectName(QStringLiteral("tvwTools"));
     m_tree->setAccessibleName(QStringLiteral("Tools"));
     m_tree->setHeaderHidden(true);
-    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     m_tree->setMinimumHeight(fontMetrics().height() * 9);
     QTreeWidgetItem *group = nullptr;
     for (const ToolPtr &tool : tools.tools()) {
@@ -205,12 +205,10 @@ QWidget *frmPowerButton::makeFoot() {
     connect(m_delete, &QPushButton::clicked, this, [this] { m_rules.deleteAction(), fill(); });
 
     auto *foot = new QWidget(this);
-    auto *layout = new QHBoxLayout(foot);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (QPushButton *button : {m_left, m_right, m_add, m_delete}) {
+    m_foot = new QGridLayout(foot);
+    m_foot->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton *button : {m_left, m_right, m_add, m_delete})
         keepPlace(button);
-        layout->addWidget(button);
-    }
     return foot;
 }
 
@@ -245,12 +243,10 @@ void frmPowerButton::arrange(QWidget *foot) {
     m_toolColumn = new QVBoxLayout;
     m_toolColumn->setSpacing(12);
     m_toolColumn->addWidget(m_tree, 3);
-    m_stepColumn = new QVBoxLayout;
-    auto *columns = new QHBoxLayout;
-    columns->setSpacing(12);
-    columns->addLayout(m_toolColumn, 3);
-    columns->addLayout(m_stepColumn, 4);
-    columns->addLayout(right, 4);
+    m_columns = new QHBoxLayout;
+    m_columns->setSpacing(12);
+    m_columns->addLayout(m_toolColumn, 3);
+    m_columns->addLayout(right, 4);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(help);
     buttons->addWidget(m_examples);
@@ -260,7 +256,7 @@ void frmPowerButton::arrange(QWidget *foot) {
     buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(12);
-    layout->addLayout(columns, 1);
+    layout->addLayout(m_columns, 1);
     layout->addLayout(buttons);
 }
 

@@ -6,8 +6,12 @@
 #include "powerbuttons/ui/step_list.h"
 #include "widgets/screen_fit.h"
 
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QShortcut>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace tolvo {
@@ -38,15 +42,31 @@ QWidget *frmPowerButton::makeSteps() {
     return box;
 }
 
-void frmPowerButton::placeSteps() {
-    m_stepColumn->removeWidget(m_stepsBox);
-    m_toolColumn->removeWidget(m_stepsBox);
-    m_stepColumn->addWidget(m_stepsBox);
+void frmPowerButton::fitToScreen() {
+    arrangeFor(false);
     activateLayout(*this);
-    if (sizeHint().width() <= roomOnScreen(*this).width())
-        return;
-    m_stepColumn->removeWidget(m_stepsBox);
-    m_toolColumn->addWidget(m_stepsBox, 2);
+    // Where all of it scrolls it has a widget of its own.
+    if (m_tree->parentWidget()->layout()->totalMinimumSize().width() > roomOnScreen(*this).width())
+        arrangeFor(true);
+}
+
+void frmPowerButton::arrangeFor(bool narrow) {
+    m_toolColumn->removeWidget(m_stepsBox);
+    m_columns->removeWidget(m_stepsBox);
+    if (narrow)
+        m_toolColumn->addWidget(m_stepsBox, 2);
+    else
+        m_columns->insertWidget(1, m_stepsBox, 4);
+    m_head->findChild<QLabel *>()->setWordWrap(narrow);
+    const int treeWidth = narrow ? 24 : 32; // average characters
+    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * treeWidth);
+    const int columns = narrow ? 2 : 4;
+    int place = 0;
+    for (QPushButton *button : {m_left, m_right, m_add, m_delete}) {
+        m_foot->removeWidget(button);
+        m_foot->addWidget(button, place / columns, place % columns);
+        ++place;
+    }
 }
 
 void frmPowerButton::doWithStep(StepCommand command) {

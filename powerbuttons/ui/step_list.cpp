@@ -80,7 +80,11 @@ void StepList::showSteps(const QList<Step> &steps, int current) {
 }
 
 QSize StepList::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 26, fontMetrics().lineSpacing() * 6};
+    return {fontMetrics().averageCharWidth() * 24, fontMetrics().lineSpacing() * 6};
+}
+
+QSize StepList::sizeHint() const {
+    return {fontMetrics().averageCharWidth() * 36, minimumSizeHint().height()};
 }
 
 void StepList::keyPressEvent(QKeyEvent *event) {

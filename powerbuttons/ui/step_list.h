@@ -22,7 +22,7 @@ class StepList : public QListWidget {
     void showSteps(const QList<Step> &steps, int current);
     /// A few lines, so that a window may make it higher.
     [[nodiscard]] QSize minimumSizeHint() const override;
-    [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
+    [[nodiscard]] QSize sizeHint() const override;
 
   signals:
     void chosen(int position);
