@@ -22,7 +22,8 @@ struct PowerButtonTrial {
     QList<CPowerButton> buttons = {}; ///< the eight, which steps may run; their Actions are copies too
     TextState text = {};
     int capacity = 0;
-    QString clipboard = {};
+    bool pastes = false;                   ///< a step may take text from the clipboard
+    QString clipboard = {};                ///< that text; up to the caller, as a clipboard may take its time
     QList<ToolSettings> lastSettings = {}; ///< of the tools that run with those used last
     SearchRequest lastSearch = {};
     MatchCopy lastCopy = {}; ///< but for its search
@@ -31,8 +32,8 @@ struct PowerButtonTrial {
     const Catalogue *catalogue = nullptr; ///< only read, outlives the trial
 };
 
-/// The first `count` steps of a button of the session, on its text and selection. What only some steps need,
-/// such as the clipboard, is asked for if there is one of them. `button` may be one that is being edited.
+/// The first `count` steps of a button of the session, on its text and selection. The search window is
+/// asked for if a step runs with what it holds. `button` may be one that is being edited.
 [[nodiscard]] PowerButtonTrial powerButtonTrial(frmMain &session, const CPowerButton &button, int count);
 
 struct StepResult {

@@ -83,10 +83,8 @@ PowerButtonTrial powerButtonTrial(frmMain &session, const CPowerButton &button, 
         steps, [](const CAction &step) { return step.DlgOption() == SettingsFrom::Current; });
     if (usesLast)
         takeLastSettings(trial, session, steps);
-    const bool pastes = std::ranges::any_of(
+    trial.pastes = std::ranges::any_of(
         steps, [](const CAction &step) { return step.Tool()->Token() == QLatin1StringView("pbPST"); });
-    if (pastes)
-        trial.clipboard = services.clipboard.readText().value_or(QString());
     return trial;
 }
 

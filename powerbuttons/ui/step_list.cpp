@@ -75,7 +75,8 @@ void StepList::showSteps(const QList<Step> &steps, int current) {
         font.setStrikeOut(step.off);
         shown.setFont(font);
     }
-    setCurrentRow(current - 1);
+    m_shown = current - 1;
+    setCurrentRow(m_shown);
     scrollToItem(currentItem());
 }
 
@@ -98,6 +99,24 @@ void StepList::keyPressEvent(QKeyEvent *event) {
         QListWidget::keyPressEvent(event);
 }
 
+/// A row that a press has made the current one, without a click or a drop to follow.
+void StepList::settle() {
+    if (currentRow() >= 0 && currentRow() != m_shown)
+        emit chosen(currentRow() + 1);
+}
+
+void StepList::mouseReleaseEvent(QMouseEvent *event) {
+    QListWidget::mouseReleaseEvent(event);
+    settle();
+}
+
+void StepList::startDrag(Qt::DropActions actions) {
+    m_dropped = false;
+    QListWidget::startDrag(actions);
+    if (!m_dropped)
+        settle();
+}
+
 int StepList::rowOfDrop(const QDropEvent &event) const {
     const QModelIndex at = indexAt(event.position().toPoint());
     if (!at.isValid())
@@ -113,6 +132,7 @@ void StepList::dropEvent(QDropEvent *event) {
     const int before = rowOfDrop(*event);
     event->setDropAction(Qt::CopyAction); // else the list takes the dragged row out itself
     event->accept();
+    m_dropped = true;
     setState(NoState);
     const int to = before > from ? before - 1 : before;
     QMetaObject::invokeMethod(

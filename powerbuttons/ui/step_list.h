@@ -5,7 +5,7 @@
 
 namespace tolvo {
 
-/// What a key or the menu of the list asks for; all but the last two are about the current step.
+/// What a key or the menu of the list asks for. All but the last two are about the current step.
 enum class StepCommand { MoveUp, MoveDown, Remove, Duplicate, Copy, Cut, Paste, Undo, Redo };
 
 /// The steps of a PowerButton, one a line with a tick. It only asks: what comes of it is shown by
@@ -32,13 +32,18 @@ class StepList : public QListWidget {
 
   protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void startDrag(Qt::DropActions actions) override;
     void dropEvent(QDropEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
   private:
     [[nodiscard]] int rowOfDrop(const QDropEvent &event) const;
+    void settle();
 
     bool m_filling = false;
+    bool m_dropped = false; ///< by the drag that is under way
+    int m_shown = 0;        ///< the current row, as far as the window knows
 };
 
 } // namespace tolvo

@@ -4,6 +4,8 @@
 #include "platform/background_job.h"
 #include "powerbuttons/step_effects.h"
 
+#include <optional>
+
 namespace tolvo {
 
 class frmMain;
@@ -15,11 +17,12 @@ class EditorEffects final : public StepEffects {
     EditorEffects(frmMain &session, BackgroundWorker &worker) : m_session(session), m_job(worker) {}
 
     void ask(const CPowerButton &button, int position, const Deliver &deliver) override;
-    void cancel() override { m_job.cancel(); }
+    void cancel() override;
 
   private:
     frmMain &m_session;
     BackgroundJob m_job;
+    std::optional<QString> m_clipboard; ///< read once for each time that the editor is open
 };
 
 } // namespace tolvo

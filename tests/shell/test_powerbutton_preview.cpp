@@ -15,7 +15,10 @@ using Kind = StepResult::Kind;
 
 QList<StepResult> previewOf(User &user, int number, int count = 1000) {
     const auto button = user.session.services().oPowerButtons.Item(number);
-    return tryPowerButton(powerButtonTrial(user.session, *button, count));
+    PowerButtonTrial trial = powerButtonTrial(user.session, *button, count);
+    if (trial.pastes)
+        trial.clipboard = user.headless.clipboard.text;
+    return tryPowerButton(trial);
 }
 
 QString pictureOf(const TextState &state) {

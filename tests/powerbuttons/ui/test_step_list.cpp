@@ -101,6 +101,9 @@ TEST_F(StepListStory, keysInTheNameAreThoseOfTheName) {
 }
 
 TEST_F(StepListStory, byMouse) {
+    QTest::mousePress(list.viewport(), Qt::LeftButton, {}, placeOf(1));
+    QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, QPoint(-50, -50));
+    EXPECT_EQ(tool(), "Trim lines") << "the row that is marked";
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, placeOf(2));
     EXPECT_EQ(tool(), "Sort A to Z");
     const QPoint tick(list.visualItemRect(list.item(0)).left() + 8, placeOf(0).y());
