@@ -106,7 +106,8 @@ QString inWords(const SettingWords &setting, const QString &value) {
     case Kind::Number:
         return setting.words.toString() + u' ' + value;
     case Kind::Text:
-        return value.isEmpty() ? QString() : setting.words.toString() + QStringLiteral(u" \u201c") + value + u'\u201d';
+        return value.isEmpty() ? QString()
+                               : setting.words.toString() + QStringLiteral(u" \u201c") + value + u'\u201d';
     case Kind::Choice:
         break;
     }

@@ -3,6 +3,7 @@
 
 #include "platform/desktop/PlainTextBox.h"
 #include "widgets/ElidedLabel.h"
+#include "widgets/announce.h"
 
 #include <QGridLayout>
 
@@ -62,6 +63,7 @@ void EffectView::showEffect(const StepEffect &effect) {
         m_after->ensureCursorVisible();
     }
     m_says->showText(effect.says);
+    announce(m_says, effect.says);
 }
 
 void EffectView::wait() {
