@@ -48,7 +48,8 @@ TOOLS = [("Spaces & Layout", [("Indent...", "Indent"), ("Word wrap...", "Word Wr
                           ("Keep or drop lines...", "Keep or Drop Lines"), ("Every other line...", "Every Other Line")]),
          ("Check", [("Statistics", "Statistics")])]
 # The same for tools that the panel doesn't show.
-FOUND_TOOLS = [("Before and after lines...", "Before and After Lines"), ("Split or join lines...", "Split or Join Lines")]
+FOUND_TOOLS = [("Before and after lines...", "Before and After Lines"), ("Split or join lines...", "Split or Join Lines"),
+               ("Typography...", "Typography"), ("Case by language...", "Case by Language"), ("Wrap paragraphs...", "Wrap Paragraphs")]
 
 
 class Photographer:
@@ -60,7 +61,14 @@ class Photographer:
     def take(self, name, title):
         self.run.active(title)
         time.sleep(0.4)
-        window = subprocess.run(["xdotool", "getactivewindow"], capture_output=True, text=True, check=True).stdout.strip()
+        self.save(name, subprocess.run(["xdotool", "getactivewindow"], capture_output=True, text=True, check=True).stdout.strip())
+
+    def take_screen(self, name):
+        """With a menu, which is no window for the desktop."""
+        time.sleep(0.5)
+        self.save(name, "root")
+
+    def save(self, name, window):
         subprocess.run(["import", "-window", window, os.path.join(self.folder, f"{name}-{self.suffix}.png")], check=True)
 
     def leave(self):
@@ -112,8 +120,9 @@ def search(run, photographer):
         run.active("Tolvo Search")
         run.page(tab)
         photographer.take("search-" + tab.split()[0].lower(), "Tolvo Search")
-        keys("alt+m")
-        photographer.take("search-" + tab.split()[0].lower() + "-other", "Tolvo Search")
+        if tab == "Simple Search":
+            keys("alt+m")  # the others then show all of theirs, too
+            photographer.take("search-simple-other", "Tolvo Search")
     photographer.leave()
     keys("ctrl+f")
     run.active("Tolvo Search")
@@ -125,6 +134,39 @@ def search(run, photographer):
     type_text("the")
     run.click("Find All")
     photographer.take("results", "9 results found for")
+
+
+def below(run, photographer):
+    """The search below the text, which a run of its own has."""
+    keys("ctrl+h")
+    type_text("the")
+    wait_for(lambda: run.shows("Replace with"), "the search")
+    photographer.take("search-below", "Tolvo ")
+    keys("Escape")
+
+
+def line(run, photographer):
+    keys("ctrl+g")
+    photographer.take("go-to-line", "Go to line")
+
+
+def sharing(run, photographer):
+    run.click("More for PowerButtons")
+    photographer.take_screen("more")
+    keys("r", "Up", "Return")
+    photographer.take("load-powerbutton", "Load a PowerButton")
+    run.click("Load")
+    run.main_is_active()
+    run.click("More for PowerButtons")
+    keys("s")
+    photographer.take("share-powerbutton", "Share a PowerButton")
+
+
+def undo_menu(run, photographer):
+    keys("ctrl+u", "ctrl+l")
+    run.click("Choose how far to undo")
+    photographer.take_screen("undo-menu")
+    keys("Escape")
 
 
 def power_buttons(run, photographer):
@@ -209,7 +251,18 @@ def closing(run, photographer):
     photographer.take("confirm-close", "Confirm close")
 
 
-PARTS = (tools, finding, spelling, search, power_buttons, choose_power_button, options, key_sheet, about, box, closing)
+PARTS = (tools, finding, spelling, search, line, undo_menu, power_buttons, choose_power_button, options, sharing, key_sheet, about,
+         box, closing, below)
+
+
+def in_own_runs(parts, settings, environment, folder, suffix):
+    """What begins with other settings."""
+    for part, setting in ((below, ("Tolvo", "View", "SearchBelow", "1")),):
+        if part in parts:
+            settings.write(*setting)
+            run = Tolvo(settings, **environment)
+            part(run, Photographer(run, folder, suffix))
+            run.kill()
 
 
 def companions(settings, environment, folder, suffix):
@@ -237,6 +290,8 @@ def main():
         run = Tolvo(settings, **environment)
         photographer = Photographer(run, folder, suffix)
         for part in parts:
+            if part == below:
+                continue
             try:
                 part(run, photographer)
             except (AssertionError, subprocess.CalledProcessError) as trouble:
@@ -245,6 +300,7 @@ def main():
             if run.process.poll() is None:
                 photographer.leave()
         run.kill()
+        in_own_runs(parts, settings, environment, folder, suffix)
         if len(parts) == len(PARTS):
             companions(settings, environment, folder, suffix)
         settings.close()

@@ -71,7 +71,7 @@ class SeekStories(Story):
         keys("Return")
         run.status_becomes("2 matches copied")
         clipboard_becomes("1 a\n2 b")
-        keys("alt+x", "alt+y")
+        keys("alt+g", "alt+y")
         run.status_becomes("2 matches in place of the text")
         run.text_becomes("1 a\n2 b")
         keys("Escape")
