@@ -2,6 +2,7 @@
 #include "widgets/house_style.h"
 
 #include "widgets/contrast.h"
+#include "widgets/grid.h"
 #include "widgets/themed_icon.h"
 
 #include <QAbstractItemView>
@@ -114,6 +115,17 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, cons
     default:
         return usual;
     }
+}
+
+QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                                   const QWidget *widget) const {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    if (type == CT_PushButton && button && !button->text.isEmpty()) {
+        const int edge = Grid(button->fontMetrics.height()).gap();
+        size.setWidth(std::max(size.width(), contents.width() + 2 * edge));
+    }
+    return size;
 }
 
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

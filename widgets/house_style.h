@@ -15,6 +15,8 @@ class HouseStyle : public QProxyStyle {
     using QProxyStyle::polish;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                                 QStyleHintReturn *data) const override;
+    [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                                         const QWidget *widget) const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
                                   const QWidget *widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

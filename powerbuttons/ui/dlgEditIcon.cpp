@@ -67,9 +67,11 @@ void dlgEditIcon::makeControls() {
     // A scroll bar inverts its keys, which is right only for one that stands upright.
     m_size->setInvertedControls(false);
     m_size->setFocusPolicy(Qt::StrongFocus);
-    m_size->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
+    m_size->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_size->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
     m_fontLabel->setObjectName(QStringLiteral("labFont"));
     m_fontLabel->setTextFormat(Qt::PlainText);
+    m_fontLabel->setWordWrap(true);
     m_preview->setObjectName(QStringLiteral("picPreview"));
     m_preview->setAccessibleName(QStringLiteral("Preview"));
     m_small->setObjectName(QStringLiteral("picSmall"));
@@ -110,6 +112,7 @@ void dlgEditIcon::arrange() {
     QToolButton *symbol =
         makeTextButton(this, "imgGetSymbol", "choose-symbol", QStringLiteral("Choose s&ymbol..."));
     QToolButton *font = makeTextButton(this, "imgSetFont", "choose-font", QStringLiteral("Choose &font..."));
+    font->setMinimumWidth(symbol->sizeHint().width());
     auto *centreButton = new QPushButton(QStringLiteral("C&entre"), this);
     centreButton->setObjectName(QStringLiteral("cmdCentre"));
     centreButton->setAccessibleName(QStringLiteral("Position: Centre"));

@@ -19,6 +19,7 @@ dlgShareButton::dlgShareButton(const CPowerButtonCollection &buttons, int number
       m_text(makeStepsView(QStringLiteral("txtShared"), QStringLiteral("What is passed on"), this)) {
     setObjectName(QStringLiteral("dlgShareButton"));
     setWindowTitle(QStringLiteral("Share a PowerButton"));
+    m_text->setMinimumHeight(m_text->fontMetrics().lineSpacing() * 15);
     m_choice->setObjectName(QStringLiteral("cboShared"));
     for (int candidate = 1; candidate <= CPowerButtonCollection::buttonCount; ++candidate) {
         if (isEmptyPlace(buttons, candidate))

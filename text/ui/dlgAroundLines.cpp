@@ -60,6 +60,7 @@ void dlgAroundLines::arrange() {
                                        {m_step, QStringLiteral("&Increment:")},
                                        {m_width, QStringLiteral("&Digits:")}}) {
         grid->addWidget(labelFor(box, caption), row, 0);
+        box->setMinimumWidth(m_start->sizeHint().width());
         grid->addWidget(box, row++, 1, Qt::AlignLeft);
     }
     grid->addWidget(m_skipBlanks, row++, 1);

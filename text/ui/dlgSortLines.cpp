@@ -58,7 +58,8 @@ dlgSortLines::dlgSortLines(const SortLinesSettings &settings, const ToolDialogCo
       m_head(new NumberBox(QStringLiteral("txtHead"), QStringLiteral("Leave lines on top"), {}, this)),
       m_descending(makeCheck(QStringLiteral("chkDescending"), QStringLiteral("&Descending"), this)),
       m_ignoreCase(makeCheck(QStringLiteral("chkIgnoreCase"), QStringLiteral("Ignore &case"), this)),
-      m_unique(makeCheck(QStringLiteral("chkUnique"), QStringLiteral("&One of lines that sort alike"), this)),
+      m_unique(
+          makeCheck(QStringLiteral("chkUnique"), QStringLiteral("Keep &one of lines that sort alike"), this)),
       m_sample(makeSample(6)) {
     m_order->setObjectName(QStringLiteral("cmbOrder"));
     m_order->addItems({QStringLiteral("Dictionary: a10, a2, B"),
