@@ -13,6 +13,8 @@ QString words(const StepResult &result, qsizetype places, bool afterQuestion) {
     switch (result.kind) {
     case StepResult::Kind::Asks:
         return QStringLiteral("Asks when run");
+    case StepResult::Kind::Blank:
+        return QStringLiteral("No tool yet: nothing happens");
     case StepResult::Kind::SwitchedOff:
         return QStringLiteral("Switched off: nothing happens");
     case StepResult::Kind::NotReached:

@@ -118,7 +118,9 @@ class Trial {
                            std::any_of(m_boxes.shown.begin() + static_cast<std::ptrdiff_t>(m_boxesBefore),
                                        m_boxes.shown.end(), isQuestion);
         const CAction &step = m_trial.steps.at(m_results.size() - 1);
-        if (!step.Tool() || step.switchedOff())
+        if (!step.Tool())
+            result.kind = StepResult::Kind::Blank;
+        else if (step.switchedOff())
             result.kind = StepResult::Kind::SwitchedOff;
         else
             result.kind = asked ? StepResult::Kind::Asks : StepResult::Kind::Ran;

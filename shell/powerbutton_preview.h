@@ -40,7 +40,8 @@ struct StepResult {
     enum class Kind {
         Ran,
         Asks,        ///< it needs the user; the steps after it run on the text as it is
-        SwitchedOff, ///< or blank: nothing happens
+        Blank,       ///< it has no tool yet
+        SwitchedOff,
         NotReached   ///< a step before it has failed, which ends the run
     };
     Kind kind = Kind::NotReached;
