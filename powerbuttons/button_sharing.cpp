@@ -63,8 +63,8 @@ class Gathering {
             return {{}, QStringLiteral("This PowerButton is not defined")};
         m_numbers = {number};
         SharedButtons shared;
-        for (qsizetype i = 0; i < m_numbers.size(); ++i) {
-            const auto button = m_buttons.Item(m_numbers.at(i));
+        while (shared.buttons.size() < m_numbers.size()) { // placeOf() adds those that steps run
+            const auto button = m_buttons.Item(m_numbers.at(shared.buttons.size()));
             for (int step = 1; step <= button->Count(); ++step) {
                 if (!isRunnable(*button->Item(step)))
                     return {{}, stepOf(*button, step) + QStringLiteral(" has no tool")};

@@ -64,7 +64,7 @@ QList<LanguageRow> languageRows(const SpellingServices &services, int providerTy
             rows += LanguageRow{language, {}, {}};
         return rows;
     }
-    const QList<LanguageRow> all = hunspellRows(services);
+    QList<LanguageRow> all = hunspellRows(services);
     const QString quick = get(services.store, keys.hunQuickList);
     if (quick == keys.hunQuickList.otherwise())
         return all;
@@ -108,7 +108,7 @@ QString chosenLocale(const SpellingServices &services, int LangID) {
     if (LangID == keys.langID.otherwise())
         return {};
     const Locales locales(Locales::pathIn(services.dataFolder));
-    const QString named = locales.localeOf(LangID);
+    QString named = locales.localeOf(LangID);
     if (!named.isEmpty() && findDictionary(named, services))
         return named;
     for (const FoundLanguage &found : foundLanguages(services)) {
@@ -120,7 +120,7 @@ QString chosenLocale(const SpellingServices &services, int LangID) {
 
 QString languageInTitle(const SpellingServices &services, int LangID) {
     const LanguageList lists(services.store);
-    const QString ofWord = lists.langFromID(LangID);
+    QString ofWord = lists.langFromID(LangID);
     const int provider = lists.provider();
     const bool usesLocale = provider > providerType::word && provider <= providerType::ginger;
     if (!ofWord.isEmpty() || LangID == keys.langID.otherwise() || !usesLocale)

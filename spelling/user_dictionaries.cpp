@@ -25,7 +25,7 @@ bool isBritish(const QString &locale) {
 } // namespace
 
 QString userDictionaryPath(const SpellingServices &services, const QString &locale) {
-    const QString british = personalDictionaryPath(services);
+    QString british = personalDictionaryPath(services);
     if (isBritish(locale))
         return british;
     return QFileInfo(british).path() + QStringLiteral("/persdict_%1.dat").arg(nameOf(locale));
