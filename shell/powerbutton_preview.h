@@ -39,10 +39,10 @@ struct PowerButtonTrial {
 struct StepResult {
     enum class Kind {
         Ran,
-        Asks,        ///< it needs the user; the steps after it run on the text as it is
-        Blank,       ///< it has no tool yet
+        Asks,  ///< it needs the user; the steps after it run on the text as it is
+        Blank, ///< it has no tool yet
         SwitchedOff,
-        NotReached   ///< a step before it has failed, which ends the run
+        NotReached ///< a step before it has failed, which ends the run
     };
     Kind kind = Kind::NotReached;
     TextState before = {};
