@@ -10,6 +10,7 @@
 #include "shell/spelling_tools.h"
 #include "shell/text_difference.h"
 #include "shell/text_operations.h"
+#include "shell/tool_operations.h"
 #include "text/cTextMethods.h"
 #include "text/coding.h"
 #include "text/identifiers.h"
@@ -28,109 +29,7 @@ namespace tolvo {
 
 namespace {
 
-// What fills the column Operation of the table
-
-/// An operation of the text engine that takes nothing but the text.
-template <auto operation>
-constexpr ToolOperation engine() {
-    return {.run = [](const ToolInput &in) -> std::optional<QString> {
-        return (in.context.engine.*operation)(in.text);
-    }};
-}
-
-template <QString (*operation)(const ToolInput &)>
-constexpr ToolOperation text() {
-    return {.run = [](const ToolInput &in) -> std::optional<QString> { return operation(in); }};
-}
-
-/// A function of the text alone.
-template <QString (*operation)(QStringView)>
-constexpr ToolOperation pure() {
-    return {.run = [](const ToolInput &in) -> std::optional<QString> { return operation(in.text); }};
-}
-
-/// A decoder, which says what it could not decode.
-template <DecodedText (*operation)(QStringView)>
-constexpr ToolOperation decoding() {
-    return {
-        .run = [](const ToolInput &in) -> std::optional<QString> { return decoded(in, operation(in.text)); }};
-}
-
-template <auto operation>
-struct Asked;
-template <class Settings, QString (*operation)(QStringView, const Settings &)>
-struct Asked<operation> {
-    static std::optional<QString> run(const ToolInput &in) {
-        return operation(in.text, std::get<Settings>(*in.settings));
-    }
-    static ToolSettings settings() { return Settings(); }
-};
-template <class Settings, QString (*operation)(const ToolInput &, const Settings &)>
-struct Asked<operation> {
-    static std::optional<QString> run(const ToolInput &in) {
-        return operation(in, std::get<Settings>(*in.settings));
-    }
-    static ToolSettings settings() { return Settings(); }
-};
-
-/// An operation that takes settings: those of its second parameter.
-template <auto operation>
-constexpr ToolOperation asked() {
-    return {.run = &Asked<operation>::run,
-            .settings = &Asked<operation>::settings,
-            .window = SettingsWindow::Dialog};
-}
-
-template <auto operation>
-struct Set;
-template <class Settings, QString (*operation)(QStringView, const Settings &)>
-struct Set<operation> {
-    static QString run(const ToolInput &in, const Settings &settings) { return operation(in.text, settings); }
-};
-
-/// The same for a function of the text alone.
-template <auto operation>
-constexpr ToolOperation set() {
-    return asked<&Set<operation>::run>();
-}
-
-/// An edit of the text in use, without an operation of the text engine.
-template <void (*procedure)(const ToolContext &)>
-constexpr ToolOperation onText() {
-    return {.edit = procedure};
-}
-
-/// A procedure of the session that needs no settings.
-constexpr ToolOperation inSession(void (*procedure)(const ToolCall &)) {
-    return {.procedure = procedure};
-}
-
-template <bool replace>
-constexpr ToolOperation searching() {
-    return {.window = replace ? SettingsWindow::Replace : SettingsWindow::Search,
-            .procedure = [](const ToolCall &call) { runSearchTool(call, replace); }};
-}
-
-constexpr ToolOperation copyingMatches() {
-    return {.window = SettingsWindow::CopyMatches, .procedure = copyMatches};
-}
-
-template <bool grammar>
-constexpr ToolOperation spelling() {
-    return {.window = SettingsWindow::Language,
-            .procedure = [](const ToolCall &call) { checkSpelling(call, grammar); }};
-}
-
-constexpr ToolOperation nothing() {
-    return {.window = SettingsWindow::Missing, .powerButtonOnly = true, .procedure = [](const ToolCall &) {}};
-}
-
-/// Whoever runs the Actions of a PowerButton runs it too.
-constexpr ToolOperation nestedPowerButton() {
-    ToolOperation operation = nothing();
-    operation.window = SettingsWindow::PowerButton;
-    return operation;
-}
+using namespace toolOperations;
 
 // What fills the other columns: selection and selected length (O the old one, N the new one, C only the caret
 // after the new text), status, and the answers of the sorts
@@ -263,10 +162,10 @@ constexpr ToolRow table[] = {
     {u"idKEB",  pure<kebabCase>(),                      N,        says(u"kebab-case")},
     {u"idCON",  pure<constantCase>(),                   N,        says(u"CONSTANT_CASE")},
 
-    {u"tyTYP",  set<typographic>(),                     N,        says(u"Typography set")},
+    {u"tyTYP",  asked<typographic>(),                     N,        says(u"Typography set")},
     {u"tyASC",  pure<straightSigns>(),                  N,        says(u"Signs made plain")},
-    {u"ccLAN",  set<caseByLanguage>(),                  N,        length(u" characters: case by language")},
-    {u"paWRP",  set<wrappedParagraphs>(),               lines_N,  says(u"Paragraphs wrapped")},
+    {u"ccLAN",  asked<caseByLanguage>(),                  N,        length(u" characters: case by language")},
+    {u"paWRP",  asked<wrappedParagraphs>(),               lines_N,  says(u"Paragraphs wrapped")},
     {u"paUNW",  pure<unwrappedParagraphs>(),            lines_N,  says(u"Paragraphs unwrapped")},
     {u"paPDF",  pure<joinedPdfLines>(),                 lines_N,  says(u"Lines joined")},
 
