@@ -143,12 +143,12 @@ QSize needed(const QLayout &layout, QSize room) {
     return {least.width(), std::max(least.height(), layout.totalMinimumHeightForWidth(width))};
 }
 
-/// The size of the window with the height that its folded lines need, or wider where the room is too low for
-/// them.
+/// The size of a window, narrower than it wants to be, with the height that its folded lines need, or wider
+/// where the room is too low for them.
 QSize sizeForFolds(const QWidget &window, QSize room) {
     const QLayout &layout = *window.layout();
     QSize size = window.size();
-    if (!layout.hasHeightForWidth())
+    if (!layout.hasHeightForWidth() || window.sizeHint().width() <= size.width())
         return size;
     const auto height = [&] {
         return layout.totalMinimumHeightForWidth(std::min(size.width(), room.width()));
