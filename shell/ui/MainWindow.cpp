@@ -95,7 +95,8 @@ void MainWindow::resizeEvent(QResizeEvent *event) {
 }
 
 void MainWindow::keepSmallestSize() {
-    const QSize frame = frameGeometry().size() - size();
+    // While a window manager puts its frame around the window, the two sizes may be of different moments.
+    const QSize frame = (frameGeometry().size() - size()).expandedTo({0, 0});
     setMinimumSize(minimumSizeHint().expandedTo(allowedOuterSize(QSize()) / twipsPerPixel - frame));
 }
 
