@@ -8,6 +8,9 @@
 
 namespace tolvo {
 
+/// What parts the pairs of a settings string.
+inline constexpr QLatin1StringView settingsSeparator(", ");
+
 /// The parsed form of a settings string. Pairs are split at comma and blank; each is split at its first "=":
 /// the key is trimmed of blanks, the value is kept as it is. A piece without "=" is a key with an empty
 /// value. The first pair of a key wins; keys compare exactly. There is no quoting, so a value can't hold a
@@ -17,7 +20,7 @@ class CParams {
     explicit CParams(const QString &settings = {}) { init(settings); }
 
     /// Replaces all pairs by those of another settings string.
-    void init(const QString &settings, const QString &pairSeparator = QStringLiteral(", "),
+    void init(const QString &settings, const QString &pairSeparator = settingsSeparator,
               QChar keyValueSeparator = u'=');
 
     /// The value of a key; "" if the key is missing.
@@ -25,7 +28,7 @@ class CParams {
 
     /// Whether a settings string with the default separators can hold the value: false if the value contains
     /// a comma followed by a blank.
-    [[nodiscard]] static bool canHold(QStringView value) { return !value.contains(u", "); }
+    [[nodiscard]] static bool canHold(QStringView value) { return !value.contains(settingsSeparator); }
     /// The message for a value that can't be held, with `advice` at its end.
     [[nodiscard]] static QString refusal(const QString &advice);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/button_file.h"
 
+#include "base/CParams.h"
 #include "base/text_encoding.h"
 #include "powerbuttons/button_file_reader.h"
 #include "powerbuttons/file_values.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "powerbuttons/button_file_reader.h"
 
+#include "base/CParams.h"
 #include "powerbuttons/file_values.h"
 #include "powerbuttons/shared_steps.h"
 

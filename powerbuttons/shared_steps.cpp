@@ -2,6 +2,7 @@
 #include "powerbuttons/shared_steps.h"
 
 #include "powerbuttons/circular_check.h"
+#include "powerbuttons/step_words.h"
 
 #include <algorithm>
 
@@ -68,59 +69,16 @@ class Walk {
     StepTrouble m_trouble;
 };
 
-/// The settings of a search or a replacement as a user says them.
-QString searchWords(const CAction &action, bool replacing) {
-    const auto value = [&action](const char *key) { return action.Param(QLatin1StringView(key)); };
-    QString words = u'"' + value("Find") + u'"';
-    if (replacing)
-        words += QStringLiteral(" becomes \"") + value("Replace") + u'"' +
-                 (value("ReplaceAll") == QLatin1StringView("1") ? QStringLiteral(" everywhere")
-                                                                : QStringLiteral(" once"));
-    if (value("Mode") == QLatin1StringView("2"))
-        words += QStringLiteral(", with wildcards");
-    else if (value("Mode") == QLatin1StringView("3"))
-        words += QStringLiteral(", a regular expression");
-    return words;
-}
-
-QString settingsWords(const CAction &action) {
-    const QString &token = action.Tool()->Token();
-    const bool replacing = token == QLatin1StringView("edREP");
-    return replacing || token == QLatin1StringView("edSRC") ? searchWords(action, replacing)
-                                                            : action.Details();
-}
-
-/// What is to be said of a step besides its name.
-QString remark(const CAction &action) {
-    if (action.switchedOff())
-        return QStringLiteral(" (switched off)");
-    if (!action.Tool()->gotDialog())
-        return {};
-    switch (action.DlgOption()) {
-    case SettingsFrom::Custom:
-        return action.Details().isEmpty() ? QString() : QStringLiteral(" (%1)").arg(settingsWords(action));
-    case SettingsFrom::Current:
-        return QStringLiteral(" (with the settings last used)");
-    case SettingsFrom::Prompt:
-        return QStringLiteral(" (asks for its settings)");
-    }
-    return QStringLiteral(" (does nothing)");
-}
-
 void addLines(const SharedButtons &shared, const CPowerButton &button, const QString &before,
               QStringList &lines) {
+    const auto nameOfButton = [&shared](int number) { return shared.buttons.at(number - 1)->Name; };
     for (int step = 1; step <= button.Count(); ++step) {
         const CAction &action = *button.Item(step);
         const QString number = before + QString::number(step) + u'.';
-        const std::optional<int> target = targetOfStep(action);
         const QString indent(3 * before.count(u'.'), u' ');
-        if (!target || action.switchedOff()) {
-            lines += indent + number + u' ' + action.Tool()->plainName() + remark(action);
-            continue;
-        }
-        const CPowerButton &inner = *shared.buttons.at(*target - 1);
-        lines += indent + number + QStringLiteral(" PowerButton: ") + inner.Name;
-        addLines(shared, inner, number, lines);
+        lines += indent + number + u' ' + stepInWords(action, nameOfButton) + offRemark(action);
+        if (const std::optional<int> target = targetOfStep(action); target && !action.switchedOff())
+            addLines(shared, *shared.buttons.at(*target - 1), number, lines);
     }
 }
 

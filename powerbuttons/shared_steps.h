@@ -9,9 +9,6 @@
 
 namespace tolvo {
 
-/// What parts the pairs of a settings string.
-inline constexpr QLatin1StringView settingsSeparator(", ");
-
 /// The number of the PowerButton that a step runs with settings of its own; nothing for any other step.
 [[nodiscard]] std::optional<int> targetOfStep(const CAction &action);
 /// Whether a step is to run a PowerButton, be it named or not.
@@ -29,7 +26,7 @@ struct StepTrouble {
 [[nodiscard]] StepTrouble stepTrouble(const QList<std::shared_ptr<CPowerButton>> &buttons);
 
 /// What the buttons do, one line for each step, the steps of a nested one below it:
-///   "1. Title Case", "2. Remove blank lines (Single=0, Multiple=1)", "3. PowerButton: Inner", "   3.1. ..."
+///   "1. Title Case", "2. Remove blank lines: multiple", "3. Run PowerButton: Inner", "   3.1. ..."
 [[nodiscard]] QStringList sharedStepLines(const SharedButtons &shared);
 
 } // namespace tolvo

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "text/tool_settings.h"
 
+#include "base/CParams.h"
+
 #include <algorithm>
 #include <type_traits>
 
@@ -87,7 +89,7 @@ QString settingsString(const ToolSettings &settings) {
     forEachValue(settings, [&](const auto &value, const auto &field) {
         pairs.append(field.stringKey.toString() + u'=' + field.form.written(value));
     });
-    return pairs.join(QStringLiteral(", "));
+    return pairs.join(settingsSeparator);
 }
 
 void applySettings(ToolSettings &settings, const CParams &params) {

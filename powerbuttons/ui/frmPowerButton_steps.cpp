@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The list of the steps in the PowerButton editor.
-#include "powerbuttons/step_settings.h"
+#include "powerbuttons/step_words.h"
 #include "powerbuttons/ui/effect_view.h"
 #include "powerbuttons/ui/frmPowerButton.h"
 #include "powerbuttons/ui/step_list.h"

@@ -161,10 +161,11 @@ TEST_F(ButtonFiles, sayWhatTheyDo) {
     define(1, "outer",
            {runs(4), action("foWRP", {}, SettingsFrom::Current), action("foREM"),
             action("edREP", "Mode=3, Find=a+, Replace=b, ReplaceAll=1", SettingsFrom::Custom)});
-    EXPECT_EQ(sharedStepLines(gatherButtons(buttons, 1)).join("|"),
-              "1. PowerButton: inner|   1.1. UPPER CASE|   1.2. Indent (Spaces=2)|"
-              "2. Word wrap (with the settings last used)|3. Remove blank lines (asks for its settings)|"
-              "4. Search & replace (\"a+\" becomes \"b\" everywhere, a regular expression)");
+    EXPECT_EQ(
+        sharedStepLines(gatherButtons(buttons, 1)).join("|"),
+        "1. Run PowerButton: inner|   1.1. UPPER CASE|   1.2. Indent: blanks 2|"
+        "2. Word wrap: as used last|3. Remove blank lines: asks when run|"
+        "4. Search & replace: regular expression, find \u201Ca+\u201D, replace with \u201Cb\u201D, all");
 }
 
 TEST_F(ButtonFiles, areNotMadeOfWhatRunsNowhereElse) {

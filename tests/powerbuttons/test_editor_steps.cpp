@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "powerbuttons/step_settings.h"
+#include "powerbuttons/step_words.h"
 #include "tests/powerbuttons/world.h"
 
 #include <random>

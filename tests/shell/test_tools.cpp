@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The tool frame: what each tool sees of the text, what is selected afterwards, what the status line says.
+#include "powerbuttons/setting_words.h"
 #include "shell/cToolbox.h"
 #include "shell/tool_table.h"
 #include "tests/support/User.h"
@@ -43,8 +44,14 @@ TEST(Tools, ofTheTableAreThoseOfTheCatalogue) {
         const ToolOperation &operation = row.operation;
         EXPECT_EQ((operation.run ? 1 : 0) + (operation.edit ? 1 : 0) + (operation.procedure ? 1 : 0), 1);
         EXPECT_EQ(operation.settings != nullptr, operation.window == SettingsWindow::Dialog);
-        if (operation.settings)
-            withSettings += operation.settings().index();
+        if (operation.settings) {
+            const ToolSettings settings = operation.settings();
+            withSettings += settings.index();
+            CAction step;
+            step.setTool(tool);
+            step.setDetails(settingsString(settings));
+            EXPECT_FALSE(settingsInWords(step).contains(u'=')) << "a key without words";
+        }
         EXPECT_FALSE(known.contains(tool->Token()));
         known += tool->Token();
     }

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "powerbuttons/step_settings.h"
+#include "powerbuttons/setting_words.h"
 
-#include "base/conversions.h"
-#include "powerbuttons/circular_check.h"
+#include "base/CParams.h"
+#include "base/numbers.h"
+#include "text/writing_settings.h"
 
 #include <QStringList>
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace tolvo {
 
@@ -20,21 +22,33 @@ struct SettingWords {
     QStringView key;
     Kind kind;
     QStringView words;
-    std::array<QStringView, 6> choices = {}; ///< by their numbers; empty: not worth a word
+    std::span<const QStringView> choices = {}; ///< by their numbers; empty: not worth a word
+    QStringView tool = {};                     ///< the token of the one tool whose key is meant
 };
 
+using Choices = std::array<QStringView, 7>;
+constexpr Choices modes = {u"", u"", u"wildcard", u"regular expression"};
+constexpr Choices numberStyles = {u"1 2 3", u"a b c", u"A B C", u"i ii iii", u"I II III", u"1.1 1.2"};
+constexpr Choices signsAfterNumbers = {u"", u"with stop", u"with bracket", u"in brackets"};
+constexpr Choices indents = {u"a tab", u"blanks", u"a text"};
+constexpr Choices directions = {u"", u"up", u"from start"};
+constexpr Choices orders = {u"language", u"natural order", u"number", u"characters"};
+constexpr Choices kindsOfCase = {u"upper case", u"lower case", u"title case"};
+
 constexpr std::array choiceWords = {
-    SettingWords{u"Mode", Kind::Choice, u"", {u"", u"", u"wildcard", u"regular expression"}},
-    SettingWords{
-        u"Style", Kind::Choice, u"", {u"1 2 3", u"a b c", u"A B C", u"i ii iii", u"I II III", u"1.1 1.2"}},
-    SettingWords{u"FollowChar", Kind::Choice, u"", {u"", u"with stop", u"with bracket", u"in brackets"}},
-    SettingWords{u"RadioButton", Kind::Choice, u"", {u"a tab", u"blanks", u"a text"}},
-    SettingWords{u"Direction", Kind::Choice, u"", {u"", u"up", u"from start"}},
+    SettingWords{u"Mode", Kind::Choice, u"", modes},
+    SettingWords{u"Style", Kind::Choice, u"", numberStyles},
+    SettingWords{u"FollowChar", Kind::Choice, u"", signsAfterNumbers},
+    SettingWords{u"RadioButton", Kind::Choice, u"", indents},
+    SettingWords{u"Direction", Kind::Choice, u"", directions},
     SettingWords{u"Anchor", Kind::Choice, u""},
     SettingWords{u"DecimalSep", Kind::Choice, u""},
     SettingWords{u"GroupingSep", Kind::Choice, u""},
-    SettingWords{u"Order", Kind::Choice, u"by ", {u"language", u"natural order", u"number", u"characters"}},
-    SettingWords{u"Kind", Kind::Choice, u"", {u"upper case", u"lower case", u"title case"}},
+    SettingWords{u"Order", Kind::Choice, u"by ", orders},
+    SettingWords{u"Kind", Kind::Choice, u"", kindsOfCase},
+    SettingWords{u"Language", Kind::Choice, u"", TypographySettings::words, u"tyTYP"},
+    SettingWords{u"Language", Kind::Choice, u"", LanguageCaseSettings::languages, u"ccLAN"},
+    SettingWords{u"Language", Kind::Text, u"language", {}, u"lnSRT"},
 };
 
 constexpr std::array plainWords = {
@@ -88,8 +102,10 @@ constexpr std::array plainWords = {
     SettingWords{u"Fill", Kind::Switch, u"fill"},
 };
 
-const SettingWords *wordsOf(QStringView key) {
-    const auto isIt = [key](const SettingWords &words) { return words.key == key; };
+const SettingWords *wordsOf(QStringView key, QStringView tool) {
+    const auto isIt = [key, tool](const SettingWords &words) {
+        return words.key == key && (words.tool.isEmpty() || words.tool == tool);
+    };
     if (const auto *const choice = std::ranges::find_if(choiceWords, isIt); choice != choiceWords.end())
         return choice;
     const auto *const plain = std::ranges::find_if(plainWords, isIt);
@@ -111,11 +127,11 @@ QString inWords(const SettingWords &setting, const QString &value) {
     case Kind::Choice:
         break;
     }
-    constexpr QStringView directions = u"DUS"; // the one choice that letters stand for
-    const bool isLetter = value.size() == 1 && directions.contains(value.front());
+    constexpr QStringView letters = u"DUS"; // of the directions, the one choice that letters stand for
+    const bool isLetter = value.size() == 1 && letters.contains(value.front());
     const auto number =
-        static_cast<std::size_t>(isLetter ? directions.indexOf(value.front()) : value.toLongLong());
-    const QStringView choice = number < setting.choices.size() ? setting.choices.at(number) : QStringView();
+        static_cast<std::size_t>(isLetter ? letters.indexOf(value.front()) : value.toLongLong());
+    const QStringView choice = number < setting.choices.size() ? setting.choices[number] : QStringView();
     return choice.isEmpty() ? QString() : setting.words.toString() + choice.toString();
 }
 
@@ -131,52 +147,23 @@ bool isIdle(QStringView key, const CAction &action) {
     return key == u"RadioButton" && way != QLatin1StringView("0");
 }
 
-QString detailsInWords(const CAction &action) {
+} // namespace
+
+QString settingsInWords(const CAction &action) {
     QStringList words;
     QStringList seen;
-    const QStringList pairs = action.Details().split(QStringLiteral(", "));
+    const QStringList pairs = action.Details().split(settingsSeparator);
     for (const QString &pair : pairs) {
         const QString key = pair.section(u'=', 0, 0).trimmed();
         if (seen.contains(key) || isIdle(key, action))
             continue; // of two pairs with one key the first counts
         seen += key;
-        const SettingWords *setting = wordsOf(key);
+        const SettingWords *setting = wordsOf(key, action.Tool()->Token());
         const QString said = setting != nullptr ? inWords(*setting, action.Param(key)) : pair;
         if (!said.isEmpty())
             words += said;
     }
     return words.join(QStringLiteral(", "));
-}
-
-} // namespace
-
-QString settingsInWords(const CAction &action, const CPowerButtonCollection &buttons) {
-    if (!action.Tool() || !action.Tool()->gotDialog())
-        return {};
-    switch (action.DlgOption()) {
-    case SettingsFrom::Prompt:
-        return QStringLiteral("asks when run");
-    case SettingsFrom::Current:
-        return QStringLiteral("as used last");
-    case SettingsFrom::Custom:
-        break;
-    default:
-        return QStringLiteral("does nothing");
-    }
-    if (action.Tool()->Token() != powerButtonToken)
-        return detailsInWords(action);
-    const std::optional<int> target = targetOf(action);
-    const auto button = target ? buttons.Item(*target) : nullptr;
-    return button && button->isDefined() ? button->Name.simplified() : action.Param(powerButtonKey);
-}
-
-QString stepLine(int position, const CAction &action, const CPowerButtonCollection &buttons) {
-    const QString number = QString::number(position) + QStringLiteral(". ");
-    if (!action.Tool())
-        return number + QStringLiteral("(no tool yet)");
-    const QString settings = settingsInWords(action, buttons);
-    const QString line = number + action.Tool()->plainName();
-    return settings.isEmpty() ? line : line + QStringLiteral(": ") + settings;
 }
 
 } // namespace tolvo
