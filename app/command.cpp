@@ -3,8 +3,9 @@
 
 #include "base/paths.h"
 #include "platform/desktop/DesktopClipboard.h"
-#include "platform/desktop/DesktopNotification.h"
+#include "platform/desktop/Notification.h"
 #include "platform/desktop/clipboard_keeper.h"
+#include "platform/desktop/clipboard_ways.h"
 #include "platform/program_folders.h"
 #include "preferences/settings_store.h"
 #include "shell/headless/clipboard_command.h"
@@ -75,11 +76,6 @@ class SmallWindow : public QRasterWindow {
     bool m_hadInput = false;
 };
 
-bool hasDisplay() {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-}
-
 CommandOutcome runOnDesktop(ClipboardCommand &command, DesktopClipboard &clipboard) {
     SmallWindow window(command.name());
     if (DesktopClipboard::needsInputToWrite() && !window.waitForInput())
@@ -98,13 +94,13 @@ int runWithClipboard(ClipboardCommand &command, KeeperSession &keeper, const Con
     console.say(command.name() + QStringLiteral(": ") + outcome.message);
     keeper.sessionOver(code); // whoever waits for the command doesn't wait for the notification
 
-    DesktopNotification notification;
+    const std::unique_ptr<Notification> notification = desktopNotification();
     if (outcome.before)
-        notification.onUndo = [&] { clipboard.replaceOwnText(*outcome.before); };
-    notification.show(command.name(), QString(outcome.message).remove(u'\r'));
+        notification->onUndo = [&] { clipboard.replaceOwnText(*outcome.before); };
+    notification->show(command.name(), QString(outcome.message).remove(u'\r'));
     keeper.keepClipboardUntilTaken();
     if (outcome.before)
-        notification.withdrawUndo();
+        notification->withdrawUndo();
     return code;
 }
 
@@ -120,11 +116,12 @@ int runCommand(int argc, char **argv, const Arguments &arguments, KeeperSession 
         }
         SettingsStore store(SettingsStore::defaultPath());
         const Catalogue catalogue = Catalogue::read(sAppPath(folders.data) + Catalogue::fileName);
-        FileExtensions extensions(sAppPath(folders.data) + QStringLiteral("FileExtensions.txt"));
+        FileExtensions extensions(sAppPath(folders.data) + QStringLiteral("FileExtensions.txt"),
+                                  FileExtensions::Source::System);
         ClipboardCommand command(
             {.store = store, .catalogue = catalogue, .extensions = extensions, .dataFolder = folders.data},
             arguments.button, arguments.tool);
-        if (!hasDisplay())
+        if (!hasClipboard())
             throw std::runtime_error("there is no display, so there is no clipboard");
         const QGuiApplication application(argc, argv);
         QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));

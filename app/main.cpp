@@ -10,12 +10,13 @@
 #include "platform/desktop/DesktopClipboard.h"
 #include "platform/desktop/DesktopMessageBoxes.h"
 #include "platform/desktop/DesktopProcesses.h"
-#include "platform/desktop/DesktopSound.h"
 #include "platform/desktop/EscapeWatch.h"
 #include "platform/desktop/clipboard_keeper.h"
+#include "platform/desktop/desktop_sound.h"
 #include "platform/headless/ConsoleBoxes.h"
 #include "platform/headless/help_text.h"
 #include "platform/network/OnDemandHttpClient.h"
+#include "platform/program_arguments.h"
 #include "platform/program_folders.h"
 #include "platform/report_error.h"
 #include "preferences/settings_store.h"
@@ -51,10 +52,11 @@ int runOnce() {
     SettingsStore store(SettingsStore::defaultPath());
     DesktopClipboard clipboard;
     DesktopMessageBoxes boxes;
-    DesktopSound sound;
+    const std::unique_ptr<SoundPlayer> sound = desktopSound();
     DesktopProcesses processes;
     Clock clock;
-    FileExtensions extensions(sAppPath(folders.data) + QStringLiteral("FileExtensions.txt"));
+    FileExtensions extensions(sAppPath(folders.data) + QStringLiteral("FileExtensions.txt"),
+                              FileExtensions::Source::System);
     EscapeWatch escape;
     clipboard.guardInput = [&escape] { return escape.guard(); };
     clipboard.cancelled = [&escape] { return escape.escapePressed(); };
@@ -71,7 +73,7 @@ int runOnce() {
     const RunServices services{.store = store,
                                .clipboard = clipboard,
                                .boxes = boxes,
-                               .sound = sound,
+                               .sound = *sound,
                                .processes = processes,
                                .clock = clock,
                                .extensions = extensions,
@@ -85,10 +87,8 @@ int runOnce() {
 } // namespace
 
 int main(int argc, char **argv) {
-    QStringList words;
-    for (int i = 1; i < argc; ++i)
-        words += QString::fromLocal8Bit(argv[i]);
-    const Arguments arguments = readArguments(words);
+    joinCallersConsole();
+    const Arguments arguments = readArguments(programArguments(argc, argv));
     if (!arguments.error.isEmpty()) {
         ConsoleBoxes(QStringLiteral("tolvo: ")).say(arguments.error);
         return 2;

@@ -7,6 +7,7 @@
 #include "platform/headless/help_text.h"
 #include "platform/network/NetworkHttpClient.h"
 #include "platform/processes.h"
+#include "platform/program_arguments.h"
 #include "preferences/settings_store.h"
 
 #include <QCoreApplication>
@@ -41,10 +42,7 @@ RefreshOutcome workQuietly(int argc, char **argv, const std::function<RefreshOut
 int main(int argc, char **argv) {
     if (answersForHelp(argc, argv, QStringLiteral("Refresher.exe"), help))
         return 0;
-    QStringList switches;
-    for (int i = 1; i < argc; ++i)
-        switches += QString::fromLocal8Bit(argv[i]);
-    auto task = refreshTask(switches);
+    auto task = refreshTask(programArguments(argc, argv));
     if (!task) {
         std::fputs("Usage: Refresher.exe [/update] [/stats] [/quiet]\n", stderr);
         return 2;

@@ -3,10 +3,8 @@
 
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "platform/user_folders.h"
 #include "preferences/settings_database.h"
-
-#include <QDir>
-#include <QStandardPaths>
 
 namespace tolvo {
 
@@ -19,8 +17,7 @@ QString SettingsStore::defaultPath() {
     QString named = qEnvironmentVariable("TOLVO_SETTINGS");
     if (!named.isEmpty())
         return named;
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
-        .filePath(QStringLiteral("tolvo/settings.sqlite"));
+    return userSettingsFolder() + QStringLiteral("/settings.sqlite");
 }
 
 QString SettingsStore::takeTrouble() {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/spelling_services.h"
 
+#include "platform/user_folders.h"
 #include "preferences/settings_keys.h"
 #include "spelling/user_dictionaries.h"
 #include "spelling/word_automation.h"
 
 #include <QLocale>
-#include <QStandardPaths>
 
 namespace tolvo {
 
@@ -16,7 +16,7 @@ QString SpellingServices::defaultAtdEndpoint() {
 }
 
 QString SpellingServices::defaultUserFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/tolvo");
+    return userDataFolder();
 }
 
 QString SpellingServices::defaultDesktopLocale() {

@@ -2,23 +2,24 @@
 #include "text/file_extensions.h"
 
 #include "base/paths.h"
+#include "platform/file_types.h"
 
 #include <QFile>
 
 namespace tolvo {
 
-const QSet<QString> &FileExtensions::systemExtensions() const {
-    if (m_system)
-        return *m_system;
-    m_system.emplace();
+const QSet<QString> &FileExtensions::listedExtensions() const {
+    if (m_listed)
+        return *m_listed;
+    m_listed.emplace();
     QFile list(m_file);
     if (m_file.isEmpty() || !list.open(QIODevice::ReadOnly))
-        return *m_system;
+        return *m_listed;
     for (QString line = fnReadLine(list); !line.isEmpty(); line = fnReadLine(list)) {
         if (!line.startsWith(u'#'))
-            m_system->insert(line.toCaseFolded());
+            m_listed->insert(line.toCaseFolded());
     }
-    return *m_system;
+    return *m_listed;
 }
 
 void FileExtensions::setUserExtensions(const QStringList &extensions) {
@@ -28,12 +29,18 @@ void FileExtensions::setUserExtensions(const QStringList &extensions) {
 }
 
 bool FileExtensions::IsRegisteredExtension(const QString &extension) const {
-    const QString folded = extension.toCaseFolded();
-    return !folded.isEmpty() && (m_user.contains(folded) || systemExtensions().contains(folded));
+    return !extension.isEmpty() &&
+           (m_user.contains(extension.toCaseFolded()) || isSystemExtension(extension));
 }
 
 bool FileExtensions::isSystemExtension(const QString &extension) const {
-    return systemExtensions().contains(extension.toCaseFolded());
+    if (extension.isEmpty())
+        return false;
+    if (m_source == Source::System) {
+        if (const std::optional<bool> registered = isRegisteredType(extension))
+            return *registered;
+    }
+    return listedExtensions().contains(extension.toCaseFolded());
 }
 
 } // namespace tolvo

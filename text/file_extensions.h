@@ -9,12 +9,17 @@
 
 namespace tolvo {
 
-/// The user's extensions, from the Options, and the system's, from data/FileExtensions.txt.
+/// The user's extensions, from the Options, and the system's.
 class FileExtensions {
   public:
+    /// Where the system's extensions come from: from data/FileExtensions.txt, so that the answer is the same
+    /// everywhere, or from the system's register of file types, if it keeps one.
+    enum class Source { List, System };
+
     /// `file` holds the system's extensions, one a line, with comments after "#" at a line's start. It is
     /// read when it is first needed; without it only the user's list counts.
-    explicit FileExtensions(QString file = {}) : m_file(std::move(file)) {}
+    explicit FileExtensions(QString file = {}, Source source = Source::List)
+        : m_file(std::move(file)), m_source(source) {}
 
     /// Replaces the user's list.
     void setUserExtensions(const QStringList &extensions);
@@ -26,11 +31,12 @@ class FileExtensions {
     [[nodiscard]] bool isSystemExtension(const QString &extension) const;
 
   private:
-    [[nodiscard]] const QSet<QString> &systemExtensions() const;
+    [[nodiscard]] const QSet<QString> &listedExtensions() const;
 
     QString m_file;
+    Source m_source;
     QSet<QString> m_user;
-    mutable std::optional<QSet<QString>> m_system;
+    mutable std::optional<QSet<QString>> m_listed;
 };
 
 } // namespace tolvo

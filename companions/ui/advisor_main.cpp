@@ -4,6 +4,7 @@
 #include "base/failure.h"
 #include "base/paths.h"
 #include "companions/ui/AdvisorWindow.h"
+#include "platform/gate_watch.h"
 #include "platform/headless/help_text.h"
 #include "platform/kept_free.h"
 #include "platform/processes.h"
@@ -14,8 +15,7 @@
 
 #include <QApplication>
 #include <QLockFile>
-#include <QSocketNotifier>
-#include <unistd.h>
+#include <optional>
 
 namespace {
 
@@ -56,23 +56,16 @@ int main(int argc, char **argv) {
         return 0;
     tolvo::AdvisorWindow window(store);
     const QString run = qEnvironmentVariable(tolvo::heldBackVariable);
-    if (!run.isEmpty())
-        offerTools(window, store, run);
-    QSocketNotifier gate(STDIN_FILENO, QSocketNotifier::Read);
-    const auto listen = [&] {
-        char line = 0;
-        if (read(STDIN_FILENO, &line, 1) <= 0) {
-            gate.setEnabled(false);
-            QApplication::quit();
-        } else if (!window.isVisible()) {
-            window.showBeside(tolvo::readAreas(get(store, tolvo::settingKeys.hints.keepFree)));
-        }
-    };
-    if (!run.isEmpty()) {
-        QObject::connect(&gate, &QSocketNotifier::activated, &window, listen);
-    } else {
-        gate.setEnabled(false);
+    std::optional<tolvo::GateWatch> gate;
+    if (run.isEmpty()) {
         window.show();
+    } else {
+        offerTools(window, store, run);
+        const auto showOnce = [&] {
+            if (!window.isVisible())
+                window.showBeside(tolvo::readAreas(get(store, tolvo::settingKeys.hints.keepFree)));
+        };
+        gate.emplace(showOnce, &QApplication::quit);
     }
     return QApplication::exec();
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/DesktopClipboard.h"
 
-#include "platform/desktop/x11_selection.h"
-#include "platform/desktop/x11_text_transfer.h"
+#include "platform/desktop/clipboard_ways.h"
 
 #include <QClipboard>
 #include <QDeadlineTimer>
@@ -10,8 +9,6 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QTimer>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -19,47 +16,7 @@ namespace tolvo {
 
 namespace {
 
-constexpr int offerMilliseconds = 500;  // how long the first offer may take after the window is shown
-constexpr int settleMilliseconds = 100; // how long it may take once the window has the focus
-constexpr int stepMilliseconds = 20;    // between two repaints of the windows during a wait
-
-bool isWayland() {
-    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
-}
-
-/// Whether only the program with the focus can read the clipboard. That holds for X11 programs under a
-/// Wayland compositor too.
-bool clipboardFollowsFocus() {
-    return isWayland() || (isX11() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
-}
-
-bool clipboardOffers() {
-    if (isX11())
-        return x11ClipboardHasOwner();
-    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-    return data && !data->formats().isEmpty();
-}
-
-void waitForFirstOffer() {
-    if (!clipboardFollowsFocus() || QGuiApplication::focusWindow())
-        return;
-    QEventLoop loop;
-    QTimer settled;
-    settled.setSingleShot(true);
-    QObject::connect(&settled, &QTimer::timeout, &loop, &QEventLoop::quit);
-    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &loop, [&](const QWindow *focus) {
-        // The offer comes before the focus; under X11 it is fetched by the compositor only after it.
-        if (focus && !isX11())
-            settled.start(settleMilliseconds);
-    });
-    QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &loop, [&] {
-        if (clipboardOffers())
-            loop.quit();
-    });
-    QTimer::singleShot(offerMilliseconds, &loop, &QEventLoop::quit);
-    if (!clipboardOffers())
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
-}
+constexpr int stepMilliseconds = 20; // between two repaints of the windows during a wait
 
 /// The clipboard's text as the toolkit reads it, which on Wayland gives up after a second. A text that is
 /// offered but doesn't arrive by then is no answer.
@@ -90,16 +47,7 @@ ClipboardContent contentWithoutText() {
     return data->hasText() ? ClipboardContent::Nothing : ClipboardContent::Other; // an empty text
 }
 
-using Selection = X11TextTransfer::Selection;
-
-/// A transfer from another program's selection; none where the toolkit does the reading.
-std::unique_ptr<X11TextTransfer> transferOf(Selection selection) {
-    const QClipboard &clipboard = *QGuiApplication::clipboard();
-    if (!isX11() ||
-        (selection == Selection::Clipboard ? clipboard.ownsClipboard() : clipboard.ownsSelection()))
-        return nullptr;
-    return std::make_unique<X11TextTransfer>(selection);
-}
+using Selection = TextTransfer::Selection;
 
 } // namespace
 
@@ -141,16 +89,11 @@ std::optional<QString> DesktopClipboard::readSelection() {
 }
 
 void DesktopClipboard::writeText(const QString &text) {
-    // No clear before the new text: it would hide from the keeper of an earlier session that it has lost the
-    // clipboard.
-    if (text.isEmpty())
-        QGuiApplication::clipboard()->clear();
-    else
-        QGuiApplication::clipboard()->setText(m_lineEnds.goOut(text));
+    putOnClipboard(m_lineEnds.goOut(text));
 }
 
 bool DesktopClipboard::needsInputToWrite() {
-    return isWayland(); // which wants the serial number of an input event
+    return clipboardNeedsInput();
 }
 
 void DesktopClipboard::replaceOwnText(const QString &text) {
@@ -168,7 +111,7 @@ void DesktopClipboard::replaceOwnText(const QString &text) {
 
 /// The text that a transfer brings; without a transfer, the text that the toolkit reads. The wait is
 /// announced after `patience` milliseconds.
-std::optional<QString> DesktopClipboard::fetch(std::unique_ptr<X11TextTransfer> transfer, int patience) {
+std::optional<QString> DesktopClipboard::fetch(std::unique_ptr<TextTransfer> transfer, int patience) {
     if (!transfer)
         return textOfToolkit(QClipboard::Clipboard);
     if (!transfer->advance(patience)) {
@@ -186,7 +129,7 @@ std::optional<QString> DesktopClipboard::fetch(std::unique_ptr<X11TextTransfer> 
 }
 
 /// Waits with the windows painted; false if the owner gives no sign of life or the user ends the wait.
-bool DesktopClipboard::waitFor(X11TextTransfer &transfer) const {
+bool DesktopClipboard::waitFor(TextTransfer &transfer) const {
     const std::shared_ptr<void> guard = guardInput ? guardInput() : nullptr;
     QDeadlineTimer end(ownerMilliseconds);
     while (!transfer.advance(stepMilliseconds)) {

@@ -10,7 +10,7 @@
 
 namespace tolvo {
 
-class X11TextTransfer;
+class TextTransfer;
 
 /// The clipboard of the window system. Its owner may hang: the window stays painted meanwhile, and the wait
 /// ends after a time limit or when the user cancels.
@@ -24,6 +24,7 @@ class DesktopClipboard final : public Clipboard {
     [[nodiscard]] std::optional<QString> takeText() override;
     [[nodiscard]] std::optional<QString> readText() override;
     [[nodiscard]] std::optional<QString> readSelection() override;
+    /// Fails with clipboardNotOpened if another program holds the clipboard open.
     void writeText(const QString &text) override;
 
     /// Begins the next take and reports whether it will return at once. False where the window must be shown
@@ -51,16 +52,16 @@ class DesktopClipboard final : public Clipboard {
     int ownerMilliseconds = 5000; ///< the longest wait without a sign of life from the owner
 
   private:
-    [[nodiscard]] std::optional<QString> fetch(std::unique_ptr<X11TextTransfer> transfer,
+    [[nodiscard]] std::optional<QString> fetch(std::unique_ptr<TextTransfer> transfer,
                                                int patience = shortPatience);
-    [[nodiscard]] bool waitFor(X11TextTransfer &transfer) const;
+    [[nodiscard]] bool waitFor(TextTransfer &transfer) const;
 
     static constexpr int shortPatience = 150; // milliseconds
 
     ClipboardLineEnds m_lineEnds;
-    std::unique_ptr<X11TextTransfer> m_begun; ///< by comesAtOnce(), for the next take
+    std::unique_ptr<TextTransfer> m_begun; ///< by comesAtOnce(), for the next take
     /// Some owners crash when they answer a window that is gone, so transfers without an answer are kept.
-    std::vector<std::unique_ptr<X11TextTransfer>> m_unanswered;
+    std::vector<std::unique_ptr<TextTransfer>> m_unanswered;
 };
 
 } // namespace tolvo

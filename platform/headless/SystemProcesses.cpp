@@ -2,17 +2,11 @@
 #include "platform/headless/SystemProcesses.h"
 
 #include "base/failure.h"
-#include "platform/headless/open_descriptors.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QProcessEnvironment>
 
-#include <array>
-#include <cerrno>
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/syscall.h>
-#include <unistd.h>
 #include <utility>
 
 namespace tolvo {
@@ -25,18 +19,11 @@ namespace {
 
 } // namespace
 
-SystemProcesses::~SystemProcesses() {
-    for (const int end : {m_gateIn, m_gateOut}) {
-        if (end >= 0)
-            close(end);
-    }
-}
-
 qint64 SystemProcesses::start(const ProgramStart &start) {
     QProcess process;
     process.setProgram(start.program);
     process.setArguments(start.arguments);
-    process.setStandardInputFile(start.heldBack ? gate() : QProcess::nullDevice());
+    process.setStandardInputFile(start.heldBack ? m_gate.input() : QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
     if (start.heldBack || start.askedFor) {
@@ -44,43 +31,25 @@ qint64 SystemProcesses::start(const ProgramStart &start) {
         for (const auto &[said, variable] :
              {std::pair{start.heldBack, heldBackVariable}, {start.askedFor, askedForVariable}}) {
             if (said)
-                environment.insert(QLatin1StringView(variable), QString::number(getpid()));
+                environment.insert(QLatin1StringView(variable),
+                                   QString::number(QCoreApplication::applicationPid()));
         }
         process.setProcessEnvironment(environment);
     }
     // The program that started this one may wait for the end of the streams that it passed on.
-    for (const int descriptor : openDescriptors())
-        fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+    keepFilesFromChildren();
     qint64 identifier = 0;
     if (!process.startDetached(&identifier))
         failNotStarted(start.program);
     return identifier;
 }
 
-QString SystemProcesses::gate() {
-    if (std::array<int, 2> pipe{-1, -1}; m_gateIn < 0 && pipe2(pipe.data(), O_CLOEXEC) == 0) {
-        m_gateOut = pipe[0];
-        m_gateIn = pipe[1];
-    }
-    return m_gateIn < 0 ? QProcess::nullDevice() : QStringLiteral("/proc/self/fd/%1").arg(m_gateOut);
-}
-
 void SystemProcesses::letGo() {
-    // The line end fits into the pipe, whether anybody reads it or not: our own end for reading stays open.
-    if (m_gateIn >= 0 && write(m_gateIn, "\n", 1) < 0)
-        close(std::exchange(m_gateIn, -1)); // the companion leaves instead
+    m_gate.open();
 }
 
 void SystemProcesses::waitFor(qint64 process) {
-    // A handle on the process, not its number: numbers are reused, and the process is not a child of this
-    // one.
-    const int handle = static_cast<int>(syscall(SYS_pidfd_open, static_cast<pid_t>(process), 0U));
-    if (handle < 0)
-        return;
-    pollfd ended{handle, POLLIN, 0};
-    while (poll(&ended, 1, -1) < 0 && errno == EINTR) {
-    }
-    close(handle);
+    waitForProcess(process);
 }
 
 bool SystemProcesses::open(const QString &) {

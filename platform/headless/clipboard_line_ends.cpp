@@ -6,7 +6,7 @@
 namespace tolvo {
 
 QString ClipboardLineEnds::takeIn(QString foreign) {
-    m_lineFeeds = !foreign.contains(u'\r');
+    m_lineFeeds = !foreign.contains(u'\r') && (systemLineFeeds || foreign.contains(u'\n'));
     return comeIn(std::move(foreign));
 }
 

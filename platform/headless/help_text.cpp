@@ -2,6 +2,7 @@
 #include "platform/headless/help_text.h"
 
 #include "base/application.h"
+#include "platform/program_arguments.h"
 
 #include <cstdio>
 #include <string_view>
@@ -21,6 +22,7 @@ bool answersForHelp(int argc, char **argv, const QString &program, const QString
     const std::string_view first = argc > 1 ? argv[1] : "";
     if (first != "--help" && first != "-h" && first != "--version")
         return false;
+    joinCallersConsole();
     printHelp(first == "--version" ? versionText(program) : help);
     return true;
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Fetches the text of a selection in small steps, so that an owner that hangs can't block the program. Source
-// of the protocol: Inter-Client Communication Conventions Manual, version 2.0, section 2 (selections, INCR
-// transfers).
+// Fetches the text of a selection from an X server. Source of the protocol: Inter-Client Communication
+// Conventions Manual, version 2.0, section 2 (selections, INCR transfers).
 #pragma once
 
+#include "platform/desktop/TextTransfer.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <array>
 #include <cstdint>
@@ -16,23 +16,16 @@ namespace tolvo {
 
 /// One transfer, over a connection of its own: asks the owner of a selection for its formats, then for its
 /// text, which may come in pieces. Only for selections that other programs own.
-class X11TextTransfer {
+class X11TextTransfer final : public TextTransfer {
   public:
-    enum class Selection { Clipboard, Primary };
-
     explicit X11TextTransfer(Selection selection);
-    ~X11TextTransfer();
+    ~X11TextTransfer() override;
     X11TextTransfer(const X11TextTransfer &) = delete;
     X11TextTransfer &operator=(const X11TextTransfer &) = delete;
 
-    /// Continues the transfer for at most this long. True once it is over.
-    bool advance(int milliseconds);
-
-    /// Whether the owner has done something since the last call.
-    [[nodiscard]] bool ownerHasMoved();
-
-    /// The text, once the transfer is over; empty if the selection has no owner or no text.
-    [[nodiscard]] QString text() const;
+    bool advance(int milliseconds) override;
+    [[nodiscard]] bool ownerHasMoved() override;
+    [[nodiscard]] QString text() const override;
 
   private:
     enum class Step { Targets, Text, Pieces, Over };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/DesktopNotification.h"
+#include "platform/desktop/unix/DesktopNotification.h"
 
 #include "base/application.h"
 
@@ -98,6 +98,10 @@ void DesktopNotification::chosen(uint id, const QString &action) {
 void DesktopNotification::closed(uint id, uint) {
     if (id == m_id)
         m_id = 0;
+}
+
+std::unique_ptr<Notification> desktopNotification() {
+    return std::make_unique<DesktopNotification>();
 }
 
 } // namespace tolvo

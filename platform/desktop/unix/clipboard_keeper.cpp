@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/clipboard_keeper.h"
 
-#include "platform/desktop/x11_selection.h"
-#include "platform/headless/open_descriptors.h"
+#include "platform/desktop/unix/x11_selection.h"
+#include "platform/unix/open_descriptors.h"
 
 #include <QClipboard>
 #include <QEventLoop>

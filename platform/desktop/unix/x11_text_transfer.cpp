@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/x11_text_transfer.h"
+#include "platform/desktop/unix/x11_text_transfer.h"
 
-#include "platform/desktop/xcb_reply.h"
+#include "platform/desktop/unix/xcb_reply.h"
 
 #include <QDeadlineTimer>
 #include <QUrl>

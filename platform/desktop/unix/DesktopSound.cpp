@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/DesktopSound.h"
+#include "platform/desktop/unix/DesktopSound.h"
+
+#include "platform/desktop/desktop_sound.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -65,6 +67,10 @@ void DesktopSound::playerEnded(bool well) {
         m_players->removeFirst();
     if (!m_players->isEmpty() && (m_loop || !well))
         startPlayer();
+}
+
+std::unique_ptr<SoundPlayer> desktopSound() {
+    return std::make_unique<DesktopSound>();
 }
 
 } // namespace tolvo

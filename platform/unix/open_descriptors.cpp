@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/headless/open_descriptors.h"
+#include "platform/unix/open_descriptors.h"
 
 #include <cstdlib>
 #include <dirent.h>
