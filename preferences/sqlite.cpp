@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/sqlite.h"
 
+#include "platform/library_path.h"
+
 #include <QByteArray>
 #include <QStringDecoder>
 
@@ -22,7 +24,8 @@ QString textOfValue(int type, const void *bytes, int size) {
 SqliteConnection::SqliteConnection(const QString &path, int busyMilliseconds) {
     constexpr int flags =
         SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &m_handle, flags, nullptr);
+    const QByteArray name = path == QLatin1StringView(":memory:") ? path.toUtf8() : libraryPath(path);
+    const int code = sqlite3_open_v2(name.constData(), &m_handle, flags, nullptr);
     if (code != SQLITE_OK) {
         const SqliteError error{code, QString::fromUtf8(sqlite3_errstr(code))};
         sqlite3_close_v2(m_handle);

@@ -2,6 +2,7 @@
 #include "spelling/dictionary_package.h"
 
 #include "spelling/dictionary_check.h"
+#include "spelling/zip_file.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -41,8 +42,7 @@ bool leadsOut(const QString &name) {
 class PackageReader {
   public:
     explicit PackageReader(const QString &path)
-        : m_zip(unzOpen64(QFile::encodeName(path).constData()), &unzClose),
-          m_package(QFileInfo(path).fileName()) {}
+        : m_file(path), m_zip(openZip(m_file), &unzClose), m_package(QFileInfo(path).fileName()) {}
 
     /// False with a fault.
     bool read() {
@@ -104,7 +104,8 @@ class PackageReader {
         return true;
     }
 
-    Zip m_zip;
+    QFile m_file;
+    Zip m_zip; ///< reads m_file
     QString m_package;
     qint64 m_total = 0;
 };

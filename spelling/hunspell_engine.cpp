@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/hunspell_engine.h"
 
-#include <QFile>
 #include <QStringList>
 #include <algorithm>
 #include <hunspell.hxx>
 #include <mutex>
 #include <optional>
 
+#include "platform/library_path.h"
 #include "spelling/dictionary_check.h"
 #include "spelling/dictionary_encoding.h"
 #include "spelling/word_forms.h"
@@ -32,8 +32,7 @@ class HunspellEngine::Library {
     }
     static std::unique_ptr<Hunspell> load(const QString &aff, const QString &dic) {
         const std::lock_guard lock(tables());
-        return std::make_unique<Hunspell>(QFile::encodeName(aff).constData(),
-                                          QFile::encodeName(dic).constData());
+        return std::make_unique<Hunspell>(libraryPath(aff).constData(), libraryPath(dic).constData());
     }
     std::unique_ptr<Hunspell> m_hunspell;
 
