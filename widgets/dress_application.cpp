@@ -40,24 +40,44 @@ void dressPalette() {
 
 class ThemeWatch : public QObject {
   public:
-    using QObject::QObject;
+    explicit ThemeWatch(QObject *parent) : QObject(parent) {
+        QApplication::setStyle(new HouseStyle);
+        dressStyle();
+        dressPalette();
+    }
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override {
-        if (event->type() == QEvent::ApplicationPaletteChange && watched == qApp)
+        if (event->type() == QEvent::ApplicationPaletteChange && watched == qApp) {
+            dressStyle();
             dressPalette();
+        }
         return false;
     }
+
+  private:
+    /// The style of Windows has no dark colours: while the theme is dark, the toolkit's own stands in.
+    void dressStyle() {
+        const bool dark = isDark(QGuiApplication::palette());
+        const auto *style = qobject_cast<QProxyStyle *>(QApplication::style());
+        if (dark && !m_standsIn && style && style->baseStyle()->name() == QLatin1StringView("windowsvista")) {
+            m_standsIn = true;
+            QApplication::setStyle(new HouseStyle(QStringLiteral("fusion")));
+        } else if (!dark && m_standsIn) {
+            m_standsIn = false;
+            QApplication::setStyle(new HouseStyle);
+        }
+    }
+
+    bool m_standsIn = false;
 };
 
 } // namespace
 
 void dressApplication() {
-    QApplication::setStyle(new HouseStyle);
     QGuiApplication::setWindowIcon(themedIcon(QStringLiteral("tolvo"))); // a file's would load two plugins
     QGuiApplication::setDesktopFileName(QStringLiteral("tolvo"));        // what Wayland calls the window
     QCoreApplication::setApplicationName(QStringLiteral("tolvo"));       // and the class that X11 knows it by
-    dressPalette();
     qApp->installEventFilter(new ThemeWatch(qApp));
     new ScreenFit(qApp);
 }

@@ -11,6 +11,10 @@ namespace tolvo {
 /// Buttons inside fields get names.
 class HouseStyle : public QProxyStyle {
   public:
+    HouseStyle() = default;
+    /// On the style of that name instead of the platform's.
+    explicit HouseStyle(const QString &base) : QProxyStyle(base) {}
+
     void polish(QWidget *widget) override;
     using QProxyStyle::polish;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
