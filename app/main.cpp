@@ -63,11 +63,11 @@ int runOnce() {
     OnDemandHttpClient http(folders.programs);
     http.guardInput = [&escape] { return escape.guard(); };
     http.cancelled = [&escape] { return escape.escapePressed(); };
-    NoWordAutomation word;
+    const std::unique_ptr<WordAutomation> word = wordOfSystem();
     SpellingServices spelling{.store = store,
                               .boxes = boxes,
                               .http = http,
-                              .word = word,
+                              .word = *word,
                               .dataFolder = folders.data,
                               .userFolder = SpellingServices::defaultUserFolder()};
     const RunServices services{.store = store,

@@ -61,7 +61,7 @@ class WordApplication {
 class WordAutomation {
   public:
     virtual ~WordAutomation() = default;
-    /// False on a platform that Word doesn't run on.
+    /// False where Word can't run, or is not installed.
     [[nodiscard]] virtual bool isPossible() const { return true; }
     /// Starts a new, hidden instance. Fails with 429 if that is not possible.
     [[nodiscard]] virtual std::unique_ptr<WordApplication> create() = 0;
@@ -73,5 +73,8 @@ class NoWordAutomation final : public WordAutomation {
     [[nodiscard]] bool isPossible() const override { return false; }
     [[nodiscard]] std::unique_ptr<WordApplication> create() override;
 };
+
+/// Word as this system starts it: on Windows by COM automation.
+[[nodiscard]] std::unique_ptr<WordAutomation> wordOfSystem();
 
 } // namespace tolvo
