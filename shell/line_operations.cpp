@@ -6,6 +6,7 @@
 #include "base/numbers.h"
 #include "search/expression_search.h"
 #include "search/live_search.h"
+#include "text/column_choice.h"
 #include "text/line_list.h"
 #include "text/text_host.h"
 
@@ -75,6 +76,13 @@ QString withoutLines(const ToolInput &in, const QString &result) {
     return result;
 }
 
+/// Says why the text stays.
+QString unchanged(const ToolInput &in, const QString &trouble) {
+    in.context.host.warn(trouble, {});
+    in.context.host.setStatus(QStringLiteral("The text stays as it is"));
+    return in.text;
+}
+
 } // namespace
 
 QString removeDuplicates(const ToolInput &in, const DuplicateSettings &settings) {
@@ -92,11 +100,16 @@ QString choosePatternLines(const ToolInput &in, const PatternLinesSettings &sett
     }
     const ChosenLines chosen =
         patternLines(in.text, settings, in.context.engine, MatchBudget({}, in.context.patience));
-    if (chosen.trouble.isEmpty())
-        return withoutLines(in, chosen.text);
-    in.context.host.warn(chosen.trouble, {});
-    in.context.host.setStatus(QStringLiteral("The text stays as it is"));
-    return in.text;
+    return chosen.trouble.isEmpty() ? withoutLines(in, chosen.text) : unchanged(in, chosen.trouble);
+}
+
+QString chooseColumns(const ToolInput &in, const ColumnSettings &settings) {
+    const ChosenLines chosen = chosenColumns(in.text, settings);
+    if (!chosen.trouble.isEmpty())
+        return unchanged(in, chosen.trouble);
+    in.context.host.setStatus(settings.drop ? QStringLiteral("Columns dropped")
+                                            : QStringLiteral("Columns chosen"));
+    return chosen.text;
 }
 
 ChosenLines patternLines(const QString &text, const PatternLinesSettings &settings,

@@ -16,6 +16,9 @@ namespace tolvo {
 /// text stays.
 [[nodiscard]] QString choosePatternLines(const ToolInput &in, const PatternLinesSettings &settings);
 
+/// A list of columns that can't be read is said in a warning; the text stays.
+[[nodiscard]] QString chooseColumns(const ToolInput &in, const ColumnSettings &settings);
+
 /// The lines that hold a pattern, or the others: each is looked at by itself, as if it were the whole text.
 /// An empty pattern chooses nothing, and the text is whole.
 [[nodiscard]] ChosenLines patternLines(const QString &text, const PatternLinesSettings &settings,

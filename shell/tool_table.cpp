@@ -136,6 +136,7 @@ constexpr ToolRow table[] = {
     {u"tbTAB",  pure<tabTable>(),                       lines_N,  says(u"Columns parted by tabs")},
     {u"tbTRA",  pure<transposedTable>(),                lines_N,  says(u"Rows and columns swapped")},
 
+    {u"tbCOL",  asked<chooseColumns>(),                 lines_N},
     {u"lnSRT",  asked<sortedLines>(),                   lines_N,  says(u"Lines sorted")},
     {u"lnUNI",  asked<removeDuplicates>(),              lines_N},
     {u"lnPAT",  asked<choosePatternLines>(),            lines_N},

@@ -139,4 +139,14 @@ struct EveryLineSettings {
     bool operator==(const EveryLineSettings &) const = default;
 };
 
+struct ColumnSettings {
+    bool drop = false; ///< these columns go; otherwise they are what stays, in their order
+    QString columns = QStringLiteral("2,1"); ///< a list (text/column_list.h)
+
+    static constexpr QStringView section = u"Columns";
+    static constexpr std::tuple fields{Field{&ColumnSettings::drop, u"Drop", toolForms::Check{}},
+                                       Field{&ColumnSettings::columns, u"Columns", toolForms::HeldText{}}};
+    bool operator==(const ColumnSettings &) const = default;
+};
+
 } // namespace tolvo

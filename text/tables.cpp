@@ -3,131 +3,14 @@
 
 #include "base/collation.h"
 #include "text/lines.h"
+#include "text/table_cells.h"
 
-#include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
-#include <array>
 
 namespace tolvo {
 
 namespace {
-
-/// Where a quoted cell of CSV ends, its quote counted; -1 if it is not closed.
-qsizetype endOfQuoted(QStringView line) {
-    for (qsizetype i = 1; i < line.size(); ++i) {
-        if (line[i] != u'"')
-            continue;
-        if (i + 1 == line.size() || line[i + 1] != u'"')
-            return i + 1;
-        ++i;
-    }
-    return -1;
-}
-
-QStringList cellsBy(QStringView line, QChar separator) {
-    QStringList cells;
-    for (QStringView rest = line;;) {
-        const QStringView trimmed = leftTrimBlanks(rest);
-        const qsizetype quoted = trimmed.startsWith(u'"') ? endOfQuoted(trimmed) : -1;
-        const QStringView after = quoted < 0 ? QStringView() : leftTrimBlanks(trimmed.sliced(quoted));
-        if (quoted >= 0 && (after.isEmpty() || after.front() == separator)) {
-            cells += trimmed.first(quoted).sliced(1).chopped(1).toString().replace(QStringLiteral("\"\""),
-                                                                                   QStringLiteral("\""));
-            if (after.isEmpty())
-                return cells;
-            rest = after.sliced(1);
-            continue;
-        }
-        const qsizetype end = rest.indexOf(separator);
-        cells += trimBlanks(end < 0 ? rest : rest.first(end)).toString();
-        if (end < 0)
-            return cells;
-        rest = rest.sliced(end + 1);
-    }
-}
-
-QStringList cellsByTabs(QStringView line) {
-    return line.toString().split(u'\t');
-}
-
-QStringList cellsByCommas(QStringView line) {
-    return cellsBy(line, u',');
-}
-
-QStringList cellsBySemicolons(QStringView line) {
-    return cellsBy(line, u';');
-}
-
-/// The bars at both ends of a row of Markdown part nothing; an escaped one is part of its cell.
-QStringList cellsByBars(QStringView line) {
-    QStringView inner = trimBlanks(line);
-    if (inner.startsWith(u'|'))
-        inner = inner.sliced(1);
-    if (inner.endsWith(u'|') && !inner.endsWith(u"\\|"))
-        inner.chop(1);
-    QStringList cells;
-    QString cell;
-    for (qsizetype i = 0; i < inner.size(); ++i) {
-        if (inner.sliced(i).startsWith(u"\\|")) {
-            cell += inner[++i];
-        } else if (inner[i] == u'|') {
-            cells += trimBlanks(cell).toString();
-            cell.clear();
-        } else {
-            cell += inner[i];
-        }
-    }
-    cells += trimBlanks(cell).toString();
-    return cells;
-}
-
-QStringList cellsByBlanks(QStringView line) {
-    static const QRegularExpression blanks(QStringLiteral(" {2,}"));
-    return trimBlanks(line).toString().split(blanks);
-}
-
-/// A way to part cells: `sign` is in every line that it parts.
-struct Split {
-    QStringView sign;
-    QStringList (*cells)(QStringView);
-};
-
-/// How many rows the most usual number of cells above 1 has.
-qsizetype agreement(const QList<QStringView> &lines, const Split &split) {
-    QHash<qsizetype, qsizetype> rows;
-    qsizetype most = 0;
-    for (const QStringView line : lines) {
-        const qsizetype cells = line.contains(split.sign) ? split.cells(line).size() : 0;
-        if (cells > 1)
-            most = std::max(most, ++rows[cells]);
-    }
-    return most;
-}
-
-constexpr std::array<Split, 5> splits{{{u"\t", cellsByTabs},
-                                       {u"|", cellsByBars},
-                                       {u";", cellsBySemicolons},
-                                       {u",", cellsByCommas},
-                                       {u"  ", cellsByBlanks}}};
-
-/// The one that parts most lines into the same number of cells.
-const Split &bestSplit(const QList<QStringView> &lines) {
-    const Split *best = splits.data();
-    qsizetype mostAgreement = 0;
-    for (const Split &split : splits) {
-        const qsizetype rows = agreement(lines, split);
-        if (rows > mostAgreement) {
-            mostAgreement = rows;
-            best = &split;
-        }
-    }
-    return *best;
-}
-
-QStringList cellsOf(QStringView line, const Split &split) {
-    return trimWhiteSpace(line).isEmpty() ? QStringList() : split.cells(line);
-}
 
 bool isLineUnderHead(const QStringList &cells) {
     static const QRegularExpression dashes(QStringLiteral("^:?-{3,}:?$"));
@@ -186,11 +69,11 @@ QString withoutTabs(const QString &cell) {
 
 Table readTable(QStringView text) {
     const QList<QStringView> lines = splitLines(text);
-    const Split &split = bestSplit(lines);
+    const Parting &parting = bestParting(lines);
     Table table;
     for (const QStringView line : lines) {
-        const QStringList cells = cellsOf(line, split);
-        if (cells.isEmpty() || table.size() != 1 || split.cells != cellsByBars || !isLineUnderHead(cells))
+        const QStringList cells = valuesOf(line, parting);
+        if (cells.isEmpty() || table.size() != 1 || parting.sign != barSign || !isLineUnderHead(cells))
             table += cells;
     }
     return table;
@@ -198,15 +81,18 @@ Table readTable(QStringView text) {
 
 QStringList cellsOfColumn(QStringView text, int column) {
     const QList<QStringView> lines = splitLines(text);
-    const Split &split = bestSplit(lines);
+    const Parting &parting = bestParting(lines);
     QStringList cells;
     for (const QStringView line : lines)
-        cells += cellsOf(line, split).value(column - 1);
+        cells += valuesOf(line, parting).value(column - 1);
     return cells;
 }
 
 QString alignedTable(QStringView text) {
-    const Table table = readTable(text);
+    return alignedTable(readTable(text));
+}
+
+QString alignedTable(const Table &table) {
     const QList<Column> columns = layoutOf(table);
     QStringList lines;
     for (const QStringList &row : table) {
@@ -240,8 +126,7 @@ QString csvTable(QStringView text) {
     return writtenTable(readTable(text), u",", [](const QString &cell) {
         const bool plain =
             !cell.contains(u',') && !cell.contains(u'"') && trimBlanks(cell).size() == cell.size();
-        return plain ? cell
-                     : u'"' + QString(cell).replace(QStringLiteral("\""), QStringLiteral("\"\"")) + u'"';
+        return plain ? cell : quotedCell(cell);
     });
 }
 

@@ -24,6 +24,7 @@ using Table = QList<QStringList>;
 /// The table with its columns aligned by blanks, as wide as a fixed-width font shows them, two blanks between
 /// them; columns of numbers at the right.
 [[nodiscard]] QString alignedTable(QStringView text);
+[[nodiscard]] QString alignedTable(const Table &table);
 /// As a table of Markdown, its first row the head; bars inside cells are escaped.
 ///   markdownTable(u"a⇥b|1⇥2") == u"| a | b ||| --- | --- ||| 1 | 2 |" with the line ends that "||" stands
 ///   for

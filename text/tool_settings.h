@@ -135,7 +135,7 @@ using ToolSettings = std::variant<IndentSettings, WordWrapSettings, RemoveLinesS
                                   NumberListSettings, LineNumberSettings,
                                   // text/line_settings.h
                                   SortLinesSettings, DuplicateSettings, PatternLinesSettings,
-                                  AroundLinesSettings, SeparatorSettings, EveryLineSettings,
+                                  AroundLinesSettings, SeparatorSettings, EveryLineSettings, ColumnSettings,
                                   // text/writing_settings.h
                                   TypographySettings, LanguageCaseSettings, ParagraphWrapSettings>;
 

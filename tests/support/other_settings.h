@@ -25,4 +25,10 @@ template <class Settings>
     return settings;
 }
 
+/// A list of columns has to be one.
+template <>
+[[nodiscard]] inline ColumnSettings otherSettings() {
+    return {true, QStringLiteral("1,3-")};
+}
+
 } // namespace tolvo::test

@@ -2,6 +2,7 @@
 // The tools of lines by what has to hold for any text.
 #include "base/case_folding.h"
 #include "tests/support/print.h"
+#include "text/column_choice.h"
 #include "text/line_choice.h"
 #include "text/line_list.h"
 #include "text/line_order.h"
@@ -106,6 +107,20 @@ TEST(Columns, areThoseOfTheTable) {
     }
     EXPECT_EQ(cellsOfColumn(u"|a|b|\r\n|---|---|\r\n|1|2|", 2), (QStringList{u"b"_s, u"---"_s, u"2"_s}))
         << "the line under a head is a line";
+}
+
+TEST(Columns, areChosenFromMarkdown) {
+    const QString rows[][3] = {
+        {u"2,1"_s, u"|a\\|b|c|\n|:--|---|\n|1|2|"_s, u"|c|a\\|b|\n|---|:--|\n|2|1|"_s},
+        {u"1,4"_s, u"| a  | b |\n| -- | --- |\n|    | 2 |"_s, u"| a |  |\n| -- |  |\n|  |  |"_s},
+        {u"1,4"_s, u"| a | b |\n|---|:-:|"_s, u"| a |  |\n| --- | --- |"_s},
+        {u"1,3"_s, u"a | b"_s, u"|a | |"_s},
+    };
+    for (const auto &[columns, text, chosen] : rows) {
+        QString picture = text;
+        const ChosenLines result = chosenColumns(picture.replace(u'\n', u"\r\n"_s), {false, columns});
+        EXPECT_EQ(QString(result.text).remove(u'\r'), chosen) << shown(text);
+    }
 }
 
 TEST(CaseFolding, isFull) {

@@ -88,6 +88,7 @@ TEST(ToolSettings, haveTheirPlacesAndDefaults) {
                            u"Separator|Join=0 Separator|Separator=,  Separator|Trim=1 "
                            "Separator|LeaveOutEmpty=0"_s,
                            u"EveryLine|Drop=0 EveryLine|Every=2 EveryLine|First=1"_s,
+                           u"Columns|Drop=0 Columns|Columns=2,1"_s,
                            u"Typography|Language=British Typography|Blanks=1"_s,
                            u"LanguageCase|Language=Any LanguageCase|Kind=Upper"_s,
                            u"ParagraphWrap|Width=72 ParagraphWrap|Fill=0"_s}));

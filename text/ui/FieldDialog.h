@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // A settings dialog that is made of the fields of its settings: a list for an enumeration, a check box for a
-// flag, a box for a number, and a sample below.
+// flag, a box for a number, a line for a text, and a sample below.
 #pragma once
 
+#include "platform/message_box.h"
 #include "text/ui/ToolDialog.h"
+#include "text/ui/dialog_fields.h"
 #include "widgets/NumberBox.h"
 #include "widgets/grid.h"
 #include "widgets/screen_fit.h"
@@ -19,6 +21,7 @@ struct FieldLook {
     QString caption;               ///< with its mnemonic; a label ends in a colon
     QStringList choices = {};      ///< of an enumeration, in its order
     NumberBox::Limits limits = {}; ///< of a number
+    int firstChoice = 0;           ///< the number of the first of the choices
 };
 
 /// How it shows its sample: in so many rows, whose lines end where they end or go on below.
@@ -27,11 +30,12 @@ struct SampleLook {
     bool wraps = true;
 };
 
-/// `Settings` holds enumerations, flags and whole numbers.
+/// `Settings` holds enumerations, flags, whole numbers and texts. While the sample can't be made, it says
+/// why, and OK refuses with the same words.
 template <class Settings>
 class FieldDialog : public SettingsDialog<Settings> {
   public:
-    using Sample = std::function<QString(const Settings &)>;
+    using Sample = std::function<ChosenLines(const Settings &)>;
 
     /// `looks` are those of the fields, in their order; `sample` gives what the sample shows.
     FieldDialog(const QString &name, const QString &caption, const QList<FieldLook> &looks, SampleLook shown,
@@ -39,6 +43,7 @@ class FieldDialog : public SettingsDialog<Settings> {
         : SettingsDialog<Settings>(context), m_sampleOf(std::move(sample)), m_grid(new QGridLayout) {
         forEachField([&](const auto &field, qsizetype index) {
             addControl(settings.*field.member, field.stringKey.toString(), looks.at(index));
+            m_firstChoices += looks.at(index).firstChoice;
         });
         m_sample = this->makeSample(shown.rows);
         if (!shown.wraps) {
@@ -59,16 +64,28 @@ class FieldDialog : public SettingsDialog<Settings> {
 
     [[nodiscard]] Settings settings() const override {
         Settings settings;
-        forEachField(
-            [&](const auto &field, qsizetype index) { take(settings.*field.member, *m_controls.at(index)); });
+        forEachField([&](const auto &field, qsizetype index) { take(settings.*field.member, index); });
         return settings;
     }
 
     void setSettings(const Settings &settings) override {
-        forEachField(
-            [&](const auto &field, qsizetype index) { show(settings.*field.member, *m_controls.at(index)); });
+        forEachField([&](const auto &field, qsizetype index) { show(settings.*field.member, index); });
         refreshSample();
         m_controls.first()->setFocus();
+    }
+
+    void accept() override {
+        const QString trouble = m_sampleOf(settings()).trouble;
+        if (trouble.isEmpty())
+            return SettingsDialog<Settings>::accept();
+        this->boxes().show({.text = trouble, .icon = BoxIcon::Information});
+        for (QWidget *control : m_controls) {
+            if (auto *line = qobject_cast<QLineEdit *>(control)) {
+                line->setFocus();
+                line->selectAll();
+                return;
+            }
+        }
     }
 
   private:
@@ -93,6 +110,10 @@ class FieldDialog : public SettingsDialog<Settings> {
                                       QString(look.caption).remove(u'&').remove(u':'), look.limits, this);
             m_controls += box;
             QObject::connect(box, &NumberBox::changed, this, [this] { refreshSample(); });
+        } else if constexpr (std::is_same_v<Value, QString>) {
+            auto *line = makeLine(QStringLiteral("txt") + key, this);
+            m_controls += line;
+            QObject::connect(line, &QLineEdit::textChanged, this, [this] { refreshSample(); });
         } else {
             auto *list = new QComboBox(this);
             list->setObjectName(QStringLiteral("cmb") + key);
@@ -105,32 +126,50 @@ class FieldDialog : public SettingsDialog<Settings> {
                           std::is_same_v<Value, int> ? Qt::AlignLeft : Qt::Alignment());
     }
 
-    static void show(bool value, QWidget &control) { static_cast<QCheckBox &>(control).setChecked(value); }
-    static void show(int value, QWidget &control) { static_cast<NumberBox &>(control).setValue(value); }
-    template <class Choice>
-    static void show(Choice value, QWidget &control) {
-        static_cast<QComboBox &>(control).setCurrentIndex(static_cast<int>(value));
+    template <class Control>
+    [[nodiscard]] Control &control(qsizetype index) const {
+        return static_cast<Control &>(*m_controls.at(index));
     }
 
-    static void take(bool &value, const QWidget &control) {
-        value = static_cast<const QCheckBox &>(control).isChecked();
+    template <class Value>
+    void show(const Value &value, qsizetype index) {
+        if constexpr (std::is_same_v<Value, bool>)
+            control<QCheckBox>(index).setChecked(value);
+        else if constexpr (std::is_same_v<Value, int>)
+            control<NumberBox>(index).setValue(value);
+        else if constexpr (std::is_same_v<Value, QString>)
+            control<QLineEdit>(index).setText(value);
+        else
+            control<QComboBox>(index).setCurrentIndex(static_cast<int>(value) - m_firstChoices.at(index));
     }
-    static void take(int &value, const QWidget &control) {
-        value = static_cast<const NumberBox &>(control).value();
-    }
-    template <class Choice>
-    static void take(Choice &value, const QWidget &control) {
-        value = static_cast<Choice>(static_cast<const QComboBox &>(control).currentIndex());
+
+    template <class Value>
+    void take(Value &value, qsizetype index) const {
+        if constexpr (std::is_same_v<Value, bool>)
+            value = control<QCheckBox>(index).isChecked();
+        else if constexpr (std::is_same_v<Value, int>)
+            value = control<NumberBox>(index).value();
+        else if constexpr (std::is_same_v<Value, QString>)
+            value = control<QLineEdit>(index).text();
+        else
+            value = static_cast<Value>(control<QComboBox>(index).currentIndex() + m_firstChoices.at(index));
     }
 
     void refreshSample() {
-        if (m_sample != nullptr)
-            m_sample->setSample(m_sampleOf(settings()));
+        if (m_sample == nullptr)
+            return;
+        const ChosenLines shown = m_sampleOf(settings());
+        m_sample->setSample(shown.trouble.isEmpty() ? shown.text : shown.trouble);
+        for (QWidget *control : m_controls) {
+            if (qobject_cast<QLineEdit *>(control) != nullptr)
+                control->setAccessibleDescription(shown.trouble);
+        }
     }
 
     Sample m_sampleOf;
     QGridLayout *m_grid;
     QList<QWidget *> m_controls; ///< in the order of the fields
+    QList<int> m_firstChoices;   ///< the same
     SampleBox *m_sample = nullptr;
 };
 

@@ -57,7 +57,7 @@ SettingsDialogPtr<TypographySettings> makeToolDialog(const TypographySettings &s
         QStringLiteral("dlgTypography"), QStringLiteral("Typography"), looks, SampleLook{3},
         [](const TypographySettings &now) {
             const QString sample = typographySample(now.language);
-            return sample + u'\n' + typographic(sample, now);
+            return ChosenLines{sample + u'\n' + typographic(sample, now), {}};
         },
         settings, context);
 }
@@ -74,7 +74,7 @@ SettingsDialogPtr<LanguageCaseSettings> makeToolDialog(const LanguageCaseSetting
         QStringLiteral("dlgLanguageCase"), QStringLiteral("Case by Language"), looks, SampleLook{3},
         [](const LanguageCaseSettings &now) {
             const QString sample = caseSample(now.language);
-            return sample + u'\n' + caseByLanguage(sample, now);
+            return ChosenLines{sample + u'\n' + caseByLanguage(sample, now), {}};
         },
         settings, context);
 }
@@ -88,13 +88,12 @@ SettingsDialogPtr<ParagraphWrapSettings> makeToolDialog(const ParagraphWrapSetti
     return std::make_unique<FieldDialog<ParagraphWrapSettings>>(
         QStringLiteral("dlgParagraphWrap"), QStringLiteral("Wrap Paragraphs"), looks, SampleLook{8, false},
         [](const ParagraphWrapSettings &now) {
-            return wrappedParagraphs(
-                QStringLiteral(
-                    "> An answer from a letter, quoted with its marks as they came,\r\n"
-                    "> in lines that were broken at another width.\r\n"
-                    "- An item of a list, whose words stay under each other wherever it is broken\r\n"
-                    "// A comment of a program, which goes on as a comment on the next line"),
-                now);
+            const QString sample = QStringLiteral(
+                "> An answer from a letter, quoted with its marks as they came,\r\n"
+                "> in lines that were broken at another width.\r\n"
+                "- An item of a list, whose words stay under each other wherever it is broken\r\n"
+                "// A comment of a program, which goes on as a comment on the next line");
+            return ChosenLines{wrappedParagraphs(sample, now), {}};
         },
         settings, context);
 }

@@ -49,6 +49,10 @@ namespace tolvo {
 [[nodiscard]] SettingsDialogPtr<EveryLineSettings> makeToolDialog(const EveryLineSettings &settings,
                                                                   const ToolDialogContext &context);
 
+/// dlgColumns: which columns stay, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<ColumnSettings> makeToolDialog(const ColumnSettings &settings,
+                                                               const ToolDialogContext &context);
+
 // Those of dlgWriting.cpp, each with a sample
 
 /// dlgTypography: the language whose rules count.

@@ -225,6 +225,23 @@ TEST_F(Dialogs, toolsOfLinesShowWhatTheyWillDo) {
     EXPECT_EQ(counting.sample(), u"Line 2|Line 3|Line 5|Line 6");
 }
 
+TEST_F(Dialogs, columnsThatCantBeReadAreRefused) {
+    const auto dialog = made(ColumnSettings{});
+    User user(*dialog);
+    EXPECT_TRUE(user.sample().startsWith(u"cups, drink|2, tea|"));
+    user.types("txtColumns", u"4-3,0"_s);
+    EXPECT_TRUE(user.sample().startsWith(u"0 is not a column"));
+    EXPECT_EQ(user.control<QLineEdit>("txtColumns").accessibleDescription(), user.sample());
+    user.clicks("OKButton");
+    EXPECT_TRUE(boxes.said().startsWith(u"0 is not a column"));
+    EXPECT_TRUE(dialog->isVisible() && user.control<QLineEdit>("txtColumns").hasFocus());
+    user.types("txtColumns", u"4-3"_s);
+    user.clicks("chkDrop");
+    EXPECT_TRUE(user.sample().startsWith(u"drink, cups|tea, 2|"));
+    user.clicks("OKButton");
+    EXPECT_EQ(dialog->settings(), (ColumnSettings{true, u"4-3"_s}));
+}
+
 TEST_F(Dialogs, patternsThatCantBeLookedForAreRefused) {
     ToolDialogContext context{engine, boxes};
     context.choose = [](const QString &text, const PatternLinesSettings &settings) {
