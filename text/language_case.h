@@ -5,7 +5,8 @@
 
 namespace tolvo {
 
-/// The text in capitals, small letters or title case by the rules of a language: see base/language_case.h.
+/// The text in capitals, small letters or title case by the rules of a language: see base/language_case.h,
+/// for Irish text/irish_case.h.
 ///   with {Turkish, Upper}: u"iyi" gives "İYİ"
 [[nodiscard]] QString caseByLanguage(QStringView text, const LanguageCaseSettings &settings);
 

@@ -25,13 +25,13 @@ struct TypographySettings {
 };
 
 struct LanguageCaseSettings {
-    enum class Language { Any, Azerbaijani, Dutch, Greek, Lithuanian, Turkish };
+    enum class Language { Any, Azerbaijani, Dutch, Greek, Lithuanian, Turkish, Irish };
     enum class Kind { Upper, Lower, Title };
     Language language = Language::Any;
     Kind kind = Kind::Upper;
 
-    static constexpr std::array<QStringView, 6> languages = {u"Any",   u"Azerbaijani", u"Dutch",
-                                                             u"Greek", u"Lithuanian",  u"Turkish"};
+    static constexpr std::array<QStringView, 7> languages = {
+        u"Any", u"Azerbaijani", u"Dutch", u"Greek", u"Lithuanian", u"Turkish", u"Irish"};
     static constexpr std::array<QStringView, 3> kinds = {u"Upper", u"Lower", u"Title"};
     static constexpr QStringView section = u"LanguageCase";
     static constexpr std::tuple fields{

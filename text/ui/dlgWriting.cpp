@@ -38,6 +38,8 @@ QString caseSample(LanguageCaseSettings::Language language) {
             "\u038C\u03BC\u03B7\u03C1\u03BF\u03C2, \u039F\u0394\u03A5\u03A3\u03A3\u0395\u03A5\u03A3");
     case LanguageCaseSettings::Language::Lithuanian:
         return QStringLiteral("i\u0307\u0300 lietuva, VILNIUS");
+    case LanguageCaseSettings::Language::Irish:
+        return QStringLiteral("an t-uisce, ar an bhfear, T\u00EDR na n\u00D3g");
     case LanguageCaseSettings::Language::Any:
         break;
     }
@@ -67,7 +69,8 @@ SettingsDialogPtr<LanguageCaseSettings> makeToolDialog(const LanguageCaseSetting
     const QList<FieldLook> looks = {
         {QStringLiteral("&Language:"),
          {QStringLiteral("Any other"), QStringLiteral("Azerbaijani"), QStringLiteral("Dutch"),
-          QStringLiteral("Greek"), QStringLiteral("Lithuanian"), QStringLiteral("Turkish")}},
+          QStringLiteral("Greek"), QStringLiteral("Lithuanian"), QStringLiteral("Turkish"),
+          QStringLiteral("Irish")}},
         {QStringLiteral("&Change to:"),
          {QStringLiteral("UPPER CASE"), QStringLiteral("lower case"), QStringLiteral("Title Case")}}};
     return std::make_unique<FieldDialog<LanguageCaseSettings>>(
