@@ -19,10 +19,12 @@ GROWTH = 1.15
 
 # A tool with settings runs with its defaults; these have more in them, and a search runs with settings only.
 SETTINGS = {"lnPAT": "Drop=0, Pattern=\\bthe\\b, Mode=3, MatchCase=0, WholeWords=0, SpecialChars=0",
+            "lnSRP": "Pattern=\\d+, Mode=3, MatchCase=0, WholeWords=0, SpecialChars=0, Order=2, Descending=0",
+            "exCNT": "Pattern=\\w+, Mode=3, MatchCase=0, WholeWords=0, SpecialChars=0",
             "foWRP": "Width=60, Justify=0, Hanging=0, Tab=True",
             "edREP": "Mode=1, Find=the, MatchCase=0, Direction=D, WholeWords=0, SpecialChars=0, Replace=a, "
                      "SmartReplace=0, ReplaceAll=1"}
-SORTS = {"soALP", "soNUM", "lnSRT"}
+SORTS = {"soALP", "soNUM", "lnSRT", "lnSRP"}
 SHELL = [("soALP", ["sort", "-f"]), ("soREV", ["tac"]), ("foWRP", ["fmt", "-w", "60"]), ("foT2S", ["expand"]),
          ("foTRA", ["sed", "s/[ \\t]*$//"]), ("ccUPP", ["tr", "a-z", "A-Z"])]
 

@@ -5,6 +5,7 @@
 #include "shell/finding_tools.h"
 #include "shell/line_operations.h"
 #include "shell/moving_lines.h"
+#include "shell/pattern_operations.h"
 #include "shell/search_tools.h"
 #include "shell/selection_tools.h"
 #include "shell/spelling_tools.h"
@@ -138,6 +139,7 @@ constexpr ToolRow table[] = {
 
     {u"tbCOL",  asked<chooseColumns>(),                 lines_N},
     {u"lnSRT",  asked<sortedLines>(),                   lines_N,  says(u"Lines sorted")},
+    {u"lnSRP",  asked<sortByPattern>(),                 lines_N},
     {u"lnUNI",  asked<removeDuplicates>(),              lines_N},
     {u"lnPAT",  asked<choosePatternLines>(),            lines_N},
     {u"lnNTH",  asked<chooseEveryLine>(),               lines_N},
@@ -186,6 +188,7 @@ constexpr ToolRow table[] = {
     {u"exMAI",  text<foundMailAddresses>(),             N},
     {u"exNUM",  text<foundNumbers>(),                   N},
     {u"exDAT",  text<foundDates>(),                     N},
+    {u"exCNT",  asked<countMatches>(),                  N},
     {u"pgHTM",  pure<htmlAsText>(),                     N,        says(u"Page as plain text")},
     {u"pgMKD",  pure<markdownAsText>(),                 N,        says(u"Markdown as plain text")},
     {u"chDIF",  inSession(compareWithClipboard),        own},

@@ -62,8 +62,10 @@ QList<QByteArray> keysOf(const QList<QStringView> &texts, const SortLinesSetting
     return keys;
 }
 
-/// The places of the keys, from 0, in order.
-QList<qsizetype> sortedPlaces(const QList<QByteArray> &keys, const SortLinesSettings &settings) {
+} // namespace
+
+QList<qsizetype> placesInOrder(const QList<QStringView> &texts, const SortLinesSettings &settings) {
+    const QList<QByteArray> keys = keysOf(texts, settings);
     QList<qsizetype> places(keys.size());
     std::iota(places.begin(), places.end(), qsizetype{0});
     std::stable_sort(places.begin(), places.end(), [&](qsizetype one, qsizetype other) {
@@ -76,8 +78,6 @@ QList<qsizetype> sortedPlaces(const QList<QByteArray> &keys, const SortLinesSett
     return places;
 }
 
-} // namespace
-
 QString sortedLines(QStringView text, const SortLinesSettings &settings) {
     const LineList list(text);
     const qsizetype head = std::min<qsizetype>(settings.head, list.lines.size());
@@ -88,7 +88,7 @@ QString sortedLines(QStringView text, const SortLinesSettings &settings) {
         compared[i] = cells.at(head + i);
 
     QList<QStringView> sorted = list.lines.first(head);
-    for (const qsizetype place : sortedPlaces(keysOf(compared, settings), settings))
+    for (const qsizetype place : placesInOrder(compared, settings))
         sorted += lines.at(place);
     return list.joined(sorted);
 }

@@ -4,6 +4,7 @@
 
 #include "text/line_settings.h"
 
+#include <QList>
 #include <QString>
 #include <QStringView>
 
@@ -14,5 +15,10 @@ namespace tolvo {
 /// of Unicode, so that a surrogate pair comes after U+FFFF. A line end at the end of the text stays there.
 ///   sortedLines(u"b|a10|a2", {}) == u"a2|a10|b"
 [[nodiscard]] QString sortedLines(QStringView text, const SortLinesSettings &settings);
+
+/// The places of texts, from 0, as the order, the language, `descending`, `ignoreCase` and `unique` of the
+/// settings put them.
+[[nodiscard]] QList<qsizetype> placesInOrder(const QList<QStringView> &texts,
+                                             const SortLinesSettings &settings);
 
 } // namespace tolvo

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/line_sets.h"
 
+#include "base/case_folding.h"
 #include "base/collation.h"
 #include "text/lines.h"
 #include "text/word_rules.h"
@@ -29,13 +30,14 @@ bool isBlank(QStringView line) {
     return trimWhiteSpace(line).isEmpty();
 }
 
-/// Counts texts in the order in which they come; they must outlive it.
+/// Counts texts in the order in which they come; they and what they count as must outlive it.
 class Counts {
   public:
-    void add(QStringView text) {
-        const qsizetype place = m_places.value(text, m_counts.size());
+    void add(QStringView text) { add(text, text); }
+    void add(QStringView text, QStringView countsAs) {
+        const qsizetype place = m_places.value(countsAs, m_counts.size());
         if (place == m_counts.size()) {
-            m_places.insert(text, place);
+            m_places.insert(countsAs, place);
             m_counts.append({0, text});
         }
         ++m_counts[place].number;
@@ -133,6 +135,16 @@ QString countedWords(QStringView text) {
             counts.add(word);
         start = end;
     }
+    return counts.asTable();
+}
+
+QString countedTexts(const QStringList &texts, bool ignoresCase) {
+    QStringList keys;
+    for (const QString &text : texts)
+        keys += ignoresCase ? caseFolded(text) : text;
+    Counts counts;
+    for (qsizetype i = 0; i < texts.size(); ++i)
+        counts.add(texts.at(i), keys.at(i));
     return counts.asTable();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 #include <functional>
 
@@ -25,6 +26,9 @@ namespace tolvo {
 ///   countedLines(u"a|b|a") == u"2⇥a|1⇥b"
 [[nodiscard]] QString countedLines(QStringView text);
 [[nodiscard]] QString countedWords(QStringView text);
+
+/// The same for any texts; if asked, those that differ in case alone count as the first of them.
+[[nodiscard]] QString countedTexts(const QStringList &texts, bool ignoresCase);
 
 /// Each sentence on a line of its own, where Unicode ends sentences (UAX #29), but not after abbreviations
 /// such as "e.g.". Line ends inside a sentence become blanks; blank lines part paragraphs and stay.

@@ -69,28 +69,6 @@ struct DuplicateSettings {
     bool operator==(const DuplicateSettings &) const = default;
 };
 
-struct PatternLinesSettings {
-    /// By the numbers of the modes of search (search/search_request.h).
-    enum class Mode { Simple = 1, Wildcard, RegularExpression };
-    bool drop = false; ///< the lines with a match go; otherwise they are what stays
-    QString pattern;
-    Mode mode = Mode::Simple;
-    bool matchCase = false;
-    bool wholeWords = false;   ///< not for a regular expression
-    bool specialChars = false; ///< "\t" and its like in the pattern; a regular expression always has them
-
-    static constexpr QStringView section = u"PatternLines";
-    static constexpr std::tuple fields{
-        Field{&PatternLinesSettings::drop, u"Drop", toolForms::Check{}},
-        Field{&PatternLinesSettings::pattern, u"Pattern", toolForms::HeldText{}},
-        Field{&PatternLinesSettings::mode, u"Mode",
-              toolForms::Number<static_cast<int>(Mode::Simple), static_cast<int>(Mode::RegularExpression)>{}},
-        Field{&PatternLinesSettings::matchCase, u"MatchCase", toolForms::Check{}},
-        Field{&PatternLinesSettings::wholeWords, u"WholeWords", toolForms::Check{}},
-        Field{&PatternLinesSettings::specialChars, u"SpecialChars", toolForms::Check{}}};
-    bool operator==(const PatternLinesSettings &) const = default;
-};
-
 struct AroundLinesSettings {
     static constexpr int widest = 20;
     static constexpr QStringView counter = u"{n}"; ///< in either text, the number of the line

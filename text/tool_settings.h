@@ -7,6 +7,7 @@
 #include "base/CParams.h"
 #include "text/line_settings.h"
 #include "text/numbering.h"
+#include "text/pattern_settings.h"
 #include "text/settings_fields.h"
 #include "text/writing_settings.h"
 
@@ -134,8 +135,10 @@ struct LineNumberSettings {
 using ToolSettings = std::variant<IndentSettings, WordWrapSettings, RemoveLinesSettings, BulletSettings,
                                   NumberListSettings, LineNumberSettings,
                                   // text/line_settings.h
-                                  SortLinesSettings, DuplicateSettings, PatternLinesSettings,
-                                  AroundLinesSettings, SeparatorSettings, EveryLineSettings, ColumnSettings,
+                                  SortLinesSettings, DuplicateSettings, AroundLinesSettings,
+                                  SeparatorSettings, EveryLineSettings, ColumnSettings,
+                                  // text/pattern_settings.h
+                                  PatternLinesSettings, PatternSortSettings, MatchCountSettings,
                                   // text/writing_settings.h
                                   TypographySettings, LanguageCaseSettings, ParagraphWrapSettings>;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The windows of tool settings: for a tool that is about to run, and for an Action of a PowerButton.
 #include "search/ui/frmSearch.h"
-#include "shell/line_operations.h"
+#include "shell/pattern_operations.h"
 #include "shell/tool_table.h"
 #include "shell/ui/MainWindow.h"
 #include "shell/ui/desktop_dialogs.h"
@@ -13,8 +13,8 @@ namespace tolvo {
 
 ToolDialogContext DesktopDialogs::toolDialogContext() {
     ToolDialogContext context{m_session->oTextMethods, m_services.boxes, &m_parent, m_session->currentFont()};
-    context.choose = [this](const QString &text, const PatternLinesSettings &settings) {
-        return patternLines(text, settings, m_session->oTextMethods);
+    context.choose = [this](const QString &text, const ToolSettings &settings) {
+        return withPattern(text, settings, m_session->oTextMethods);
     };
     return context;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Which lines hold a pattern.
-#include "shell/line_operations.h"
+// What becomes of a text by a pattern.
+#include "shell/pattern_operations.h"
 #include "tests/support/print.h"
 #include "tests/support/silent_host.h"
 #include "text/cTextMethods.h"

@@ -81,14 +81,19 @@ TEST(ToolSettings, haveTheirPlacesAndDefaults) {
                            "SortLines|Descending=0 SortLines|IgnoreCase=0 SortLines|Unique=0"_s,
                            u"Duplicates|KeepLast=0 Duplicates|IgnoreCase=0 Duplicates|IgnoreBlanks=0 "
                            "Duplicates|Neighbours=0 Duplicates|LeaveBlanks=0 Duplicates|Counts=0"_s,
-                           u"PatternLines|Drop=0 PatternLines|Pattern= PatternLines|Mode=1 "
-                           "PatternLines|MatchCase=0 PatternLines|WholeWords=0 PatternLines|SpecialChars=0"_s,
                            u"AroundLines|Before={n}.  AroundLines|After= AroundLines|Start=1 "
                            "AroundLines|Step=1 AroundLines|Width=0 AroundLines|SkipBlanks=1"_s,
                            u"Separator|Join=0 Separator|Separator=,  Separator|Trim=1 "
                            "Separator|LeaveOutEmpty=0"_s,
                            u"EveryLine|Drop=0 EveryLine|Every=2 EveryLine|First=1"_s,
                            u"Columns|Drop=0 Columns|Columns=2,1"_s,
+                           u"PatternLines|Drop=0 PatternLines|Pattern= PatternLines|Mode=1 "
+                           "PatternLines|MatchCase=0 PatternLines|WholeWords=0 PatternLines|SpecialChars=0"_s,
+                           u"PatternSort|Pattern= PatternSort|Mode=1 PatternSort|MatchCase=0 "
+                           "PatternSort|WholeWords=0 PatternSort|SpecialChars=0 PatternSort|Order=1 "
+                           "PatternSort|Descending=0"_s,
+                           u"MatchCount|Pattern= MatchCount|Mode=1 MatchCount|MatchCase=0 "
+                           "MatchCount|WholeWords=0 MatchCount|SpecialChars=0"_s,
                            u"Typography|Language=British Typography|Blanks=1"_s,
                            u"LanguageCase|Language=Any LanguageCase|Kind=Upper"_s,
                            u"ParagraphWrap|Width=72 ParagraphWrap|Fill=0"_s}));

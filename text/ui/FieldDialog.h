@@ -36,11 +36,14 @@ template <class Settings>
 class FieldDialog : public SettingsDialog<Settings> {
   public:
     using Sample = std::function<ChosenLines(const Settings &)>;
+    using Idle = std::function<QStringList(const Settings &)>;
 
-    /// `looks` are those of the fields, in their order; `sample` gives what the sample shows.
+    /// `looks` are those of the fields, in their order; `sample` gives what the sample shows, `idle` the
+    /// controls that don't count as things stand, by their names.
     FieldDialog(const QString &name, const QString &caption, const QList<FieldLook> &looks, SampleLook shown,
-                Sample sample, const Settings &settings, const ToolDialogContext &context)
-        : SettingsDialog<Settings>(context), m_sampleOf(std::move(sample)), m_grid(new QGridLayout) {
+                Sample sample, const Settings &settings, const ToolDialogContext &context, Idle idle = {})
+        : SettingsDialog<Settings>(context), m_sampleOf(std::move(sample)), m_idle(std::move(idle)),
+          m_grid(new QGridLayout) {
         forEachField([&](const auto &field, qsizetype index) {
             addControl(settings.*field.member, field.stringKey.toString(), looks.at(index));
             m_firstChoices += looks.at(index).firstChoice;
@@ -137,9 +140,10 @@ class FieldDialog : public SettingsDialog<Settings> {
             control<QCheckBox>(index).setChecked(value);
         else if constexpr (std::is_same_v<Value, int>)
             control<NumberBox>(index).setValue(value);
-        else if constexpr (std::is_same_v<Value, QString>)
+        else if constexpr (std::is_same_v<Value, QString>) {
             control<QLineEdit>(index).setText(value);
-        else
+            control<QLineEdit>(index).selectAll();
+        } else
             control<QComboBox>(index).setCurrentIndex(static_cast<int>(value) - m_firstChoices.at(index));
     }
 
@@ -160,13 +164,16 @@ class FieldDialog : public SettingsDialog<Settings> {
             return;
         const ChosenLines shown = m_sampleOf(settings());
         m_sample->setSample(shown.trouble.isEmpty() ? shown.text : shown.trouble);
+        const QStringList idle = m_idle ? m_idle(settings()) : QStringList();
         for (QWidget *control : m_controls) {
             if (qobject_cast<QLineEdit *>(control) != nullptr)
                 control->setAccessibleDescription(shown.trouble);
+            control->setEnabled(!idle.contains(control->objectName()));
         }
     }
 
     Sample m_sampleOf;
+    Idle m_idle;
     QGridLayout *m_grid;
     QList<QWidget *> m_controls; ///< in the order of the fields
     QList<int> m_firstChoices;   ///< the same

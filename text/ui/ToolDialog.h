@@ -28,7 +28,7 @@ struct ToolDialogContext {
     std::optional<Font> sampleFont = std::nullopt; ///< nothing: the dialog's own
     ToolPreview *preview = nullptr;                ///< null where there is no text to show it in
     /// Looks for patterns in samples; without it they show as they are.
-    std::function<ChosenLines(const QString &, const PatternLinesSettings &)> choose = {};
+    std::function<ChosenLines(const QString &, const ToolSettings &)> choose = {};
 };
 
 class ToolDialog : public QDialog {

@@ -20,6 +20,12 @@ QLineEdit *makeLine(const QString &name, QWidget *parent) {
     return line;
 }
 
+QStringList orderNames() {
+    return {
+        QStringLiteral("Dictionary: a10, a2, B"), QStringLiteral("Dictionary, numbers by value: a2, a10, B"),
+        QStringLiteral("Number at the beginning: 9 b, 10 a"), QStringLiteral("Character codes: B, a10, a2")};
+}
+
 void whenAnythingChanges(const QWidget &dialog, const QObject *context, const std::function<void()> &then) {
     for (auto *button : dialog.findChildren<QAbstractButton *>())
         QObject::connect(button, &QAbstractButton::toggled, context, then);

@@ -62,10 +62,7 @@ dlgSortLines::dlgSortLines(const SortLinesSettings &settings, const ToolDialogCo
           makeCheck(QStringLiteral("chkUnique"), QStringLiteral("Keep &one of lines that sort alike"), this)),
       m_sample(makeSample(6)) {
     m_order->setObjectName(QStringLiteral("cmbOrder"));
-    m_order->addItems({QStringLiteral("Dictionary: a10, a2, B"),
-                       QStringLiteral("Dictionary, numbers by value: a2, a10, B"),
-                       QStringLiteral("Number at the beginning: 9 b, 10 a"),
-                       QStringLiteral("Character codes: B, a10, a2")});
+    m_order->addItems(orderNames());
     arrange();
     setSettings(settings);
     whenAnythingChanges(*this, this, [this] { refresh(); });

@@ -39,6 +39,12 @@ namespace tolvo {
 /// dlgPatternLines: which lines hold a pattern, with a sample of it.
 [[nodiscard]] SettingsDialogPtr<PatternLinesSettings> makeToolDialog(const PatternLinesSettings &settings,
                                                                      const ToolDialogContext &context);
+/// dlgPatternSort: by which matches lines are sorted, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<PatternSortSettings> makeToolDialog(const PatternSortSettings &settings,
+                                                                    const ToolDialogContext &context);
+/// dlgMatchCount: which matches are counted, with a sample of it.
+[[nodiscard]] SettingsDialogPtr<MatchCountSettings> makeToolDialog(const MatchCountSettings &settings,
+                                                                   const ToolDialogContext &context);
 /// dlgAroundLines: what is put around lines, with a sample of it.
 [[nodiscard]] SettingsDialogPtr<AroundLinesSettings> makeToolDialog(const AroundLinesSettings &settings,
                                                                     const ToolDialogContext &context);

@@ -244,9 +244,9 @@ TEST_F(Dialogs, columnsThatCantBeReadAreRefused) {
 
 TEST_F(Dialogs, patternsThatCantBeLookedForAreRefused) {
     ToolDialogContext context{engine, boxes};
-    context.choose = [](const QString &text, const PatternLinesSettings &settings) {
-        const bool bad =
-            settings.pattern == u"(" && settings.mode == PatternLinesSettings::Mode::RegularExpression;
+    context.choose = [](const QString &text, const ToolSettings &all) {
+        const auto &settings = std::get<PatternLinesSettings>(all);
+        const bool bad = settings.pattern == u"(" && settings.mode == PatternMode::RegularExpression;
         return ChosenLines{settings.pattern + text.first(3), bad ? u"not closed"_s : QString()};
     };
     const auto dialog = makeToolDialog(PatternLinesSettings{}, context);
@@ -264,6 +264,25 @@ TEST_F(Dialogs, patternsThatCantBeLookedForAreRefused) {
     EXPECT_EQ(user.sample(), u"xTea");
     user.clicks("OKButton");
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
+}
+
+TEST_F(Dialogs, patternsHaveTheirModesAndWhatThoseLeaveOut) {
+    ToolDialogContext context{engine, boxes};
+    context.choose = [](const QString &text, const ToolSettings &settings) {
+        return ChosenLines{settingsString(settings) + text.first(1), {}};
+    };
+    const auto sort = makeToolDialog(PatternSortSettings{}, context);
+    User user(*sort);
+    user.types("txtPattern", u"x"_s);
+    user.clicks("chkWholeWords");
+    user.control<QComboBox>("cmbOrder").setCurrentIndex(2);
+    EXPECT_TRUE(user.enabled("chkWholeWords") && user.enabled("chkSpecialChars"));
+    user.control<QComboBox>("cmbMode").setCurrentIndex(2);
+    EXPECT_FALSE(user.enabled("chkWholeWords") || user.enabled("chkSpecialChars"));
+    EXPECT_TRUE(user.sample().startsWith(
+        u"Pattern=x, Mode=3, MatchCase=0, WholeWords=1, SpecialChars=0, Order=2, Descending=0"_s));
+    user.clicks("OKButton");
+    EXPECT_EQ(sort->settings().order, SortLinesSettings::Order::Number);
 }
 
 TEST_F(Dialogs, settingsStringsAreEditedForActions) {
