@@ -8,16 +8,13 @@ namespace tolvo {
 
 namespace {
 
-/// More edits than that are not worth telling apart.
-constexpr int mostEdits = 200;
-
 /// Myers' greedy algorithm, with all that it has reached kept for the way back. Diagonal k holds the places
 /// x, y with x - y = k.
 class ShortDifference {
   public:
     ShortDifference(QStringView before, QStringView after) : m_before(before), m_after(after) {}
 
-    QList<CommonPart> commonParts(int &workLeft) {
+    QList<CommonPart> commonParts(int &workLeft, int mostEdits) {
         const qsizetype last = m_before.size() - m_after.size();
         if (std::abs(last) > mostEdits)
             return {};
@@ -80,8 +77,8 @@ class ShortDifference {
 
 } // namespace
 
-QList<CommonPart> commonCharacters(QStringView before, QStringView after, int &workLeft) {
-    return ShortDifference(before, after).commonParts(workLeft);
+QList<CommonPart> commonCharacters(QStringView before, QStringView after, int &workLeft, int mostEdits) {
+    return ShortDifference(before, after).commonParts(workLeft, mostEdits);
 }
 
 } // namespace tolvo

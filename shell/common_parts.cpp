@@ -13,17 +13,6 @@ bool isWordUnit(QChar unit) {
     return unit.isLetterOrNumber() || unit.isSurrogate() || unit.isMark();
 }
 
-qsizetype endOfToken(QStringView text, qsizetype start, Tokens tokens) {
-    if (tokens == Tokens::Lines) {
-        const qsizetype end = text.indexOf(u'\n', start);
-        return end < 0 ? text.size() : end + 1;
-    }
-    qsizetype end = start;
-    while (end < text.size() && isWordUnit(text[end]))
-        ++end;
-    return std::max(end, start + 1);
-}
-
 /// Calls `take` with the start and the text of each token of more than one unit: the others recur too often.
 template <class Take>
 void forEachToken(QStringView text, Tokens tokens, Take take) {
@@ -87,6 +76,17 @@ std::vector<CommonPart> uniqueTokens(QStringView before, QStringView after, Toke
 }
 
 } // namespace
+
+qsizetype endOfToken(QStringView text, qsizetype start, Tokens tokens) {
+    if (tokens == Tokens::Lines) {
+        const qsizetype end = text.indexOf(u'\n', start);
+        return end < 0 ? text.size() : end + 1;
+    }
+    qsizetype end = start;
+    while (end < text.size() && isWordUnit(text[end]))
+        ++end;
+    return std::max(end, start + 1);
+}
 
 /// Of the unique tokens, the longest sequence that ascends in the first text too.
 QList<CommonPart> commonTokens(QStringView before, QStringView after, Tokens tokens) {

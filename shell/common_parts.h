@@ -17,13 +17,17 @@ struct CommonPart {
 /// What a text is taken apart into: lines with their ends, or words, every other character by itself.
 enum class Tokens { Lines, Words };
 
+/// Where the token ends that begins at a place of the text.
+[[nodiscard]] qsizetype endOfToken(QStringView text, qsizetype start, Tokens tokens);
+
 /// The tokens that occur once in each text, as many of them as stand in the same order; in that order.
 [[nodiscard]] QList<CommonPart> commonTokens(QStringView before, QStringView after, Tokens tokens);
 
 /// The characters of a shortest difference, in their order (E. W. Myers, "An O(ND) difference algorithm and
-/// its variations", 1986). Nothing if it takes more than `workLeft` steps or many edits; what it takes is
-/// subtracted from that.
-[[nodiscard]] QList<CommonPart> commonCharacters(QStringView before, QStringView after, int &workLeft);
+/// its variations", 1986). Nothing if it takes more than `workLeft` steps or more than `mostEdits`; what it
+/// takes is subtracted from the work.
+[[nodiscard]] QList<CommonPart> commonCharacters(QStringView before, QStringView after, int &workLeft,
+                                                 int mostEdits = 200);
 
 /// How many units both texts begin with, or end with.
 [[nodiscard]] qsizetype equalFront(QStringView one, QStringView other);

@@ -6,6 +6,7 @@
 #include "shell/common_parts.h"
 #include "shell/selection_tools.h"
 #include "shell/tool_call.h"
+#include "shell/word_difference.h"
 #include "text/lines.h"
 #include "text/text_host.h"
 
@@ -135,13 +136,8 @@ class Difference {
     QString m_result;
 };
 
-} // namespace
-
-QString lineDifference(QStringView before, QStringView after) {
-    return Difference(before, after).text();
-}
-
-void compareWithClipboard(const ToolCall &call) {
+/// Puts a difference in the place of the text; the legend says how to read it.
+void compare(const ToolCall &call, QString (*difference)(QStringView, QStringView), const QString &legend) {
     TextBox &box = call.context.box;
     TextHost &host = call.context.host;
     const auto clipboard = answered(call.services.clipboard.readText(), host);
@@ -151,19 +147,34 @@ void compareWithClipboard(const ToolCall &call) {
         host.setStatus(QStringLiteral("There is no text on the clipboard"));
         return;
     }
-    extendSelectionToLines(box);
     const bool selected = box.SelLength() > 0;
     const QString text = selected ? box.SelText() : box.Text();
     if (text == *clipboard) {
         host.setStatus(QStringLiteral("The text is the same as that of the clipboard"));
         return;
     }
-    const QString difference = lineDifference(*clipboard, text);
     if (selected)
-        replaceAndSelect(box, difference);
+        replaceAndSelect(box, difference(*clipboard, text));
     else
-        box.setText(difference);
-    host.setStatus(QStringLiteral("- lines are only on the clipboard, + lines only in the text"));
+        box.setText(difference(*clipboard, text));
+    host.setStatus(legend);
+}
+
+} // namespace
+
+QString lineDifference(QStringView before, QStringView after) {
+    return Difference(before, after).text();
+}
+
+void compareWithClipboard(const ToolCall &call) {
+    extendSelectionToLines(call.context.box);
+    compare(call, lineDifference,
+            QStringLiteral("- lines are only on the clipboard, + lines only in the text"));
+}
+
+void compareWordsWithClipboard(const ToolCall &call) {
+    compare(call, wordDifference,
+            QStringLiteral("[-words-] are only on the clipboard, {+words+} only in the text"));
 }
 
 } // namespace tolvo

@@ -15,8 +15,9 @@ namespace tolvo {
 
 struct ToolCall;
 
-/// Puts the difference of the clipboard and the selected text, or the whole text, in its place. Without a
-/// text on the clipboard nothing changes.
+/// Puts the difference of the clipboard and the selected text, or the whole text, in its place: that of the
+/// lines, or that of the words (shell/word_difference.h). Without a text on the clipboard nothing changes.
 void compareWithClipboard(const ToolCall &call);
+void compareWordsWithClipboard(const ToolCall &call);
 
 } // namespace tolvo

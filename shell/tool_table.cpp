@@ -192,6 +192,7 @@ constexpr ToolRow table[] = {
     {u"pgHTM",  pure<htmlAsText>(),                     N,        says(u"Page as plain text")},
     {u"pgMKD",  pure<markdownAsText>(),                 N,        says(u"Markdown as plain text")},
     {u"chDIF",  inSession(compareWithClipboard),        own},
+    {u"chDIW",  inSession(compareWordsWithClipboard),   own},
 
     {u"pbPBT",  nestedPowerButton(),                    own},
     {u"pbCLR",  onText<clearSelection>(),               own},
