@@ -93,12 +93,6 @@ QString rowOf(const QList<QStringView> &cells, const Frame &frame, const Parting
     return frame.before % row % frame.after;
 }
 
-bool isLineOfDashes(const QList<QStringView> &cells) {
-    return std::all_of(cells.begin(), cells.end(), [](QStringView cell) {
-        return cell.size() >= 3 && cell.count(u'-') >= cell.size() - 2 && cell.contains(u"-");
-    });
-}
-
 } // namespace
 
 ChosenLines chosenColumns(QStringView text, const ColumnSettings &settings) {
@@ -124,7 +118,7 @@ ChosenLines chosenColumns(QStringView text, const ColumnSettings &settings) {
     QStringList rows;
     for (const QStringView line : list.lines) {
         const QList<QStringView> cells = cellsOf(line, parting);
-        const bool isUnderHead = parting.sign == barSign && !cells.isEmpty() && isLineOfDashes(cells);
+        const bool isUnderHead = parting.sign == barSign && rows.size() == 1 && isLineUnderHead(line);
         rows += cells.isEmpty()
                     ? QString()
                     : rowOf(choice.of<QStringView>(cells, isUnderHead ? u"---" : u""), frame, parting);

@@ -146,6 +146,19 @@ QStringList valuesOf(QStringView line, const Parting &parting) {
     return values;
 }
 
+bool isLineUnderHead(QStringView line) {
+    constexpr qsizetype fewestDashes = 3;
+    const Cells cells = cellsByBars(line);
+    return std::all_of(cells.begin(), cells.end(), [](QStringView cell) {
+        QStringView dashes = cell;
+        if (dashes.startsWith(u':'))
+            dashes = dashes.sliced(1);
+        if (dashes.endsWith(u':'))
+            dashes.chop(1);
+        return dashes.size() >= fewestDashes && dashes.count(u'-') == dashes.size();
+    });
+}
+
 QString quotedCell(QStringView text) {
     return u'"' + text.toString().replace(QStringLiteral("\""), QStringLiteral("\"\"")) + u'"';
 }

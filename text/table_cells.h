@@ -32,6 +32,10 @@ struct Parting {
 [[nodiscard]] QList<QStringView> cellsOf(QStringView line, const Parting &parting);
 [[nodiscard]] QStringList valuesOf(QStringView line, const Parting &parting);
 
+/// Whether a line is the one under the head of a Markdown table: dashes between bars, maybe with colons.
+///   isLineUnderHead(u"| --- | :---: |")
+[[nodiscard]] bool isLineUnderHead(QStringView line);
+
 /// A text as a quoted cell of CSV (RFC 4180).
 ///   quotedCell(u"a \"b\"") == u"\"a \"\"b\"\"\""
 [[nodiscard]] QString quotedCell(QStringView text);

@@ -12,12 +12,6 @@ namespace tolvo {
 
 namespace {
 
-bool isLineUnderHead(const QStringList &cells) {
-    static const QRegularExpression dashes(QStringLiteral("^:?-{3,}:?$"));
-    return std::all_of(cells.begin(), cells.end(),
-                       [](const QString &cell) { return dashes.match(cell).hasMatch(); });
-}
-
 bool isNumber(const QString &cell) {
     static const QRegularExpression number(QStringLiteral(R"(^[-+]?[0-9][0-9.,' ]*%?$)"));
     return number.match(cell).hasMatch();
@@ -73,7 +67,7 @@ Table readTable(QStringView text) {
     Table table;
     for (const QStringView line : lines) {
         const QStringList cells = valuesOf(line, parting);
-        if (cells.isEmpty() || table.size() != 1 || parting.sign != barSign || !isLineUnderHead(cells))
+        if (cells.isEmpty() || table.size() != 1 || parting.sign != barSign || !isLineUnderHead(line))
             table += cells;
     }
     return table;

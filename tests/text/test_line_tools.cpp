@@ -113,7 +113,9 @@ TEST(Columns, areChosenFromMarkdown) {
     const QString rows[][3] = {
         {u"2,1"_s, u"|a\\|b|c|\n|:--|---|\n|1|2|"_s, u"|c|a\\|b|\n|---|:--|\n|2|1|"_s},
         {u"1,4"_s, u"| a  | b |\n| -- | --- |\n|    | 2 |"_s, u"| a |  |\n| -- |  |\n|  |  |"_s},
-        {u"1,4"_s, u"| a | b |\n|---|:-:|"_s, u"| a |  |\n| --- | --- |"_s},
+        {u"2,3"_s, u"| a | b |\n| :--- | --- |\n| Q-1 | 9-1 |\n|---|---|"_s,
+         u"| b |  |\n| --- | --- |\n| 9-1 |  |\n| --- |  |"_s},
+        {u"1,4"_s, u"| a | b |\n|---|:---:|"_s, u"| a |  |\n| --- | --- |"_s},
         {u"1,3"_s, u"a | b"_s, u"|a | |"_s},
     };
     for (const auto &[columns, text, chosen] : rows) {
