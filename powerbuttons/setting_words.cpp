@@ -67,6 +67,7 @@ constexpr std::array plainWords = {
     SettingWords{u"Step", Kind::Number, u"step"},
     SettingWords{u"Every", Kind::Number, u"every"},
     SettingWords{u"Column", Kind::Number, u"column"},
+    SettingWords{u"Columns", Kind::Text, u"columns"},
     SettingWords{u"Head", Kind::Number, u"head lines"},
     SettingWords{u"Spaces", Kind::Number, u"blanks"},
     SettingWords{u"Language", Kind::Number, u"language"},
