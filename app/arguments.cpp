@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/arguments.h"
 
+#include "powerbuttons/button_file.h"
+
 namespace tolvo {
 
 namespace {
@@ -13,6 +15,19 @@ void takeCommand(const QString &option, const QString &value, Arguments &result)
         result.error = QStringLiteral("one of --button and --tool, and only once");
     result.mode = Arguments::Mode::Command;
     (option == QLatin1StringView("--tool") ? result.tool : result.button) = value;
+}
+
+bool belongsToToolkit(const QStringList &arguments, qsizetype at) {
+    const QString word = arguments.at(at);
+    const bool afterOption = at > 0 && arguments.at(at - 1).startsWith(u'-');
+    return word.startsWith(u'-') || word.isEmpty() ||
+           (afterOption && !word.endsWith(buttonFileEnding, Qt::CaseInsensitive));
+}
+
+void takeFile(const QString &path, Arguments &result) {
+    if (!result.file.isEmpty())
+        result.error = QStringLiteral("only one file at a time");
+    result.file = path;
 }
 
 } // namespace
@@ -30,15 +45,19 @@ Arguments readArguments(const QStringList &arguments) {
             return {.mode = Arguments::Mode::Version};
         else if (option.startsWith(QLatin1StringView("--")))
             result.error = QStringLiteral("unknown option \"%1\"; --help lists them").arg(option);
+        else if (!belongsToToolkit(arguments, i))
+            takeFile(arguments.at(i), result);
     }
+    if (result.error.isEmpty() && result.mode == Arguments::Mode::Command && !result.file.isEmpty())
+        result.error = QStringLiteral("--button and --tool take no file");
     return result;
 }
 
 QString helpText() {
-    return QStringLiteral(R"(Usage: tolvo
+    return QStringLiteral(R"(Usage: tolvo [FILE]
   or:  tolvo --button BUTTON
   or:  tolvo --tool STEP
-Cleans up text on its way through the clipboard: opens a window with the clipboard's text, or runs one PowerButton or tool on the clipboard without a window.
+Cleans up text on its way through the clipboard: opens a window with the clipboard's text, or runs one PowerButton or tool on the clipboard without a window. With a FILE (.tolvobutton) the window offers to load the PowerButton in it.
 
   --button BUTTON  run a PowerButton, given by its number from 1 to 8 or by its name
   --tool STEP      run a tool: TOKEN such as foTRA, with the settings last used, or

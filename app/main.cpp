@@ -47,7 +47,8 @@ class Application : public QApplication {
     DesktopMessageBoxes m_boxes;
 };
 
-int runOnce() {
+/// `buttonFile` is what the session begins with; empty if the user has opened none.
+int runOnce(const QString &buttonFile) {
     const ProgramFolders folders = programFolders();
     SettingsStore store(SettingsStore::defaultPath());
     DesktopClipboard clipboard;
@@ -80,7 +81,11 @@ int runOnce() {
                                .programFolder = folders.programs,
                                .dataFolder = folders.data,
                                .spelling = spelling};
-    modMain run(services, [&] { return std::make_unique<DesktopSession>(services, clipboard, escape); });
+    modMain run(services, [&] {
+        auto window = std::make_unique<DesktopSession>(services, clipboard, escape);
+        window->beginWithButtonFile(buttonFile);
+        return window;
+    });
     return run.Main();
 }
 
@@ -107,7 +112,7 @@ int main(int argc, char **argv) {
         dressApplication();
         QCoreApplication::setApplicationVersion(applicationVersion());
         QGuiApplication::setQuitOnLastWindowClosed(false);
-        const int code = runOnce();
+        const int code = runOnce(arguments.file);
         keeper.sessionOver(code);
         keeper.keepClipboardUntilTaken();
         return code;

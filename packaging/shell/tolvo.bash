@@ -49,6 +49,9 @@ _tolvo() {
         _tolvo_options "$1" "$cur"
     elif [[ ${1##*/} == tolvo-pipe ]]; then
         _tolvo_steps "$cur"
+    else
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -d -- "$cur"; compgen -f -X '!*.tolvobutton' -- "$cur")
     fi
 }
 

@@ -164,6 +164,8 @@ void DesktopSession::showModal(const std::function<void()> &onceShown) {
     QTimer::singleShot(0, m_window.get(), [this] {
         watchStore();
         m_troubles = std::make_unique<TroubleWatch>(*m_session, *m_window);
+        if (!m_buttonFile.isEmpty())
+            m_powerButtonMenu->loadFile(m_buttonFile);
     });
     if (!m_session->bSessionOver)
         m_loop.exec();

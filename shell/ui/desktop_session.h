@@ -25,6 +25,9 @@ class DesktopSession : public SessionWindow {
     DesktopSession(const RunServices &services, DesktopClipboard &clipboard, EscapeWatch &escape);
     ~DesktopSession() override;
 
+    /// Once the window is shown it offers to load the PowerButton of a file; no file if `path` is empty.
+    void beginWithButtonFile(const QString &path) { m_buttonFile = path; }
+
     // SessionWindow
 
     [[nodiscard]] TextBox &txtText1() override;
@@ -53,6 +56,7 @@ class DesktopSession : public SessionWindow {
     std::unique_ptr<TroubleWatch> m_troubles; ///< once the window is shown
     frmMain *m_session = nullptr;
     QEventLoop m_loop;
+    QString m_buttonFile; ///< to be offered once the window is shown
     QString m_lastPlace;  ///< of the main window when the session ended
     int m_panelWidth = 0; ///< as the window came up
     QFileSystemWatcher m_storeWatch;

@@ -109,12 +109,13 @@ class Settings:
 class Tolvo:
     """One run of the program."""
 
-    def __init__(self, settings, wait=True, program="tolvo", **environment):
+    def __init__(self, settings, wait=True, program="tolvo", arguments=(), **environment):
         self.settings = settings
         self.scale = int(environment.get("QT_SCALE_FACTOR", "1"))
         self._text = None
         self._said = b""
-        self.process = subprocess.Popen([os.path.join(PROGRAMS, program)], env={**settings.environment(), **environment},
+        self.process = subprocess.Popen([os.path.join(PROGRAMS, program), *arguments],
+                                        env={**settings.environment(), **environment},
                                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         self._listener = threading.Thread(target=self._listen, daemon=True)
         self._listener.start()

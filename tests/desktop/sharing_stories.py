@@ -3,9 +3,10 @@
 and with keys alone."""
 
 import os
+import shutil
 import unittest
 
-from desk import Settings, Story, Tolvo, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text, wait_for
+from desk import PROGRAMS, Settings, Story, Tolvo, clipboard_becomes, get_clipboard, keys, set_clipboard, type_text, wait_for
 
 TITLE = "Ten Résumé Tips"
 ADDRESS = "ten-resume-tips"
@@ -61,6 +62,44 @@ class SharingStories(Story):
         other.main_is_active()
         other.click("PowerButton 1: Title for the web")
         other.text_becomes(ADDRESS)
+
+    def open_file(self, path):
+        set_clipboard(TITLE)
+        self.runs.append(Tolvo(self.settings, arguments=[path]))
+        return self.runs[-1]
+
+    def test_a_file_is_opened_from_outside(self):
+        path = os.path.join(self.settings.folder, "über mail.tolvobutton")
+        shutil.copy(os.path.join(PROGRAMS, "PowerButtons", "web-title.tolvobutton"), path)
+        run = self.open_file(path)
+        run.active("Load a PowerButton")
+        run.find("Title for the web")
+        run.click("Load")
+        run.main_is_active()
+        run.click("PowerButton 1: Title for the web")
+        run.text_becomes(ADDRESS)
+        run.kill()
+
+        for number in range(1, 9):  # no place is empty
+            self.settings.write("Tolvo", f"PowerButtons\\Button {number}", "Name", f"Mine {number}")
+        run = self.open_file(path)
+        run.active("Load a PowerButton")
+        keys("Return")
+        run.box_says("Replace PowerButton 1 'Mine 1' with 'Title for the web'?")
+        keys("alt+n")
+        run.main_is_active()
+        run.find("PowerButton 1: Mine 1")
+        run.kill()
+
+        with open(path, "a", encoding="utf-8") as file:
+            file.write("step: ccXXX\n")
+        for wrong in path, os.path.join(self.settings.folder, "none"):
+            run = self.open_file(wrong)
+            run.box_says(f"{os.path.basename(wrong)} can't be taken as a PowerButton.")
+            keys("Return")
+            run.main_is_active()
+            run.text_becomes(TITLE)
+            run.kill()
 
     def more_by_keys(self, run, *strokes):
         """From the text to the menu with the Tab key alone."""
