@@ -16,6 +16,7 @@
 #include "shell/ui/dialog_sizes.h"
 #include "shell/ui/dlgConfirmClose.h"
 #include "shell/ui/editor_effects.h"
+#include "shell/ui/manual_key.h"
 #include "shell/ui/window_memory.h"
 #include "spelling/language_rows.h"
 #include "spelling/spelling_provider.h"
@@ -48,9 +49,14 @@ DesktopDialogs::DesktopDialogs(const RunServices &services, MainWindow &parent)
 
 DesktopDialogs::~DesktopDialogs() = default;
 
+QString DesktopDialogs::manualFolder() const {
+    return sAppPath(m_services.dataFolder) + QStringLiteral("manual/");
+}
+
 void DesktopDialogs::attach(frmMain &session) {
     m_session = &session;
     new DialogSizes(session, m_parent);
+    new ManualKey(m_services.processes, m_services.boxes, manualFolder(), m_parent);
 }
 
 void DesktopDialogs::unload() {
@@ -142,7 +148,7 @@ void DesktopDialogs::editOwnWords() {
 void DesktopDialogs::showAbout() {
     const QDate built = QFileInfo(QCoreApplication::applicationFilePath()).lastModified().date();
     frmAbout about(m_services.processes, m_services.boxes, built, &m_parent);
-    const QString manual = sAppPath(m_services.dataFolder) + QStringLiteral("manual/index.html");
+    const QString manual = manualFolder() + QStringLiteral("index.html");
     if (QFileInfo::exists(manual))
         about.offerManual(manual);
     about.exec();

@@ -48,6 +48,7 @@ class DesktopDialogs : public SessionDialogs, private ActionSettings {
     // ActionSettings
     std::optional<QString> getSettings(const QString &token, const QString &details) override;
 
+    [[nodiscard]] QString manualFolder() const;
     [[nodiscard]] ToolDialogContext toolDialogContext();
     std::optional<QString> editSearch(const QString &details, SearchRole role);
     std::optional<QString> editLanguage(const QString &details);
