@@ -10,7 +10,7 @@ system=$(mktemp -d)
 trap 'rm -rf --one-file-system "$system"' EXIT
 mmdebstrap --quiet --variant=minbase --include=bash-completion,ca-certificates,man-db "$suite" "$system" ${3:+"$3"}
 cp "$package" "$system/root/tolvo.deb"
-cp "$here/use_package.sh" "$system/root/"
+cp "$here"/use_*.sh "$system/root/"
 # What is mounted goes with the namespace.
 unshare --mount --pid --fork sh -c '
     mount --bind /dev "$1/dev" && mount -t proc proc "$1/proc" &&

@@ -3,6 +3,7 @@
 # The life of the package on a system that check_package.sh has made: installed, used by an ordinary user, purged.
 set -euo pipefail
 package=$1
+desktop="xvfb openbox xclip xdotool shared-mime-info desktop-file-utils libglib2.0-bin hunspell-en-gb"
 faults=0
 expect() { # WHAT EXPECTED FOUND
     if [ "$2" = "$3" ]; then echo "ok      $1"; else
@@ -28,12 +29,33 @@ offers() {
         printf "%s\n" "${COMPREPLY[@]}"' offers "$@" | paste -s -d '|'
 }
 
+# The window of the command stays until it is closed, and complains of nothing: window_stays WHEN COMMAND...
+window_stays() {
+    as_user env XDG_RUNTIME_DIR=/home/somebody/run QT_QPA_PLATFORM=offscreen timeout 4 "${@:2}" >/tmp/said 2>&1 && code=0 || code=$?
+    expect "the window stays $1" "124" "$code"
+    expect "and nothing is complained of" "" "$(grep -v '^This plugin does not support' /tmp/said)" # offscreen, raise()
+}
+refusal() { as_user "$@" 2>&1 >/dev/null && echo "0" || echo "$?"; }
+
+apt_get() { apt-get "$1" -y -qq --no-install-recommends "${@:2}" >/tmp/apt.log 2>&1 || { cat /tmp/apt.log; exit 1; }; }
+packages() { dpkg-query -W -f '${db:Status-Status} ${Package}\n' | grep -c '^installed'; }
+
+# The same package under an older version.
+make_older() {
+    dpkg-deb -R "$package" /tmp/older
+    sed -i 's/^Version: .*/Version: 0.0.1/' /tmp/older/DEBIAN/control
+    dpkg-deb --root-owner-group -b /tmp/older /tmp/older.deb >/dev/null
+}
+
 apt-get update -qq
 useradd --create-home somebody
+as_user mkdir -m 700 /home/somebody/run
 everything >/tmp/before
-apt-get install -y -qq --no-install-recommends "$package" >/tmp/install.log 2>&1 || { cat /tmp/install.log; exit 1; }
-echo "installed: $(dpkg-query -W tolvo)"
+before=$(packages)
+apt_get install "$package"
 version=$(dpkg-query -W -f '${Version}' tolvo)
+echo "tolvo $version: package $(($(stat -c %s "$package") / 1024)) KiB, installed $(dpkg-query -W -f '${Installed-Size}' tolvo) KiB," \
+    "$(($(packages) - before - 1)) packages come with it"
 dpkg-query -L tolvo >/tmp/files
 
 expect "a pipe" "a b" "$(printf 'b  \na\n' | as_user tolvo-pipe foTRA soALP 2>/dev/null | paste -s -d ' ')"
@@ -42,10 +64,16 @@ for program in tolvo tolvo-pipe /usr/libexec/tolvo/{Advisor,Refresher,Tally}.exe
 done
 expect "the manual has its pages" "8" "$(find /usr/share/tolvo/manual -name '*.html' | wc -l)"
 expect "the checker of updates runs" "0" "$(as_user env /usr/libexec/tolvo/Refresher.exe /update /quiet; echo $?)"
-as_user mkdir -m 700 /home/somebody/run
-as_user env XDG_RUNTIME_DIR=/home/somebody/run QT_QPA_PLATFORM=offscreen timeout 4 tolvo >/tmp/said 2>&1 && code=0 || code=$?
-expect "the window stays until it is closed" "124" "$code"
-expect "and nothing is complained of" "" "$(grep -v '^This plugin does not support' /tmp/said)" # offscreen, raise()
+window_stays "with neither dictionaries, sound player, notifications nor settings" tolvo
+
+expect "a PowerButton that there can't be" 'tolvo: there is no PowerButton "9"; a number from 1 to 8 or a name is meant|2' \
+    "$(refusal tolvo --button 9 | paste -s -d '|')"
+expect "a tool that there isn't" 'tolvo: there is no tool "nonsense"; --list-tools shows them all|2' \
+    "$(refusal tolvo --tool nonsense | paste -s -d '|')"
+expect "no display" 'tolvo: there is no display, so there is no clipboard|1' "$(refusal tolvo --tool foTRA | paste -s -d '|')"
+install -d -m 555 /tmp/sealed
+expect "a pipe in a home that can't be written to" "a" "$(printf 'a  ' | as_user env HOME=/tmp/sealed tolvo-pipe foTRA 2>/dev/null)"
+window_stays "in such a home" env HOME=/tmp/sealed tolvo
 
 for page in tolvo tolvo-pipe tolvo-advisor tolvo-refresher tolvo-tally; do
     case $page in tolvo | tolvo-pipe) program=$page ;; *)
@@ -65,9 +93,30 @@ expect "completion of a setting" "Width=50|Justify=0|Hanging=0|Tab=True" "$(offe
 expect "completion in quotes" "foWRP:Width=9, Tab=True" \
     "$(offers "tolvo-pipe 'foWRP:Width=9, T" tolvo-pipe "'foWRP:Width=9, T")"
 expect "completion of an option" "--list-buttons|--list-dictionaries|--list-tools" "$(offers 'tolvo-pipe --li' tolvo-pipe --li)"
-expect "completion of a dictionary" "en_GB" "$(offers 'tolvo-pipe --spell en_G' tolvo-pipe --spell en_G)"
 
-apt-get purge -y -qq --autoremove tolvo >/tmp/purge.log 2>&1 || { cat /tmp/purge.log; exit 1; }
+# A desktop with a dictionary, for what needs them.
+apt_get install $desktop
+expect "completion of a dictionary" "en_GB" "$(offers 'tolvo-pipe --spell en_G' tolvo-pipe --spell en_G)"
+as_user cp /usr/share/tolvo/PowerButtons/mail.tolvobutton /home/somebody/
+as_user cp /usr/share/tolvo/PowerButtons/mail.tolvobutton /home/somebody/plain
+for file in mail.tolvobutton plain; do
+    expect "the type of $file" "text/x-tolvobutton" \
+        "$(as_user gio info -a standard::content-type "/home/somebody/$file" | sed -n 's/.*content-type: //p')"
+done
+expect "what opens it" "tolvo.desktop" "$(as_user gio mime text/x-tolvobutton | sed -n 's/^Default .*: //p')"
+install -m 755 "$(dirname "$0")/use_clipboard.sh" /home/somebody/
+as_user bash /home/somebody/use_clipboard.sh /home/somebody/mail.tolvobutton >/tmp/session 2>&1 && code=0 || { code=$?; cat /tmp/session; }
+expect "a text is cleaned by what the entry in the menu starts, and by a PowerButton from a file" "0" "$code"
+
+make_older
+apt_get remove tolvo
+apt_get install --allow-downgrades /tmp/older.deb
+apt_get install "$package"
+expect "the version after an older one" "$version" "$(dpkg-query -W -f '${Version}' tolvo)"
+expect "the settings are those of before" "1" "$(as_user tolvo-pipe --list-buttons | wc -l)"
+window_stays "with the settings of before" tolvo
+
+apt_get purge --autoremove tolvo $desktop
 everything >/tmp/after
 expect "no file of the package is left" "" "$(while read -r file; do [ -d "$file" ] || [ ! -e "$file" ] || echo "$file"; done </tmp/files)"
 expect "nothing bears its name" "" "$(find / -xdev -path /proc -prune -o -path /home -prune -o -path /root -prune -o \
