@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: MIT
 # The clipboard's way through the installed program, on a display of its own: what the entry in the menu starts, a
 # PowerButton from a file, a command without a window. use_clipboard.sh FILE.tolvobutton
-set -euo pipefail
+set -xeuo pipefail # what was done is shown after a failure
 button=$1
 export DISPLAY=:7
-Xvfb "$DISPLAY" -screen 0 1280x800x24 2>/dev/null &
+Xvfb "$DISPLAY" -screen 0 1280x800x24 -noreset 2>/dev/null &
 display=$!
 trap 'kill $display' EXIT
 start=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' /usr/share/applications/tolvo.desktop)

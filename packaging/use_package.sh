@@ -103,6 +103,8 @@ for file in mail.tolvobutton plain; do
     expect "the type of $file" "text/x-tolvobutton" \
         "$(as_user gio info -a standard::content-type "/home/somebody/$file" | sed -n 's/.*content-type: //p')"
 done
+expect "completion of a file" "/home/somebody/mail.tolvobutton" "$(offers 'tolvo /home/somebody/' tolvo /home/somebody/ | tr '|' '\n' | grep mail)"
+expect "and of no other file" "" "$(offers 'tolvo /home/somebody/pl' tolvo /home/somebody/pl)"
 expect "what opens it" "tolvo.desktop" "$(as_user gio mime text/x-tolvobutton | sed -n 's/^Default .*: //p')"
 install -m 755 "$(dirname "$0")/use_clipboard.sh" /home/somebody/
 as_user bash /home/somebody/use_clipboard.sh /home/somebody/mail.tolvobutton >/tmp/session 2>&1 && code=0 || { code=$?; cat /tmp/session; }
