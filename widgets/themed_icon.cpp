@@ -2,12 +2,12 @@
 #include "widgets/themed_icon.h"
 
 #include "widgets/contrast.h"
+#include "widgets/icon_drawing.h"
 #include "widgets/painted_icon.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QSvgRenderer>
 
 namespace tolvo {
 
@@ -41,7 +41,7 @@ void paintThemed(QPainter &painter, const QRect &rect, QIcon::Mode mode, const Q
     const int side = qMin(rect.width(), rect.height());
     QRect square(0, 0, side, side);
     square.moveCenter(rect.center());
-    QSvgRenderer(svg).render(&painter, square);
+    paintDrawing(painter, square, svg);
 }
 
 } // namespace
