@@ -63,22 +63,34 @@ class Alphabet {
 
 class WordDifference {
   public:
-    WordDifference(QStringView before, QStringView after) : m_before(before), m_after(after) {}
-
-    QString text() {
-        for (const CommonPart &part : commonTokens(m_before, m_after, Tokens::Words)) {
-            compare(m_before.sliced(m_oldAt, part.oldStart - m_oldAt),
-                    m_after.sliced(m_at, part.start - m_at));
-            addCommon(m_after.sliced(part.start, part.length));
-            m_oldAt = part.oldStart + part.length;
-            m_at = part.start + part.length;
-        }
-        compare(m_before.sliced(m_oldAt), m_after.sliced(m_at));
+    QString of(QStringView before, QStringView after) {
+        compareBy(Tokens::Lines, before, after);
         addCommon({});
         return m_result;
     }
 
   private:
+    /// Compares what is left between the lines, or the words, that occur once in both.
+    void compareBy(Tokens tokens, QStringView before, QStringView after) {
+        if (before == after)
+            return addCommon(after);
+        const auto compareRest = [&](QStringView oldRest, QStringView rest) {
+            if (tokens == Tokens::Lines)
+                compareBy(Tokens::Words, oldRest, rest);
+            else
+                compare(oldRest, rest);
+        };
+        qsizetype oldAt = 0;
+        qsizetype at = 0;
+        for (const CommonPart &part : commonTokens(before, after, tokens)) {
+            compareRest(before.sliced(oldAt, part.oldStart - oldAt), after.sliced(at, part.start - at));
+            addCommon(after.sliced(part.start, part.length));
+            oldAt = part.oldStart + part.length;
+            at = part.start + part.length;
+        }
+        compareRest(before.sliced(oldAt), after.sliced(at));
+    }
+
     void compare(QStringView before, QStringView after) {
         if (before == after)
             return addCommon(after);
@@ -126,10 +138,6 @@ class WordDifference {
         m_result += text;
     }
 
-    QStringView m_before;
-    QStringView m_after;
-    qsizetype m_oldAt = 0; ///< what is left to compare of each text
-    qsizetype m_at = 0;
     QString m_removed; ///< what has changed since the last common word
     QString m_added;
     int m_workLeft = 20'000'000;
@@ -139,7 +147,7 @@ class WordDifference {
 } // namespace
 
 QString wordDifference(QStringView before, QStringView after) {
-    return WordDifference(before, after).text();
+    return WordDifference().of(before, after);
 }
 
 } // namespace tolvo

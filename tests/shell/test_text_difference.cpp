@@ -61,6 +61,7 @@ TEST(WordDifference, marksWords) {
         {u""_s, u"té 2"_s, u"{+té 2+}"_s},
         {u"a b a c"_s, u"a c"_s, u"a [-b a -]c"_s},
         {u"a|b"_s, u"a b"_s, u"a[-|-]{+ +}b"_s},
+        {u"tea tea|milk|tea tea"_s, u"tea|milk|tea"_s, u"tea[- tea-]|milk|tea[- tea-]"_s},
         {u"one two three"_s, u"two three one"_s, u"[-one -]two three{+ one+}"_s},
         {u"(x, x)"_s, u"[x x]"_s, u"[-(-]{+[+}x[-,-] x[-)-]{+]+}"_s},
     };
