@@ -118,12 +118,12 @@ struct EveryLineSettings {
 };
 
 struct ColumnSettings {
-    bool drop = false; ///< these columns go; otherwise they are what stays, in their order
     QString columns = QStringLiteral("2,1"); ///< a list (text/column_list.h)
+    bool drop = false; ///< these columns go; otherwise they are what stays, in their order
 
     static constexpr QStringView section = u"Columns";
-    static constexpr std::tuple fields{Field{&ColumnSettings::drop, u"Drop", toolForms::Check{}},
-                                       Field{&ColumnSettings::columns, u"Columns", toolForms::HeldText{}}};
+    static constexpr std::tuple fields{Field{&ColumnSettings::columns, u"Columns", toolForms::HeldText{}},
+                                       Field{&ColumnSettings::drop, u"Drop", toolForms::Check{}}};
     bool operator==(const ColumnSettings &) const = default;
 };
 

@@ -49,6 +49,31 @@ class LineStories(Story):
         run.ends()
         clipboard_becomes("Tea\nsugar 10\nsugar 9\nMilk")
 
+    def test_columns_and_matches(self):
+        run = self.start("tea,2,hot\nmilk,1,cold")
+        run.main_is_active()
+        self.opens(run, "choose columns", "Choose Columns")
+        type_text("3,0")  # the columns are selected
+        keys("Return")
+        run.box_says("0 is not a column: name columns by numbers from 1, such as 3,1 or 2-4")
+        keys("Return")
+        run.active("Choose Columns")
+        type_text("3,1")
+        keys("Return")
+        run.main_is_active()
+        run.text_becomes("hot,tea\ncold,milk")
+        run.status_becomes("Columns chosen")
+        self.opens(run, "sort by pattern", "Sort by Pattern")
+        type_text(",.")
+        keys("alt+i", "End", "Return")
+        run.main_is_active()
+        run.text_becomes("cold,milk\nhot,tea")
+        self.opens(run, "count matches", "Count Matches")
+        type_text("l")
+        keys("Return")
+        run.main_is_active()
+        run.text_becomes("2\tl")
+
     def test_a_chain_as_a_power_button(self):
         button = "PowerButtons\\Button 1"
         self.settings.write("Tolvo", button, "Name", "List")

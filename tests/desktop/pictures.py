@@ -49,7 +49,9 @@ TOOLS = [("Spaces & Layout", [("Indent...", "Indent"), ("Word wrap...", "Word Wr
          ("Check", [("Statistics", "Statistics")])]
 # The same for tools that the panel doesn't show.
 FOUND_TOOLS = [("Before and after lines...", "Before and After Lines"), ("Split or join lines...", "Split or Join Lines"),
-               ("Typography...", "Typography"), ("Case by language...", "Case by Language"), ("Wrap paragraphs...", "Wrap Paragraphs")]
+               ("Typography...", "Typography"), ("Case by language...", "Case by Language"), ("Wrap paragraphs...", "Wrap Paragraphs"),
+               ("Choose columns...", "Choose Columns"), ("Sort by pattern...", "Sort by Pattern"),
+               ("Count matches...", "Count Matches")]
 
 
 class Photographer:

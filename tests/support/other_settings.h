@@ -28,7 +28,7 @@ template <class Settings>
 /// A list of columns has to be one.
 template <>
 [[nodiscard]] inline ColumnSettings otherSettings() {
-    return {true, QStringLiteral("1,3-")};
+    return {QStringLiteral("1,3-"), true};
 }
 
 } // namespace tolvo::test

@@ -120,7 +120,7 @@ TEST(Columns, areChosenFromMarkdown) {
     };
     for (const auto &[columns, text, chosen] : rows) {
         QString picture = text;
-        const ChosenLines result = chosenColumns(picture.replace(u'\n', u"\r\n"_s), {false, columns});
+        const ChosenLines result = chosenColumns(picture.replace(u'\n', u"\r\n"_s), {.columns = columns});
         EXPECT_EQ(QString(result.text).remove(u'\r'), chosen) << shown(text);
     }
 }

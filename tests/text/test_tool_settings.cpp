@@ -86,7 +86,7 @@ TEST(ToolSettings, haveTheirPlacesAndDefaults) {
                            u"Separator|Join=0 Separator|Separator=,  Separator|Trim=1 "
                            "Separator|LeaveOutEmpty=0"_s,
                            u"EveryLine|Drop=0 EveryLine|Every=2 EveryLine|First=1"_s,
-                           u"Columns|Drop=0 Columns|Columns=2,1"_s,
+                           u"Columns|Columns=2,1 Columns|Drop=0"_s,
                            u"PatternLines|Drop=0 PatternLines|Pattern= PatternLines|Mode=1 "
                            "PatternLines|MatchCase=0 PatternLines|WholeWords=0 PatternLines|SpecialChars=0"_s,
                            u"PatternSort|Pattern= PatternSort|Mode=1 PatternSort|MatchCase=0 "

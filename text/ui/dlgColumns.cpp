@@ -7,8 +7,8 @@ namespace tolvo {
 
 SettingsDialogPtr<ColumnSettings> makeToolDialog(const ColumnSettings &settings,
                                                  const ToolDialogContext &context) {
-    const QList<FieldLook> looks = {{QStringLiteral("&Drop these columns and keep the others")},
-                                    {QStringLiteral("Co&lumns, such as 3,1 or 2-4:")}};
+    const QList<FieldLook> looks = {{QStringLiteral("Co&lumns, such as 3,1 or 2-4:")},
+                                    {QStringLiteral("&Drop these columns and keep the others")}};
     return std::make_unique<FieldDialog<ColumnSettings>>(
         QStringLiteral("dlgColumns"), QStringLiteral("Choose Columns"), looks, SampleLook{5},
         [](const ColumnSettings &now) {

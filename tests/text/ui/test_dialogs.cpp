@@ -239,7 +239,7 @@ TEST_F(Dialogs, columnsThatCantBeReadAreRefused) {
     user.clicks("chkDrop");
     EXPECT_TRUE(user.sample().startsWith(u"drink, cups|tea, 2|"));
     user.clicks("OKButton");
-    EXPECT_EQ(dialog->settings(), (ColumnSettings{true, u"4-3"_s}));
+    EXPECT_EQ(dialog->settings(), (ColumnSettings{u"4-3"_s, true}));
 }
 
 TEST_F(Dialogs, patternsThatCantBeLookedForAreRefused) {
