@@ -45,11 +45,8 @@ Frame frameOf(const QList<QStringView> &lines, const Parting &parting) {
 /// Picks cells of rows.
 class Choice {
   public:
-    Choice(const ColumnList &list, bool drop, qsizetype width) : m_columns(list.columnsOf(width)) {
-        if (drop)
-            m_dropped = QSet(m_columns.begin(), m_columns.end());
-        m_drops = drop;
-    }
+    Choice(const ColumnList &list, bool drops, qsizetype width)
+        : m_drops(drops), m_columns(list.columnsOf(width)), m_named(m_columns.begin(), m_columns.end()) {}
 
     /// A cell that the row lacks is `missing`.
     template <class Cell>
@@ -61,16 +58,16 @@ class Choice {
             return chosen;
         }
         for (qsizetype column = 0; column < row.size(); ++column) {
-            if (!m_dropped.contains(column))
+            if (!m_named.contains(column))
                 chosen += row.at(column);
         }
         return chosen;
     }
 
   private:
+    bool m_drops;
     QList<qsizetype> m_columns;
-    QSet<qsizetype> m_dropped;
-    bool m_drops = false;
+    QSet<qsizetype> m_named;
 };
 
 /// A cell with a quote that is not closed would take in what comes after it elsewhere in the row.
