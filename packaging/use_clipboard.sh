@@ -12,8 +12,8 @@ start=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' /usr/share/applications/tolvo.desktop)
 
 copy() { xclip -selection clipboard -in >/dev/null 2>&1; }
 paste() { timeout 5 xclip -selection clipboard -out; }
-# until WHAT COMMAND...: tries for twenty seconds.
-until_() {
+# wait_for WHAT COMMAND...: tries for twenty seconds.
+wait_for() {
     for _ in {1..100}; do
         "${@:2}" >/dev/null 2>&1 && return
         sleep 0.2
@@ -24,12 +24,12 @@ until_() {
 pastes() { [ "$(paste)" = "$1" ]; }
 shows() { xdotool search --onlyvisible --name "$1" windowactivate --sync; }
 
-until_ "the display" xdotool getmouselocation
+wait_for "the display" xdotool getmouselocation
 openbox 2>/dev/null &
 printf 'b  \na  ' | copy
 "$start" &
 session=$!
-until_ "the window" shows '^Tolvo [0-9]'
+wait_for "the window" shows '^Tolvo [0-9]'
 sleep 1
 xdotool key ctrl+p type 'trim trailing'
 sleep 1
@@ -37,19 +37,19 @@ xdotool key Return
 sleep 1
 xdotool key alt+d
 wait "$session"
-until_ "the clean text, instead of '$(paste)'" pastes $'b\na'
+wait_for "the clean text, instead of '$(paste)'" pastes $'b\na'
 
 "$start" "$button" &
 session=$!
-until_ "the offer to load the PowerButton" shows '^Load a PowerButton$'
+wait_for "the offer to load the PowerButton" shows '^Load a PowerButton$'
 sleep 1
 xdotool key Return
-until_ "the PowerButton in the row" sh -c 'tolvo-pipe --list-buttons | grep -q .'
-until_ "the window" shows '^Tolvo [0-9]'
+wait_for "the PowerButton in the row" sh -c 'tolvo-pipe --list-buttons | grep -q .'
+wait_for "the window" shows '^Tolvo [0-9]'
 sleep 1
 xdotool key alt+q
 wait "$session"
 
 printf '> I shall come  \n> tomorrow\n' | copy
 "$start" --button 1
-until_ "the text without quoting marks, instead of '$(paste)'" pastes "$(printf '> I shall come  \n> tomorrow\n' | tolvo-pipe --button-file "$button" 2>/dev/null)"
+wait_for "the text without quoting marks, instead of '$(paste)'" pastes "$(printf '> I shall come  \n> tomorrow\n' | tolvo-pipe --button-file "$button" 2>/dev/null)"
