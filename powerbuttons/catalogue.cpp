@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "base/strings.h"
 
+#include <QDir>
 #include <QFile>
 #include <QStringDecoder>
 #include <limits>
@@ -40,7 +41,7 @@ Catalogue Catalogue::read(const QString &path) {
     QFile file(path);
     if (!file.exists())
         throw Failure(failureNumber::fileNotFound,
-                      QStringLiteral("The tool catalogue %1 is missing").arg(path));
+                      QStringLiteral("The tool catalogue %1 is missing").arg(QDir::toNativeSeparators(path)));
     if (!file.open(QIODevice::ReadOnly))
         throw Failure(
             failureNumber::fileAccess,
