@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/dictionaries.h"
 
-#include "base/paths.h"
 #include "spelling/dictionary_folders.h"
 
 #include <QDir>
@@ -16,7 +15,7 @@ QString personalName() {
 }
 
 QString programDictionaries(const QString &dataFolder) {
-    return sAppPath(dataFolder) + QStringLiteral("Dictionaries");
+    return QDir(dataFolder).filePath(QStringLiteral("Dictionaries"));
 }
 
 QString normalised(const QString &fileName) {
@@ -25,9 +24,11 @@ QString normalised(const QString &fileName) {
 
 /// The entry of `folder` that equals `name` apart from case and "-" for "_"; empty if there is none.
 QString fileLike(const QDir &folder, const QString &name) {
-    if (folder.exists(name))
+    // By the names as they stand in the folder: some file systems know a file by its name in any case.
+    const QStringList entries = folder.entryList(QDir::Files, QDir::Name);
+    if (entries.contains(name))
         return folder.filePath(name);
-    for (const QString &entry : folder.entryList(QDir::Files, QDir::Name)) {
+    for (const QString &entry : entries) {
         if (normalised(entry) == normalised(name))
             return folder.filePath(entry);
     }

@@ -27,8 +27,8 @@ class DictionaryEncoding {
     [[nodiscard]] QString decode(const std::string &bytes);
 
   private:
-    class Converters;
-    std::unique_ptr<Converters> m_converters;
+    class Converter;
+    std::unique_ptr<Converter> m_converter;
 };
 
 } // namespace tolvo

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "spelling/dictionary_folders.h"
 
-#include "base/paths.h"
 #include "spelling/spelling_services.h"
 
 #include <QDir>
@@ -15,7 +14,7 @@ QString userDictionaries(const SpellingServices &services) {
 
 QList<DictionaryFolder> dictionaryFolders(const SpellingServices &services) {
     QList<DictionaryFolder> folders{
-        {sAppPath(services.dataFolder) + QStringLiteral("Dictionaries"), DictionarySource::Program}};
+        {QDir(services.dataFolder).filePath(QStringLiteral("Dictionaries")), DictionarySource::Program}};
     const QDir own(userDictionaries(services));
     folders += {own.path(), DictionarySource::User};
     // A name with a full stop before it is that of a folder that is being written.
