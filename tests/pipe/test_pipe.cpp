@@ -36,7 +36,7 @@ class Pipe : public ::testing::Test {
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished(60000));
         return {process.exitCode(), process.readAllStandardOutput(),
-                QString::fromUtf8(process.readAllStandardError())};
+                QString::fromUtf8(process.readAllStandardError()).remove(u'\r')};
     }
 
     /// A row of arguments, what comes in, what goes out, exit code.

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Whole runs, from the start to the end, with a scripted window.
 #include "base/conversions.h"
+#include "base/paths.h"
 #include "shell/modMain.h"
 #include "tests/support/User.h"
 #include "tests/support/recording_processes.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 using namespace tolvo;
@@ -76,7 +78,7 @@ class Runs : public ::testing::Test {
     QStringList startedPrograms() const {
         QStringList names;
         for (const auto &start : processes.started)
-            names += (QStringList(start.program.section(u'/', -1)) + start.arguments).join(u' ');
+            names += (QStringList(QFileInfo(start.program).fileName()) + start.arguments).join(u' ');
         return names;
     }
 
@@ -106,7 +108,7 @@ TEST_F(Runs, theFirstOfAll) {
                   EXPECT_EQ(session.currentFont().name, "Arial");
                   EXPECT_EQ(session.aFonts.at(1), (Font{"Courier New", 10}));
                   toolbox.Layout(1);
-                  EXPECT_EQ(sound.waves, QStringList(folder.filePath("scrbar.wav")));
+                  EXPECT_EQ(sound.waves, QStringList(sAppPath(folder.path()) + "scrbar.wav"));
                   session.ToolDespatcher("ccUPP");
                   session.cmdUndo_Click(); // the clipboard's text is the bottom state
                   EXPECT_EQ(session.txtCurrent().Text(), "text");
