@@ -10,7 +10,7 @@
 #include <QXmlStreamReader>
 #include <array>
 #include <memory>
-#include <unzip.h>
+#include <minizip/unzip.h>
 
 namespace tolvo {
 

@@ -6,7 +6,7 @@
 #include "spelling/dictionary_package.h"
 #include "spelling/found_languages.h"
 
-#include <zip.h>
+#include <minizip/zip.h>
 
 namespace tolvo::test {
 
