@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# run.sh BUILD PIPE: the unit tests of a build for Windows under Wine, then its tolvo-pipe beside this system's. Needs a
-# display for the tests that use Wine's clipboard.
+# run.sh BUILD PIPE: the unit tests of a build for Windows under Wine, its tolvo-pipe beside this system's and with bad
+# input, and the installer if it has been made. Needs a display for the tests that use Wine's clipboard.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 pipe=$2
@@ -20,4 +20,11 @@ say "unit tests"
 ctest --test-dir "$build" --output-on-failure --no-tests=error --label-exclude desktop || result=1
 say "tolvo-pipe, beside this system's"
 "$here/compare_pipes.py" "$pipe" "$here/wine.sh" "$build/bin/tolvo-pipe.exe" || result=1
+say "bad input"
+"$here/bad_input.py" "$build" || result=1
+for setup in "$build"/Tolvo-*-setup.exe; do
+    [ -f "$setup" ] || { say "No installer: its stories are left out"; continue; }
+    say "installer"
+    "$here/installer_stories.py" "$setup" || result=1
+done
 exit $result
