@@ -41,8 +41,8 @@ SettingsDialogPtr<Settings> patternDialog(const QString &name, const QString &ca
 SettingsDialogPtr<PatternSortSettings> makeToolDialog(const PatternSortSettings &settings,
                                                       const ToolDialogContext &context) {
     const QList<FieldLook> looks =
-        patternLooks() + QList<FieldLook>{{QStringLiteral("O&rder:"), orderNames()},
-                                          {QStringLiteral("&Descending")}};
+        patternLooks() +
+        QList<FieldLook>{{QStringLiteral("O&rder:"), orderNames()}, {QStringLiteral("&Descending")}};
     return patternDialog(QStringLiteral("dlgPatternSort"), QStringLiteral("Sort by Pattern"), looks,
                          QStringLiteral("Pears, 10 kg\r\n# for pies\r\nFigs, 9 kg\r\nApples, 100 kg"),
                          settings, context);
