@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 #include <QBuffer>
+#include <QDir>
 
 namespace tolvo {
 namespace {
@@ -63,7 +64,8 @@ TEST(Catalogue, refusesInWords) {
             std::get<const char *>(row));
     const QString missing = "/nowhere/Tools.dat";
     expectFailure(
-        failureNumber::fileNotFound, [&] { (void)Catalogue::read(missing); }, missing);
+        failureNumber::fileNotFound, [&] { (void)Catalogue::read(missing); },
+        QDir::toNativeSeparators(missing));
 }
 
 } // namespace
