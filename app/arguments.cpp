@@ -18,7 +18,7 @@ void takeCommand(const QString &option, const QString &value, Arguments &result)
 }
 
 bool belongsToToolkit(const QStringList &arguments, qsizetype at) {
-    const QString word = arguments.at(at);
+    const QString &word = arguments.at(at);
     const bool afterOption = at > 0 && arguments.at(at - 1).startsWith(u'-');
     return word.startsWith(u'-') || word.isEmpty() ||
            (afterOption && !word.endsWith(buttonFileEnding, Qt::CaseInsensitive));
