@@ -4,6 +4,8 @@
 
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace tolvo {
 namespace {
 
@@ -178,15 +180,15 @@ TEST_F(EditorSteps, inWords) {
         {"foWRP", "Width=60", "Word wrap: as used last", Current},
         {"foWRP", "Width=60", "Word wrap: does nothing", static_cast<SettingsFrom>(7)},
         {"foREM", "Single=1, Multiple=0", "Remove blank lines: single"},
-        {"foIND", "Spaces=4, Text=> , RadioButton=2", u"Indent: text “> ”"_qs},
+        {"foIND", "Spaces=4, Text=> , RadioButton=2", u"Indent: text “> ”"_s},
         {"foIND", "Spaces=4, Text=> , RadioButton=1", "Indent: blanks 4"},
         {"foIND", "Spaces=4, Text=> , RadioButton=0", "Indent: a tab"},
-        {"liBUL", u"Bullet=•, Tab=False, Spaces=2"_qs, u"Bullet list: bullet “•”, blanks 2"_qs},
-        {"liBUL", u"Bullet=•, Tab=True, Spaces=2"_qs, u"Bullet list: bullet “•”, tab"_qs},
+        {"liBUL", u"Bullet=•, Tab=False, Spaces=2"_s, u"Bullet list: bullet “•”, blanks 2"_s},
+        {"liBUL", u"Bullet=•, Tab=True, Spaces=2"_s, u"Bullet list: bullet “•”, tab"_s},
         {"edSRC", "Mode=1, Find=a=b, Find=c, MatchCase=1, Direction=U",
-         u"Search: find “a=b”, match case, up"_qs},
+         u"Search: find “a=b”, match case, up"_s},
         {"edSRC", "Mode=3, Find=a, Direction=D, Strange=5",
-         u"Search: regular expression, find “a”, Strange=5"_qs},
+         u"Search: regular expression, find “a”, Strange=5"_s},
         {"pbPBT", "PowerButton=3", "Run PowerButton: Clean mail"},
         {"pbPBT", "PowerButton=4", "Run PowerButton: 4"},
     };

@@ -16,7 +16,7 @@ namespace tolvo {
 
 template <class Control>
 Control &child(const QWidget &window, const char *name) {
-    auto *control = window.findChild<Control *>(QLatin1StringView(name));
+    auto *control = dynamic_cast<Control *>(window.findChild<QObject *>(QLatin1StringView(name)));
     if (control == nullptr)
         throw std::runtime_error(std::string("no control ") + name);
     return *control;
