@@ -3,7 +3,7 @@
 
 #include "text/column_list.h"
 #include "text/line_list.h"
-#include "text/table_cells.h"
+#include "text/table_rows.h"
 #include "text/tables.h"
 
 #include <QSet>
@@ -23,17 +23,17 @@ struct Frame {
 
 /// Reads it off the first row with more than one cell: whether blanks are beside the sign, and bars at the
 /// ends.
-Frame frameOf(const QList<QStringView> &lines, const Parting &parting) {
+Frame frameOf(const QList<QStringView> &rows, const Parting &parting) {
     Frame frame{parting.sign.toString(), {}, {}};
-    for (const QStringView line : lines) {
-        const QList<QStringView> cells = cellsOf(line, parting);
+    for (const QStringView row : rows) {
+        const QList<QStringView> cells = cellsOf(row, parting);
         if (cells.size() < 2)
             continue;
         const QStringView gap(cells.at(0).end(), cells.at(1).begin());
         const bool isBar = parting.sign == barSign;
         const QString blank(parting.sign != tabSign && gap.endsWith(u' ') ? 1 : 0, u' ');
         frame.between = (isBar ? blank : QString()) % parting.sign % blank;
-        if (isBar && trimBlanks(line).startsWith(barSign)) {
+        if (isBar && trimBlanks(row).startsWith(barSign)) {
             frame.before = barSign % blank;
             frame.after = blank % barSign;
         }
@@ -96,31 +96,32 @@ ChosenLines chosenColumns(QStringView text, const ColumnSettings &settings) {
     const ColumnList columns = readColumnList(settings.columns);
     if (!columns.trouble.isEmpty())
         return {text.toString(), columns.trouble};
-    const LineList list(text);
-    const Parting &parting = bestParting(list.lines);
+    const TableRows table = tableRows(text);
+    const Parting &parting = *table.parting;
+    const LineList list(table.rows);
     qsizetype width = 0;
-    for (const QStringView line : list.lines)
-        width = std::max(width, cellsOf(line, parting).size());
+    for (const QStringView row : list.lines)
+        width = std::max(width, cellsOf(row, parting).size());
     const Choice choice(columns, settings.drop, width);
 
     if (parting.sign == blankSign) {
-        Table table;
-        for (const QStringView line : list.lines) {
-            const QStringList cells = valuesOf(line, parting);
-            table += cells.isEmpty() ? cells : choice.of<QString>(cells, {});
+        Table chosen;
+        for (const QStringView row : list.lines) {
+            const QStringList cells = valuesOf(row, parting);
+            chosen += cells.isEmpty() ? cells : choice.of<QString>(cells, {});
         }
-        return {alignedTable(table) + (list.endsInLineEnd ? lineEnd.toString() : QString()), {}};
+        return {alignedTable(chosen) + (list.endsInLineEnd ? lineEnd.toString() : QString()), {}};
     }
     const Frame frame = frameOf(list.lines, parting);
-    QStringList rows;
-    for (const QStringView line : list.lines) {
-        const QList<QStringView> cells = cellsOf(line, parting);
-        const bool isUnderHead = parting.sign == barSign && rows.size() == 1 && isLineUnderHead(line);
-        rows += cells.isEmpty()
-                    ? QString()
-                    : rowOf(choice.of<QStringView>(cells, isUnderHead ? u"---" : u""), frame, parting);
+    QStringList written;
+    for (const QStringView row : list.lines) {
+        const QList<QStringView> cells = cellsOf(row, parting);
+        const bool isUnderHead = parting.sign == barSign && written.size() == 1 && isLineUnderHead(row);
+        written += cells.isEmpty()
+                       ? QString()
+                       : rowOf(choice.of<QStringView>(cells, isUnderHead ? u"---" : u""), frame, parting);
     }
-    return {list.joined(rows), {}};
+    return {list.joined(written), {}};
 }
 
 } // namespace tolvo

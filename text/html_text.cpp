@@ -237,18 +237,14 @@ class PageReader {
         endCell();
         endRow();
         m_inTable = false;
+        const bool isOneColumn =
+            std::all_of(m_rows.begin(), m_rows.end(), [](const QStringList &row) { return row.size() == 1; });
         QStringList lines;
-        qsizetype columns = 0;
         for (const QStringList &row : m_rows)
-            columns = std::max(columns, row.size());
-        for (QStringList row : m_rows) {
-            row.resize(columns);
-            lines += row.join(u'\t');
-        }
-        const QString table = lines.join(lineEnd);
-        m_rows.clear();
+            lines += row.first();
         m_page.endLine(1);
-        m_page.addLines(columns > 1 ? alignedTable(table) : table);
+        m_page.addLines(isOneColumn ? lines.join(lineEnd) : alignedTable(m_rows));
+        m_rows.clear();
         m_page.endLine(1);
     }
 
@@ -264,7 +260,7 @@ class PageReader {
     bool m_cellOpen = false;
     QString m_cell;
     QStringList m_row;
-    QList<QStringList> m_rows;
+    Table m_rows; ///< none is empty
 };
 
 } // namespace

@@ -13,7 +13,10 @@ struct LineList {
     QList<QStringView> lines;
     bool endsInLineEnd = false;
 
-    explicit LineList(QStringView text) : lines(splitLines(text)) {
+    explicit LineList(QStringView text) : LineList(splitLines(text)) {}
+
+    /// Lines, or rows, that a text was split into.
+    explicit LineList(QList<QStringView> split) : lines(std::move(split)) {
         endsInLineEnd = lines.size() > 1 && lines.back().isEmpty();
         if (endsInLineEnd)
             lines.removeLast();

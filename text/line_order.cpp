@@ -5,7 +5,7 @@
 #include "base/collation.h"
 #include "base/numbers.h"
 #include "text/line_list.h"
-#include "text/tables.h"
+#include "text/table_rows.h"
 
 #include <QtEndian>
 #include <algorithm>
@@ -79,13 +79,15 @@ QList<qsizetype> placesInOrder(const QList<QStringView> &texts, const SortLinesS
 }
 
 QString sortedLines(QStringView text, const SortLinesSettings &settings) {
-    const LineList list(text);
+    const TableRows table = settings.column > 0 ? tableRows(text) : TableRows{};
+    const LineList list(settings.column > 0 ? table.rows : splitLines(text));
     const qsizetype head = std::min<qsizetype>(settings.head, list.lines.size());
     const QList<QStringView> lines = list.lines.sliced(head);
-    const QStringList cells = settings.column > 0 ? cellsOfColumn(text, settings.column) : QStringList();
-    QList<QStringView> compared = lines;
-    for (qsizetype i = 0; i < compared.size() && settings.column > 0; ++i)
-        compared[i] = cells.at(head + i);
+    QStringList cells;
+    for (qsizetype i = 0; i < lines.size() && settings.column > 0; ++i)
+        cells += valuesOf(lines.at(i), *table.parting).value(settings.column - 1);
+    const QList<QStringView> compared =
+        settings.column > 0 ? QList<QStringView>(cells.begin(), cells.end()) : lines;
 
     QList<QStringView> sorted = list.lines.first(head);
     for (const qsizetype place : placesInOrder(compared, settings))

@@ -193,7 +193,7 @@ class MarkdownReader {
 
     void takeTable() {
         endParagraph();
-        QStringList rows;
+        Table rows;
         for (; m_at < m_lines.size() && m_lines.at(m_at).contains(u'|'); ++m_at) {
             if (isTableRule(m_lines.at(m_at)))
                 continue;
@@ -203,11 +203,11 @@ class MarkdownReader {
             QStringList cells;
             for (const QString &cell :
                  QString(row.toString()).replace(QStringLiteral("\\|"), QString(QChar(u'\x1F'))).split(u'|'))
-                cells += markdownInline(cell.trimmed(), m_links).replace(u'\x1F', u'|').replace(u'\t', u' ');
-            rows += cells.join(u'\t');
+                cells += markdownInline(cell.trimmed(), m_links).replace(u'\x1F', u'|').simplified();
+            rows += cells;
         }
         --m_at;
-        m_result += alignedTable(rows.join(lineEnd));
+        m_result += alignedTable(rows);
     }
 
     QList<QStringView> m_lines;

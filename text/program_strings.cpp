@@ -3,6 +3,7 @@
 #include "text/code_parts.h"
 #include "text/lines.h"
 #include "text/notation.h"
+#include "text/table_cells.h"
 
 #include <algorithm>
 
@@ -182,18 +183,6 @@ class ShellReader {
     DecodedText m_decoded;
 };
 
-/// The end of a quoted cell, one after its closing quote; -1 if it isn't closed.
-qsizetype endOfCell(QStringView text) {
-    for (qsizetype i = 1; i < text.size(); ++i) {
-        if (text[i] != u'"')
-            continue;
-        if (i + 1 == text.size() || text[i + 1] != u'"')
-            return i + 1;
-        ++i;
-    }
-    return -1;
-}
-
 } // namespace
 
 QString cEscaped(QStringView text) {
@@ -249,7 +238,7 @@ QString csvQuoted(QStringView text) {
             result += line;
             return;
         }
-        result += u'"' + line.toString().split(u'"').join(QStringLiteral("\"\"")) + u'"';
+        result += quotedCell(line);
     });
 }
 
@@ -258,7 +247,7 @@ DecodedText csvUnquoted(QStringView text) {
     bool open = false; // a cell that isn't closed: no later one is
     for (qsizetype at = 0; at < text.size();) {
         const bool quoted = text[at] == u'"' && !open;
-        const qsizetype length = quoted ? endOfCell(text.sliced(at)) : -1;
+        const qsizetype length = quoted ? endOfQuoted(text.sliced(at)) : -1;
         const bool whole =
             length > 0 && (at + length == text.size() || text.sliced(at + length).startsWith(lineEnd));
         if (whole) {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "text/table_cells.h"
 
-#include "base/strings.h"
+#include "text/lines.h"
 
-#include <QHash>
 #include <algorithm>
 #include <array>
 
@@ -13,49 +12,67 @@ namespace {
 
 using Cells = QList<QStringView>;
 
-/// Where a quoted cell of CSV ends, its quote counted; -1 if it is not closed.
-qsizetype endOfQuoted(QStringView line) {
-    for (qsizetype i = 1; i < line.size(); ++i) {
-        if (line[i] != u'"')
-            continue;
-        if (i + 1 == line.size() || line[i + 1] != u'"')
-            return i + 1;
-        ++i;
-    }
-    return -1;
+bool holdsLineEnd(QStringView text) {
+    return text.contains(u'\r') || text.contains(u'\n');
 }
 
-Cells cellsBy(QStringView line, QChar separator) {
+/// A cell of CSV as it is written.
+struct CsvCell {
+    QStringView written;
+    qsizetype end; ///< where the sign after it stands, or the CR LF, or the end of the text
+};
+
+/// A cell without quotes at the front of a text.
+template <char16_t sign>
+CsvCell plainCell(QStringView text) {
+    const auto isLineEnd = [text](qsizetype at) {
+        return text[at] == u'\r' && at + 1 < text.size() && text[at + 1] == u'\n';
+    };
+    qsizetype end = 0;
+    while (end < text.size() && text[end] != sign && !isLineEnd(end))
+        ++end;
+    const QStringView written = text.first(end);
+    return {sign == tabSign.front() ? written : trimBlanks(written), end};
+}
+
+/// The cell at the front of a text. An attempt to read a quoted one goes as far as the next quote that is not
+/// doubled. A cell that begins within it begins with an even number of quotes, which an attempt does not get
+/// past: however many quotes are open, all attempts together read the text a few times.
+template <char16_t sign>
+CsvCell csvCell(QStringView text) {
+    constexpr bool betweenTabs = sign == tabSign.front();
+    const QStringView cell = betweenTabs ? text : leftTrimBlanks(text);
+    const qsizetype length = cell.startsWith(u'"') ? endOfQuoted(cell) : -1;
+    if (length < 0)
+        return plainCell<sign>(text);
+    const QStringView quoted = cell.first(length);
+    const QStringView after = betweenTabs ? cell.sliced(length) : leftTrimBlanks(cell.sliced(length));
+    const bool ends = after.isEmpty() || after.front() == sign || after.startsWith(lineEnd);
+    const qsizetype end = text.size() - after.size();
+    const bool isMeant = betweenTabs ? quoted.contains(sign) || holdsLineEnd(quoted)
+                                     : end == length || !quoted.contains(lineEnd);
+    return ends && isMeant ? CsvCell{quoted, end} : plainCell<sign>(text);
+}
+
+template <char16_t sign>
+Cells csvCells(QStringView row) {
     Cells cells;
-    for (QStringView rest = line;;) {
-        const QStringView trimmed = leftTrimBlanks(rest);
-        const qsizetype quoted = trimmed.startsWith(u'"') ? endOfQuoted(trimmed) : -1;
-        const QStringView after = quoted < 0 ? QStringView() : leftTrimBlanks(trimmed.sliced(quoted));
-        if (quoted >= 0 && (after.isEmpty() || after.front() == separator)) {
-            cells += trimmed.first(quoted);
-            if (after.isEmpty())
-                return cells;
-            rest = after.sliced(1);
-            continue;
-        }
-        const qsizetype end = rest.indexOf(separator);
-        cells += trimBlanks(end < 0 ? rest : rest.first(end));
-        if (end < 0)
+    for (QStringView rest = row;;) {
+        const CsvCell cell = csvCell<sign>(rest);
+        cells += cell.written;
+        if (cell.end == rest.size())
             return cells;
-        rest = rest.sliced(end + 1);
+        rest = rest.sliced(cell.end + 1);
     }
 }
 
-Cells cellsByTabs(QStringView line) {
-    return line.split(u'\t');
-}
-
-Cells cellsByCommas(QStringView line) {
-    return cellsBy(line, u',');
-}
-
-Cells cellsBySemicolons(QStringView line) {
-    return cellsBy(line, u';');
+template <char16_t sign>
+qsizetype endOfCsvRow(QStringView text) {
+    for (qsizetype at = 0;; ++at) {
+        at += csvCell<sign>(text.sliced(at)).end;
+        if (at == text.size() || text[at] != sign)
+            return at;
+    }
 }
 
 Cells cellsByBars(QStringView line) {
@@ -92,58 +109,35 @@ QString asWritten(QStringView cell) {
     return cell.toString();
 }
 
+QString withoutEscapes(QStringView cell) {
+    return cell.toString().replace(QStringLiteral("\\|"), barSign.toString());
+}
+
 QString withoutQuotes(QStringView cell) {
     if (!cell.startsWith(u'"') || endOfQuoted(cell) != cell.size())
         return cell.toString();
     return cell.sliced(1).chopped(1).toString().replace(QStringLiteral("\"\""), QStringLiteral("\""));
 }
 
-QString withoutEscapes(QStringView cell) {
-    return cell.toString().replace(QStringLiteral("\\|"), barSign.toString());
+QString withoutQuotesAroundLines(QStringView cell) {
+    return cell.contains(tabSign.front()) || holdsLineEnd(cell) ? withoutQuotes(cell) : cell.toString();
 }
 
-constexpr std::array<Parting, 5> partings{{{tabSign, cellsByTabs, asWritten},
-                                           {barSign, cellsByBars, withoutEscapes},
-                                           {u";", cellsBySemicolons, withoutQuotes},
-                                           {u",", cellsByCommas, withoutQuotes},
-                                           {blankSign, cellsByBlanks, asWritten}}};
-
-/// How many rows the most usual number of cells above 1 has.
-qsizetype agreement(const QList<QStringView> &lines, const Parting &parting) {
-    QHash<qsizetype, qsizetype> rows;
-    qsizetype most = 0;
-    for (const QStringView line : lines) {
-        const qsizetype cells = line.contains(parting.sign) ? parting.cells(line).size() : 0;
-        if (cells > 1)
-            most = std::max(most, ++rows[cells]);
-    }
-    return most;
-}
+constexpr std::array<Parting, 5> all{
+    {{tabSign, csvCells<u'\t'>, withoutQuotesAroundLines, endOfCsvRow<u'\t'>},
+     {barSign, cellsByBars, withoutEscapes, nullptr},
+     {u";", csvCells<u';'>, withoutQuotes, endOfCsvRow<u';'>},
+     {u",", csvCells<u','>, withoutQuotes, endOfCsvRow<u','>},
+     {blankSign, cellsByBlanks, asWritten, nullptr}}};
 
 } // namespace
 
-const Parting &bestParting(const QList<QStringView> &lines) {
-    const Parting *best = partings.data();
-    qsizetype mostAgreement = 0;
-    for (const Parting &parting : partings) {
-        const qsizetype rows = agreement(lines, parting);
-        if (rows > mostAgreement) {
-            mostAgreement = rows;
-            best = &parting;
-        }
-    }
-    return *best;
+std::span<const Parting> partings() {
+    return all;
 }
 
-QList<QStringView> cellsOf(QStringView line, const Parting &parting) {
-    return trimWhiteSpace(line).isEmpty() ? Cells() : parting.cells(line);
-}
-
-QStringList valuesOf(QStringView line, const Parting &parting) {
-    QStringList values;
-    for (const QStringView cell : cellsOf(line, parting))
-        values += parting.value(cell);
-    return values;
+Cells cellsOf(QStringView row, const Parting &parting) {
+    return trimWhiteSpace(row).isEmpty() ? Cells() : parting.cells(row);
 }
 
 bool isLineUnderHead(QStringView line) {
@@ -159,8 +153,19 @@ bool isLineUnderHead(QStringView line) {
     });
 }
 
+qsizetype endOfQuoted(QStringView text) {
+    for (qsizetype i = 1; i < text.size(); ++i) {
+        if (text[i] != u'"')
+            continue;
+        if (i + 1 == text.size() || text[i + 1] != u'"')
+            return i + 1;
+        ++i;
+    }
+    return -1;
+}
+
 QString quotedCell(QStringView text) {
-    return u'"' + text.toString().replace(QStringLiteral("\""), QStringLiteral("\"\"")) + u'"';
+    return u'"' + text.toString().split(u'"').join(QStringLiteral("\"\"")) + u'"';
 }
 
 } // namespace tolvo

@@ -3,7 +3,7 @@
 
 #include "base/collation.h"
 #include "text/lines.h"
-#include "text/table_cells.h"
+#include "text/table_rows.h"
 
 #include <QRegularExpression>
 #include <algorithm>
@@ -59,31 +59,77 @@ QString withoutTabs(const QString &cell) {
     return QString(cell).replace(u'\t', u' ');
 }
 
+bool holdsOneOf(const QString &cell, QStringView signs) {
+    return std::any_of(cell.begin(), cell.end(), [signs](QChar c) { return signs.contains(c); });
+}
+
+QString withLinesJoined(QString cell) {
+    static const QRegularExpression lineEnds(QStringLiteral("[\\r\\n]+"));
+    return holdsOneOf(cell, u"\r\n") ? cell.replace(lineEnds, QStringLiteral(" ")) : cell;
+}
+
+/// A cell for Markdown. A <br> of its own becomes &lt;br>, a &lt;br> of its own becomes &amp;lt;br>, and so
+/// on.
+QString withoutLines(QString cell) {
+    static const QRegularExpression written(QStringLiteral("(?i)&((?:amp;)*lt;br */?>)"));
+    static const QRegularExpression own(QStringLiteral("(?i)<(br */?>)"));
+    static const QRegularExpression lineEnds(QStringLiteral("\\r\\n|\\r|\\n"));
+    if (!holdsOneOf(cell, u"<&\r\n"))
+        return cell;
+    return cell.replace(written, QStringLiteral("&amp;\\1"))
+        .replace(own, QStringLiteral("&lt;\\1"))
+        .replace(lineEnds, QStringLiteral("<br>"));
+}
+
+/// The other way round.
+QString withLines(QString cell) {
+    static const QRegularExpression broken(QStringLiteral("(?i)<br */?>"));
+    static const QRegularExpression own(QStringLiteral("(?i)&lt;(br */?>)"));
+    static const QRegularExpression written(QStringLiteral("(?i)&amp;((?:amp;)*lt;br */?>)"));
+    if (!holdsOneOf(cell, u"<&"))
+        return cell;
+    return cell.replace(broken, lineEnd.toString())
+        .replace(own, QStringLiteral("<\\1"))
+        .replace(written, QStringLiteral("&\\1"));
+}
+
+template <class Change>
+void changeCells(Table &table, Change change) {
+    for (QStringList &row : table) {
+        for (QString &cell : row)
+            cell = change(cell);
+    }
+}
+
 } // namespace
 
-Table readTable(QStringView text) {
-    const QList<QStringView> lines = splitLines(text);
-    const Parting &parting = bestParting(lines);
+Table readTable(QStringView text, CellLineEnds lineEnds) {
+    const auto [parting, rows] = tableRows(text);
+    const bool joins = lineEnds == CellLineEnds::Blanks;
+    bool isMarkdown = false;
     Table table;
-    for (const QStringView line : lines) {
-        const QStringList cells = valuesOf(line, parting);
-        if (cells.isEmpty() || table.size() != 1 || parting.sign != barSign || !isLineUnderHead(line))
-            table += cells;
+    for (const QStringView row : rows) {
+        if (table.size() == 1 && parting->sign == barSign && isLineUnderHead(row)) {
+            isMarkdown = true;
+            continue;
+        }
+        QStringList values;
+        for (const QStringView cell : cellsOf(row, *parting)) {
+            const QString value = parting->value(cell);
+            const bool isQuoted = value.size() < cell.size();
+            values += joins && isQuoted ? withLinesJoined(value) : value;
+        }
+        table += values;
     }
+    if (isMarkdown)
+        changeCells(table, [joins](const QString &cell) {
+            return joins ? withLinesJoined(withLines(cell)) : withLines(cell);
+        });
     return table;
 }
 
-QStringList cellsOfColumn(QStringView text, int column) {
-    const QList<QStringView> lines = splitLines(text);
-    const Parting &parting = bestParting(lines);
-    QStringList cells;
-    for (const QStringView line : lines)
-        cells += valuesOf(line, parting).value(column - 1);
-    return cells;
-}
-
 QString alignedTable(QStringView text) {
-    return alignedTable(readTable(text));
+    return alignedTable(readTable(text, CellLineEnds::Blanks));
 }
 
 QString alignedTable(const Table &table) {
@@ -104,11 +150,13 @@ QString alignedTable(const Table &table) {
 QString markdownTable(QStringView text) {
     Table table = readTable(text);
     table.removeIf([](const QStringList &row) { return row.isEmpty(); });
+    changeCells(table, [](const QString &cell) {
+        return withoutLines(cell).replace(barSign.toString(), QStringLiteral("\\|"));
+    });
     const qsizetype columns = columnsOf(table);
     QStringList lines;
     for (QStringList &row : table) {
         row.resize(columns);
-        row.replaceInStrings(QStringLiteral("|"), QStringLiteral("\\|"));
         lines += QStringLiteral("| %1 |").arg(row.join(u" | "));
         if (lines.size() == 1)
             lines += u'|' + QStringLiteral(" --- |").repeated(columns);
@@ -118,18 +166,17 @@ QString markdownTable(QStringView text) {
 
 QString csvTable(QStringView text) {
     return writtenTable(readTable(text), u",", [](const QString &cell) {
-        const bool plain =
-            !cell.contains(u',') && !cell.contains(u'"') && trimBlanks(cell).size() == cell.size();
+        const bool plain = !holdsOneOf(cell, u",\"\r\n") && trimBlanks(cell).size() == cell.size();
         return plain ? cell : quotedCell(cell);
     });
 }
 
 QString tabTable(QStringView text) {
-    return writtenTable(readTable(text), u"\t", withoutTabs);
+    return writtenTable(readTable(text, CellLineEnds::Blanks), u"\t", withoutTabs);
 }
 
 QString transposedTable(QStringView text) {
-    const Table table = readTable(text);
+    const Table table = readTable(text, CellLineEnds::Blanks);
     Table transposed(columnsOf(table));
     for (const QStringList &row : table) {
         for (qsizetype c = 0; c < transposed.size(); ++c)

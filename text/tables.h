@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Texts in columns. The cells of a row are parted by tabs, commas (with quotes, as CSV has them), semicolons,
-// bars or runs of blanks: by the one of them that parts most rows into the same number of cells.
+// bars or runs of blanks: by the one of them that parts most lines into the same number of cells. A quoted
+// cell may hold line ends (RFC 4180), and so may one of a Markdown table, as <br>.
 #pragma once
 
 #include <QString>
@@ -13,27 +14,27 @@ namespace tolvo {
 /// Rows of cells; rows may have different numbers of them.
 using Table = QList<QStringList>;
 
+/// What becomes of the line ends in a quoted cell.
+enum class CellLineEnds { Kept, Blanks };
+
 /// Reads a table. The line under the head of a Markdown table is no row. Blank lines are rows without a cell.
 /// A quote that is not closed is an ordinary character.
-[[nodiscard]] Table readTable(QStringView text);
-
-/// For each line its cell in a column, which counts from 1; empty where a line has none.
-///   cellsOfColumn(u"a;b|c", 2) == {u"b", u""}
-[[nodiscard]] QStringList cellsOfColumn(QStringView text, int column);
+[[nodiscard]] Table readTable(QStringView text, CellLineEnds lineEnds = CellLineEnds::Kept);
 
 /// The table with its columns aligned by blanks, as wide as a fixed-width font shows them, two blanks between
-/// them; columns of numbers at the right.
+/// them; columns of numbers at the right. Line ends in a quoted cell become a blank.
 [[nodiscard]] QString alignedTable(QStringView text);
 [[nodiscard]] QString alignedTable(const Table &table);
-/// As a table of Markdown, its first row the head; bars inside cells are escaped.
+/// As a table of Markdown, its first row the head; bars inside cells are escaped, line ends become <br>, and
+/// a <br> that a cell holds becomes &lt;br>, so that readTable() gives back the cells.
 ///   markdownTable(u"a⇥b|1⇥2") == u"| a | b ||| --- | --- ||| 1 | 2 |" with the line ends that "||" stands
 ///   for
 [[nodiscard]] QString markdownTable(QStringView text);
-/// As CSV (RFC 4180) with commas; a cell with a comma or a quote is quoted.
+/// As CSV (RFC 4180) with commas; a cell with a comma, a quote or a line end is quoted.
 [[nodiscard]] QString csvTable(QStringView text);
-/// With a tab between the cells; a tab inside a cell becomes a blank.
+/// With a tab between the cells; a tab inside a cell becomes a blank, and so do its line ends.
 [[nodiscard]] QString tabTable(QStringView text);
-/// With tabs, rows as columns and columns as rows.
+/// With tabs as tabTable() has them, rows as columns and columns as rows.
 [[nodiscard]] QString transposedTable(QStringView text);
 
 } // namespace tolvo

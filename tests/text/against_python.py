@@ -105,6 +105,9 @@ for tool, text, result, *settings in json.load(sys.stdin):
     if tool == "csvTable":  # the cells of a table with tabs
         same = [line.split("\t") for line in text.split("\r\n")] == table_of_csv(result)
         want = table_of_csv(result)
+    elif tool == "readTable":
+        want = list(csv.reader(io.StringIO(text, newline=""), delimiter=settings[0][0]))
+        same = want == json.loads(result)
     else:
         want = expected[tool](text, *(settings[0] if settings else []))
         same = want == result

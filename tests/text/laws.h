@@ -3,6 +3,8 @@
 #pragma once
 
 #include "text/cTextMethods.h"
+#include "text/line_list.h"
+#include "text/table_rows.h"
 
 namespace tolvo::test {
 
@@ -37,6 +39,11 @@ inline const Law laws[] = {
     {"removeExtraLines, last line end",
      [](const cTextMethods &engine, const QString &text) {
          return !engine.removeExtraLines(text, false, false).endsWith(u"\r\n");
+     }},
+    {"rows of a table are the text",
+     [](const cTextMethods &, const QString &text) {
+         const LineList rows(tableRows(text).rows);
+         return rows.joined(rows.lines) == text;
      }},
     {"lengths that stay",
      [](const cTextMethods &engine, const QString &text) {

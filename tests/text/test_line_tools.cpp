@@ -7,7 +7,7 @@
 #include "text/line_list.h"
 #include "text/line_order.h"
 #include "text/line_parts.h"
-#include "text/tables.h"
+#include "text/table_rows.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -94,19 +94,52 @@ TEST_F(LineTools, leaveOutWhatTheirReverseKeeps) {
     }
 }
 
-TEST(Columns, areThoseOfTheTable) {
-    for (const QString &text :
-         {u"a,b\r\nc,\"d,e\"\r\n\r\nf"_s, u"a\tb\tc\r\n1\t2\t3"_s, u"a  b\r\nc  d"_s, u""_s}) {
-        const Table table = readTable(text);
-        for (int column = 1; column < 4; ++column) {
-            QStringList cells;
-            for (const QStringList &row : table)
-                cells += row.value(column - 1);
-            EXPECT_EQ(cellsOfColumn(text, column), cells) << shown(text);
-        }
+TEST(TableRows, areLinesUnlessQuotedCellsRunOverTheirEnds) {
+    const struct {
+        QString text; ///< "|" is a line end, "¦" a bar
+        QString sign;
+        QStringList rows;
+    } cases[] = {
+        {u"id,note|1,\"a|b\"|2,c"_s, u","_s, {u"id,note"_s, u"1,\"a|b\""_s, u"2,c"_s}},
+        {u"1;\"a, b||c, d, \"\"e|\";2|"_s, u";"_s, {u"1;\"a, b||c, d, \"\"e|\";2"_s, {}}},
+        {u"1,\"a; b|c; d\""_s, u","_s, {u"1,\"a; b|c; d\""_s}},
+        {u"name,address|Ann,\"1 Main St|Leeds, UK\""_s,
+         u","_s,
+         {u"name,address"_s, u"Ann,\"1 Main St|Leeds, UK\""_s}},
+        {u"\"a\tb|c\"\td|\"e\"\tf"_s, u"\t"_s, {u"\"a\tb|c\"\td"_s, u"\"e\"\tf"_s}},
+        // quotes that are not closed, or not at the ends of their cells
+        {u"a,\"b|c,d|e,f"_s, u","_s, {u"a,\"b"_s, u"c,d"_s, u"e,f"_s}},
+        {u"rod,5\"|tube,3\"|\"nut\",\"|x,y"_s,
+         u","_s,
+         {u"rod,5\""_s, u"tube,3\""_s, u"\"nut\",\""_s, u"x,y"_s}},
+        {u"a,b,c|d,\"e,f|g,h,i|j,k\",l,m|n,o,p"_s,
+         u","_s,
+         {u"a,b,c"_s, u"d,\"e,f"_s, u"g,h,i"_s, u"j,k\",l,m"_s, u"n,o,p"_s}},
+        // prose
+        {u"He said, \"I will go,|and you stay,|as well.\"|She left, and he didn't."_s,
+         u","_s,
+         {u"He said, \"I will go,"_s, u"and you stay,"_s, u"as well.\""_s, u"She left, and he didn't."_s}},
+        {u"\"I am here,|and there.\"||'Tis 5\" long."_s,
+         u","_s,
+         {u"\"I am here,"_s, u"and there.\""_s, {}, u"'Tis 5\" long."_s}},
+        {u"\"\"\"|Notes.|\"\"\"|import a, b|from c import d, e"_s,
+         u","_s,
+         {u"\"\"\""_s, u"Notes."_s, u"\"\"\""_s, u"import a, b"_s, u"from c import d, e"_s}},
+        {u"\"Here|and there.\"|End"_s, u"\t"_s, {u"\"Here"_s, u"and there.\""_s, u"End"_s}},
+        {u"¦ x ¦ ,\"a ¦|¦---¦---¦|¦ b\", ¦ y ¦"_s,
+         u"¦"_s,
+         {u"¦ x ¦ ,\"a ¦"_s, u"¦---¦---¦"_s, u"¦ b\", ¦ y ¦"_s}},
+    };
+    for (const auto &[picture, sign, pictures] : cases) {
+        const auto meant = [](QString text) { return text.replace(u'|', u"\r\n"_s).replace(u'¦', u'|'); };
+        const QString text = meant(picture);
+        const TableRows table = tableRows(text);
+        EXPECT_EQ(table.parting->sign, meant(sign)) << shown(text);
+        QStringList rows;
+        for (const QString &row : pictures)
+            rows += meant(row);
+        EXPECT_EQ(table.rows, QList<QStringView>(rows.begin(), rows.end())) << shown(text);
     }
-    EXPECT_EQ(cellsOfColumn(u"|a|b|\r\n|---|---|\r\n|1|2|", 2), (QStringList{u"b"_s, u"---"_s, u"2"_s}))
-        << "the line under a head is a line";
 }
 
 TEST(Columns, areChosenFromMarkdown) {
