@@ -27,8 +27,8 @@ libraries=(
     "icu libicu-dev"
     "qt6-base qt6-base-dev -DBUILD_SHARED_LIBS=ON -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF
         -DQT_BUILD_TOOLS_WHEN_CROSSCOMPILING=OFF -DFEATURE_tabletevent=OFF -DFEATURE_sql=OFF -DFEATURE_dbus=OFF
-        -DFEATURE_opengl=OFF -DFEATURE_vulkan=OFF -DFEATURE_printsupport=OFF -DFEATURE_concurrent=OFF
-        -DFEATURE_direct2d=OFF -DFEATURE_pkg_config=OFF -DFEATURE_system_zlib=OFF"
+        -DINPUT_opengl=no -DFEATURE_vulkan=OFF -DFEATURE_printsupport=OFF -DFEATURE_concurrent=OFF
+        -DFEATURE_direct2d1_1=OFF -DFEATURE_pkg_config=OFF -DFEATURE_system_zlib=OFF"
 )
 
 # follow NAME: how far it is, once a second on a terminal, else in tenths. Everything goes into the log.
@@ -48,13 +48,19 @@ follow() {
     [ ! -t 2 ] || echo >&2
 }
 
-# configure_library NAME VERSION OPTION...: with the library's own CMake files, or those in libraries/.
+# configure_library NAME VERSION OPTION...: with the library's own CMake files, or those in libraries/. What CMake reads is
+# copied beside the work, which goes on whatever happens to this checkout.
 configure_library() {
-    local name=$1 version=$2 tree=$cache/sources/$1
+    local name=$1 version=$2 tree=$cache/sources/$1 recipe=$cache/work/$1.recipe
     shift 2
-    [ ! -d "$here/libraries/$name" ] || tree=$here/libraries/$name
-    rm -rf "$cache/work/$name"
-    cmake -G Ninja -S "$tree" -B "$cache/work/$name" -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" \
+    rm -rf "$cache/work/$name" "$recipe"
+    mkdir "$recipe"
+    cp "$here/toolchain.cmake" "$recipe/"
+    if [ -d "$here/libraries/$name" ]; then
+        cp "$here/libraries/$name"/* "$recipe/"
+        tree=$recipe
+    fi
+    cmake -G Ninja -S "$tree" -B "$cache/work/$name" -DCMAKE_TOOLCHAIN_FILE="$recipe/toolchain.cmake" \
         -DCMAKE_INSTALL_PREFIX="$prefix" -DCMAKE_BUILD_TYPE=Release -DCMAKE_WARN_DEPRECATED=OFF \
         -DSOURCES="$cache/sources/$name" -DLIBRARY_VERSION="${version%%[-+]*}" "$@"
 }
@@ -71,7 +77,7 @@ build_library() {
     ninja -C "$cache/work/$name" | follow "$name" &&
         cmake --install "$cache/work/$name" >>"$log" 2>&1 ||
         { tail -n 40 "$log" >&2; exit 1; }
-    rm -rf "$cache/work/$name"
+    rm -rf "$cache/work/$name" "$cache/work/$name.recipe"
 }
 
 for library in "${libraries[@]}"; do
