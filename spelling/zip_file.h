@@ -3,7 +3,7 @@
 
 #include <QFile>
 
-#include <unzip.h>
+#include <minizip/unzip.h>
 
 namespace tolvo {
 
