@@ -65,6 +65,7 @@ TallyWindow::TallyWindow(const SettingsStore &store, std::function<QString(const
     setWindowFlag(Qt::WindowMaximizeButtonHint);
 
     m_head->setObjectName(QStringLiteral("labSince"));
+    m_head->setWordWrap(true);
     m_span->setObjectName(QStringLiteral("cmbSpan"));
     m_span->addItems({QStringLiteral("This period"), QStringLiteral("All time")});
     m_span->setCurrentIndex(1);
@@ -134,6 +135,7 @@ QWidget *TallyWindow::makePage(bool fromPowerButtons, const QString &name) {
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
+    splitter->setSizes({1, 1});
     m_pages += Page{fromPowerButtons, {}, table, chart};
     return splitter;
 }

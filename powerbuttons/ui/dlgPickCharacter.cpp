@@ -4,6 +4,7 @@
 #include "powerbuttons/icon_geometry.h"
 #include "powerbuttons/ui/character_index.h"
 #include "powerbuttons/ui/character_model.h"
+#include "widgets/screen_fit.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -23,11 +25,26 @@ namespace tolvo {
 
 namespace {
 
-constexpr int columns = 16;
+constexpr int mostColumns = 16;
 constexpr int visibleRows = 8;
 constexpr int mostFound = 1024;
 /// Symbols that suit an icon: what the picker opens with.
 constexpr char32_t firstShown = 0x2600;
+
+int sideOfCell(const QWidget &window) {
+    return window.fontMetrics().height() * 9 / 5;
+}
+
+/// As many as the screen has room for, beside bars that scroll the table and the window.
+int columnsFor(const QWidget &window) {
+    const auto measure = [&](QStyle::PixelMetric metric) { return window.style()->pixelMetric(metric); };
+    const int bars =
+        2 * (measure(QStyle::PM_ScrollBarExtent) + measure(QStyle::PM_ScrollView_ScrollBarSpacing));
+    const int beside = bars + measure(QStyle::PM_LayoutLeftMargin) + measure(QStyle::PM_LayoutRightMargin) +
+                       4 * measure(QStyle::PM_DefaultFrameWidth);
+    const int room = (roomOnScreen(window).width() - beside) / sideOfCell(window);
+    return std::clamp(room, 1, mostColumns);
+}
 
 QTableView *makeTable(QWidget *parent, CharacterModel *model, int cell, int rows) {
     auto *table = new QTableView(parent);
@@ -44,7 +61,7 @@ QTableView *makeTable(QWidget *parent, CharacterModel *model, int cell, int rows
     const bool scrolls = rows > 1;
     table->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     const int bar = scrolls ? table->verticalScrollBar()->sizeHint().width() : 0;
-    table->setFixedWidth(columns * cell + bar + 2 * table->frameWidth());
+    table->setFixedWidth(model->columnCount() * cell + bar + 2 * table->frameWidth());
     const int height = rows * cell + 2 * table->frameWidth();
     scrolls ? table->setMinimumHeight(height) : table->setFixedHeight(height);
     return table;
@@ -54,8 +71,8 @@ QTableView *makeTable(QWidget *parent, CharacterModel *model, int cell, int rows
 
 dlgPickCharacter::dlgPickCharacter(const QString &fontName, QStringList &recent, QWidget *parent)
     : QDialog(parent), m_recent(recent), m_font(new QFontComboBox(this)), m_find(new QLineEdit(this)),
-      m_block(new QComboBox(this)), m_characters(new CharacterModel(columns, this)),
-      m_recentCharacters(new CharacterModel(columns, this)), m_large(new QLabel(this)),
+      m_block(new QComboBox(this)), m_characters(new CharacterModel(columnsFor(*this), this)),
+      m_recentCharacters(new CharacterModel(columnsFor(*this), this)), m_large(new QLabel(this)),
       m_name(new QLabel(this)), m_chosen(new QLineEdit(this)) {
     setObjectName(QStringLiteral("dlgPickCharacter"));
     setWindowTitle(QStringLiteral("Choose Symbol"));
@@ -81,7 +98,7 @@ dlgPickCharacter::dlgPickCharacter(const QString &fontName, QStringList &recent,
 }
 
 void dlgPickCharacter::makeTables() {
-    const int cell = fontMetrics().height() * 9 / 5;
+    const int cell = sideOfCell(*this);
     m_table = makeTable(this, m_characters, cell, visibleRows);
     m_table->setObjectName(QStringLiteral("tblCharacters"));
     m_table->setAccessibleName(QStringLiteral("Characters"));
@@ -89,7 +106,8 @@ void dlgPickCharacter::makeTables() {
     m_recentTable->setObjectName(QStringLiteral("tblRecent"));
     m_recentTable->setAccessibleName(QStringLiteral("Recent characters"));
     QList<char32_t> recent;
-    for (const QString &character : m_recent)
+    for (const QString &character :
+         m_recent.first(std::min<qsizetype>(m_recent.size(), m_recentCharacters->columnCount())))
         recent.append(static_cast<char32_t>(character.toUcs4().value(0)));
     m_recentCharacters->setCharacters(recent);
     // The table would make it current, and with that the one to take, as soon as the focus passes through.
@@ -214,7 +232,7 @@ void dlgPickCharacter::rememberChosen() {
     }
     remembered.append(m_recent);
     remembered.removeDuplicates();
-    m_recent = remembered.first(std::min<qsizetype>(remembered.size(), columns));
+    m_recent = remembered.first(std::min<qsizetype>(remembered.size(), mostColumns));
 }
 
 dlgPickCharacter::Choice dlgPickCharacter::choice() const {

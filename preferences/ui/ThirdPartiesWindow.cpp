@@ -5,6 +5,7 @@
 #include "platform/processes.h"
 #include "preferences/third_parties.h"
 #include "widgets/LinkLabel.h"
+#include "widgets/screen_fit.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -22,6 +23,7 @@ ThirdPartiesWindow::ThirdPartiesWindow(Processes &processes, QWidget *parent) : 
     layout->setVerticalSpacing(8);
     auto *about = new QLabel(applicationTitle() + QStringLiteral(" stands on the work of others:"));
     layout->addWidget(about, 0, 0, 1, 4);
+    QList<QLabel *> uses;
     for (const ThirdParty &party : thirdParties()) {
         const int row = layout->rowCount();
         auto *name = new LinkLabel(party.name, party.address, LinkLabel::Underline::UnderPointer);
@@ -33,14 +35,19 @@ ThirdPartiesWindow::ThirdPartiesWindow(Processes &processes, QWidget *parent) : 
         layout->addWidget(name, row, 0);
         layout->addWidget(new QLabel(party.version), row, 1);
         layout->addWidget(new QLabel(party.licence), row, 2);
-        layout->addWidget(new QLabel(party.use), row, 3);
+        auto *use = new QLabel(party.use);
+        layout->addWidget(use, row, 3);
+        uses += use;
     }
     layout->setRowMinimumHeight(layout->rowCount(), 8);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons, layout->rowCount(), 0, 1, 4);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    const bool fits = layout->minimumSize().width() <= roomOnScreen(*this).width();
+    layout->setSizeConstraint(fits ? QLayout::SetFixedSize : QLayout::SetDefaultConstraint);
+    for (QLabel *use : uses)
+        use->setWordWrap(!fits);
     buttons->button(QDialogButtonBox::Close)->setFocus();
 }
 

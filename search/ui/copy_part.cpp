@@ -9,7 +9,7 @@
 
 namespace tolvo {
 
-CopyPart::CopyPart(QGridLayout &grid, int row, QWidget &parent)
+CopyPart::CopyPart(QGridLayout &grid, int row, QWidget &parent, int room)
     : labForm(new QLabel(QStringLiteral("Fo&rm:"), &parent)),
       cmbForm(new SearchListEdit(QStringLiteral("cmbForm"), &parent)), fraCopyTo(new QWidget(&parent)),
       optToClipboard(new QRadioButton(QStringLiteral("To the cl&ipboard"), fraCopyTo)),
@@ -27,6 +27,8 @@ CopyPart::CopyPart(QGridLayout &grid, int row, QWidget &parent)
     choice->addWidget(optToClipboard);
     choice->addWidget(optInPlace);
     choice->addStretch(1);
+    if (choice->sizeHint().width() > room)
+        choice->setDirection(QBoxLayout::TopToBottom);
     grid.addWidget(labForm, row, 0);
     grid.addWidget(cmbForm, row, 1);
     grid.addWidget(fraCopyTo, row + 1, 1);

@@ -19,8 +19,9 @@ struct CopyPart {
     QRadioButton *optToClipboard;
     QRadioButton *optInPlace;
 
-    /// Adds its rows to the grid of the texts, labels in the first column.
-    CopyPart(QGridLayout &grid, int row, QWidget &parent);
+    /// Adds its rows to the grid of the texts, labels in the first column. Where the choice of where the copy
+    /// goes is wider than `room`, one option is above the other.
+    CopyPart(QGridLayout &grid, int row, QWidget &parent, int room);
 
     void setVisible(bool visible);
     void show(const QString &form, bool inPlace);

@@ -4,6 +4,7 @@
 #include "search/ui/replacement_list.h"
 #include "search/wildcard_translation.h"
 #include "widgets/ElidedLabel.h"
+#include "widgets/screen_fit.h"
 #include "widgets/themed_icon.h"
 
 #include <QButtonGroup>
@@ -17,6 +18,7 @@
 #include <QTabBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace tolvo {
 
@@ -48,7 +50,7 @@ QWidget *makePart(const char *name, QWidget *parent) {
 
 } // namespace
 
-SearchControls::SearchControls(QDialog &window) : m_window(window) {
+SearchControls::SearchControls(QDialog &window) : m_window(window), m_left(new QVBoxLayout) {
     TabStrip1 = new QTabBar(&window);
     TabStrip1->setObjectName(QStringLiteral("TabStrip1"));
     TabStrip1->setAccessibleName(QStringLiteral("Kind of search"));
@@ -56,25 +58,24 @@ SearchControls::SearchControls(QDialog &window) : m_window(window) {
     for (const char *caption : {"Simple Search", "Wildcard Search", "Regular Expression"})
         TabStrip1->addTab(QString::fromLatin1(caption));
 
-    auto *left = new QVBoxLayout;
-    left->addWidget(textRows());
-    left->addWidget(directionRow());
+    m_left->addWidget(textRows());
+    m_left->addWidget(directionRow());
     makeOptions();
     makeSpecialChars();
     makeWildcards();
-    left->addWidget(fraOptions);
-    left->addWidget(fraSpecialChars);
-    left->addWidget(fraWildcards);
+    m_left->addWidget(fraOptions);
+    m_left->addWidget(fraSpecialChars);
+    m_left->addWidget(fraWildcards);
     lstReplacements = new ReplacementList(QStringLiteral("lstReplacements"), &window);
-    left->addWidget(lstReplacements);
-    left->addStretch(1);
+    m_left->addWidget(lstReplacements);
+    m_left->addStretch(1);
     labFolded = make<QLabel>("labFolded", QString(), &window);
     labFolded->setWordWrap(true);
     labFolded->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    left->addWidget(labFolded);
+    m_left->addWidget(labFolded);
 
     auto *body = new QHBoxLayout;
-    body->addLayout(left, 1);
+    body->addLayout(m_left, 1);
     body->addLayout(buttonColumn());
     makeWildcardHelp();
     body->addWidget(fraWildcardHelp);
@@ -82,6 +83,11 @@ SearchControls::SearchControls(QDialog &window) : m_window(window) {
     auto *all = new QVBoxLayout(&window);
     all->addWidget(TabStrip1);
     all->addLayout(body, 1);
+}
+
+void SearchControls::putHelpBelow() {
+    if (m_left->indexOf(fraWildcardHelp) < 0)
+        m_left->insertWidget(m_left->indexOf(fraWildcards) + 1, fraWildcardHelp);
 }
 
 QWidget *SearchControls::textRows() {
@@ -109,9 +115,14 @@ QWidget *SearchControls::textRows() {
     grid->addWidget(cmbReplaceText, 2, 1);
     grid->addWidget(labForecast, 3, 1, 1, 2);
     grid->addWidget(imgSwop, 0, 3, 3, 1, Qt::AlignVCenter);
-    grid->setColumnMinimumWidth(1, lettersOfAnswer * part->fontMetrics().averageCharWidth());
+    const int room = roomOnScreen(m_window).width() * 3 / 8;
+    grid->setColumnMinimumWidth(1, std::min(lettersOfAnswer * part->fontMetrics().averageCharWidth(), room));
     grid->setColumnStretch(1, 1);
-    copyPart.emplace(*grid, 4, *part);
+    copyPart.emplace(*grid, 4, *part, room);
+    for (SearchListEdit *list : {cmbSearchText, cmbReplaceText, copyPart->cmbForm}) {
+        if (list->minimumSizeHint().width() > room)
+            list->setMinimumWidth(room);
+    }
     elementButtons = {
         new ElementButton(SearchText::Find, *cmbSearchText, QStringLiteral("Search for"), part),
         new ElementButton(SearchText::Replace, *cmbReplaceText, QStringLiteral("Replace with"), part),

@@ -43,6 +43,9 @@ struct SearchControls {
         return {cmbSearchText, cmbReplaceText, copyPart->cmbForm};
     }
 
+    /// Puts the help for wildcards, which stands at the end of the window, below their options.
+    void putHelpBelow();
+
     QTabBar *TabStrip1;
     SearchListEdit *cmbSearchText;
     SearchListEdit *cmbReplaceText;
@@ -93,6 +96,7 @@ struct SearchControls {
     QHBoxLayout *moreRow();
 
     QDialog &m_window;
+    QVBoxLayout *m_left; ///< all but the buttons and the help
 };
 
 } // namespace tolvo

@@ -142,6 +142,10 @@ void frmSearch::noteSizeOfUser() {
 /// As large as what is shown needs, and larger by what the user has added.
 void frmSearch::fitSize() {
     activateLayout(*this);
+    if (m_controls.fraWildcardHelp->isVisibleTo(this) && sizeHint().width() > roomOnScreen(*this).width()) {
+        m_controls.putHelpBelow();
+        activateLayout(*this);
+    }
     if (!isWindow()) {
         m_fittedSize = {};
         updateGeometry();
