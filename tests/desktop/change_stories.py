@@ -5,7 +5,7 @@ import subprocess
 import time
 import unittest
 
-from desk import Atspi, FIELD, Story, keys, wait_for
+from desk import Atspi, FIELD, Story, by_code, keys, wait_for
 
 
 class ChangeStories(Story):
@@ -27,14 +27,14 @@ class ChangeStories(Story):
         run.tool("Capitals", "Title Case")
         run.text_becomes("The Cat\nSat")
         wait_for(lambda: run.shows("3 places changed"), "the number of places")
-        subprocess.run(["xdotool", "keydown", "F8"], check=True)
+        subprocess.run(["xdotool", "keydown", by_code("F8")], check=True)
         try:
             self.overlay_becomes(run, "Text before Title Case", "the cat\nsat")
             time.sleep(1)  # meanwhile the key repeats itself
             self.overlay_becomes(run, "Text before Title Case", "the cat\nsat")
             run.text_becomes("The Cat\nSat")
         finally:
-            subprocess.run(["xdotool", "keyup", "F8"], check=True)
+            subprocess.run(["xdotool", "keyup", by_code("F8")], check=True)
         wait_for(lambda: not run.shows("Text before Title Case"), "the text itself")
         keys("ctrl+z")
         run.text_becomes("the cat\nsat")
