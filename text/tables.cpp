@@ -101,6 +101,14 @@ void changeCells(Table &table, Change change) {
     }
 }
 
+/// The line end at the end of the text, which is a row without cells.
+QString takeLineEnd(Table &table) {
+    if (table.size() < 2 || !table.back().isEmpty())
+        return {};
+    table.removeLast();
+    return lineEnd.toString();
+}
+
 } // namespace
 
 Table readTable(QStringView text, CellLineEnds lineEnds) {
@@ -149,6 +157,7 @@ QString alignedTable(const Table &table) {
 
 QString markdownTable(QStringView text) {
     Table table = readTable(text);
+    const QString end = takeLineEnd(table);
     table.removeIf([](const QStringList &row) { return row.isEmpty(); });
     changeCells(table, [](const QString &cell) {
         return withoutLines(cell).replace(barSign.toString(), QStringLiteral("\\|"));
@@ -161,7 +170,7 @@ QString markdownTable(QStringView text) {
         if (lines.size() == 1)
             lines += u'|' + QStringLiteral(" --- |").repeated(columns);
     }
-    return lines.join(lineEnd);
+    return lines.join(lineEnd) + end;
 }
 
 QString csvTable(QStringView text) {
@@ -176,13 +185,14 @@ QString tabTable(QStringView text) {
 }
 
 QString transposedTable(QStringView text) {
-    const Table table = readTable(text, CellLineEnds::Blanks);
+    Table table = readTable(text, CellLineEnds::Blanks);
+    const QString end = takeLineEnd(table);
     Table transposed(columnsOf(table));
     for (const QStringList &row : table) {
         for (qsizetype c = 0; c < transposed.size(); ++c)
             transposed[c] += row.value(c);
     }
-    return writtenTable(transposed, u"\t", withoutTabs);
+    return writtenTable(transposed, u"\t", withoutTabs) + end;
 }
 
 } // namespace tolvo

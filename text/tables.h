@@ -26,7 +26,8 @@ enum class CellLineEnds { Kept, Blanks };
 [[nodiscard]] QString alignedTable(QStringView text);
 [[nodiscard]] QString alignedTable(const Table &table);
 /// As a table of Markdown, its first row the head; bars inside cells are escaped, line ends become <br>, and
-/// a <br> that a cell holds becomes &lt;br>, so that readTable() gives back the cells.
+/// a <br> that a cell holds becomes &lt;br>, so that readTable() gives back the cells. Blank lines go, but
+/// for the line end at the end of the text.
 ///   markdownTable(u"a⇥b|1⇥2") == u"| a | b ||| --- | --- ||| 1 | 2 |" with the line ends that "||" stands
 ///   for
 [[nodiscard]] QString markdownTable(QStringView text);
@@ -34,7 +35,8 @@ enum class CellLineEnds { Kept, Blanks };
 [[nodiscard]] QString csvTable(QStringView text);
 /// With a tab between the cells; a tab inside a cell becomes a blank, and so do its line ends.
 [[nodiscard]] QString tabTable(QStringView text);
-/// With tabs as tabTable() has them, rows as columns and columns as rows.
+/// With tabs as tabTable() has them, rows as columns and columns as rows. A line end at the end of the text
+/// stays there.
 [[nodiscard]] QString transposedTable(QStringView text);
 
 } // namespace tolvo

@@ -141,8 +141,12 @@ TEST(AgainstPython, CellsWithLineEndsComeToTheSame) {
             row.replaceInStrings(QRegularExpression(u"\r\n|\r|\n"_s), u"\r\n"_s)
                 .replaceInStrings(QRegularExpression(u"^ +| +$"_s), {});
         const QString markdown = markdownTable(text);
-        EXPECT_EQ(readTable(markdown), table) << shown(text);
-        EXPECT_EQ(readTable(csvTable(markdown)), table) << shown(text);
+        EXPECT_EQ(markdown.endsWith(u"\r\n"_s), text.endsWith(u"\r\n"_s)) << shown(text);
+        for (const QString &made : {markdown, csvTable(markdown)}) {
+            Table again = readTable(made);
+            again.removeAll({});
+            EXPECT_EQ(again, table) << shown(text);
+        }
     }
     EXPECT_EQ(seenOtherwise(cases), "[]");
 }
