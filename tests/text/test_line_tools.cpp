@@ -8,6 +8,7 @@
 #include "text/line_order.h"
 #include "text/line_parts.h"
 #include "text/table_rows.h"
+#include "text/tables.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -140,6 +141,14 @@ TEST(TableRows, areLinesUnlessQuotedCellsRunOverTheirEnds) {
             rows += meant(row);
         EXPECT_EQ(table.rows, QList<QStringView>(rows.begin(), rows.end())) << shown(text);
     }
+}
+
+TEST(Columns, keepTheLinesOfTheirCellsInMarkdown) {
+    const QString csv = u"tag,means\r\n`<br>`,\"a <BR/>,\r\n&lt;br>\""_s;
+    const QString markdown = u"| tag | means |\r\n| --- | --- |\r\n| `<br>` | a &lt;BR/>,<br>&amp;lt;br> |"_s;
+    EXPECT_EQ(markdownTable(csv), markdown);
+    EXPECT_EQ(csvTable(markdown), csv);
+    EXPECT_EQ(csvTable(u"a|b<br>c\r\nd|e"_s), u"a,b<br>c\r\nd,e"_s) << "bars alone are not Markdown";
 }
 
 TEST(Columns, areChosenFromMarkdown) {
