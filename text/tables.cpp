@@ -71,7 +71,7 @@ QString withLinesJoined(QString cell) {
 /// A cell for Markdown. A <br> of its own becomes &lt;br>, a &lt;br> of its own becomes &amp;lt;br>, and so
 /// on; as a code, between backticks, it means no line end anyhow.
 QString withoutLines(QString cell) {
-    static const QRegularExpression written(QStringLiteral("(?i)&((?:amp;)*lt;br */?>)"));
+    static const QRegularExpression written(QStringLiteral("(?i)&((?:amp;)*+lt;br */?>)"));
     static const QRegularExpression own(QStringLiteral("(?i)(?<!`)<(?=br */?>)|<(?=br */?>(?!`))"));
     static const QRegularExpression lineEnds(QStringLiteral("\\r\\n|\\r|\\n"));
     if (!holdsOneOf(cell, u"<&\r\n"))
@@ -85,7 +85,7 @@ QString withoutLines(QString cell) {
 QString withLines(QString cell) {
     static const QRegularExpression broken(QStringLiteral("(?i)(?<!`)<br */?>|<br */?>(?!`)"));
     static const QRegularExpression own(QStringLiteral("(?i)&lt;(br */?>)"));
-    static const QRegularExpression written(QStringLiteral("(?i)&amp;((?:amp;)*lt;br */?>)"));
+    static const QRegularExpression written(QStringLiteral("(?i)&amp;((?:amp;)*+lt;br */?>)"));
     if (!holdsOneOf(cell, u"<&"))
         return cell;
     return cell.replace(broken, lineEnd.toString())
