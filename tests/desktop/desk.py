@@ -41,9 +41,14 @@ def wait_for(condition, what, patience=PATIENCE):
     raise AssertionError(f"waited {patience:.0f} s in vain for {what() if callable(what) else what}")
 
 
+# Asked for these by name, newer X servers hold Alt with them.
+CODES = {**{f"F{n}": str(66 + n) for n in range(1, 11)}, "KP_Add": "86"}
+
+
 def by_code(stroke):
-    """A stroke with its function key, if it has one, by its code: asked for by name, newer X servers hold Alt with it."""
-    return re.sub(r"\bF([1-9]|10)$", lambda key: str(66 + int(key[1])), stroke)
+    """A stroke such as ctrl+F3 with the code of its key, if it has one here."""
+    *modifiers, key = stroke.split("+")
+    return "+".join([*modifiers, CODES.get(key, key)])
 
 
 def keys(*names):

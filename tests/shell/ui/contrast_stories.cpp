@@ -158,7 +158,6 @@ class ContrastStory : public AllWindows {
     }
     /// The strongest change of a pixel when the focus comes.
     static void checkFocus(QWidget &window, const std::string &where) {
-        window.setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
         for (QWidget *widget : window.findChildren<QWidget *>()) {
             const bool aimedAt = widget->isVisibleTo(&window) && widget->window() == &window &&
                                  widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0 &&
@@ -170,6 +169,7 @@ class ContrastStory : public AllWindows {
             widget->setFocus(Qt::TabFocusReason);
             if (!widget->hasFocus())
                 continue;
+            window.setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
             const QImage after = window.grab(area).toImage();
             double most = 1;
             for (int y = 0; y < after.height(); ++y) {
