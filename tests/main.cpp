@@ -14,5 +14,9 @@ int main(int argc, char **argv) {
     testing::InitGoogleTest(&argc, argv);
     tolvo::test::failOnToolkitWarnings();
     const Application application(argc, argv);
+#if defined(QT_WIDGETS_LIB) && defined(Q_OS_WIN)
+    QApplication::setFont(
+        QFont(QStringLiteral("DejaVu Sans"), 9)); // the offscreen platform knows no font of the system
+#endif
     return RUN_ALL_TESTS();
 }

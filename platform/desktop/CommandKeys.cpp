@@ -20,11 +20,19 @@ bool typesNothing(const QKeyEvent &key) {
     return held.testFlag(Qt::ControlModifier) && held.testFlag(Qt::KeypadModifier);
 }
 
+#if defined(Q_OS_WIN)
+/// A letter or digit may have its plain text with Ctrl and Alt too; no layout has that on AltGr.
+bool typesItsOwnCharacter(const QKeyEvent &key) {
+    const bool plain = isAsciiLetter(key.key()) || (key.key() >= '0' && key.key() <= '9');
+    return plain && key.text().size() == 1 && key.text().front().toUpper() == QChar(key.key());
+}
+#endif
+
 } // namespace
 
 bool holdsAltGr(const QKeyEvent &key) {
 #if defined(Q_OS_WIN)
-    return key.modifiers().testFlags(Qt::ControlModifier | Qt::AltModifier);
+    return key.modifiers().testFlags(Qt::ControlModifier | Qt::AltModifier) && !typesItsOwnCharacter(key);
 #else
     constexpr quint32 mod5 = 0x80; // Wayland reports AltGr by its native bit only
     return key.modifiers().testFlag(Qt::GroupSwitchModifier) || (key.nativeModifiers() & mod5) != 0;

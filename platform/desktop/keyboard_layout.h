@@ -12,4 +12,8 @@ namespace tolvo {
 /// 0 if the layout in use has Latin letters, or if the platform doesn't report its layouts.
 char16_t latinCharacterOfKey(quint32 scanCode, quint32 modifiers);
 
+/// The digit of the upper row that stands at the place of a key on nearly every keyboard, 1 to 9; 0 for other
+/// keys and where places aren't known. `scanCode` is QKeyEvent's.
+int digitOfKey(quint32 scanCode);
+
 } // namespace tolvo

@@ -2,6 +2,7 @@
 #include "shell/ui/key_strokes.h"
 
 #include "platform/desktop/CommandKeys.h"
+#include "platform/desktop/keyboard_layout.h"
 #include "shell/keyboard.h"
 
 #include <QKeyEvent>
@@ -25,14 +26,9 @@ bool isCommandSign(int character) {
 
 /// With Shift the digits of the upper row arrive as what is printed above them, and some layouts have them
 /// only so. 0 for other keys.
-int digitByPlace([[maybe_unused]] const QKeyEvent &event) {
-#if defined(Q_OS_LINUX)
-    constexpr quint32 scanCodeOfDigit1 = 10;
-    const quint32 scanCode = event.nativeScanCode();
-    if (scanCode >= scanCodeOfDigit1 && scanCode < scanCodeOfDigit1 + 8)
-        return keyCode::Digit1 + static_cast<int>(scanCode - scanCodeOfDigit1);
-#endif
-    return 0;
+int digitByPlace(const QKeyEvent &event) {
+    const int digit = digitOfKey(event.nativeScanCode());
+    return digit == 0 || digit > 8 ? 0 : keyCode::Digit1 + digit - 1;
 }
 
 /// The letter, digit or sign that a key means, 0 for none.

@@ -97,4 +97,10 @@ char16_t latinCharacterOfKey(quint32 /*scanCode*/, quint32 /*modifiers*/) {
 
 #endif
 
+int digitOfKey(quint32 scanCode) {
+    constexpr quint32 scanCodeOfDigit1 = 10;
+    const quint32 place = scanCode - scanCodeOfDigit1;
+    return place < 9 ? static_cast<int>(place) + 1 : 0;
+}
+
 } // namespace tolvo

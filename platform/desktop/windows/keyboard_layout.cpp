@@ -64,4 +64,10 @@ char16_t latinCharacterOfKey(quint32 scanCode, quint32 /*modifiers*/) {
     return latin == layouts.end() ? characterByPlace(scanCode) : asciiCharacter(scanCode, *latin);
 }
 
+int digitOfKey(quint32 scanCode) {
+    constexpr quint32 scanCodeOfDigit1 = 2;
+    const quint32 place = scanCode - scanCodeOfDigit1;
+    return place < 9 ? static_cast<int>(place) + 1 : 0;
+}
+
 } // namespace tolvo

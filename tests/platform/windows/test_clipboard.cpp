@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "platform/desktop/CommandKeys.h"
 #include "platform/desktop/clipboard_ways.h"
+#include "platform/desktop/keyboard_layout.h"
 #include "platform/desktop/windows/OpenClipboard.h"
 #include "platform/desktop/windows/WindowsTextTransfer.h"
 #include "platform/desktop/windows/system_text.h"
 #include "tests/support/failures.h"
 
+#include <QKeyEvent>
 #include <atomic>
 #include <thread>
 
@@ -66,6 +69,25 @@ TEST(WindowsClipboard, IsTriedAgainWhileAnotherProgramHoldsItOpen) {
     const Holder holder(200);
     putSystemText(u"after"_s, 5000);
     EXPECT_EQ(systemText(), u"after"_s);
+}
+
+TEST(WindowsKeyboard, TypesWithAltGrWhatIsNotTheCharacterOfTheKey) {
+    const struct {
+        int key;
+        QString text;
+        bool holds;
+    } rows[] = {{Qt::Key_Z, u"z"_s, false}, {Qt::Key_1, u"1"_s, false}, {Qt::Key_Z, u"\u017C"_s, true},
+                {Qt::Key_Q, u"@"_s, true},  {0x7B, u"{"_s, true},       {Qt::Key_Z, QString(), true}};
+    for (const auto &[key, text, holds] : rows) {
+        const QKeyEvent event(QEvent::KeyPress, key, Qt::ControlModifier | Qt::AltModifier, text);
+        EXPECT_EQ(holdsAltGr(event), holds) << key;
+    }
+}
+
+TEST(WindowsKeyboard, HasTheDigitsInARow) {
+    // The keys of Escape, 1, 8, 9 and 0.
+    for (const auto &[scanCode, digit] : {std::pair{1U, 0}, {2U, 1}, {9U, 8}, {10U, 9}, {11U, 0}})
+        EXPECT_EQ(digitOfKey(scanCode), digit) << scanCode;
 }
 
 } // namespace

@@ -210,6 +210,9 @@ TEST_F(OptionsStory, openOnAnyStore) {
 }
 
 TEST_F(OptionsStory, theExportProposesAFolderThatIsThere) {
+#ifdef Q_OS_WIN
+    GTEST_SKIP() << "there the system names the user's folders, not HOME";
+#endif
     const QTemporaryDir home;
     const QByteArray before = qgetenv("HOME");
     qputenv("HOME", home.path().toLocal8Bit());

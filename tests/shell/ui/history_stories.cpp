@@ -53,7 +53,9 @@ TEST_F(HistoryStory, goesAsFarAsTheUserChooses) {
         EXPECT_EQ(entries("cmdRedoList_menu"), "PowerButton 1: A &&&& B|typing");
         choose("cmdRedoList_menu", "typing");
         EXPECT_EQ(text()->toPlainText(), "yX ONE");
-        QTest::keyClick(text(), Qt::Key_Z, Qt::ControlModifier | Qt::AltModifier);
+        // With a text it would be AltGr on Windows.
+        QTest::sendKeyEvent(QTest::Click, text(), Qt::Key_Z, QString(),
+                            Qt::ControlModifier | Qt::AltModifier);
         EXPECT_EQ(text()->toPlainText(), "x one");
         QTest::keyClick(text(), Qt::Key_D, Qt::AltModifier);
     });

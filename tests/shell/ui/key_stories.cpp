@@ -3,6 +3,7 @@
 #include "platform/desktop/PlainTextBox.h"
 #include "shell/ui/KeySheetWindow.h"
 #include "tests/shell/ui/MainWindowStory.h"
+#include "tests/support/line_ends.h"
 
 #include <QAction>
 #include <QMenu>
@@ -104,7 +105,7 @@ TEST_F(KeyStory, enterPressesTheButtonWithTheFocus) {
         focus("cmdClose");
         press(Qt::Key_Return);
     });
-    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("\nABC"));
+    EXPECT_EQ(QApplication::clipboard()->text(), test::inLinesOfSystem(QStringLiteral("\nABC")));
 }
 
 TEST_F(KeyStory, arrowsMoveInsideARowThatIsOneStop) {

@@ -55,6 +55,9 @@ int readKey(const QString &name) {
 }
 
 TEST(KeyStrokes, areFoundByMeaning) {
+#ifdef Q_OS_WIN
+    GTEST_SKIP() << "the table has the places of keys, and the texts with Ctrl and Alt, of X11";
+#endif
     char16_t latin = 0;
     const CommandKeys commandKeys([&](quint32, quint32) { return latin; });
     forEachExample("/tests/shell/ui/key_examples.txt", [&](const QString &, const QStringList &row) {

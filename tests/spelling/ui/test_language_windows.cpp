@@ -40,6 +40,9 @@ class LanguageWindows : public SpellingWorld {
 };
 
 TEST_F(LanguageWindows, AddAndRemoveALanguage) {
+#ifdef Q_OS_WIN
+    GTEST_SKIP() << "there the system names the user's folders, not HOME";
+#endif
     withModal<QDialog>([this](QDialog &window) {
         auto &list = child<QTreeWidget>(window, "lvwHunspellLangs");
         EXPECT_EQ(list.topLevelItem(0)->text(3), u("With Tolvo"));
