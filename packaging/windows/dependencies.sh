@@ -77,6 +77,7 @@ build_library() {
     ninja -C "$cache/work/$name" | follow "$name" &&
         cmake --install "$cache/work/$name" >>"$log" 2>&1 ||
         { tail -n 40 "$log" >&2; exit 1; }
+    install -Dm644 "$cache/sources/$name/debian/copyright" "$prefix/licences/$name"
     rm -rf "$cache/work/$name" "$cache/work/$name.recipe"
 }
 

@@ -14,7 +14,7 @@ objdump=x86_64-w64-mingw32-objdump
 version=$(sed -n 's/^project(Tolvo VERSION \([0-9.]*\).*/\1/p' "$here/../../CMakeLists.txt")
 files=$build/package/Tolvo
 programs=(Tolvo.exe tolvo-pipe.exe Refresher.exe Advisor.exe Tally.exe tolvo-network.dll)
-data=(Tools.dat Locales.txt FileExtensions.txt OtherWords.txt scrbar.wav PowerButtons Dictionaries)
+data=(Tools.dat Locales.txt FileExtensions.txt OtherWords.txt scrbar.wav PowerButtons Dictionaries manual)
 plugins=(platforms/qwindows.dll styles/qwindowsvistastyle.dll tls/qschannelbackend.dll)
 
 fail() { printf 'pack.sh: %s\n' "$*" >&2; exit 1; }
@@ -51,6 +51,7 @@ done
 for name in "${data[@]}"; do cp -r "$build/bin/$name" "$files/"; done
 rm -f "$files/Dictionaries/persdict.dat" # the user's own lies in the user's folder
 cp "$here/qt.conf" "$here/../../LICENSE" "$files/"
+"$here/licences.sh" "${libraries[0]}/.." "$files/Licences"
 for name in "${programs[@]}"; do copy_needed "$files/$name"; done
 for plugin in "${plugins[@]}"; do
     for folder in "${libraries[@]}"; do

@@ -89,6 +89,10 @@ Section "Tolvo (required)" partProgram
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
+  WriteRegStr HKCU "Software\Classes\.tolvobutton" "" "Tolvo.PowerButton"
+  WriteRegStr HKCU "Software\Classes\Tolvo.PowerButton" "" "Tolvo PowerButton"
+  WriteRegStr HKCU "Software\Classes\Tolvo.PowerButton\DefaultIcon" "" "$INSTDIR\Tolvo.exe,0"
+  WriteRegStr HKCU "Software\Classes\Tolvo.PowerButton\shell\open\command" "" '"$INSTDIR\Tolvo.exe" "%1"'
   ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
 SectionEnd
@@ -113,6 +117,15 @@ FunctionEnd
 
 Section "Uninstall"
   Call un.refuseWhileRunning
+  ; The file of the user's own words, which every run makes, goes unless it has some: those stay as the settings do.
+  ${If} ${FileExists} "$INSTDIR\Dictionaries\persdict.dat"
+    FileOpen $0 "$INSTDIR\Dictionaries\persdict.dat" r
+    FileSeek $0 0 END $1
+    FileClose $0
+    ${If} $1 = 0
+      Delete "$INSTDIR\Dictionaries\persdict.dat"
+    ${EndIf}
+  ${EndIf}
   !insertmacro deleteFiles
   Delete "$INSTDIR\Uninstall.exe"
   RMDir "$INSTDIR"
@@ -125,8 +138,13 @@ Section "Uninstall"
   Delete "$SMPROGRAMS\Tolvo.lnk"
   Delete "$DESKTOP\Tolvo.lnk"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  DeleteRegKey HKCU "Software\Classes\Tolvo.PowerButton"
+  DeleteRegKey HKCU "Software\Classes\.tolvobutton"
   MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 \
     "Remove your settings, PowerButtons and dictionaries too?" /SD IDNO IDNO keep
   RMDir /r "$APPDATA\Tolvo"
+  Delete "$INSTDIR\Dictionaries\persdict*.dat"
+  RMDir "$INSTDIR\Dictionaries"
+  RMDir "$INSTDIR"
   keep:
 SectionEnd
