@@ -1,14 +1,11 @@
 # SPDX-License-Identifier: MIT
-"""A user at a desk: starts the real program on a virtual X server, with xclip as the other program, xdotool as the hands
-and the accessibility bus as the eyes."""
+"""A user at a desk: starts the real program on a virtual X server, with the hands of hands.py and the accessibility bus as
+the eyes."""
 
 import os
 import re
-import shutil
 import signal
-import sqlite3
 import subprocess
-import tempfile
 import threading
 import time
 import unittest
@@ -19,102 +16,13 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
-PROGRAMS = os.environ["TOLVO_BIN"]
+# Stories import these from here.
+from hands import (PATIENCE, PROGRAMS, Settings, by_code, clipboard_becomes, file_of, get_clipboard,  # noqa: E402, F401
+                   keys, set_clipboard, type_text, wait_for)
+
 FIELD = Atspi.Role.TEXT
 PANEL_ROW = Atspi.Role.TABLE_CELL  # what the toolkit makes of an item of a tree
 warnings.simplefilter("ignore", DeprecationWarning)
-PATIENCE = float(os.environ.get("TOLVO_PATIENCE", "15"))
-
-
-def wait_for(condition, what, patience=PATIENCE):
-    """Waits until the condition gives something true and returns it. `what` is the name of it, or a function that says
-    in the end how things are instead."""
-    end = time.monotonic() + patience
-    while time.monotonic() < end:
-        try:
-            result = condition()
-        except Exception:  # the accessibility bus fails for a moment while windows come and go
-            result = None
-        if result:
-            return result
-        time.sleep(0.05)
-    raise AssertionError(f"waited {patience:.0f} s in vain for {what() if callable(what) else what}")
-
-
-# Asked for these by name, newer X servers hold Alt with them.
-CODES = {**{f"F{n}": str(66 + n) for n in range(1, 11)}, "KP_Add": "86"}
-
-
-def by_code(stroke):
-    """A stroke such as ctrl+F3 with the code of its key, if it has one here."""
-    *modifiers, key = stroke.split("+")
-    return "+".join([*modifiers, CODES.get(key, key)])
-
-
-def keys(*names):
-    """Presses keys, one after the other; a name may hold several, parted by blanks, that go down in one stroke."""
-    for name in names:
-        subprocess.run(["xdotool", "key", "--clearmodifiers", *map(by_code, name.split())], check=True)
-        time.sleep(0.2 if "alt+" in name else 0.05)  # a mnemonic holds its button down for a tenth of a second
-
-
-def type_text(text):
-    subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
-    time.sleep(0.05)
-
-
-def set_clipboard(text, target="UTF8_STRING"):
-    owner = subprocess.Popen(["xclip", "-selection", "clipboard", "-target", target, "-in"], stdin=subprocess.PIPE,
-                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    owner.communicate(text if isinstance(text, bytes) else text.encode(), timeout=20)
-
-
-def get_clipboard():
-    """The clipboard's text, None if nobody offers any."""
-    for _ in range(2):
-        try:
-            reply = subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, timeout=5)
-        except subprocess.TimeoutExpired:
-            continue
-        return reply.stdout.decode() if reply.returncode == 0 else None
-    raise AssertionError("the clipboard's owner does not answer")
-
-
-def clipboard_becomes(text):
-    wait_for(lambda: get_clipboard() == text, f"the clipboard to hold {text[:60]!r}, it holds {get_clipboard()!r:.80}")
-
-
-class Settings:
-    """The settings store of one user, looked at with SQLite itself."""
-
-    def __init__(self):
-        self.folder = tempfile.mkdtemp(prefix="tolvo-user-")
-        self.file = os.path.join(self.folder, "settings.sqlite")
-
-    def close(self):
-        shutil.rmtree(self.folder, ignore_errors=True)
-
-    def environment(self):
-        return {**os.environ, "TOLVO_SETTINGS": self.file, "XDG_DATA_HOME": self.folder, "XDG_CONFIG_HOME": self.folder}
-
-    def programs(self, name):
-        """The ids of this user's programs of a name."""
-        return [int(program) for program in filter(str.isdigit, os.listdir("/proc"))
-                if name in file_of(program, "cmdline") and self.file in file_of(program, "environ")]
-
-    def write(self, tree, section, key, value):
-        """Writes one value with the store itself."""
-        subprocess.run([os.path.join(PROGRAMS, "..", "tests", "store_tool"), self.file, "write", tree, section, key, value],
-                       check=True)
-
-    def read(self, tree, section, key):
-        reply = subprocess.run([os.path.join(PROGRAMS, "..", "tests", "store_tool"), self.file, "read", tree, section, key],
-                               check=True, capture_output=True)
-        return reply.stdout.decode()
-
-    def is_sound(self):
-        with sqlite3.connect(self.file) as database:
-            return database.execute("pragma integrity_check").fetchone()[0] == "ok"
 
 
 class Tolvo:
@@ -370,15 +278,6 @@ class Tolvo:
             except subprocess.TimeoutExpired:
                 self.process.kill()
                 self.process.wait()
-
-
-def file_of(process, name):
-    """What the system tells of a process, empty if it is gone."""
-    try:
-        with open(f"/proc/{process}/{name}", errors="replace") as file:
-            return file.read()
-    except OSError:
-        return ""
 
 
 def parent_of(process):

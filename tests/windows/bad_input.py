@@ -1,35 +1,17 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""tolvo-pipe under Wine where something is not as it should be: bad_input.py BUILD."""
+"""tolvo-pipe under Wine where something is not as it should be."""
 import concurrent.futures
-import os
 import pathlib
 import shutil
-import subprocess
-import sys
 import tempfile
 import unittest
 
-HERE = pathlib.Path(__file__).resolve().parent
-BIN = pathlib.Path(sys.argv.pop(1)).resolve() / "bin"
-PROGRAM_FILES = ("*.exe", "*.txt", "*.dat", "Dictionaries/*")
+from wine_desk import BUILD, EXPLORER, main, wine, windows_path
+
+BIN = BUILD / "package" / "Tolvo"  # what installer and zip hold
 TEXT = "the lord of teh rings\n"
-SHELL_FOLDERS = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders"
-
-
-def wine(*command, text="", **environment):
-    return subprocess.run([HERE / "wine.sh", *command], input=text, capture_output=True, encoding="utf-8", timeout=120,
-                          env=dict(os.environ, **environment), check=False)
-
-
-def setUpModule():
-    # What Wine starts once and keeps running would keep the streams of the first program open.
-    subprocess.run([HERE / "wine.sh", "wineboot"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                   stderr=subprocess.DEVNULL, timeout=300, check=True)
-
-
-def windows_path(path):
-    return "Z:" + str(path).replace("/", "\\")
+SHELL_FOLDERS = EXPLORER + r"\User Shell Folders"
 
 
 class BadInput(unittest.TestCase):
@@ -42,11 +24,7 @@ class BadInput(unittest.TestCase):
     def install(self):
         """The program in a folder with blanks and letters outside of any one code page."""
         place = self.folder / "Prógram 日本 żółć"
-        for pattern in PROGRAM_FILES:
-            for file in BIN.glob(pattern):
-                target = place / file.relative_to(BIN)
-                target.parent.mkdir(parents=True, exist_ok=True)
-                shutil.copy(file, target)
+        shutil.copytree(BIN, place)
         return place
 
     def pipe(self, place, *arguments, **environment):
@@ -112,4 +90,4 @@ class BadInput(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    main()
