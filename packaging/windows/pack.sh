@@ -68,7 +68,8 @@ done
 list=$build/package/uninstall.nsh
 (cd "$files" && find . -type f -printf 'Delete "$INSTDIR\\%P"\n' && find . -mindepth 1 -depth -type d -printf 'RMDir "$INSTDIR\\%P"\n') |
     tr / '\\' >"$list"
-(cd "$here" && makensis -V2 -WX -DVERSION="$version" -DFILES="$files" -DLIST="$list" \
+"$here/make_sidebar.py" "$build/package/sidebar.bmp"
+(cd "$here" && makensis -V2 -WX -DVERSION="$version" -DFILES="$files" -DLIST="$list" -DSIDEBAR="$build/package/sidebar.bmp" \
     -DUNINSTALL_KEY='Software\Microsoft\Windows\CurrentVersion\Uninstall\Tolvo' \
     -DRESULT="$build/Tolvo-$version-setup.exe" tolvo.nsi)
 rm -f "$build/Tolvo-$version.zip"

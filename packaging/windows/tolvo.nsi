@@ -1,5 +1,6 @@
 ; The installer: for one user, without any rights of an administrator. Made by pack.sh, which defines
-;   VERSION  the version, FILES the folder of what is installed, LIST a file with its deletion, RESULT the installer.
+;   VERSION  the version, FILES the folder of what is installed, LIST a file with its deletion, SIDEBAR a picture for the
+;   last page, RESULT the installer.
 ; Silent with /S; then /D=FOLDER (last, without quotes) names the folder and /DESKTOP asks for the entry on the desktop.
 Unicode true
 Target amd64-unicode
@@ -26,6 +27,7 @@ VIAddVersionKey LegalCopyright "The Tolvo developers"
 
 !define MUI_ICON "tolvo.ico"
 !define MUI_UNICON "tolvo.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDEBAR}"
 !define MUI_COMPONENTSPAGE_NODESC
 !define MUI_FINISHPAGE_RUN "$INSTDIR\Tolvo.exe"
 !define MUI_FINISHPAGE_RUN_TEXT "Start Tolvo with the text on the clipboard"

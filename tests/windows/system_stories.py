@@ -6,7 +6,7 @@ import re
 import shutil
 import tempfile
 
-from wine_desk import (BUILD, EXPLORER, MAIN, Story, click_into, keys, main, wait_for, window_becomes_active,
+from wine_desk import (BUILD, EXPLORER, MAIN, Story, click_into, keys, lightness, main, wait_for, window_becomes_active,
                        windows_path, wine)
 from hands import type_text
 
@@ -55,6 +55,16 @@ class SystemStories(Story):
         self.choose_file(4, "Import Preferences", written)
         wait_for(lambda: self.settings.read("Tolvo", "Preferences", "FontUseProp") == "1", "the imported settings")
         self.assertEqual(self.settings.read("Tolvo", "Preferences", "Wordwrap"), "1")
+
+    def test_the_theme_of_the_system_is_followed(self):
+        theme = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize"
+        self.addCleanup(wine, "reg", "delete", theme, "/v", "AppsUseLightTheme", "/f")
+        for light, least, most in (0, 0, 0.4), (1, 0.6, 1):
+            wine("reg", "add", theme, "/v", "AppsUseLightTheme", "/t", "REG_DWORD", "/d", str(light), "/f")
+            run = self.start(TEXT)
+            wait_for(lambda: least <= lightness() <= most, lambda: f"a lightness of {least} to {most}, it is {lightness()}")
+            keys("alt+q")
+            run.ends()
 
     def upper_case(self, **more):
         run = self.start(TEXT, **more)

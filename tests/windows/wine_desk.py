@@ -114,6 +114,13 @@ def active_title():
     return active_window("getwindowname")
 
 
+def lightness():
+    """Of the active window as a whole, 0 to 1."""
+    done = subprocess.run(["import", "-silent", "-window", active_window(), "-colorspace", "Gray", "-format", "%[fx:mean]",
+                           "info:"], capture_output=True, encoding="utf-8", check=True)
+    return float(done.stdout)
+
+
 def window_becomes_active(title):
     """Waits for the window of this title, or with one that a pattern matches, to have the keyboard."""
     def is_active():
