@@ -46,7 +46,7 @@ void lookForUpdate(const QUrl &address, HttpClient &client, RefreshOutcome &outc
     const auto offered = QVersionNumber::fromString(answer.value(QStringLiteral("version")).toString());
     if (offered.isNull()) {
         outcome.done = false;
-        outcome.messages += QStringLiteral("The server's answer to the question for updates makes no sense.");
+        outcome.messages += QStringLiteral("The server's answer about updates makes no sense.");
         return;
     }
     if (offered <= QVersionNumber::fromString(applicationVersion())) {
@@ -130,7 +130,7 @@ RefreshOutcome refresh(const RefreshTask &task, const QByteArray &address, Setti
     const QUrl url = QUrl::fromEncoded(address);
     if (!isWebAddress(url)) {
         outcome.done = false;
-        outcome.messages += QStringLiteral("'%1' is no web address.").arg(QString::fromUtf8(address));
+        outcome.messages += QStringLiteral("'%1' is not a web address.").arg(QString::fromUtf8(address));
         return outcome;
     }
     if (task.update)

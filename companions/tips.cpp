@@ -49,8 +49,8 @@ constexpr Tip collection[] = {
     {u"Plain characters for plain places", u"Plain characters turns curly quotation marks, long dashes and "
                                            u"the like into characters that every form "
                                            u"and every program takes. Curly quotes goes the other way."},
-    {u"Blanks you can't see", u"Trim line ends removes blanks and tabs at the end of every line, and Single "
-                              u"spaces leaves one blank where there are several. One favourite does both."},
+    {u"Spaces you can't see", u"Trim line ends removes spaces and tabs at the end of every line, and Single "
+                              u"spaces leaves one space where there are several. One favourite does both."},
     {u"Read a web address", u"Full of %20 and %3F? Decode web address shows what it says. Decode HTML does "
                             u"the same for codes such as &amp; in web pages."},
     {u"Move lines up and down",
@@ -83,7 +83,7 @@ constexpr Tip collection[] = {
      u"Statistics counts characters, words, sentences and lines. Select a part first, and "
      u"you see the numbers of the part beside those of the whole."},
     {u"Check the small things",
-     u"Punctuation repairs missing and doubled blanks around commas, full stops and brackets, and shows what "
+     u"Punctuation repairs missing and doubled spaces around commas, full stops and brackets, and shows what "
      u"else looks wrong."},
     {u"Teach it your words", u"In a spelling check choose Add to dictionary for names and terms of your own. "
                              u"They count as correct from "

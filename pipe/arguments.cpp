@@ -84,7 +84,7 @@ PipeArguments readArguments(const QStringList &arguments) {
         result.error = QStringLiteral("--button-file takes the place of the steps");
     if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Steps && result.steps.isEmpty() &&
         !hasFile)
-        result.error = QStringLiteral("no steps; --help tells how to use it");
+        result.error = QStringLiteral("no steps; see --help");
     if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Batch && !result.steps.isEmpty())
         result.error = QStringLiteral("--batch reads its steps from standard input");
     if (result.error.isEmpty() && result.mode == PipeArguments::Mode::Spell && !result.steps.isEmpty())

@@ -30,7 +30,7 @@ using Choices = std::array<QStringView, 7>;
 constexpr Choices modes = {u"", u"", u"wildcard", u"regular expression"};
 constexpr Choices numberStyles = {u"1 2 3", u"a b c", u"A B C", u"i ii iii", u"I II III", u"1.1 1.2"};
 constexpr Choices signsAfterNumbers = {u"", u"with stop", u"with bracket", u"in brackets"};
-constexpr Choices indents = {u"a tab", u"blanks", u"a text"};
+constexpr Choices indents = {u"a tab", u"spaces", u"a text"};
 constexpr Choices directions = {u"", u"up", u"from start"};
 constexpr Choices orders = {u"language", u"natural order", u"number", u"characters"};
 constexpr Choices kindsOfCase = {u"upper case", u"lower case", u"title case"};
@@ -69,7 +69,7 @@ constexpr std::array plainWords = {
     SettingWords{u"Column", Kind::Number, u"column"},
     SettingWords{u"Columns", Kind::Text, u"columns"},
     SettingWords{u"Head", Kind::Number, u"head lines"},
-    SettingWords{u"Spaces", Kind::Number, u"blanks"},
+    SettingWords{u"Spaces", Kind::Number, u"spaces"},
     SettingWords{u"Language", Kind::Number, u"language"},
     SettingWords{u"LangID", Kind::Number, u"language"},
     SettingWords{u"Single", Kind::Switch, u"single"},
@@ -98,7 +98,7 @@ constexpr std::array plainWords = {
     SettingWords{u"Join", Kind::Switch, u"join"},
     SettingWords{u"Trim", Kind::Switch, u"trim"},
     SettingWords{u"LeaveOutEmpty", Kind::Switch, u"leave out empty"},
-    SettingWords{u"Blanks", Kind::Switch, u"no-break blanks"},
+    SettingWords{u"Blanks", Kind::Switch, u"no-break spaces"},
     SettingWords{u"InPlace", Kind::Switch, u"in place"},
     SettingWords{u"Fill", Kind::Switch, u"fill"},
 };

@@ -63,7 +63,7 @@ void Reader::readHead() {
     const QStringView head = m_lines.next();
     m_versionFour = head == u"REGEDIT4";
     if (!m_versionFour && head != u"Windows Registry Editor Version 5.00")
-        fail(QStringLiteral("this is no file of the registry editor, version 5.00 or 4"));
+        fail(QStringLiteral("this is not a file of the registry editor, version 5.00 or 4"));
 }
 
 QList<RegKey> Reader::read() {
@@ -150,7 +150,7 @@ void Reader::readData(QStringView data, RegValue &value) {
     else if (type.startsWith(u"hex(", Qt::CaseInsensitive) && type.endsWith(u')'))
         refused = typeName(type.sliced(4).chopped(1));
     else
-        fail(QStringLiteral("the value is no text in quotation marks"));
+        fail(QStringLiteral("the value is not a text in quotation marks"));
     fail(QStringLiteral("the value '%1' has the type %2; settings are texts (REG_SZ)")
              .arg(value.entry.name, refused));
 }
@@ -206,7 +206,7 @@ QString Reader::readHex(QStringView data) {
         bool ok = false;
         const uint byte = field.toUInt(&ok, 16);
         if (!ok || field.size() > 2)
-            fail(QStringLiteral("'%1' is no hexadecimal byte")
+            fail(QStringLiteral("'%1' is not a hexadecimal byte")
                      .arg(field.first(qMin(field.size(), qsizetype{20}))));
         bytes += static_cast<char>(byte);
         complete = comma < 0;

@@ -73,7 +73,7 @@ void SettingsStore::Database::open() {
     }
     const QFileInfo info(m_path);
     if (info.exists() && !info.isFile()) {
-        goOnInMemory(QStringLiteral("%1 is no file.").arg(nativePath(m_path)), false);
+        goOnInMemory(QStringLiteral("%1 is not a file.").arg(nativePath(m_path)), false);
         return;
     }
     makePrivateFolder(info.absolutePath());

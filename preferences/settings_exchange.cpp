@@ -118,7 +118,7 @@ QByteArray exportedSettings(const SettingsStore &store, ExportScope scope) {
 void exportSettings(const SettingsStore &store, ExportScope scope, const QString &fileName) {
     const QByteArray bytes = exportedSettings(store, scope);
     if (QFileInfo(fileName).exists() && !QFileInfo(fileName).isFile())
-        failForFile(fileName, QStringLiteral("this is no file that settings can be written to"));
+        failForFile(fileName, QStringLiteral("settings can't be written to this file"));
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
         failForFile(fileName, QStringLiteral("the settings could not be written. ") + file.errorString());

@@ -29,11 +29,11 @@ constexpr Rule rules[] = {
     {u"edUDC", u"web address codes", addressCodes},
     {u"ccSEN", u"all capitals", allCapitals},
     {u"edEOL", u"mixed line ends", mixedLineEnds},
-    {u"foSSP", u"double blanks", doubleBlanks},
+    {u"foSSP", u"double spaces", doubleBlanks},
     {u"foREM", u"blank lines in a row", blankLines},
     {u"liREM", u"list numbers", listNumbers},
     {u"liRMB", u"bullets", bullets},
-    {u"foTRA", u"blanks at line ends", trailingBlanks},
+    {u"foTRA", u"spaces at line ends", trailingBlanks},
     {u"edPLA", u"curly quotes", curlyQuotes},
 };
 

@@ -34,7 +34,7 @@ QString countFault(const QString &dic) {
     bool isNumber = false;
     const qint64 count = line.split(' ').first().split('\t').first().toLongLong(&isNumber);
     if (!isNumber || count <= 0)
-        return leaf(dic) + QStringLiteral(" is no list of words: it doesn't begin with their number.");
+        return leaf(dic) + QStringLiteral(" is not a list of words: it doesn't begin with their number.");
     constexpr qint64 harmless = 1'000'000;
     if (count > std::max(harmless, file.size()))
         return leaf(dic) + QStringLiteral(" claims to hold more words than it can.");
@@ -97,7 +97,7 @@ QString fileFault(const DictionaryFiles &files) {
             return leaf(path) + QStringLiteral(" is empty.");
         if (file.size() > limit)
             return leaf(path) +
-                   QStringLiteral(" is too large: a dictionary has %1 MB at most there.").arg(limit >> 20);
+                   QStringLiteral(" is too large: such a file may have at most %1 MB.").arg(limit >> 20);
     }
     return countFault(files.dic);
 }

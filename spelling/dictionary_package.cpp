@@ -47,7 +47,7 @@ class PackageReader {
     /// False with a fault.
     bool read() {
         if (!m_zip)
-            return refuse(QStringLiteral("is no zip file, or a damaged one."));
+            return refuse(QStringLiteral("is not a zip file, or is damaged."));
         int count = 0;
         int step = unzGoToFirstFile(m_zip.get());
         for (; step == UNZ_OK; step = unzGoToNextFile(m_zip.get())) {

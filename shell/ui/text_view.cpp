@@ -51,7 +51,7 @@ void TextView::showFacts() {
 std::span<const TextView::Key> TextView::keys() {
     static constexpr std::array all{
         Key{Qt::Key_G, false, u"Ctrl-G", u"Go to a line", &TextView::goToLine},
-        Key{Qt::Key_B, false, u"Ctrl-B", u"Show blanks and line ends, or hide them", &TextView::invertMarks},
+        Key{Qt::Key_B, false, u"Ctrl-B", u"Show spaces and line ends, or hide them", &TextView::invertMarks},
         Key{Qt::Key_Plus, true, u"Ctrl-+", u"Larger text", &TextView::larger},
         Key{Qt::Key_Equal, true, nullptr, nullptr, &TextView::larger},
         Key{Qt::Key_Minus, true, u"Ctrl--", u"Smaller text", &TextView::smaller},
@@ -90,7 +90,7 @@ void TextView::offerInMenu() {
         return result;
     };
     m_marksAction =
-        action(QStringLiteral("Show &blanks and line ends\tCtrl+B"), [this](bool on) { showMarks(on); });
+        action(QStringLiteral("&Show spaces and line ends\tCtrl+B"), [this](bool on) { showMarks(on); });
     m_marksAction->setCheckable(true);
     const QList<QAction *> actions{m_marksAction,
                                    action(QStringLiteral("&Larger text\tCtrl++"), [this] { larger(); }),

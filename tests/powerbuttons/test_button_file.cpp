@@ -163,7 +163,7 @@ TEST_F(ButtonFiles, sayWhatTheyDo) {
             action("edREP", "Mode=3, Find=a+, Replace=b, ReplaceAll=1", SettingsFrom::Custom)});
     EXPECT_EQ(
         sharedStepLines(gatherButtons(buttons, 1)).join("|"),
-        "1. Run PowerButton: inner|   1.1. UPPER CASE|   1.2. Indent: blanks 2|"
+        "1. Run PowerButton: inner|   1.1. UPPER CASE|   1.2. Indent: spaces 2|"
         "2. Word wrap: as used last|3. Remove blank lines: asks when run|"
         "4. Search & replace: regular expression, find \u201Ca+\u201D, replace with \u201Cb\u201D, all");
 }

@@ -100,7 +100,7 @@ TEST(RegFile, RefusesInWords) {
         const char *says;
     } cases[] = {{"", "empty"},
                  {"\xFF\xFE", "Line 1"},
-                 {"[HKCU\\K]\r\n", "Line 1: this is no file of the registry editor"},
+                 {"[HKCU\\K]\r\n", "Line 1: this is not a file of the registry editor"},
                  {"Windows Registry Editor Version 6.00\r\n", "Line 1"},
                  {utf16(QString::fromLatin1(withLines(""))), "without a byte order mark"},
                  {"\xFF\xFE" + utf16(QString::fromLatin1(withLines("\"a\"=\"b\""))).chopped(1),

@@ -79,7 +79,7 @@ TEST_F(Installation, TakesPairsAndPackages) {
 TEST_F(Installation, RefusesBrokenPairsInWords) {
     const std::tuple<const char *, QByteArray, QByteArray, const char *> cases[] = {
         {"de_DE", aff, "", "de_DE.dic is empty."},
-        {"de_DE", aff, "Haus\n", "de_DE.dic is no list of words: it doesn't begin with their number."},
+        {"de_DE", aff, "Haus\n", "de_DE.dic is not a list of words: it doesn't begin with their number."},
         {"de_DE", aff, "2000000000\nHaus\n", "de_DE.dic claims to hold more words than it can."},
         {"de_DE", "SET KLINGON-8\n", dic, "de_DE.aff names an encoding that isn't known: KLINGON-8"},
         {"de_DE", aff, "1\nJ\xe4nner\n", "de_DE.dic isn't written in the encoding that de_DE.aff names."},
@@ -100,7 +100,7 @@ TEST_F(Installation, RefusesBrokenPairsInWords) {
     EXPECT_EQ(add("de_DE.dic"), u("de_DE.aff is missing."));
     QFile large(place("de_DE.aff"));
     ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(200LL << 20));
-    EXPECT_EQ(add("de_DE.dic"), u("de_DE.aff is too large: a dictionary has 48 MB at most there."));
+    EXPECT_EQ(add("de_DE.dic"), u("de_DE.aff is too large: such a file may have at most 48 MB."));
     EXPECT_FALSE(HunspellEngine().init(place("de_DE.aff"), place("en_GB.dic")));
 }
 
@@ -119,9 +119,9 @@ TEST_F(Installation, RefusesBrokenPackagesAsAWhole) {
         {"bomb.oxt", "bomb.oxt is too large when it is unpacked."},
         {"half.oxt", "fr.aff names an encoding that isn't known: X"},
         {"none.oxt", "none.oxt holds no dictionary: no pair of an .aff and a .dic file."},
-        {"text.oxt", "text.oxt is no zip file, or a damaged one."},
+        {"text.oxt", "text.oxt is not a zip file, or is damaged."},
         {"torn.oxt", "torn.oxt is damaged."},
-        {"missing.oxt", "missing.oxt is no zip file, or a damaged one."},
+        {"missing.oxt", "missing.oxt is not a zip file, or is damaged."},
     };
     for (const auto &[name, fault] : cases) {
         EXPECT_EQ(add(name), u(fault));

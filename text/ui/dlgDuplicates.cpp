@@ -43,7 +43,7 @@ dlgDuplicates::dlgDuplicates(const DuplicateSettings &settings, const ToolDialog
                              QStringLiteral("Only lines that follow each &other"), this)),
       m_leaveBlanks(makeCheck(QStringLiteral("chkLeaveBlanks"), QStringLiteral("Leave &blank lines"), this)),
       m_counts(
-          makeCheck(QStringLiteral("chkCounts"), QStringLiteral("Put &how often before each line"), this)),
+          makeCheck(QStringLiteral("chkCounts"), QStringLiteral("Put the cou&nt before each line"), this)),
       m_sample(makeSample(9)) {
     auto *contents = new QVBoxLayout;
     contents->addWidget(m_keepLast.button(false));

@@ -54,7 +54,7 @@ SettingsDialogPtr<TypographySettings> makeToolDialog(const TypographySettings &s
         {QStringLiteral("&Language:"),
          {QStringLiteral("English (British)"), QStringLiteral("English (American)"), QStringLiteral("German"),
           QStringLiteral("French"), QStringLiteral("Polish"), QStringLiteral("Spanish")}},
-        {QStringLiteral("&No-break blanks where a line must not end")}};
+        {QStringLiteral("&No-break spaces where a line must not end")}};
     return std::make_unique<FieldDialog<TypographySettings>>(
         QStringLiteral("dlgTypography"), QStringLiteral("Typography"), looks, SampleLook{3},
         [](const TypographySettings &now) {

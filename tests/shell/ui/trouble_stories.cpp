@@ -87,7 +87,7 @@ TEST_F(TroubleStory, whatDoesNotFitIsLeftOutAndTheWindowNeedsNoMoreWidth) {
     run(QStringLiteral("> one  a  b  \n> two &lt;  \n\n\n\nend"), [] {
         window()->resize(1400, window()->height());
         expectOffered(
-            {"mail quotes", "HTML codes", "double blanks", "blank lines in a row", "blanks at line ends"});
+            {"mail quotes", "HTML codes", "double spaces", "blank lines in a row", "spaces at line ends"});
         const QStringList all = offered();
         const int least = window()->minimumSizeHint().width();
         EXPECT_LE(least, 632) << "as without the line";

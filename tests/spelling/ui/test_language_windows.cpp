@@ -55,7 +55,7 @@ TEST_F(LanguageWindows, AddAndRemoveALanguage) {
             EXPECT_EQ(add.focusWidget(), &offers);
             click(add, "cmdAdd");
             EXPECT_EQ(said(), QStringList(u("This dictionary was not added.\r\n"
-                                            "broken.oxt is no zip file, or a damaged one.")));
+                                            "broken.oxt is not a zip file, or is damaged.")));
             QTest::keyClick(&offers, Qt::Key_End);
             EXPECT_FALSE(child<QAbstractButton>(add, "cmdAdd").isEnabled());
             QTest::keyClick(&offers, Qt::Key_Up);
