@@ -52,7 +52,7 @@ class Table {
   public:
     explicit Table(const char *title) { std::printf("\n%s\n", title); }
 
-    /// One figure; `remark` tells how it came about.
+    /// One figure; `remark` says how it came about.
     void add(const std::string &name, double figure, double budget, const char *unit,
              const std::string &remark = {}) {
         const bool over = figure > budget;

@@ -34,7 +34,7 @@ ALLOWED = {
 
 
 def functions(file, kinds):
-    """The mangled names of this system's functions that a file defines, of the kinds that nm tells by letters."""
+    """The mangled names of this system's functions that a file defines, of the kinds that nm shows by letters."""
     listing = subprocess.run(["nm", "--defined-only", str(file)], check=True, capture_output=True, text=True).stdout
     return {line.split()[2] for line in listing.splitlines() if re.match(rf"[0-9a-f]+ [{kinds}] \S*5tolvo", line)}
 

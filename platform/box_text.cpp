@@ -15,7 +15,7 @@ constexpr qsizetype longestRun = 60; ///< units that need no place to break
 constexpr QChar lineEnd = u'\n';
 
 /// Keeps `front` items and `back` items of a list or a string. The end of a text is worth keeping: an error
-/// report tells its number there.
+/// report gives its number there.
 template <class List>
 List ends(const List &list, qsizetype front, qsizetype back, const List &between) {
     return list.first(front) + between + list.last(back);

@@ -28,7 +28,7 @@ struct StepEffect {
     QString says;          ///< what the step reports, or why nothing happens: "Asks when run"
 };
 
-/// Works out effects beside the keys.
+/// Works out effects in the background.
 class StepEffects {
   public:
     using Deliver = std::function<void(const StepEffect &)>;

@@ -56,7 +56,7 @@ class Step {
             return;
         try {
             m_connection.execute(m_outermost ? "ROLLBACK" : "ROLLBACK TO step; RELEASE step");
-        } catch (const SqliteError &) { // the failure that brought us here tells more
+        } catch (const SqliteError &) { // the failure that led here says more
         }
     }
     Step(const Step &) = delete;

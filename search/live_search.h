@@ -31,7 +31,7 @@ struct LiveAnswer {
                                                       const QList<RegularExpression::Span> &places,
                                                       const Cancellation &cancellation);
 
-/// The place, from 0, of the match that a selection is; -1 if it is none.
+/// The place, from 0, of the match that a selection is; -1 if it is not a match.
 [[nodiscard]] qsizetype matchAt(const QList<RegularExpression::Span> &places,
                                 RegularExpression::Span selection);
 

@@ -12,8 +12,7 @@ class LineCounter {
   public:
     LineCounter(QStringView text, QStringView lineEnd) : m_text(text), m_lineEnd(lineEnd) {}
 
-    /// The line, from 1, that holds the unit at an index from 0. A line end counts as part of
-    /// the next line.
+    /// The line, from 1, that holds the unit at an index from 0. A line end counts as part of the next line.
     [[nodiscard]] int lineOf(qsizetype index);
 
   private:

@@ -10,7 +10,7 @@ namespace tolvo {
 [[nodiscard]] QString removeDuplicates(const ToolInput &in, const DuplicateSettings &settings);
 [[nodiscard]] QString chooseEveryLine(const ToolInput &in, const EveryLineSettings &settings);
 
-/// A list of columns that can't be read is said in a warning; the text stays.
+/// Warns of a list of columns that can't be read; the text stays.
 [[nodiscard]] QString chooseColumns(const ToolInput &in, const ColumnSettings &settings);
 
 } // namespace tolvo

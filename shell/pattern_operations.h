@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The tools that look for a pattern in the lines, or in all of the text. A pattern that can't be looked for,
-// or takes too long, is said in a warning; the text stays, as it does for an empty pattern and without a
-// match to count.
+// The tools that look for a pattern in the lines, or in all of the text. They warn of a pattern that
+// can't be looked for or takes too long; the text stays, as it does for an empty pattern and without a match
+// to count.
 #pragma once
 
 #include "search/match_budget.h"

@@ -13,7 +13,7 @@ struct TextFile {
     QString refusal;             ///< why there is no text, for the user
 };
 
-/// Reads a file in any of the usual encodings (decodedText). It refuses what is no text, what can't be read,
+/// Reads a file in any of the usual encodings (decodedText). It refuses what is not text, what can't be read,
 /// and files above 64 MB.
 [[nodiscard]] TextFile readTextFile(const QString &path);
 

@@ -27,8 +27,8 @@ struct Trouble {
 /// How many troubles are worth a look at one time.
 inline constexpr qsizetype mostTroubles = 5;
 
-/// The troubles of a text, the most useful to mend first, at most mostTroubles. A single odd place is none,
-/// and neither is the layout of a listing or a table. Safe in any thread; ends early when cancelled.
+/// The troubles of a text, the most useful to mend first, at most mostTroubles. A single odd place doesn't
+/// count, and neither does the layout of a listing or a table. Safe in any thread; ends early when cancelled.
 ///   u"> one|> two" gives "mail quotes" with the tool edSTR
 [[nodiscard]] QList<Trouble> textTroubles(const QString &text, const Cancellation &cancellation = {});
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The commands of the main window that are no tools, as a table.
+// The commands of the main window that are not tools, as a table.
 #pragma once
 
 #include <QStringView>

@@ -13,7 +13,7 @@ using WindowSizes = QMap<QString, QSize>;
 
 /// "dlgSpelling 800x600|frmStats 300x200"
 [[nodiscard]] QString written(const WindowSizes &sizes);
-/// Leaves out what is no name with a size above 0.
+/// Leaves out what is not a name with a size above 0.
 [[nodiscard]] WindowSizes readSizes(const QString &text);
 
 /// A size that was remembered, as far as contents and screen allow; contents that need more than the screen

@@ -56,7 +56,7 @@ bool Proofing::proof(QString &text, int LangID, bool grammar) {
         });
     if (done && quiet)
         return true;
-    m_host.setStatus({}); // no check is running now
+    m_host.setStatus({}); // no check is running
     return false;
 }
 

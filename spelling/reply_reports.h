@@ -7,7 +7,7 @@ namespace tolvo {
 
 class MessageBoxes;
 
-/// What is wrong with a service's reply, told in one message of each kind however often it occurs.
+/// What is wrong with a service's reply, reported in one message of each kind however often it occurs.
 ///   "Text 'teh' cannot be found", "Text 'teh' cannot be found, nor 4,999 more"
 class ReplyReports {
   public:

@@ -49,8 +49,8 @@ class ErrorWalk {
     /// Checks the text, whose lines end in CR alone, and goes to its first error. False if there is none, and
     /// so nothing to show.
     bool start(const QString &text, int LangID, bool grammar);
-    /// From now on, finds the suggestions of the words ahead beside the keys, so that no step waits for them.
-    /// To be called after start().
+    /// From here on, finds the suggestions of the words ahead in the background, so that no step waits for
+    /// them. To be called after start().
     void lookAhead(BackgroundWorker &worker);
     /// Releases the provider.
     void end();

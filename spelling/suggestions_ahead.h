@@ -10,8 +10,8 @@
 
 namespace tolvo {
 
-/// Finds suggestions before they are asked for: word by word beside the keys, in a second engine, since one
-/// engine serves one thread. The first engine then has them at hand.
+/// Finds suggestions before they are asked for: word by word in the background, in a second engine, since
+/// one engine serves one thread. The first engine then has them at hand.
 class SuggestionsAhead {
   public:
     /// `nextWord` names the word to look at next, asked for in this thread; empty if there is none.

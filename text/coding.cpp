@@ -153,7 +153,7 @@ QString unicodeEscaped(QStringView text) {
 
 namespace {
 
-/// An escape after its backslash: what it stands for, and its length; nothing if it is none.
+/// An escape after its backslash: what it stands for, and its length; nothing if it is not an escape.
 struct Escape {
     QString stands;
     qsizetype length;

@@ -16,7 +16,7 @@ qsizetype columnNumber(QStringView text) {
     return digits ? text.toInt() : 0;
 }
 
-/// Fills the range of an entry such as "2", "2-4", "4-" or "-3"; false if it is none.
+/// Fills the range of an entry such as "2", "2-4", "4-" or "-3"; false for any other text.
 bool readRange(QStringView entry, ColumnRange &range) {
     const qsizetype dash = entry.indexOf(u'-');
     if (dash < 0) {

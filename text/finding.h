@@ -23,8 +23,8 @@ namespace tolvo {
 [[nodiscard]] QStringList numbersIn(QStringView text);
 
 /// Dates in figures (2026-11-23, 23.11.2026, 11/23/26) and with the name of a month in English, German,
-/// French, Polish or Spanish (23 November 2026, November 23, 2026, 23. November). Figures that are no day of
-/// a calendar are none.
+/// French, Polish or Spanish (23 November 2026, November 23, 2026, 23. November). Figures that don't
+/// make a day of the calendar don't count.
 [[nodiscard]] QStringList datesIn(QStringView text);
 
 } // namespace tolvo

@@ -14,7 +14,7 @@ struct ChosenLines {
     QString trouble; ///< why they can't be chosen, in words; the text is whole then. Empty if they can.
 };
 
-/// Without lines that are alike but for one of them.
+/// Of lines that are alike only one stays.
 ///   withoutDuplicates(u"b|a|B", {.ignoreCase = true}) == u"b|a"
 [[nodiscard]] QString withoutDuplicates(QStringView text, const DuplicateSettings &settings);
 

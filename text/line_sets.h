@@ -17,7 +17,7 @@ namespace tolvo {
 /// compare equal keep their order.
 [[nodiscard]] QString naturallySorted(QStringView text);
 
-/// The lines in an order of chance. `below(n)` gives a number from 0 that is less than n, each as likely as
+/// The lines in random order. `below(n)` gives a number from 0 that is less than n, each as likely as
 /// the others.
 [[nodiscard]] QString shuffled(QStringView text, const std::function<quint32(quint32)> &below);
 

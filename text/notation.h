@@ -20,7 +20,7 @@ namespace tolvo {
 /// Codes that are wrong, or whose bytes are not UTF-8, stay.
 [[nodiscard]] DecodedText quotedPrintableDecoded(QStringView text);
 
-/// As it stands between the quotes of a string of C (ISO 9899, 6.4.4.4): a line end is "\n", other control
+/// As it stands between the quotes of a C string (ISO 9899, 6.4.4.4): a line end is "\n", other control
 /// characters are octal; letters outside ASCII stay.
 [[nodiscard]] QString cEscaped(QStringView text);
 /// The escapes of C. Codes of single bytes from 128 on are read together as UTF-8.

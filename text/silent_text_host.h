@@ -5,7 +5,7 @@
 
 namespace tolvo {
 
-/// For an engine that has nothing to say to anybody: beside the keys, or for a look at a result.
+/// For an engine that has nothing to say to anybody: in the background, or for a look at a result.
 class SilentTextHost final : public TextHost {
   public:
     void setStatus(const QString &) override {}

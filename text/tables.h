@@ -28,8 +28,7 @@ enum class CellLineEnds { Kept, Blanks };
 /// As a table of Markdown, its first row the head; bars inside cells are escaped, line ends become <br>, and
 /// a <br> that a cell holds becomes &lt;br>, so that readTable() gives back the cells. Blank lines go, but
 /// for the line end at the end of the text.
-///   markdownTable(u"a⇥b|1⇥2") == u"| a | b ||| --- | --- ||| 1 | 2 |" with the line ends that "||" stands
-///   for
+///   markdownTable() of the lines "a⇥b" and "1⇥2" gives the lines "| a | b |", "| --- | --- |", "| 1 | 2 |"
 [[nodiscard]] QString markdownTable(QStringView text);
 /// As CSV (RFC 4180) with commas; a cell with a comma, a quote or a line end is quoted.
 [[nodiscard]] QString csvTable(QStringView text);

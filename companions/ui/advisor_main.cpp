@@ -29,7 +29,7 @@ void offerTools(tolvo::AdvisorWindow &window, tolvo::SettingsStore &store, const
                               set(store, settingKeys.hints.toolOfTip, run + u' ' + token);
                           });
     } catch (const Failure &) {
-        // The tips can be read without it; the run has told what is wrong with the catalogue.
+        // The tips can be read without it; the run has reported what is wrong with the catalogue.
     }
 }
 

@@ -35,7 +35,7 @@ class frmSearch final : public QDialog, public SearchWindow {
 
     /// As it is, with the focus in the search text.
     void showAgain();
-    /// From here on the window shows in a text what it finds, while it is shown.
+    /// From here on the window, while it is shown, marks in a text what it finds.
     void watch(const WatchedText &text);
     void setDirection(SearchDirection direction);
     /// Fills the form from `settings`, lets the user change it, and writes it back. False, and `settings` as

@@ -25,7 +25,7 @@ struct HeadlessWorld {
     QString dataFolder;
 };
 
-/// A request that can't be run; what() tells why. Nothing has run then.
+/// A request that can't be run; what() says why. Nothing has run then.
 class BadRequest : public std::runtime_error {
   public:
     explicit BadRequest(const QString &why) : std::runtime_error(why.toStdString()) {}

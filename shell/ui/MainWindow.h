@@ -66,7 +66,7 @@ class MainWindow : public QWidget, public SessionView {
     /// What the button beside the PowerButtons opens.
     void setPowerButtonMenu(QMenu &menu);
     void putUnderText(DockArea &area);
-    /// For work beside the keys, here and in the dialogs.
+    /// For background work, here and in the dialogs.
     [[nodiscard]] BackgroundWorker &worker() { return m_worker; }
 
     // SessionView

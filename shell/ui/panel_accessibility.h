@@ -8,7 +8,7 @@ class PanelRowButton;
 
 /// To be called before the first panel is made; further calls do nothing.
 void describePanels();
-/// The row is open now, or closed.
+/// To be called when a row has been opened or closed.
 void reportExpanded(PanelRowButton &row);
 
 } // namespace tolvo

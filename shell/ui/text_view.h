@@ -16,8 +16,8 @@ class PlainTextBox;
 class StatusBar;
 class frmMain;
 
-/// How the text is looked at: keeps the facts in the status bar true, walks to a line, shows the text larger
-/// or smaller and with marks for blanks. Nothing here changes the text or the fonts of the Options.
+/// How the text is looked at: keeps the facts in the status bar true, goes to a line, shows the text larger
+/// or smaller and with marks for spaces. Nothing here changes the text or the fonts of the Options.
 class TextView : public QObject {
     Q_OBJECT
   public:

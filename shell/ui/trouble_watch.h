@@ -16,8 +16,8 @@ class PlainTextBox;
 class frmMain;
 
 /// The line comes after the text has been taken in, and goes with the first key that types or by its close
-/// button. While it stands it follows what tools make of the text. The text is looked at beside the keys, and
-/// not before it has been painted for the first time.
+/// button. While it stands it follows what tools make of the text. The text is looked at in the background,
+/// and not before it has been painted for the first time.
 class TroubleWatch : public QObject {
     Q_OBJECT
   public:

@@ -146,7 +146,7 @@ void dlgDicQuickList::showPlace() {
     cmbQuickList->setAccessibleDescription(place);
 }
 
-/// Measures the text beside the keys.
+/// Measures the text in the background.
 void dlgDicQuickList::guess() {
     const QString sample = m_text && m_provider != providerType::word ? sampleOf(m_text()) : QString();
     if (sample.isEmpty())

@@ -19,7 +19,7 @@ class dlgReadDicsProgress : public QDialog {
 
     explicit dlgReadDicsProgress(QWidget *parent = nullptr);
 
-    /// Shows the pages and runs the work behind the first one.
+    /// Shows the pages and runs the work after the first one.
     void ShowMe(const Work &work);
     /// Whether the user has cancelled.
     [[nodiscard]] bool Cancel() const { return m_cancelled; }

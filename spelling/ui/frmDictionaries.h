@@ -20,8 +20,7 @@ class frmDictionaries : public QDialog {
     explicit frmDictionaries(const SpellingServices &services, QWidget *parent = nullptr,
                              const QStringList &folders = usualFolders());
 
-    /// The locales that have been added. A dictionary that can't be taken is said in a box, and the window
-    /// stays.
+    /// The locales that have been added. A box says why a dictionary can't be taken, and the window stays.
     [[nodiscard]] QStringList added() const { return m_added; }
 
     /// The user's folders of downloads, the desktop and documents.

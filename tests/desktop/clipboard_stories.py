@@ -60,7 +60,7 @@ class ClipboardStories(Story):
         run.text_becomes("")
         type_text("typed")
         run.text_becomes("typed")
-        # Every way of asking for the clipboard: the wait is told, Esc ends it, and all is as it was.
+        # Every way of asking for the clipboard: the wait is announced, Esc ends it, and all is as it was.
         ways = {"Refresh": lambda: keys("alt+f"), "Ctrl-V": lambda: keys("ctrl+v"), "Shift-Insert": lambda: keys("shift+Insert"),
                 "the menu": lambda: (run.click_on(run.text_node(), 3), keys("p")), "a PowerButton": lambda: keys("ctrl+1")}
         for way, ask in ways.items():
@@ -175,7 +175,7 @@ class CompanionStories(Story):
         self.addCleanup(first.wait)
         self.addCleanup(first.terminate)
         window = wait_for(lambda: visible("Tolvo statistics"), "the statistics")
-        self.start("text")  # stands in front now
+        self.start("text")  # stands in front
         self.assertEqual(subprocess.run([tally], env=self.settings.environment(), timeout=20).returncode, 0)
         wait_for(lambda: subprocess.run(["xdotool", "getactivewindow"], capture_output=True).stdout.decode().split() == window,
                  "the first window in front")

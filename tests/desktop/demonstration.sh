@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Plays one whole run on a virtual X server and tells what happened: demonstration.sh PROGRAMS PICTURES
+# Plays one whole run on a virtual X server and reports what happened: demonstration.sh PROGRAMS PICTURES
 set -euo pipefail
 bin=$1 pictures=$2
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)

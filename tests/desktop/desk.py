@@ -136,7 +136,7 @@ class Tolvo:
         return (area.x + area.width // 2) * self.scale, (area.y + area.height // 2) * self.scale
 
     def click_on(self, control, button=1, times=1):
-        """Clicks the middle of a control; the bus tells places without the scale of the screen."""
+        """Clicks the middle of a control; the bus gives places without the scale of the screen."""
         x, y = self.middle(control)
         subprocess.run(["xdotool", "mousemove", "--sync", str(x), str(y), "click", "--repeat", str(times), "--delay", "40",
                         str(button)], check=True)

@@ -76,7 +76,7 @@ class DialogStories(Story):
         run.text_becomes("some words\nthat are\nwrapped")
 
     def check(self, run, *steps):
-        """Opens the walk and answers each wrong word by a key; then the word behind the last answer shows."""
+        """Opens the walk and answers each wrong word by a key; then the word after the last answer shows."""
         run.tool("Check", "Spelling...")
         run.active("Select dictionary")
         keys("Return")

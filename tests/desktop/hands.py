@@ -104,7 +104,7 @@ class Settings:
 
 
 def file_of(process, name):
-    """What the system tells of a process, empty if it is gone."""
+    """What the system reports of a process, empty if it is gone."""
     try:
         with open(f"/proc/{process}/{name}", errors="replace") as file:
             return file.read()

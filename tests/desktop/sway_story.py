@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What sway_story.sh tells, once its compositor stands."""
+"""The story of sway_story.sh, once its compositor runs."""
 
 import os
 import subprocess

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The line that tells what PowerButtons are for, as long as there are none.
+// The line that says what PowerButtons are for, as long as there are none.
 #include "powerbuttons/CPowerButtonMethods.h"
 #include "shell/ui/hint_strip.h"
 #include "tests/shell/ui/MainWindowStory.h"
