@@ -104,7 +104,7 @@ void ButtonFileReader::readValue(const QString &key, const QString &value) {
     if (key == ButtonFileKey::button)
         return beginButton(value);
     if (key != ButtonFileKey::set && m_seen.contains(key))
-        fail(QStringLiteral("%1 is said twice").arg(quoted(key)));
+        fail(QStringLiteral("%1 is given twice").arg(quoted(key)));
     m_seen.insert(key);
     if (button().Count() > 0)
         return readStepValue(key, value);
@@ -119,7 +119,7 @@ void ButtonFileReader::beginButton(const QString &value) {
     if (value != QString::number(m_shared.buttons.size() + 1))
         fail(QStringLiteral("button %1 is expected here").arg(m_shared.buttons.size() + 1));
     if (m_shared.buttons.size() == CPowerButtonCollection::buttonCount)
-        fail(QStringLiteral("these are too many PowerButtons"));
+        fail(QStringLiteral("there are too many PowerButtons"));
     endStep();
     m_shared.buttons.append(std::make_shared<CPowerButton>());
     m_buttonLines.append(m_line);

@@ -118,7 +118,7 @@ constexpr std::array rows{
     character(History, u'R', any, repeat, u"Repeat the last tool or PowerButton"),
     character(Search, u'F', any, tool<u"edSRC">, u"Search"),
     character(Search, u'H', withCtrl, tool<u"edREP">, u"Search and replace"),
-    formKey(Search, keyCode::F3, none, call<&frmMain::FindAgain>, u"Search again"),
+    formKey(Search, keyCode::F3, none, call<&frmMain::FindAgain>, u"Find again"),
     formKey(Search, keyCode::F7, withShift, checkGrammar, u"Check spelling and grammar at once"),
     character(Edit, u'A', any, selectAll, u"Select all"),
     character(Edit, u'U', any, call<&KeyboardCommands::doKBUpperCase>,

@@ -133,8 +133,8 @@ constexpr ToolRow table[] = {
     {u"lnREC",  pure<reversedCharacters>(),             N,        says(u"Characters reversed")},
     {u"tbALI",  pure<alignedTable>(),                   lines_N,  says(u"Columns aligned")},
     {u"tbMKD",  pure<markdownTable>(),                  lines_N,  says(u"Markdown table")},
-    {u"tbCSV",  pure<csvTable>(),                       lines_N,  says(u"Columns parted by commas")},
-    {u"tbTAB",  pure<tabTable>(),                       lines_N,  says(u"Columns parted by tabs")},
+    {u"tbCSV",  pure<csvTable>(),                       lines_N,  says(u"Columns separated by commas")},
+    {u"tbTAB",  pure<tabTable>(),                       lines_N,  says(u"Columns separated by tabs")},
     {u"tbTRA",  pure<transposedTable>(),                lines_N,  says(u"Rows and columns swapped")},
 
     {u"tbCOL",  asked<chooseColumns>(),                 lines_N},
@@ -143,7 +143,7 @@ constexpr ToolRow table[] = {
     {u"lnUNI",  asked<removeDuplicates>(),              lines_N},
     {u"lnPAT",  asked<choosePatternLines>(),            lines_N},
     {u"lnNTH",  asked<chooseEveryLine>(),               lines_N},
-    {u"lnAFF",  asked<withTextAround>(),                lines_N,  says(u"Texts put around lines")},
+    {u"lnAFF",  asked<withTextAround>(),                lines_N,  says(u"Text put around lines")},
     {u"lnSEP",  asked<splitOrJoined>(),                 lines_N,  says(u"Lines split or joined")},
     {u"lnREW",  pure<withWordsReversed>(),              lines_N,  says(u"Words reversed")},
 

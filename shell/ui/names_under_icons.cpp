@@ -21,7 +21,7 @@ struct Offer {
 constexpr std::array offers{
     Offer{NamesUnderIcons::Choice::WithRoom, u"Names under the icons where there is room"},
     Offer{NamesUnderIcons::Choice::Always, u"Always names under the icons"},
-    Offer{NamesUnderIcons::Choice::Never, u"Icons alone"}};
+    Offer{NamesUnderIcons::Choice::Never, u"Icons only"}};
 
 } // namespace
 

@@ -51,7 +51,7 @@ QColor fillColor(Fill fill, const QPalette &palette) {
 StatusBar::StatusBar(QWidget *corner)
     : m_labStatus(new ElidedLabel(QStringLiteral("labStatus"), QStringLiteral("Status"))),
       m_labHint(new ElidedLabel(QStringLiteral("labHint"), QStringLiteral("Hint"))),
-      m_cmdZoom(button("cmdZoom", QStringLiteral("Size of the text; click for its own size (Ctrl-0)"),
+      m_cmdZoom(button("cmdZoom", QStringLiteral("Size of the text; click for its normal size (Ctrl-0)"),
                        &StatusBar::onOwnSize)),
       m_labSelected(label("labSelected")),
       m_cmdPlace(button("cmdPlace",
@@ -146,8 +146,8 @@ void StatusBar::showFacts(const TextFacts &facts) {
 void StatusBar::showLineEnds(bool lineFeeds) {
     m_labLineEnds->setText(lineFeeds ? QStringLiteral("LF") : QStringLiteral("CR LF"));
     m_labLineEnds->setToolTip(
-        lineFeeds ? QStringLiteral("Lines leave with LF at their ends: the clipboard's text held no CR")
-                  : QStringLiteral("Lines leave with CR LF at their ends: the clipboard's text held a CR"));
+        lineFeeds ? QStringLiteral("Lines will end in LF on the clipboard: its text held no CR")
+                  : QStringLiteral("Lines will end in CR LF on the clipboard: its text held a CR"));
 }
 
 void StatusBar::showZoom(int percent) {

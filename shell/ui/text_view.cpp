@@ -55,7 +55,7 @@ std::span<const TextView::Key> TextView::keys() {
         Key{Qt::Key_Plus, true, u"Ctrl-+", u"Larger text", &TextView::larger},
         Key{Qt::Key_Equal, true, nullptr, nullptr, &TextView::larger},
         Key{Qt::Key_Minus, true, u"Ctrl--", u"Smaller text", &TextView::smaller},
-        Key{Qt::Key_0, true, u"Ctrl-0", u"Text in its own size", &TextView::showOwnSize},
+        Key{Qt::Key_0, true, u"Ctrl-0", u"Text at its normal size", &TextView::showOwnSize},
     };
     return all;
 }
@@ -95,7 +95,7 @@ void TextView::offerInMenu() {
     const QList<QAction *> actions{m_marksAction,
                                    action(QStringLiteral("&Larger text\tCtrl++"), [this] { larger(); }),
                                    action(QStringLiteral("S&maller text\tCtrl+-"), [this] { smaller(); }),
-                                   action(QStringLiteral("&Own size\tCtrl+0"), [this] { showOwnSize(); })};
+                                   action(QStringLiteral("&Normal size\tCtrl+0"), [this] { showOwnSize(); })};
     for (PlainTextBox *box : m_boxes)
         box->setViewActions(actions);
 }

@@ -123,7 +123,7 @@ TEST_F(ButtonFiles, areRefusedByTheLine) {
         {"Tolvo PowerButton 2\nnew: x", "Line 1: this PowerButton was written by a newer version of Tolvo"},
         {"Tolvo PowerButton 1.5", "Line 1: this is not a PowerButton of Tolvo"},
         {file(""), "Line 1: there are no steps"},
-        {file("name: y"), "Line 3: \"name\" is said twice"},
+        {file("name: y"), "Line 3: \"name\" is given twice"},
         {file("font: \"Ari"), "Line 3: \"\"Ari\" is damaged"},
         {file("font: \"\\u{110000}\""), "Line 3: \"\"\\u{110000}\"\" is damaged"},
         {file("size: nan"), "Line 3: \"nan\" is not a number that fits an icon"},

@@ -80,7 +80,7 @@ TEST_F(MainWindowStory, namesStandUnderTheIconsWithRoomOrByChoice) {
         bool inWide;
     };
     for (const Look &look : {Look{nullptr, false, true}, Look{"Always names under the icons", true, true},
-                             Look{nullptr, true, true}, Look{"Icons alone", false, false},
+                             Look{nullptr, true, true}, Look{"Icons only", false, false},
                              Look{"Names under the icons where there is room", false, true}}) {
         run({}, [&] {
             const auto named = [](int width) {
