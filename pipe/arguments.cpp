@@ -99,7 +99,7 @@ Reads text on standard input, runs the steps one after another and writes the re
 
 A step is a tool, or a tool with settings:
   TOKEN                  such as foTRA; a tool that has settings runs with those last used
-  TOKEN:SETTINGS         such as 'foWRP:Width=60, Justify=0, Hanging=0, Tab=True';
+  TOKEN:SETTINGS         such as 'foWRP:Width=60, Justify=0, Hanging=0, Tab=True', with all settings of the tool;
                          pbPBT:PowerButton=3 runs your third PowerButton
 
   --button-file FILE     run the PowerButton of a file that somebody has passed on

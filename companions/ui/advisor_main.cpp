@@ -34,8 +34,8 @@ void offerTools(tolvo::AdvisorWindow &window, tolvo::SettingsStore &store, const
 }
 
 const QString help = QStringLiteral(R"(Usage: Advisor.exe
-Shows tips for Tolvo, one at a time. Tolvo starts it with every session as long as its window says so; a second one that is
-started while the first is open ends at once.
+Shows tips for Tolvo, one at a time. Tolvo starts it with every session unless "Show tips at startup" is off; a second one that
+is started while the first is open ends at once.
 
   -h, --help  print this text
   --version   print the version
