@@ -203,7 +203,7 @@ class NotedResult(unittest.TextTestResult):
 
     def stopTest(self, test):
         super().stopTest(test)
-        bad = any(test is failed for failed, _ in self.failures + self.errors)
+        bad = any(test is getattr(failed, "test_case", failed) for failed, _ in self.failures + self.errors)
         with open(os.environ.get("TOLVO_RESULTS", os.devnull), "a", encoding="utf-8") as file:
             story = test.id().rpartition(".")[2].removeprefix("test_").replace("_", " ")
             print(pathlib.Path(sys.argv[0]).stem, story, "FAILED" if bad else "passed", sep="\t", file=file)
