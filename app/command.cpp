@@ -99,6 +99,7 @@ int runWithClipboard(ClipboardCommand &command, KeeperSession &keeper, const Con
         notification->onUndo = [&] { clipboard.replaceOwnText(*outcome.before); };
     notification->show(command.name(), QString(outcome.message).remove(u'\r'));
     keeper.keepClipboardUntilTaken();
+    notification->stayUntilRead();
     if (outcome.before)
         notification->withdrawUndo();
     return code;
