@@ -2,6 +2,7 @@
 #include "pipe/streams.h"
 
 #include "base/failure.h"
+#include "base/utf8.h"
 #include "pipe/session.h"
 #include "pipe/text.h"
 
@@ -68,7 +69,7 @@ QString readStandardInput() {
 void writeStandardOutput(const QString &text, const std::function<QString(const QString &)> &convert) {
     for (qsizetype start = 0; start < text.size();) {
         const qsizetype end = pieceEnd(text, start);
-        writeBytes(convert(text.sliced(start, end - start)).toUtf8());
+        writeBytes(utf8Of(convert(text.sliced(start, end - start))));
         start = end;
     }
     if (std::fflush(stdout) != 0)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/coding.h"
 
+#include "base/utf8.h"
 #include "platform/line_ends.h"
 #include "text/code_parts.h"
 #include "text/lines.h"
@@ -50,7 +51,7 @@ QString urlEncoded(QStringView text) {
             result += text[i];
             continue;
         }
-        for (const char byte : text.sliced(i, pair ? 2 : 1).toUtf8()) {
+        for (const char byte : utf8Of(text.sliced(i, pair ? 2 : 1))) {
             result += u'%';
             addHex(result, static_cast<uchar>(byte), 2, u"0123456789ABCDEF");
         }
@@ -89,7 +90,7 @@ DecodedText urlDecoded(QStringView text) {
 }
 
 QString base64Encoded(QStringView text) {
-    return QString::fromLatin1(crLfToLf(text).toUtf8().toBase64());
+    return QString::fromLatin1(utf8Of(crLfToLf(text)).toBase64());
 }
 
 DecodedText base64Decoded(QStringView text) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Quoted-printable in text/notation.h.
+#include "base/utf8.h"
 #include "text/code_parts.h"
 #include "text/lines.h"
 #include "text/notation.h"
@@ -16,7 +17,7 @@ bool isBlank(QChar c) {
 
 void encodeLine(QStringView line, QString &result) {
     qsizetype column = 0;
-    const QByteArray bytes = line.toUtf8();
+    const QByteArray bytes = utf8Of(line);
     for (qsizetype i = 0; i < bytes.size(); ++i) {
         const auto byte = static_cast<uchar>(bytes[i]);
         const bool last = i + 1 == bytes.size();

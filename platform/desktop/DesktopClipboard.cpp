@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/DesktopClipboard.h"
 
+#include "base/utf8.h"
 #include "platform/desktop/clipboard_ways.h"
 
 #include <QClipboard>
@@ -104,7 +105,7 @@ void DesktopClipboard::replaceOwnText(const QString &text) {
         auto *own = const_cast<QMimeData *>(QGuiApplication::clipboard()->mimeData());
         for (const QString &format : own->formats()) { // with and without a character set
             if (format.startsWith(QLatin1StringView("text/plain")))
-                own->setData(format, m_lineEnds.goOut(text).toUtf8());
+                own->setData(format, utf8Of(m_lineEnds.goOut(text)));
         }
     }
 }

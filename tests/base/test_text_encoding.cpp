@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "base/text_encoding.h"
+#include "base/utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -37,6 +38,18 @@ TEST(TextEncoding, isSeenFromTheBytes) {
     };
     for (const auto &[bytes, text] : rows)
         EXPECT_EQ(decodedText(bytes), text) << bytes.toHex(' ').toStdString();
+}
+
+TEST(Utf8, HasAQuestionMarkForHalfAPair) {
+    const QString pair = u"\U0001F600"_s;
+    const struct {
+        QString text;
+        QByteArray bytes;
+    } cases[] = {{u"aé"_s + pair, "a\xC3\xA9\xF0\x9F\x98\x80"},
+                 {pair + pair[0] + pair, "\xF0\x9F\x98\x80?\xF0\x9F\x98\x80"},
+                 {pair[1] + pair + pair[0], "?\xF0\x9F\x98\x80?"}};
+    for (const auto &[text, bytes] : cases)
+        EXPECT_EQ(utf8Of(text), bytes);
 }
 
 } // namespace

@@ -201,7 +201,7 @@ TEST_F(Dialogs, toolsOfLinesShowWhatTheyWillDo) {
 
     const auto alike = made(DuplicateSettings{});
     User removing(*alike);
-    for (const Qt::Key key : {Qt::Key_C, Qt::Key_S, Qt::Key_H})
+    for (const Qt::Key key : {Qt::Key_C, Qt::Key_S, Qt::Key_N})
         removing.presses(key, Qt::AltModifier);
     EXPECT_EQ(removing.sample(), u"4\ttea|3\tmilk|2\t");
 
