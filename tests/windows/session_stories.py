@@ -5,9 +5,9 @@ another Windows program has copied, to what another Windows program pastes after
 import re
 import subprocess
 
-from wine_desk import (CLIPBOARD_TOOL, HERE, MAIN, Story, copy, environment, keys, main, paste,
+from wine_desk import (CLIPBOARD_TOOL, HERE, MAIN, Run, Story, click_first_icon, copy, environment, keys, main, paste,
                        window_becomes_active, wine)
-from hands import get_clipboard, type_text
+from hands import get_clipboard, type_text, wait_for
 
 # Tab of the search window (how often Ctrl-PageDown), what is looked for: all three find the words of three letters.
 SEARCHES = [("Simple Search", 0, "cat"), ("Wildcard Search", 1, "c?t"), ("Regular Expression", 2, "c[aou]t")]
@@ -159,6 +159,14 @@ class SessionStories(Story):
         copy("some  text ")
         done = wine(self.program, "--tool", "ccUPP", **self.settings.environment())
         self.assertEqual((done.returncode, paste()), (0, "SOME  TEXT "), done.stderr)
+
+    def test_a_click_on_the_icon_takes_a_command_back(self):
+        copy("some  text ")
+        run = Run(self.program, self.settings, "--tool", "ccUPP")
+        self.addCleanup(run.kill)
+        wait_for(lambda: paste() == "SOME  TEXT ", "the result")
+        wait_for(lambda: click_first_icon("Wine System Tray") or paste() == "some  text ", "a click that undoes")
+        run.ends()
 
 
 if __name__ == "__main__":

@@ -73,10 +73,19 @@ LRESULT CALLBACK BalloonNotification::receive(HWND window, UINT message, WPARAM 
     if (message != balloonMessage)
         return DefWindowProcW(window, message, first, second);
     auto &balloon = *reinterpret_cast<BalloonNotification *>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    const UINT event = LOWORD(second);
-    balloon.m_clicked = balloon.m_clicked || event == NIN_BALLOONUSERCLICK;
-    if (event == NIN_BALLOONUSERCLICK || event == NIN_BALLOONTIMEOUT || event == NIN_BALLOONHIDE)
+    switch (LOWORD(second)) {
+    case NIN_BALLOONUSERCLICK:
+    case NIN_SELECT: // the icon, which stands there as long as the balloon
+    case NIN_KEYSELECT:
+        balloon.m_clicked = true;
+        [[fallthrough]];
+    case NIN_BALLOONTIMEOUT:
+    case NIN_BALLOONHIDE:
         balloon.m_loop.quit();
+        break;
+    default:
+        break;
+    }
     return 0;
 }
 
