@@ -84,7 +84,7 @@ class ViewStories(Story):
         run = self.start(None)
         wait_for(lambda: run.shows("125 %"), "the size of the run before")
         run.click_on(run.text_node(), 3)
-        keys("b")  # the letter of its entry in the menu
+        keys("s")  # the letter of its entry in the menu
         wait_for(lambda: self.settings.read("Tolvo", "View", "Marks") == "0", "no marks in the store")
         run.click("125 %")
         wait_for(lambda: self.settings.read("Tolvo", "View", "Zoom") == "100", "the text's own size in the store")

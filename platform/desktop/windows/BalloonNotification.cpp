@@ -75,7 +75,7 @@ LRESULT CALLBACK BalloonNotification::receive(HWND window, UINT message, WPARAM 
     auto &balloon = *reinterpret_cast<BalloonNotification *>(GetWindowLongPtrW(window, GWLP_USERDATA));
     switch (LOWORD(second)) {
     case NIN_BALLOONUSERCLICK:
-    case NIN_SELECT: // the icon, which stands there as long as the balloon
+    case NIN_SELECT: // the icon, shown as long as the balloon
     case NIN_KEYSELECT:
         balloon.m_clicked = true;
         [[fallthrough]];
