@@ -70,8 +70,8 @@ Reading readLongRows(const Parting &parting, QStringView text) {
     return mostAgree ? Reading{rows, agreement.lines} : Reading();
 }
 
-/// Whether a parting found in all lines may still be one inside of cells: commas and semicolons are, tabs and
-/// bars stand there for a reason.
+/// Whether a sign found in all lines may still be a part of cells. Commas and semicolons are common in texts;
+/// tabs and bars are written to separate.
 bool mayStandInCells(QStringView sign) {
     return sign == u"," || sign == u";";
 }
